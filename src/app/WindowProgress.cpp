@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "app/WindowProgress.h"
+
+#include <QCoreApplication>
+#include <QMessageBox>
+#include <QProgressBar>
+
+WindowProgress::WindowProgress(QWidget* window, QProgressBar* bar) : window_(window), bar_(bar) {
+    sinceEvents_.start();
+}
+
+void WindowProgress::SetValue(double percent) {
+    value_ = percent;
+    if (percent == 0)
+        bar_->setValue(0);
+}
+
+void WindowProgress::ProcessPendingEvents() {
+    // A large logbook asks a hundred thousand times a second; a person sees no more than this.
+    constexpr qint64 FrameTime = 20; // milliseconds
+    if (sinceEvents_.elapsed() < FrameTime)
+        return;
+    bar_->setValue(static_cast<int>(value_));
+    QCoreApplication::processEvents();
+    sinceEvents_.start();
+}
+
+void WindowProgress::ShowMessage(std::string_view text) {
+    QMessageBox::information(window_, window_->windowTitle(),
+                             QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "logbook/ReadingProgress.h"
+
+#include <QElapsedTimer>
+
+class QProgressBar;
+class QWidget;
+
+// Reading in a window: the progress bar moves, the window stays alive, and closing it ends the read.
+class WindowProgress : public ReadingProgress {
+  public:
+    WindowProgress(QWidget* window, QProgressBar* bar);
+
+    void RequestStop() { stopRequested_ = true; }
+
+    void SetValue(double percent) override;
+    void ProcessPendingEvents() override;
+    bool StopWanted() const override { return stopRequested_; }
+    void ShowMessage(std::string_view text) override;
+
+  private:
+    QWidget* window_;
+    QProgressBar* bar_;
+    QElapsedTimer sinceEvents_;
+    double value_ = 0;
+    bool stopRequested_ = false;
+};

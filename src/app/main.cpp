@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#include "app/frmMain.h"
+
+#include <QApplication>
+#include <QTimer>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("Qorvix");
+    QApplication::setApplicationVersion(QORVIX_VERSION);
+
+    Logbook logbook;
+    frmMain window(logbook, CodePage::OfUser());
+    window.show();
+    QTimer::singleShot(0, &window, [&window] { window.OpenLogbooks(QApplication::arguments().mid(1)); });
+    return QApplication::exec();
+}

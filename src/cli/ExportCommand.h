@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace ExitStatus {
+inline constexpr int Done = 0;
+inline constexpr int Failed = 1;
+inline constexpr int WrongUsage = 2;
+} // namespace ExitStatus
+
+struct ExportOptions {
+    std::string File;
+    std::string Format = "jsonl"; // or "csv"
+    std::string Output;           // "" = standard output
+    bool Raw = false;             // CSV: no guard against text that a spreadsheet would run
+};
+
+// Prints the list of a logbook, a row a line. Memory does not grow with the rows printed. What goes wrong is
+// told on standard error; nothing has then been printed, and an output file is as it was.
+int RunExport(const ExportOptions& options);

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include "cli/ExportCommand.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+
+int main(int argc, char** argv) {
+    std::ios::sync_with_stdio(false);
+
+    CLI::App app("Reads the event logbook of a ZEK machine-tool control.", "qorvix-cli");
+    app.set_version_flag("--version", "qorvix-cli " QORVIX_VERSION);
+    app.require_subcommand(1);
+
+    ExportOptions exportOptions;
+    CLI::App* exportCommand = app.add_subcommand("export", "Print the list of a logbook, a row a line");
+    exportCommand->add_option("FILE", exportOptions.File, "The logbook")->required();
+    exportCommand->add_option("--format", exportOptions.Format, "jsonl (JSON Lines) or csv (RFC 4180)")
+        ->check(CLI::IsMember({"jsonl", "csv"}))
+        ->capture_default_str();
+    exportCommand->add_option("--output", exportOptions.Output,
+                              "Write to this file instead of standard output");
+    exportCommand->add_flag("--raw", exportOptions.Raw,
+                            "CSV: leave text that a spreadsheet would take for a formula as it is");
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? ExitStatus::Done : ExitStatus::WrongUsage;
+    }
+    return RunExport(exportOptions);
+}

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "logbook/EntryTable.h"
+
+#include <vector>
+
+// A row of the list: the entry that it shows, and nothing of the entry itself. 4 bytes a row.
+struct LogbookRow {
+    EntryNumber Entry : 31;
+    EntryNumber Highlighted : 1;
+
+    bool operator==(const LogbookRow&) const = default;
+};
+static_assert(sizeof(LogbookRow) == 4);
+
+using LogbookRows = std::vector<LogbookRow>;
+
+// The icon of a row: the highlighted form of each icon stands this many places after the plain one.
+inline constexpr int HighlightedImageOffset = 14;
+
+inline int RowImage(const LogbookRow& row, const EntryTable& entries) {
+    return entries.Kind(row.Entry).Image + (row.Highlighted != 0 ? HighlightedImageOffset : 0);
+}

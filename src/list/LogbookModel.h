@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "filter/LogbookRow.h"
+
+#include <QAbstractTableModel>
+
+// The logbook list's rows for a view. Nothing is copied or prepared: the text of a cell is made from its
+// entry when the view asks for it, which is when the row is on the screen.
+class LogbookModel : public QAbstractTableModel {
+    Q_OBJECT
+
+  public:
+    // The icon number of a row, on the first column.
+    static constexpr int ImageRole = Qt::UserRole;
+
+    // The entries must outlive the model.
+    explicit LogbookModel(const EntryTable& entries, QObject* parent = nullptr);
+
+    // Shows these rows, or none. Whoever changes the entries clears the rows first.
+    void SetRows(LogbookRows rows);
+    void ClearRows() { SetRows({}); }
+    const LogbookRows& Rows() const { return rows_; }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+  private:
+    const EntryTable& entries_;
+    LogbookRows rows_;
+};

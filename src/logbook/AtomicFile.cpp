@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "logbook/AtomicFile.h"
+
+#include "logbook/modUtil.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <random>
+
+#if defined(__unix__) || defined(__APPLE__)
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+std::error_code LastError() { return {errno != 0 ? errno : EIO, std::generic_category()}; }
+
+std::error_code FlushToDisk([[maybe_unused]] const std::filesystem::path& file) {
+#if defined(__unix__) || defined(__APPLE__)
+    const int handle = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    if (handle < 0)
+        return LastError();
+    const std::error_code error = ::fsync(handle) == 0 ? std::error_code{} : LastError();
+    ::close(handle);
+    return error;
+#else
+    return {};
+#endif
+}
+
+// A new, empty file beside `target`.
+std::filesystem::path MakeTemporary(const std::filesystem::path& target, std::error_code& error) {
+    constexpr int Attempts = 100;
+    std::random_device random;
+    for (int i = 0; i < Attempts; ++i) {
+        std::filesystem::path temporary = target;
+        temporary += ToPath("." + std::to_string(random()) + ".part");
+        errno = 0;
+        if (std::FILE* file = std::fopen(temporary.string().c_str(), "wbx"); file != nullptr) {
+            std::fclose(file);
+            return temporary;
+        }
+        error = LastError();
+        if (error != std::errc::file_exists)
+            return {};
+    }
+    return {};
+}
+
+} // namespace
+
+AtomicFile::AtomicFile(const std::string& path) : target_(ToPath(path)) {
+    std::error_code ignored;
+    if (std::filesystem::is_symlink(target_, ignored)) {
+        const std::filesystem::path followed = std::filesystem::weakly_canonical(target_, ignored);
+        if (!ignored)
+            target_ = followed;
+    }
+    temporary_ = MakeTemporary(target_, error_);
+    if (temporary_.empty())
+        return;
+    error_.clear();
+    const std::filesystem::file_status status = std::filesystem::status(target_, ignored);
+    if (std::filesystem::exists(status))
+        std::filesystem::permissions(temporary_, status.permissions(), ignored);
+    errno = 0;
+    stream_.open(temporary_, std::ios::binary | std::ios::trunc);
+    if (!stream_)
+        error_ = LastError();
+}
+
+AtomicFile::~AtomicFile() {
+    stream_.close();
+    std::error_code ignored;
+    if (!temporary_.empty())
+        std::filesystem::remove(temporary_, ignored);
+}
+
+std::error_code AtomicFile::Commit() {
+    if (error_)
+        return error_;
+    errno = 0;
+    stream_.close();
+    if (!stream_)
+        return error_ = LastError();
+    if (error_ = FlushToDisk(temporary_); error_)
+        return error_;
+    std::filesystem::rename(temporary_, target_, error_);
+    if (!error_)
+        temporary_.clear();
+    return error_;
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <ostream>
+#include <string>
+#include <system_error>
+
+// A file that is written beside its place and put there when it is whole, so that whoever looks there finds
+// the old file or the new one and nothing between. Without Commit nothing changes.
+class AtomicFile {
+  public:
+    // A link is followed: the file that it names is replaced, not the link.
+    explicit AtomicFile(const std::string& path);
+    ~AtomicFile();
+    AtomicFile(const AtomicFile&) = delete;
+    AtomicFile& operator=(const AtomicFile&) = delete;
+
+    // Where to write. A failure is told by Commit.
+    std::ostream& Stream() { return stream_; }
+
+    // Flushes the file to the disk and puts it in its place. The error tells why that failed; the old file is
+    // then as it was.
+    std::error_code Commit();
+
+  private:
+    std::filesystem::path target_;
+    std::filesystem::path temporary_;
+    std::ofstream stream_;
+    std::error_code error_;
+};

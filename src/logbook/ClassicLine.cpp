@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "logbook/ClassicLine.h"
+
+#include "logbook/EventLines.h"
+#include "logbook/KeywordTable.h"
+
+#include <chrono>
+#include <thread>
+
+namespace {
+
+using ReadFields = void (*)(std::string_view line, ParsedEntry& entry, clsFile& file,
+                            ReadingProgress& progress);
+
+struct KeywordRow {
+    std::string_view Keyword;
+    std::int16_t EventType;
+    std::int16_t Image;
+    ReadFields Read;
+};
+
+void ReadTime(std::string_view line, ParsedEntry& entry, clsFile&, ReadingProgress&) {
+    entry.Time = ClassicTime(line);
+}
+
+void ReadDataAndTime(std::string_view line, ParsedEntry& entry, clsFile&, ReadingProgress&) {
+    entry.Data = ClassicData(line);
+    entry.Time = ClassicTime(line);
+}
+
+// The block never ends when the file does before a "PC" line has come, which users of such logbooks know.
+// What it would still append can never be seen, so it waits, and costs neither memory nor much time, until it
+// is stopped.
+[[noreturn]] void WaitForStop(ReadingProgress& progress) {
+    for (;;) {
+        progress.ProcessPendingEvents();
+        if (progress.StopWanted())
+            throw RunTimeError("the read was stopped");
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+}
+
+void ReadRegisters(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress) {
+    entry.Time = ClassicTime(line);
+    while (line.find("PC") == std::string_view::npos) {
+        if (file.EndOfFile())
+            WaitForStop(progress);
+        file.ReadLine(line);
+        entry.AppendToData(Trim(line));
+        entry.AppendToData(LineSeparator);
+    }
+}
+
+void ReadError(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress&) {
+    entry.Time = ClassicTime(line);
+    if (IsContinuationNext(file)) {
+        ReadEventBody(line, entry, file);
+    } else {
+        entry.Data = ClassicData(line);
+        if (entry.Data.starts_with("RD:ACCESSERR LOGBOOK"))
+            entry.EventType = EventTypes::None;
+    }
+    entry.Sender = SenderFromData(entry.Data);
+}
+
+void ReadStatus(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress) {
+    ReadDataAndTime(line, entry, file, progress);
+    if (entry.Data == "On")
+        entry.Image = Images::StatusOn;
+    else if (entry.Data == "Blink")
+        entry.Image = Images::StatusBlink;
+    else if (entry.Data == "Off")
+        entry.Image = Images::StatusOff;
+}
+
+void ReadPlc(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress) {
+    ReadDataAndTime(line, entry, file, progress);
+    entry.Sender = "PLC";
+}
+
+void ReadEvent(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress&) {
+    entry.Time = ClassicTime(line);
+    ReadEventBody(line, entry, file);
+}
+
+void ReadInfo(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress) {
+    ReadEvent(line, entry, file, progress);
+    InfoFinish(entry);
+}
+
+// The first keyword that the line begins with decides. "Key:" is the one that is not in upper case.
+constexpr KeywordTable<KeywordRow, 12> Keywords({{
+    {"RESET:", EventTypes::Restart, Images::Restart, ReadTime},
+    {"BERR:", EventTypes::Fatal, Images::Fatal, ReadDataAndTime},
+    {"BREG:", EventTypes::Fatal, Images::Fatal, ReadRegisters},
+    {"ERR:", EventTypes::Error, Images::Error, ReadError},
+    {"Key:", EventTypes::Key, Images::Key, ReadDataAndTime},
+    {"STIB:", EventTypes::Status, Images::Info, ReadStatus},
+    {"PLC ERROR:", EventTypes::Error, Images::Error, ReadPlc},
+    {"PLC MESSAGE:", EventTypes::Info, Images::Info, ReadPlc},
+    {"INFO:", EventTypes::Info, Images::Info, ReadInfo},
+    {"WARNING:", EventTypes::Warning, Images::Warning, ReadEvent},
+    {"ERROR:", EventTypes::Error, Images::Error, ReadEvent},
+    {"FATAL:", EventTypes::Fatal, Images::Fatal, ReadEvent},
+}});
+
+} // namespace
+
+void ParseClassicLine(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress) {
+    const KeywordRow* const keyword = Keywords.Find(line);
+    if (keyword == nullptr)
+        return;
+    entry.EventType = keyword->EventType;
+    entry.Image = keyword->Image;
+    keyword->Read(line, entry, file, progress);
+}

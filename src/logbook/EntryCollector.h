@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "logbook/CodePage.h"
+#include "logbook/EntryTable.h"
+#include "logbook/ParsedEntry.h"
+
+#include <array>
+#include <cstdint>
+
+// Takes the entries of a read one by one, folds each into the one before it where the two belong together,
+// and hands what can no longer change to the entry table.
+class EntryCollector {
+  public:
+    EntryCollector(EntryTable& entries, const CodePage& codePage) : Entries(entries), Code(codePage) {}
+
+    // Empties the table and makes it ready for a file of `fileSize` bytes: one entry is expected for each 100
+    // bytes.
+    void Begin(std::int64_t fileSize);
+
+    // The entry to fill next, reset.
+    ParsedEntry& Working() {
+        ParsedEntry& entry = Slots[WorkingSlot];
+        entry.Reset();
+        return entry;
+    }
+
+    // Stores the working entry. The table's upper bound is doubled when an entry lies beyond it; one that
+    // starts at 0 therefore never grows, and the second entry of a file of 50 bytes or fewer throws
+    // RunTimeError. This is deliberate: so small a file is a fragment, and the read shall fail rather than
+    // show it as a logbook.
+    void Store();
+
+    // How many entries have been stored.
+    std::int64_t Count() const { return StoredCount; }
+
+    // Makes the texts of the entry that was stored last independent of the file's lines.
+    void KeepLast() {
+        if (LastMayChange)
+            Slots[1 - WorkingSlot].Keep();
+    }
+
+    // Hands the last entry to the table, too.
+    void End();
+
+  private:
+    void AppendLast();
+
+    EntryTable& Entries;
+    const CodePage& Code;
+    std::array<ParsedEntry, 2> Slots; // the working entry and the one stored last
+    std::size_t WorkingSlot = 0;
+    bool LastMayChange = false; // the entry stored last is a key stroke, and not yet in the table
+    std::int64_t StoredCount = 0;
+    std::int64_t UpperBound = 0;
+};

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "logbook/EventLines.h"
+
+#include <cstdint>
+
+namespace {
+
+constexpr std::int64_t HeaderColumn = 10;
+constexpr std::int64_t HeaderLength = 23;
+
+std::int64_t Length(std::string_view text) { return static_cast<std::int64_t>(text.size()); }
+
+bool EndsInMilliseconds(std::string_view line) { return Mid(line, Length(line) - 3, 1) == "."; }
+
+} // namespace
+
+HeaderFields SplitHeader(std::string_view line) {
+    const std::string_view field = Trim(Mid(line, HeaderColumn, HeaderLength));
+    const std::size_t blank = FindBlank(field);
+    return {field.substr(0, blank), Trim(field.substr(blank))};
+}
+
+std::string_view ClassicData(std::string_view line) {
+    return Trim(Mid(line, HeaderColumn, Length(line) - (EndsInMilliseconds(line) ? 32 : 29)));
+}
+
+std::string_view ClassicTime(std::string_view line) {
+    if (EndsInMilliseconds(line))
+        return Right(line, 23);
+    return Right(line, Mid(line, Length(line) - 11, 2) == "  " ? 20 : 19);
+}
+
+std::string_view SenderFromData(std::string_view data) {
+    if (data.starts_with('P'))
+        return "PLC";
+    if (data.starts_with('Y'))
+        return "PYTHON";
+    return "MAIN";
+}
+
+bool IsContinuationNext(clsFile& file) {
+    if (file.EndOfFile())
+        return false;
+    const std::string_view start = file.NextLineStart();
+    return start.empty() || start.front() == Blank;
+}
+
+void ReadEventBody(std::string_view line, ParsedEntry& entry, clsFile& file) {
+    const HeaderFields header = SplitHeader(line);
+    entry.Sender = header.Sender;
+    entry.Name = header.Name;
+    ReadDataLine(entry, file);
+    if (!IsContinuationNext(file))
+        return;
+    entry.AppendToData(LineSeparator);
+    do {
+        std::string_view continuation;
+        file.ReadLine(continuation);
+        entry.AppendToData(Trim(continuation));
+        entry.AppendToData(LineSeparator);
+    } while (IsContinuationNext(file));
+}
+
+void ReadDataLine(ParsedEntry& entry, clsFile& file) {
+    std::string_view message;
+    file.ReadLine(message);
+    entry.Data = Trim(message);
+}
+
+void InfoFinish(ParsedEntry& entry) {
+    if (entry.Name == "ERRCLEARED")
+        entry.Image = Images::ErrorCleared;
+    if (entry.Sender != "REMO")
+        return;
+    if (entry.Name.starts_with("DEB:S"))
+        entry.Image = Images::DebugSend;
+    else if (entry.Name.starts_with("DEB:R"))
+        entry.Image = Images::DebugReceive;
+    else
+        return;
+    // A dump begins with the numbers of its columns; what counts are the bytes below, and four of them in
+    // front.
+    if (entry.Data.starts_with("00 01 02 03 04"))
+        entry.Data = Mid(entry.Data, 51);
+    entry.SetData({Mid(entry.Data, 50, 4), LineSeparator, entry.Data});
+}

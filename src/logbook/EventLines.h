@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "logbook/ParsedEntry.h"
+#include "logbook/clsFile.h"
+#include "logbook/modUtil.h"
+
+#include <string_view>
+
+// The column rules that the generations of the logbook share: an event's first line begins with a keyword and
+// ends with the time stamp, and message lines may follow it. Columns count from 1. A line that is too short
+// for its rules makes them throw RunTimeError.
+
+// What stands between the joined lines of an event.
+inline constexpr std::string_view LineSeparator = " | ";
+
+// Sender and name of an event stand in columns 10 to 32, the first blank between them. Either may be "".
+struct HeaderFields {
+    std::string_view Sender;
+    std::string_view Name;
+};
+HeaderFields SplitHeader(std::string_view line);
+
+// The text of a one-line event: from column 10 to the stamp, which is 23 characters long when a "." stands
+// three characters before its end (milliseconds), and up to 20 otherwise.
+std::string_view ClassicData(std::string_view line);
+
+// The stamp at the end of the line, exactly as it stands there: 23, 20 or 19 characters.
+std::string_view ClassicTime(std::string_view line);
+
+// The reporter that the first letter of a message stands for: "PLC" for P, "PYTHON" for Y, otherwise "MAIN".
+std::string_view SenderFromData(std::string_view data);
+
+// True when the next line is a continuation: it begins with a blank or is empty. Consumes nothing.
+bool IsContinuationNext(clsFile& file);
+
+// Fills Sender and Name from the header `line` and reads the message below it as Data. Continuation lines are
+// joined with LineSeparator, which then also ends the text; the list shows it so.
+void ReadEventBody(std::string_view line, ParsedEntry& entry, clsFile& file);
+
+// Reads the next line as the event's data.
+void ReadDataLine(ParsedEntry& entry, clsFile& file);
+
+// What every info event gets in the end: the icons of remote debugging with the short form of its dumps, and
+// the icon of a cleared error.
+void InfoFinish(ParsedEntry& entry);

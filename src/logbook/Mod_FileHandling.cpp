@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "logbook/Mod_FileHandling.h"
+
+#include "logbook/ClassicLine.h"
+#include "logbook/EntryCollector.h"
+#include "logbook/OperationLine.h"
+#include "logbook/SeparatedLine.h"
+#include "logbook/clsFile.h"
+#include "logbook/modUtil.h"
+
+#include <new>
+
+namespace {
+
+enum class Generation { Classic, Separated, Operation };
+
+constexpr std::string_view SeparatorMark = "___";
+constexpr std::string_view OperationHeading = "Operation Logbook Version";
+constexpr std::string_view SupportedVersion = "1.0";
+
+// One read from the file's first line to its last.
+class Reading {
+  public:
+    Reading(clsFile& file, EntryCollector& entries, ReadingProgress& progress, const CodePage& codePage)
+        : File(file), Entries(entries), Progress(progress), Code(codePage) {}
+
+    // Decides the generation by the first line, which the classic generation reads again as an event.
+    void Begin() {
+        std::string_view line;
+        File.ReadLine(line);
+        if (line.starts_with(SeparatorMark)) {
+            Kind = Generation::Separated;
+            // The event below the first separator line is read with it and is not stored.
+            ParsedEntry unused;
+            ParseSeparatedLine(line, unused, File, SeparatorDate);
+        } else if (line.starts_with(OperationHeading)) {
+            Kind = Generation::Operation;
+            const std::string_view version = Right(line, SupportedVersion.size());
+            if (version != SupportedVersion)
+                WarnOfVersion(version);
+        } else {
+            File.RewindFile();
+        }
+    }
+
+    void ReadEntries() {
+        std::string_view line;
+        while (!File.EndOfFile()) {
+            if (File.KeepsLines()) {
+                Entries.KeepLast();
+                File.ReleaseLines();
+            }
+            File.ReadLine(line);
+            ShowProgress();
+            ParsedEntry& entry = Entries.Working();
+            ParseLine(line, entry);
+            if (entry.EventType != EventTypes::None)
+                Entries.Store();
+        }
+    }
+
+  private:
+    void ParseLine(std::string_view line, ParsedEntry& entry) {
+        switch (Kind) {
+        case Generation::Classic:
+            ParseClassicLine(line, entry, File, Progress);
+            break;
+        case Generation::Separated:
+            ParseSeparatedLine(line, entry, File, SeparatorDate);
+            break;
+        case Generation::Operation:
+            ParseOperationLine(line, entry, File);
+            break;
+        }
+    }
+
+    // The message is German in both languages.
+    void WarnOfVersion(std::string_view version) {
+        Progress.ShowMessage("Logbuch Version " + Code.ToUtf8(version) +
+                             " wird von dieser Kelvaro Version nicht unterstützt.\r\n"
+                             "Informieren Sie sich bei VELTRANDOR über die neueste Kelvaro Version.");
+    }
+
+    void ShowProgress() {
+        constexpr std::int64_t Step = 100; // stored entries
+        if (Entries.Count() - LastShown <= Step)
+            return;
+        LastShown = Entries.Count();
+        const std::int64_t position = File.CurrentPosition();
+        if (position >= File.FileSize())
+            return;
+        Progress.SetValue(static_cast<double>(position) / static_cast<double>(File.FileSize()) * 100.0);
+        Progress.ProcessPendingEvents();
+        if (Progress.StopWanted())
+            throw RunTimeError("the read was stopped");
+    }
+
+    clsFile& File;
+    EntryCollector& Entries;
+    ReadingProgress& Progress;
+    const CodePage& Code;
+    Generation Kind = Generation::Classic;
+    std::string SeparatorDate;
+    std::int64_t LastShown = 0;
+};
+
+// The error exit: LoadState keeps the phase, the table what has been stored.
+bool EndUnfinished(Logbook& logbook, EntryCollector& entries) {
+    try {
+        entries.End();
+    } catch (const RunTimeError&) {
+        // Out of memory: the last entry has no room either.
+    }
+    if (logbook.LoadState == LoadStates::Reading)
+        logbook.EntryCount = logbook.Entries.Count();
+    return false;
+}
+
+} // namespace
+
+bool ReadLogbook(const std::string& path, Logbook& logbook, std::string& title, ReadingProgress& progress,
+                 const CodePage& codePage) {
+    logbook.LoadState = LoadStates::Opening;
+    EntryCollector entries(logbook.Entries, codePage);
+    try {
+        clsFile file;
+        if (!file.OpenFile(path, true)) {
+            logbook.LoadState = LoadStates::Done;
+            logbook.Entries.ResetToOneEmpty(0);
+            return false;
+        }
+        entries.Begin(file.FileSize());
+        Reading reading(file, entries, progress, codePage);
+        reading.Begin();
+
+        std::string folder;
+        SplitPath(path, folder, title);
+        logbook.LoadState = LoadStates::Reading;
+        logbook.EntryCount = 0;
+        reading.ReadEntries();
+        entries.End();
+    } catch (const RunTimeError&) {
+        return EndUnfinished(logbook, entries);
+    } catch (const std::bad_alloc&) {
+        return EndUnfinished(logbook, entries);
+    }
+    logbook.LoadState = LoadStates::Done;
+    if (logbook.Entries.Count() == 0)
+        logbook.Entries.ResetToOneEmpty(EventTypes::None);
+    logbook.EntryCount = logbook.Entries.Count();
+    progress.SetValue(0);
+    return true;
+}

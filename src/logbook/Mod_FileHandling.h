@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "logbook/CodePage.h"
+#include "logbook/Logbook.h"
+#include "logbook/ReadingProgress.h"
+
+#include <string>
+
+// Reads a logbook file of any generation into logbook.Entries, in one pass.
+//
+// True: Entries holds EntryCount entries, at least one (an empty one of type -1 when no line was recognised),
+// and `title` is the file-name part of `path`. False: LoadState tells why. Done: the file could not be opened
+// or was empty; Entries is one empty entry, EntryCount as it was. Opening, Reading: a run-time error ended
+// that phase; Entries keeps what had been stored. It throws nothing of its own.
+//
+// Costs about one look at each byte; memory is about the size of the text without its padding and 16 bytes an
+// entry.
+bool ReadLogbook(const std::string& path, Logbook& logbook, std::string& title, ReadingProgress& progress,
+                 const CodePage& codePage);

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "logbook/OperationLine.h"
+
+#include "logbook/EventLines.h"
+#include "logbook/KeywordTable.h"
+
+namespace {
+
+enum class DataFrom { Header, MessageBlock };
+
+struct KeywordRow {
+    std::string_view Keyword;
+    std::int16_t EventType;
+    std::int16_t Image;
+    std::int64_t SenderColumn; // 0 = the event has no sender
+    std::int64_t SenderLength;
+    std::string_view Name;
+    DataFrom Data;
+};
+
+// The first keyword that the line begins with decides.
+constexpr KeywordTable<KeywordRow, 8> Keywords({{
+    {"Key:", EventTypes::Key, Images::Key, 5, 40, "", DataFrom::MessageBlock},
+    {"Stib:", EventTypes::Status, Images::Info, 0, 0, "", DataFrom::Header},
+    {"Info:", EventTypes::Info, Images::Info, 6, 39, "", DataFrom::MessageBlock},
+    {"System info:", EventTypes::Info, Images::Info, 0, 0, "", DataFrom::MessageBlock},
+    {"Warning:", EventTypes::Warning, Images::Warning, 9, 36, "", DataFrom::MessageBlock},
+    {"Error:", EventTypes::Error, Images::Error, 7, 38, "", DataFrom::MessageBlock},
+    {"System error:", EventTypes::Error, Images::Error, 14, 31, "", DataFrom::MessageBlock},
+    {"Mouse:", EventTypes::Info, Images::Mouse, 7, 38, "Mouse", DataFrom::MessageBlock},
+}});
+
+constexpr std::string_view Indent = "  ";
+
+std::string_view WithoutIndent(std::string_view line) {
+    return line.substr(std::min(Indent.size(), line.size()));
+}
+
+void ReadMessageBlock(ParsedEntry& entry, clsFile& file) {
+    std::string_view line;
+    file.ReadLine(line);
+    entry.Data = WithoutIndent(line);
+    while (!file.EndOfFile() && file.NextLineStart() == Indent) {
+        file.ReadLine(line);
+        entry.AppendToData(LineSeparator);
+        entry.AppendToData(WithoutIndent(line));
+    }
+}
+
+// A control's start is written as an info event.
+void TurnStartIntoRestart(ParsedEntry& entry) {
+    if (entry.Data.find("SYSTEM START") == std::string_view::npos)
+        return;
+    entry.EventType = EventTypes::Restart;
+    entry.Image = Images::Restart;
+}
+
+} // namespace
+
+void ParseOperationLine(std::string_view line, ParsedEntry& entry, clsFile& file) {
+    const KeywordRow* const keyword = Keywords.Find(line);
+    if (keyword == nullptr)
+        return;
+    entry.EventType = keyword->EventType;
+    entry.Image = keyword->Image;
+    entry.Name = keyword->Name;
+    entry.Time = ClassicTime(line);
+    if (keyword->SenderColumn != 0)
+        entry.Sender = Trim(Mid(line, keyword->SenderColumn, keyword->SenderLength));
+
+    if (keyword->Data == DataFrom::Header)
+        entry.Data = Trim(Mid(line, 6, 23));
+    else
+        ReadMessageBlock(entry, file);
+
+    // A key that has no name is told by its code; that is no sender.
+    if (entry.EventType == EventTypes::Key && entry.Sender.starts_with("0x"))
+        entry.Sender = {};
+    if (entry.EventType == EventTypes::Info && entry.Image == Images::Info)
+        TurnStartIntoRestart(entry);
+}

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "logbook/ParsedEntry.h"
+#include "logbook/clsFile.h"
+
+#include <string_view>
+
+// The newest generation begins with a heading that tells its version; every event is a header line and
+// message lines that are indented by two blanks.
+//
+// Fills `entry` as ParseClassicLine does. Throws RunTimeError for a keyword line that is too short for its
+// stamp.
+void ParseOperationLine(std::string_view line, ParsedEntry& entry, clsFile& file);

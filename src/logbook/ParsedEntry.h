@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "logbook/LogbookEntry.h"
+
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <utility>
+
+// The entry that a line parser fills. Its texts still have one byte a character, as the logbook file has,
+// because every column rule counts characters; they are converted when the entry table stores the entry.
+//
+// The texts point into the lines that they were cut from, which stay valid until the file's lines are
+// released, or into texts that live longer, or into what SetData and Keep made the entry's own.
+class ParsedEntry {
+  public:
+    std::int16_t EventType = EventTypes::None;
+    std::string_view Sender;
+    std::string_view Name;
+    std::string_view Data;
+    std::string_view Time;
+    std::int16_t Image = Images::Info;
+
+    ParsedEntry() = default;
+    ParsedEntry(const ParsedEntry&) = delete;
+    ParsedEntry& operator=(const ParsedEntry&) = delete;
+
+    // Makes the entry ready for the next line.
+    void Reset() {
+        EventType = EventTypes::None;
+        // One by one: a chained assignment would wait for each value to come back from memory.
+        Sender = {};
+        Name = {};
+        Data = {};
+        Time = {};
+        Image = Images::Info;
+    }
+
+    // Appends to a data text that is the entry's own; the first time, what Data is becomes that.
+    void AppendToData(std::string_view text) {
+        OwnData();
+        OwnedData += text;
+        Data = OwnedData;
+    }
+
+    // Makes the joined parts the data, as the entry's own; the parts may point into what the data was.
+    void SetData(std::initializer_list<std::string_view> parts) {
+        JoinedParts.clear();
+        for (const std::string_view part : parts)
+            JoinedParts.append(part);
+        OwnedData.swap(JoinedParts);
+        Data = OwnedData;
+    }
+
+    // Makes a text the time, as the entry's own.
+    void SetTime(std::string text) {
+        OwnedTime = std::move(text);
+        Time = OwnedTime;
+    }
+
+    // Makes all texts the entry's own, so that the lines may be released.
+    void Keep() {
+        OwnData();
+        JoinedParts.assign(Sender).append(Name).append(Time);
+        OwnedFields.swap(JoinedParts);
+        const std::string_view fields = OwnedFields;
+        Time = fields.substr(Sender.size() + Name.size());
+        Name = fields.substr(Sender.size(), Name.size());
+        Sender = fields.substr(0, Sender.size());
+    }
+
+  private:
+    void OwnData() {
+        if (Data.data() == OwnedData.data())
+            return;
+        OwnedData.assign(Data);
+        Data = OwnedData;
+    }
+
+    std::string OwnedData;
+    std::string OwnedTime;
+    std::string OwnedFields;
+    std::string JoinedParts;
+};

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "logbook/SeparatedLine.h"
+
+#include "logbook/EventLines.h"
+#include "logbook/KeywordTable.h"
+
+namespace {
+
+using ReadFields = void (*)(std::string_view line, ParsedEntry& entry, clsFile& file);
+
+struct KeywordRow {
+    std::string_view Keyword;
+    std::int16_t EventType;
+    std::int16_t Image;
+    ReadFields Read;
+};
+
+// A bare clock time is shorter than this; a longer one brings its own date.
+constexpr std::size_t DatedStampLength = 9;
+
+std::string SeparatedTime(std::string_view line, std::string_view separatorDate) {
+    const std::string_view clock = line.size() > 44 ? Trim(Mid(line, 44)) : std::string_view{};
+    if (clock.size() >= DatedStampLength)
+        return NormaliseStamp(clock);
+    return NormaliseStamp(std::string(clock).append(1, Blank).append(separatorDate));
+}
+
+// The text behind the keyword's colon; a further colon belongs to the clock, whose two digits before it go
+// too.
+std::string_view KeyText(std::string_view line) {
+    std::string_view text = line.substr(line.find(':') + 1);
+    const std::size_t clockColon = text.find(':');
+    if (clockColon != std::string_view::npos)
+        text = Left(text, static_cast<std::int64_t>(clockColon) - 2);
+    return Trim(text);
+}
+
+void ReadNothingMore(std::string_view, ParsedEntry&, clsFile&) {}
+
+void ReadData(std::string_view, ParsedEntry& entry, clsFile& file) { ReadDataLine(entry, file); }
+
+void ReadError(std::string_view line, ParsedEntry& entry, clsFile& file) {
+    if (SplitHeader(line).Sender.empty())
+        ReadDataLine(entry, file);
+    entry.Sender = SenderFromData(entry.Data);
+}
+
+void ReadKey(std::string_view line, ParsedEntry& entry, clsFile&) { entry.Data = KeyText(line); }
+
+void ReadStatus(std::string_view line, ParsedEntry& entry, clsFile&) {
+    entry.Data = Trim(Mid(line, 6, 23));
+    if (entry.Data == "ON")
+        entry.Image = Images::StatusOn;
+    else if (entry.Data == "BLINK")
+        entry.Image = Images::StatusBlink;
+    else if (entry.Data == "OFF")
+        entry.Image = Images::StatusOff;
+}
+
+void ReadPlc(std::string_view, ParsedEntry& entry, clsFile& file) {
+    ReadDataLine(entry, file);
+    entry.Sender = "PLC";
+}
+
+void ReadInfo(std::string_view line, ParsedEntry& entry, clsFile& file) {
+    ReadEventBody(line, entry, file);
+    InfoFinish(entry);
+}
+
+// The first keyword that the line begins with decides.
+constexpr KeywordTable<KeywordRow, 10> Keywords({{
+    {"Reset", EventTypes::Restart, Images::Restart, ReadNothingMore},
+    {"Blinkerror:", EventTypes::Fatal, Images::Fatal, ReadData},
+    {"Registers(Blinkerror):", EventTypes::Fatal, Images::Fatal, ReadNothingMore},
+    {"Error:", EventTypes::Error, Images::Error, ReadError},
+    {"Key:", EventTypes::Key, Images::Key, ReadKey},
+    {"Stib:", EventTypes::Status, Images::Info, ReadStatus},
+    {"PLC Error:", EventTypes::Error, Images::Error, ReadPlc},
+    {"PLC Message:", EventTypes::Info, Images::Info, ReadPlc},
+    {"Info:", EventTypes::Info, Images::Info, ReadInfo},
+    {"Warning:", EventTypes::Warning, Images::Warning, ReadEventBody},
+}});
+
+} // namespace
+
+void ParseSeparatedLine(std::string_view line, ParsedEntry& entry, clsFile& file,
+                        std::string& separatorDate) {
+    if (line.starts_with("___")) {
+        separatorDate = Mid(line, 10, 15);
+        file.ReadLine(line);
+    }
+    const KeywordRow* const keyword = Keywords.Find(line);
+    if (keyword == nullptr)
+        return;
+    entry.EventType = keyword->EventType;
+    entry.Image = keyword->Image;
+    entry.SetTime(SeparatedTime(line, separatorDate));
+    keyword->Read(line, entry, file);
+}

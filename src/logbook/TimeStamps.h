@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "logbook/CodePage.h"
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+// A stamp that ends in a clock time, "12:34:56" or "12:34:56.789", in two numbers: one for the text before
+// the clock, which a whole day's entries share, and one for the clock. The text comes back exactly as it was.
+struct PackedStamp {
+    std::uint32_t Date = 0; // number of the text before the clock, for example "04.01.2010 "; below MostDates
+    std::uint32_t Clock = 0; // the digits of the clock as one decimal number, HHMMSSmmm, and HasMilliseconds
+
+    static constexpr std::uint32_t HasMilliseconds = 1U << 30U;
+
+    bool operator==(const PackedStamp&) const = default;
+};
+
+class TimeStamps {
+  public:
+    static constexpr std::uint32_t MostDates = 1U << 24U;
+
+    // False when the stamp does not end in a clock time, or no number is left for its date.
+    bool Pack(std::string_view stamp, const CodePage& codePage, PackedStamp& packed);
+
+    std::string Text(PackedStamp packed) const;
+
+    // The text before the clock, in UTF-8, by its number.
+    std::string_view DateText(std::uint32_t date) const { return dates_[date]; }
+    std::uint32_t DateCount() const { return static_cast<std::uint32_t>(dates_.size()); }
+
+    void Clear();
+
+  private:
+    bool FindDate(std::string_view date, const CodePage& codePage, std::uint32_t& number);
+
+    std::deque<std::string> dates_;
+    std::unordered_map<std::string, std::uint32_t> numbers_; // by the text as the file has it
+    std::string lastDate_;
+    std::uint32_t lastNumber_ = MostDates;
+};

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Reads a logbook file line by line, tells how far it has come, and can step back to a remembered position.
+//
+// An object reads one file: new, then open, then closed. Reading, rewinding, saving and restoring are valid
+// only while it is open. Sizes and positions are in bytes.
+//
+// A reading position moves through the file in chunks of BufferSize bytes, and CurrentPosition speaks of
+// them. The system is asked for larger blocks, which only this class knows of.
+class clsFile {
+  public:
+    static constexpr int ChunkSize = 2048;
+    static constexpr std::size_t DefaultBlockSize = 256U * 1024U;
+
+    explicit clsFile(std::size_t blockSize = DefaultBlockSize);
+
+    // The file's size, taken once at opening.
+    std::int64_t FileSize() const { return FileLength; }
+
+    // One more than the number of consumed bytes, plus BufferSize: deliberately a chunk further than what has
+    // been consumed, so that it passes the file's size while the last chunk is still being read.
+    std::int64_t CurrentPosition() const { return Position() + 1 + BufferSize(); }
+
+    // Opens a regular file. False, with nothing reported, when it is missing or cannot be read, when it is
+    // empty and `closeIfEmpty` is set, and when this object has been used before.
+    bool OpenFile(const std::string& path, bool closeIfEmpty);
+
+    void CloseFile();
+
+    // Back to the first byte. The chunk size stays as it is: after a whole read it is that of the last chunk.
+    void RewindFile();
+
+    // Remembers the position, and returns to it as often as wanted; there is one such place. LinesRead goes
+    // on.
+    void SavePosition() { Saved = CurrentPlace(); }
+    void RestoreSavedPosition() { GoTo(Saved); }
+
+    bool EndOfFile() const { return FileLeft() == 0; }
+
+    // The next line without its LF; a CR is dropped wherever it stands. One byte is one character. False only
+    // when the file is exhausted and the line is empty. `line` stays valid until ReleaseLines. Throws
+    // RunTimeError when the file has become shorter or fails.
+    bool ReadLine(std::string_view& line);
+
+    // The first two characters of the line that ReadLine would give next, fewer for a shorter line, "" at the
+    // end of the file. Consumes nothing. Valid and throws as ReadLine.
+    std::string_view NextLineStart();
+
+    // True when memory is kept only for lines that were handed out.
+    bool KeepsLines() const { return !KeptBlocks.empty() || !LinesAcrossBlocks.empty(); }
+
+    // Ends the life of the lines that were handed out, and gives that memory back.
+    void ReleaseLines();
+
+    // Line ends consumed since the object was made; never set back.
+    std::int64_t LinesRead() const { return LinesReadCount; }
+
+    // The size of the current chunk, and its bytes that are not yet consumed.
+    int BufferSize() const;
+    int BufferLeft() const;
+
+    // Bytes of the file that are not yet consumed.
+    std::int64_t FileLeft() const { return FileLength - Position(); }
+
+  private:
+    struct Place {
+        std::int64_t Position = 0;
+        int PassChunkSize = ChunkSize;
+    };
+
+    std::int64_t Position() const { return BlockBegin + static_cast<std::int64_t>(Cursor); }
+    Place CurrentPlace() const { return {Position(), PassChunkSize}; }
+    void GoTo(const Place& place);
+    bool ReadBlock();
+    void ReplaceBlock(std::int64_t begin);
+    bool ReadLineAcrossBlocks(std::string_view& line);
+
+    std::filebuf File;
+    bool Used = false;
+    std::int64_t FileLength = 0;
+    std::int64_t LinesReadCount = 0;
+    int PassChunkSize = ChunkSize; // of this pass through the file; its last chunk may be shorter
+    Place Saved;
+
+    using BlockMemory = std::unique_ptr<char[]>;
+    BlockMemory NewBlock() const;
+
+    std::size_t BlockSize;
+    BlockMemory Block; // what the system gave last, a line feed behind it as a sentinel, and padding
+    std::size_t BlockLength = 0; // without sentinel and padding
+    std::int64_t BlockBegin = 0; // the block's place in the file
+    std::size_t Cursor = 0;      // the next byte to consume, from the block's begin
+
+    std::vector<BlockMemory> KeptBlocks; // earlier blocks that lines handed out may lie in
+    BlockMemory SpareBlock;
+    std::deque<std::string> LinesAcrossBlocks; // lines that lie in no single block as they are
+};

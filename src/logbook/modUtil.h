@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "logbook/Blanks.h"
+#include "logbook/RunTimeError.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+// Text cutting by columns. A text here has one byte a character; columns count from 1. The results point into
+// the text that was given.
+
+// `length` characters from column `start` on, fewer where the text ends, "" past its end. Throws RunTimeError
+// for a start below 1 or a negative length.
+inline std::string_view Mid(std::string_view text, std::int64_t start, std::int64_t length) {
+    if (start < 1 || length < 0)
+        throw RunTimeError("a line is too short for its column rules");
+    const std::size_t begin = std::min(static_cast<std::size_t>(start - 1), text.size());
+    return text.substr(begin, static_cast<std::size_t>(length));
+}
+
+// Everything from column `start` on.
+inline std::string_view Mid(std::string_view text, std::int64_t start) {
+    return Mid(text, start, static_cast<std::int64_t>(text.size()));
+}
+
+// The first `length` characters. Throws RunTimeError for a negative length.
+inline std::string_view Left(std::string_view text, std::int64_t length) { return Mid(text, 1, length); }
+
+// The last `length` characters; the whole text when it is shorter.
+inline std::string_view Right(std::string_view text, std::size_t length) {
+    return text.substr(text.size() - std::min(length, text.size()));
+}
+
+// Turns "clock weekday month day year" with single blanks between, English month names, into the day-first
+// stamp: "12:34:56 Mon Jan 04 2010" gives "04.01.2010 12:34:56". The clock may carry milliseconds. An unknown
+// month leaves day and year with nothing between. At most 23 characters.
+std::string NormaliseStamp(std::string_view text);
+
+// The printable ASCII character of a hexadecimal key code such as "0x0041", or "". Digits are upper case; any
+// other character counts as -1. A value that does not fit 64 bits gives "".
+std::string HexToChar(std::string_view text);
+
+// The path that a UTF-8 text names.
+std::filesystem::path ToPath(std::string_view path);
+
+// Splits a path behind its last "\" or "/": the folder keeps that separator and is "" for a bare file name.
+void SplitPath(std::string_view path, std::string& folder, std::string& fileName);
+
+// True when the file can be opened for reading at this moment. A folder cannot.
+bool FileExists(const std::string& path);
+
+// The name with everything from its last "." on replaced by `newExtension`, which is appended when there is
+// no ".". A "." in the folder part of a path does not count.
+std::string ChangeExtension(std::string_view fileName, std::string_view newExtension);

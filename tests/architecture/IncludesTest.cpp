@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+// The folders of src/ are the architecture; these tests read the includes of every file and hold them against
+// it.
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <sstream>
+#include <vector>
+
+namespace {
+
+// In order of dependency: a folder includes files of its own and of folders before it.
+constexpr std::array<std::string_view, 9> Folders{"logbook", "settings", "filter", "sources", "eventinfo",
+                                                  "list",    "dialogs",  "app",    "cli"};
+constexpr std::array<std::string_view, 6> FoldersWithoutQt{"logbook", "settings",  "filter",
+                                                           "sources", "eventinfo", "cli"};
+
+// Files of list/ that the command-line tool uses, too.
+constexpr std::array<std::string_view, 2> RowFiles{"LogbookColumns.h", "LogbookColumns.cpp"};
+
+template <typename Table>
+bool Contains(const Table& table, std::string_view name) {
+    return std::find(table.begin(), table.end(), name) != table.end();
+}
+
+std::size_t Rank(std::string_view folder) {
+    return static_cast<std::size_t>(std::find(Folders.begin(), Folders.end(), folder) - Folders.begin());
+}
+
+struct SourceFile {
+    std::string Folder;
+    std::string Name;
+    std::vector<std::string> Includes; // as written, with their quotes or angle brackets
+};
+
+// What a line includes, with its quotes or angle brackets; "" when it is no include line.
+std::string IncludeOf(const std::string& line) {
+    const std::size_t hash = line.find_first_not_of(" \t");
+    if (hash == std::string::npos || line[hash] != '#')
+        return {};
+    const std::size_t word = line.find_first_not_of(" \t", hash + 1);
+    const std::size_t begin = line.find_first_of("<\"");
+    if (word == std::string::npos || line.compare(word, 7, "include") != 0 || begin == std::string::npos)
+        return {};
+    return line.substr(begin, line.find_first_of(">\"", begin + 1) + 1 - begin);
+}
+
+std::vector<SourceFile> SourceFiles() {
+    std::vector<SourceFile> files;
+    const std::filesystem::path root = QORVIX_SOURCE_FOLDER "/src";
+    for (const auto& item : std::filesystem::recursive_directory_iterator(root)) {
+        const std::string extension = item.path().extension().string();
+        if (extension != ".h" && extension != ".cpp")
+            continue;
+        SourceFile file{
+            item.path().lexically_relative(root).begin()->string(), item.path().filename().string(), {}};
+        std::istringstream stream(FileContent(item.path()));
+        for (std::string line; std::getline(stream, line);)
+            if (const std::string include = IncludeOf(line); !include.empty())
+                file.Includes.push_back(include);
+        files.push_back(std::move(file));
+    }
+    return files;
+}
+
+// <QString>, <QtGlobal>, <qglobal.h>; not <queue>.
+bool IsQt(const std::string& include) {
+    return include.starts_with("<Q") || (include.starts_with("<q") && include.ends_with(".h>"));
+}
+
+} // namespace
+
+TEST(Includes, TheTreeHasItsFolders) {
+    const std::vector<SourceFile> files = SourceFiles();
+    ASSERT_GT(files.size(), 30U);
+    for (const SourceFile& file : files)
+        EXPECT_TRUE(Contains(Folders, file.Folder)) << file.Folder << "/" << file.Name;
+}
+
+TEST(Includes, CoreIncludesNoQt) {
+    for (const SourceFile& file : SourceFiles()) {
+        if (!Contains(FoldersWithoutQt, file.Folder) &&
+            !(file.Folder == "list" && Contains(RowFiles, file.Name)))
+            continue;
+        for (const std::string& include : file.Includes)
+            EXPECT_FALSE(IsQt(include)) << file.Folder << "/" << file.Name << " includes " << include;
+    }
+}
+
+TEST(Includes, NoArrowRunsBack) {
+    for (const SourceFile& file : SourceFiles())
+        for (const std::string& include : file.Includes) {
+            const std::string folder = include.substr(1, include.find('/') - 1);
+            if (include.front() != '"')
+                continue;
+            ASSERT_TRUE(Contains(Folders, folder))
+                << file.Folder << "/" << file.Name << " includes " << include;
+            EXPECT_LE(Rank(folder), Rank(file.Folder))
+                << file.Folder << "/" << file.Name << " includes " << include;
+            EXPECT_FALSE(file.Folder == "cli" && (folder == "dialogs" || folder == "app"))
+                << file.Folder << "/" << file.Name << " includes " << include;
+        }
+}
+
+TEST(Includes, WindowFoldersDoIncludeQt) {
+    // Without this, a mistake in how Qt headers are told would let the test above pass.
+    const std::vector<SourceFile> files = SourceFiles();
+    EXPECT_TRUE(std::any_of(files.begin(), files.end(), [](const SourceFile& file) {
+        return file.Folder == "app" && std::any_of(file.Includes.begin(), file.Includes.end(), IsQt);
+    }));
+}

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "cli/RunProgram.h"
+#include "support/ReadText.h"
+#include "support/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+constexpr const char* Samples = QORVIX_SOURCE_FOLDER "/samples/";
+constexpr const char* Expected = QORVIX_SOURCE_FOLDER "/tests/cli/expected/";
+
+class ExportCommand : public testing::Test {
+  protected:
+    std::string File(const std::vector<std::string>& lines) { return Folder.Write("a.log", Lines(lines)); }
+
+    TemporaryFolder Folder;
+};
+
+} // namespace
+
+TEST_F(ExportCommand, SamplesGiveTheStoredLists) {
+    for (const std::string sample : {"classic", "separated", "operation"})
+        for (const std::string format : {"jsonl", "csv"}) {
+            const ProgramResult result =
+                RunCommandLineTool({"export", Samples + sample + ".log", "--format", format});
+            EXPECT_EQ(result.ExitStatus, 0);
+            EXPECT_EQ(result.Errors, "");
+            const std::string expected = FileContent(Expected + sample + "." + format);
+            ASSERT_FALSE(expected.empty());
+            EXPECT_TRUE(result.Output == expected) << sample << " as " << format;
+        }
+}
+
+TEST_F(ExportCommand, JsonLinesHaveTheirKeysInOrder) {
+    const ProgramResult result = RunCommandLineTool(
+        {"export", File({Header("INFO:    GEO AXIS"), "\"K\xFChlung\"", Header("RESET:")})});
+    EXPECT_EQ(result.Output,
+              R"({"index":0,"type":1,"event":"Info","data":"\"Kühlung\"","sender":"GEO","name":"AXIS",)"
+              R"("time":"04.01.2010 12:34:56.789","icon":1,"highlighted":false,"comment":""})"
+              "\n"
+              R"({"index":1,"type":7,"event":"Restart","data":"","sender":"","name":"",)"
+              R"("time":"04.01.2010 12:34:56.789","icon":8,"highlighted":false,"comment":""})"
+              "\n");
+}
+
+TEST_F(ExportCommand, EveryByteOfALogbookGivesValidJson) {
+    std::vector<std::string> lines;
+    for (int byte = 1; byte < 256; ++byte)
+        if (byte != '\n' && byte != '\r')
+            lines.push_back(Header(std::string("BERR:    x") + static_cast<char>(byte) + "x"));
+    const ProgramResult result = RunCommandLineTool({"export", File(lines)});
+    std::istringstream stream(result.Output);
+    std::string line;
+    std::size_t count = 0;
+    for (; std::getline(stream, line); ++count)
+        EXPECT_EQ(nlohmann::json::parse(line)["index"], count);
+    EXPECT_EQ(count, lines.size());
+}
+
+TEST_F(ExportCommand, CsvQuotesAndGuards) {
+    const std::string file =
+        File({Header("BERR:    a,\"b\""), Header("BERR:    =1+1"), Header("BERR:    +x"),
+              Header("BERR:    -x,y"), Header("BERR:    @x"), Header("BERR:    \tx"), Header("BERR:    x=")});
+    const ProgramResult guarded = RunCommandLineTool({"export", file, "--format", "csv"});
+    const auto row = [](int index, const std::string& data) {
+        return std::to_string(index) + ",4,Fatal," + data + ",,,04.01.2010 12:34:56.789,4,false,\r\n";
+    };
+    const std::string header = "index,type,event,data,sender,name,time,icon,highlighted,comment\r\n";
+    EXPECT_EQ(guarded.Output, header + row(0, "\"a,\"\"b\"\"\"") + row(1, "'=1+1") + row(2, "'+x") +
+                                  row(3, "\"'-x,y\"") + row(4, "'@x") + row(5, "'\tx") + row(6, "x="));
+    const ProgramResult raw = RunCommandLineTool({"export", file, "--format", "csv", "--raw"});
+    EXPECT_EQ(raw.Output, header + row(0, "\"a,\"\"b\"\"\"") + row(1, "=1+1") + row(2, "+x") +
+                              row(3, "\"-x,y\"") + row(4, "@x") + row(5, "\tx") + row(6, "x="));
+}
+
+TEST_F(ExportCommand, OutputFileIsReplacedWhole) {
+    const std::string output = Folder.Write("list.csv", "old");
+    const ProgramResult result = RunCommandLineTool(
+        {"export", File({Header("RESET:"), Header("BERR:    a")}), "--format", "csv", "--output", output});
+    EXPECT_EQ(result.ExitStatus, 0);
+    EXPECT_EQ(result.Output, "");
+    EXPECT_EQ(FileContent(output), "index,type,event,data,sender,name,time,icon,highlighted,comment\r\n"
+                                   "0,7,Restart,,,,04.01.2010 12:34:56.789,8,false,\r\n"
+                                   "1,4,Fatal,a,,,04.01.2010 12:34:56.789,4,false,\r\n");
+}
+
+TEST_F(ExportCommand, OutputFileStaysWhenTheLogbookCannotBeRead) {
+    const std::string output = Folder.Write("list.csv", "old");
+    EXPECT_EQ(RunCommandLineTool({"export", Folder / "missing.log", "--output", output}).ExitStatus, 1);
+    EXPECT_EQ(FileContent(output), "old");
+}
+
+TEST_F(ExportCommand, OutputThatCannotBeWrittenIsTold) {
+    const std::string output = Folder / "no/such/list.csv";
+    const ProgramResult result =
+        RunCommandLineTool({"export", File({Header("RESET:"), Header("RESET:")}), "--output", output});
+    EXPECT_EQ(result.ExitStatus, 1);
+    EXPECT_THAT(result.Errors, HasSubstr(output + ": No such file or directory"));
+}
+
+TEST_F(ExportCommand, OutputMayBeADevice) {
+    const ProgramResult result = RunCommandLineTool(
+        {"export", File({Header("RESET:"), Header("RESET:")}), "--output", "/dev/stdout", "--format", "csv"});
+    EXPECT_EQ(result.ExitStatus, 0);
+    const ProgramResult full = RunCommandLineTool(
+        {"export", File({Header("RESET:"), Header("RESET:")}), "--output", "/dev/full", "--format", "csv"});
+    EXPECT_EQ(full.ExitStatus, 1);
+    EXPECT_THAT(full.Errors, HasSubstr("/dev/full could not be written"));
+}
+
+TEST_F(ExportCommand, LogbookThatCannotBeReadPrintsNothing) {
+    for (const std::string& file : {Folder / "missing.log", Folder.Write("empty.log", "")}) {
+        const ProgramResult result = RunCommandLineTool({"export", file});
+        EXPECT_EQ(result.ExitStatus, 1);
+        EXPECT_EQ(result.Output, "");
+        EXPECT_THAT(result.Errors, HasSubstr("Error opening logbook file"));
+        EXPECT_THAT(result.Errors, HasSubstr(file));
+    }
+    const ProgramResult result =
+        RunCommandLineTool({"export", File({Header("RESET:"), "Key:", Header("RESET:"), Header("RESET:")})});
+    EXPECT_EQ(result.ExitStatus, 1);
+    EXPECT_EQ(result.Output, "");
+    EXPECT_THAT(result.Errors, HasSubstr("Error reading logbook file"));
+}
+
+TEST_F(ExportCommand, FileWithoutEventsIsAnErrorOfTheList) {
+    for (const char* format : {"jsonl", "csv"}) {
+        const ProgramResult result = RunCommandLineTool({"export", File({"no logbook"}), "--format", format});
+        EXPECT_EQ(result.ExitStatus, 1);
+        EXPECT_EQ(result.Output, "");
+        EXPECT_EQ(result.Errors, "qorvix-cli: Error applying filters\n");
+    }
+}
+
+TEST_F(ExportCommand, VersionMessageGoesToStandardError) {
+    const ProgramResult result =
+        RunCommandLineTool({"export", File({"Operation Logbook Version 2.0", Header("Stib: ON")})});
+    EXPECT_EQ(result.ExitStatus, 0);
+    EXPECT_EQ(result.Errors,
+              "qorvix-cli: Logbuch Version 2.0 wird von dieser Kelvaro Version nicht unterstützt.\n"
+              "Informieren Sie sich bei VELTRANDOR über die neueste Kelvaro Version.\n");
+    EXPECT_THAT(result.Output, StartsWith(R"({"index":0,"type":5)"));
+}
+
+TEST_F(ExportCommand, WrongUsageIsStatusTwo) {
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{},
+                                                      {"export"},
+                                                      {"unknown"},
+                                                      {"export", "a.log", "--format", "xml"},
+                                                      {"export", "a.log", "b.log"},
+                                                      {"--unknown"}}) {
+        const ProgramResult result = RunCommandLineTool(arguments);
+        EXPECT_EQ(result.ExitStatus, 2);
+        EXPECT_EQ(result.Output, "");
+        EXPECT_NE(result.Errors, "");
+    }
+}
+
+TEST_F(ExportCommand, HelpAndVersionAreDone) {
+    EXPECT_EQ(RunCommandLineTool({"--help"}).ExitStatus, 0);
+    EXPECT_THAT(RunCommandLineTool({"export", "--help"}).Output, HasSubstr("--format"));
+    EXPECT_THAT(RunCommandLineTool({"--version"}).Output, StartsWith("qorvix-cli "));
+}

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "list/LogbookModel.h"
+
+#include "list/LogbookColumns.h"
+#include "support/ReadText.h"
+
+#include <QAbstractItemModelTester>
+#include <QTest>
+
+class LogbookModelTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void init() {
+        ReadText(Lines({Header("INFO:    GEO AXIS"), "K\xFChlung", Header("BERR:    b")}), Result);
+        Result.Book.Entries.SetComment(1, "seen");
+    }
+
+    void RowsShowTheirEntries() {
+        LogbookModel model(Result.Book.Entries);
+        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(model.rowCount(), 0);
+        model.SetRows({{1, 1}, {0, 0}});
+        QCOMPARE(model.rowCount(), 2);
+        QCOMPARE(Cells(model, 0),
+                 QStringList({"Fatal", "b", "", "", "04.01.2010 12:34:56.789", "1", "seen"}));
+        QCOMPARE(Cells(model, 1),
+                 QStringList({"Info", "Kühlung", "GEO", "AXIS", "04.01.2010 12:34:56.789", "0", ""}));
+        QCOMPARE(model.index(0, 0).data(LogbookModel::ImageRole).toInt(), 18);
+        QCOMPARE(model.index(1, 0).data(LogbookModel::ImageRole).toInt(), 1);
+        model.ClearRows();
+        QCOMPARE(model.rowCount(), 0);
+    }
+
+    void ColumnsHaveTheirHeaders() {
+        const LogbookModel model(Result.Book.Entries);
+        QStringList headers;
+        for (int column = 0; column < model.columnCount(); ++column)
+            headers << model.headerData(column, Qt::Horizontal).toString();
+        QCOMPARE(headers, QStringList({"Event type", "Data", "Sender", "Name", "Time", "Index", "Comment"}));
+        QVERIFY(!model.headerData(LogbookColumnCount, Qt::Horizontal).isValid());
+    }
+
+  private:
+    static QStringList Cells(const LogbookModel& model, int row) {
+        QStringList cells;
+        for (int column = 0; column < model.columnCount(); ++column)
+            cells << model.index(row, column).data().toString();
+        return cells;
+    }
+
+    ReadResult Result;
+};
+
+QTEST_GUILESS_MAIN(LogbookModelTest)
+#include "LogbookModelTest.moc"

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "logbook/AtomicFile.h"
+
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <iterator>
+
+namespace {
+
+std::ptrdiff_t FilesIn(const TemporaryFolder& folder) {
+    return std::distance(std::filesystem::directory_iterator(folder.Path()), {});
+}
+
+} // namespace
+
+TEST(AtomicFile, ReplacesTheFileOnCommit) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a.txt", "old");
+    AtomicFile file(path);
+    file.Stream() << "new";
+    file.Stream().flush();
+    EXPECT_EQ(FileContent(path), "old");
+    EXPECT_FALSE(file.Commit());
+    EXPECT_EQ(FileContent(path), "new");
+    EXPECT_EQ(FilesIn(folder), 1);
+}
+
+TEST(AtomicFile, WithoutCommitNothingChanges) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a.txt", "old");
+    { AtomicFile(path).Stream() << "new"; }
+    EXPECT_EQ(FileContent(path), "old");
+    EXPECT_EQ(FilesIn(folder), 1);
+}
+
+TEST(AtomicFile, FailureIsToldWithItsReason) {
+    const TemporaryFolder folder;
+    AtomicFile file(folder / "no/such/folder.txt");
+    file.Stream() << "new";
+    EXPECT_EQ(file.Commit(), std::errc::no_such_file_or_directory);
+}
+
+TEST(AtomicFile, FollowsLinksAndKeepsPermissions) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a.txt", "old");
+    std::filesystem::permissions(path, std::filesystem::perms(0640));
+    std::filesystem::create_symlink("a.txt", folder.Path() / "link");
+    AtomicFile file(folder / "link");
+    file.Stream() << "new";
+    EXPECT_FALSE(file.Commit());
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.Path() / "link"));
+    EXPECT_EQ(FileContent(path), "new");
+    EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0640));
+}

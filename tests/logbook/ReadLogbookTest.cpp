@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: MIT
+#include "logbook/Mod_FileHandling.h"
+
+#include "support/ReadText.h"
+#include "support/TemporaryFolder.h"
+#include "tools/LogbookWriter.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr const char* At = "[04.01.2010 12:34:56.789]";
+
+bool ReadFile(const std::string& path, ReadResult& result) {
+    return ReadLogbook(path, result.Book, result.Title, result.Progress, CodePage());
+}
+
+} // namespace
+
+TEST(ReadLogbook, TitleIsTheFileName) {
+    const TemporaryFolder folder;
+    ReadResult result;
+    EXPECT_TRUE(ReadFile(folder.Write("lb.act.log", Lines({Header("RESET:"), Header("RESET:")})), result));
+    EXPECT_EQ(result.Title, "lb.act.log");
+    EXPECT_EQ(result.Book.EntryCount, 1);
+    EXPECT_EQ(result.Book.LoadState, LoadStates::Done);
+    EXPECT_EQ(result.Progress.Values, std::vector{0.0});
+}
+
+TEST(ReadLogbook, MissingAndEmptyFilesAreFalseWithoutAnError) {
+    const TemporaryFolder folder;
+    for (const std::string& path : {folder / "missing.log", folder.Write("empty.log", "")}) {
+        ReadResult result;
+        result.Book.EntryCount = 42;
+        EXPECT_FALSE(ReadFile(path, result));
+        EXPECT_EQ(result.Book.LoadState, LoadStates::Done);
+        EXPECT_EQ(result.Book.EntryCount, 42);
+        EXPECT_EQ(result.Book.Entries.Count(), 1U);
+        EXPECT_EQ(result.Book.Entries[0].Data, "");
+        EXPECT_EQ(result.Title, "");
+    }
+}
+
+TEST(ReadLogbook, EachSuccessfulReadReplacesTheEntries) {
+    const TemporaryFolder folder;
+    ReadResult result;
+    EXPECT_TRUE(ReadFile(folder.Write("a.log", Lines({Header("BERR:    a"), Header("BERR:    b")})), result));
+    EXPECT_TRUE(ReadFile(folder.Write("b.log", Lines({Header("BERR:    c"), std::string(80, ' ')})), result));
+    EXPECT_EQ(Dump(result.Book.Entries), std::string("4 4 [] [] ") + At + " c\n");
+    EXPECT_EQ(result.Book.EntryCount, 1);
+}
+
+TEST(ReadLogbook, ClassicFileIsParsedFromItsFirstLine) {
+    EXPECT_EQ(EntriesOf(Lines({Header("BERR:    a"), Header("BERR:    b")})),
+              std::string("4 4 [] [] ") + At + " a\n4 4 [] [] " + At + " b\n");
+}
+
+TEST(ReadLogbook, HeadingIsNoEvent) {
+    EXPECT_EQ(EntriesOf(Lines({"Operation Logbook Version 1.0", Header("Stib: ON"), Header("Stib: OFF")})),
+              std::string("5 1 [] [] ") + At + " ON\n5 1 [] [] " + At + " OFF\n");
+}
+
+TEST(ReadLogbook, UnsupportedVersionIsNamedAndReadAllTheSame) {
+    ReadResult result;
+    ReadText(Lines({"Operation Logbook Version 2.0", Header("Stib: ON"), Header("Stib: OFF")}), result);
+    EXPECT_TRUE(result.Read);
+    ASSERT_EQ(result.Progress.Messages.size(), 1U);
+    EXPECT_EQ(result.Progress.Messages[0],
+              "Logbuch Version 2.0 wird von dieser Kelvaro Version nicht unterstützt.\r\n"
+              "Informieren Sie sich bei VELTRANDOR über die neueste Kelvaro Version.");
+    EXPECT_EQ(result.Book.EntryCount, 2);
+}
+
+TEST(ReadLogbook, SupportedVersionGivesNoMessage) {
+    ReadResult result;
+    ReadText(Lines({"Operation Logbook Version 1.0", Header("Stib: ON"), Header("Stib: OFF")}), result);
+    EXPECT_TRUE(result.Progress.Messages.empty());
+}
+
+TEST(ReadLogbook, HeadingIsCaseSensitive) {
+    EXPECT_EQ(EntriesOf(Lines({"operation logbook version 1.0", Header("RESET:"), Header("Stib: ON")})),
+              std::string("7 8 [] [] ") + At + " \n");
+}
+
+TEST(ReadLogbook, NoRecognisedLineGivesOneEntryOfTypeMinusOne) {
+    ReadResult result;
+    ReadText("nothing here\r\n", result);
+    EXPECT_TRUE(result.Read);
+    EXPECT_EQ(result.Book.EntryCount, 1);
+    EXPECT_EQ(Dump(result.Book.Entries), "-1 1 [] [] [] \n");
+}
+
+TEST(ReadLogbook, SecondEntryOfATinyFileEndsTheRead) {
+    // The table's upper bound is a hundredth of the size, rounded, and 0 does not grow by doubling.
+    EXPECT_EQ(EntriesOf("RESET:123456\nINFO:1234567\na\nRESET:123456\n"),
+              "7 8 [] [] [RESET:123456] \nerror 2\n");
+    // Two restarts fold into one, which fits.
+    EXPECT_EQ(EntriesOf("RESET:123456\nRESET:123456\n"), "7 8 [] [] [RESET:123456] \n");
+}
+
+TEST(ReadLogbook, FileOfFortyBytesKeepsItsFirstEntry) {
+    const std::string text = "RESET:123456\nINFO:1234567\na\nRESET:123456";
+    ASSERT_EQ(text.size(), 40U);
+    ReadResult result;
+    ReadText(text, result);
+    EXPECT_FALSE(result.Read);
+    EXPECT_EQ(result.Book.LoadState, LoadStates::Reading);
+    EXPECT_EQ(result.Book.EntryCount, 1);
+    EXPECT_EQ(Dump(result.Book.Entries), "7 8 [] [] [RESET:123456] \n");
+}
+
+TEST(ReadLogbook, UpperBoundIsRoundedHalfToEven) {
+    const auto entriesOfSize = [](std::size_t size) {
+        std::string text = "RESET:123456\nINFO:1234567\na\n";
+        text.resize(size, 'x');
+        return EntriesOf(text);
+    };
+    EXPECT_EQ(entriesOfSize(50), "7 8 [] [] [RESET:123456] \nerror 2\n");
+    EXPECT_EQ(entriesOfSize(51), "7 8 [] [] [RESET:123456] \n1 1 [567] [] [INFO:1234567] a\n");
+}
+
+TEST(ReadLogbook, TableGrowsByDoublingItsBound) {
+    // 150 bytes give the upper bound 2; far more entries than that fit.
+    std::string text;
+    for (int i = 0; i < 5; ++i)
+        text += "RESET:123456\nINFO:1234567\na\n";
+    text.resize(150, 'x');
+    ReadResult result;
+    ReadText(text, result);
+    EXPECT_TRUE(result.Read);
+    EXPECT_EQ(result.Book.EntryCount, 10);
+}
+
+TEST(ReadLogbook, ConsecutiveRestartsAndKeyStrokesAreFolded) {
+    EXPECT_EQ(
+        EntriesOf(Lines({Header("RESET:"), Header("RESET:", "05.01.2010 00:00:00.000"),
+                         Header("Key:     ENT down code 0x000D"), Header("Key:     ENT up code 0x000D")})),
+        std::string("7 8 [] [] ") + At + " \n6 5 [] [] " + At + " 0x000D -> ENT\n");
+    EXPECT_EQ(EntriesOf(Lines({Header("Key:     0x0041 -> A"), Header("Key:     0x0042 -> B"),
+                               Header("Key:     0x0043 -> C"), Header("RESET:")})),
+              std::string("9 5 [] [] ") + At + " ABC\n7 8 [] [] " + At + " \n");
+}
+
+TEST(ReadLogbook, FoldingSeesCharactersNotBytesOfUtf8) {
+    // 0x005 and one unknown digit, which counts as -1, is 79, an "O"; two unknown ones would give 0x4EF.
+    EXPECT_EQ(EntriesOf(Lines(
+                  {Header("Key:     0x005\xE4 -> O"), Header("Key:     0x0042 -> B"), Header("RESET:")})),
+              std::string("9 5 [] [] ") + At + " OB\n7 8 [] [] " + At + " \n");
+}
+
+TEST(ReadLogbook, ProgressIsToldEveryHundredEntries) {
+    LogbookOrder order;
+    order.generation = Generation::Classic;
+    order.entries = 5000;
+    ReadResult result;
+    ReadText(LogbookText(order), result);
+    ASSERT_TRUE(result.Read);
+    const std::vector<double>& values = result.Progress.Values;
+    EXPECT_NEAR(static_cast<double>(values.size()), static_cast<double>(result.Book.EntryCount) / 101, 2);
+    EXPECT_EQ(static_cast<int>(values.size()) - 1, result.Progress.EventRounds);
+    EXPECT_EQ(values.back(), 0);
+    for (std::size_t i = 0; i + 1 < values.size(); ++i) {
+        EXPECT_GT(values[i], i == 0 ? 0 : values[i - 1]);
+        EXPECT_LT(values[i], 100);
+    }
+}
+
+TEST(ReadLogbook, StopEndsTheReadThroughItsErrorExit) {
+    LogbookOrder order;
+    order.generation = Generation::Operation;
+    order.entries = 5000;
+    ReadResult result;
+    result.Progress.StopAfterRounds = 3;
+    ReadText(LogbookText(order), result);
+    EXPECT_FALSE(result.Read);
+    EXPECT_EQ(result.Book.LoadState, LoadStates::Reading);
+    EXPECT_EQ(result.Book.EntryCount, 303);
+    EXPECT_EQ(result.Book.Entries.Count(), 303U);
+}
+
+TEST(ReadLogbook, ErrorInTheFirstSeparatedEventLeavesTheOpeningPhase) {
+    ReadResult result;
+    result.Book.EntryCount = 42;
+    ReadText("_________Mon Jan 04 2010___\r\nKey:a:\r\n", result);
+    EXPECT_FALSE(result.Read);
+    EXPECT_EQ(result.Book.LoadState, LoadStates::Opening);
+    EXPECT_EQ(result.Book.EntryCount, 42);
+}

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tools/ModuleText.h"
+
+#include <array>
+
+// Infos and warnings of the modules. The places in braces are explained in TextFiller.h.
+inline constexpr auto InfoTexts = std::to_array<ModuleText>({
+    {"HMI", "ERRCLEARED", "N{N}"},
+    {"HMI", "ERRCLEARED", "P{N}"},
+    {"PLC", "ERRCLEARED", "P{N} CE"},
+    {"HMI", "SCREEN", "Seite {D} angewählt"},
+    {"HMI", "SOFTKEY", "row {D}"},
+    {"HMI", "LOGIN", "Bediener {D}"},
+    {"GEO", "PRESET", "{A}={P}"},
+    {"GEO", "DATUM", "Nullpunkt {D} aktiv"},
+    {"GEO", "MIRROR", "{A} gespiegelt"},
+    {"IPO", "BLOCKSTART", "block {L}"},
+    {"IPO", "FEED", "Override {V} %"},
+    {"IPO", "HOLD", "{A}={P}"},
+    {"IPO", "TARGET", "{A}={P} erreicht"},
+    {"PLC", "STROBE", "M{D}"},
+    {"PLC", "STROBE", "S{N}"},
+    {"PLC", "DOOR", "Tür zu"},
+    {"PLC", "DOOR", "Tür geöffnet"},
+    {"PLC", "COOLANT", "pump {D} on"},
+    {"PLC", "PALLET", "Palette {D} gespannt"},
+    {"EDIT", "PGMOPEN", "P{N}.NC"},
+    {"EDIT", "PGMSAVE", "P{N}.NC"},
+    {"EDIT", "SEARCH", "Satz {L} gefunden"},
+    {"SYS", "MEMORY", "{N} pages free"},
+    {"SYS", "TEMP", "{V} °C"},
+    {"SYS", "BACKUP", "Sicherung {D} fertig"},
+    {"MAIN", "MODE", "AUTO"},
+    {"MAIN", "MODE", "MANUAL"},
+    {"MAIN", "PGMSELECT", "P{N}.NC"},
+    {"MAIN", "PGMEND", "P{N}.NC {L} s"},
+    {"PYTHON", "SCRIPT", "job{D}.py fertig"},
+    {"REMO", "SESSION", "Platz {D} verbunden"},
+    {"REMO", "FILE", "P{N}.NC gelesen"},
+    {"SAFE", "SELFTEST", "Kanal {D} geprüft"},
+    {"MOTION", "AXISMON", "{A} referenziert"},
+    {"MOTION", "SPINDLE", "{N} 1/min"},
+    {"TOOL", "TOOLCALL", "T{T}"},
+    {"TOOL", "TOOLCALL", "T{T} S{N}"},
+    {"TOOL", "TOOLLIFE", "T{T} {V} %"},
+    {"TOOL", "MAGAZINE", "Platz {D} belegt"},
+    {"CYCLE", "PROBING", "{A}={P}"},
+    {"CYCLE", "DRILLING", "Bohrung {D} fertig"},
+    {"DATA", "TABLE", "Zeile {D} geändert"},
+    {"DIAG", "TRACE", "buffer {V} %"},
+    {"BUS", "NODE", "node {D} ready"},
+});
+
+inline constexpr auto WarningTexts = std::to_array<ModuleText>({
+    {"GEO", "LIMITS", "{A} nahe am Endschalter"},
+    {"IPO", "LOOKAHEAD", "Satzpuffer leer, Satz {L}"},
+    {"PLC", "COOLANT", "Kühlmittel {V} %"},
+    {"PLC", "LUBE", "Schmierzyklus überfällig"},
+    {"PLC", "AIR", "air pressure low"},
+    {"HMI", "KEYBOARD", "Key {H} not assigned"},
+    {"EDIT", "PGMSAVE", "P{N}.NC schreibgeschützt"},
+    {"SYS", "MEMORY", "Speicher zu {V} % voll"},
+    {"SYS", "BATTERY", "Pufferbatterie schwach"},
+    {"MAIN", "PGMSELECT", "P{N}.NC changed on disk"},
+    {"PYTHON", "SCRIPT", "job{D}.py läuft zu lange"},
+    {"REMO", "SESSION", "Antwort nach {N} ms"},
+    {"SAFE", "TESTDUE", "Bremsentest in {D} h fällig"},
+    {"MOTION", "DRIVE", "{A}: Motor {V} °C"},
+    {"MOTION", "SPINDLE", "vibration {V} %"},
+    {"TOOL", "TOOLLIFE", "T{T} Standzeit fast erreicht"},
+    {"TOOL", "MAGAZINE", "pocket {D} without tool"},
+    {"CYCLE", "PROBING", "Streuung {P}"},
+    {"DATA", "TABLE", "Zeile {D} gesperrt"},
+    {"DIAG", "TRACE", "trace lost, {N} samples"},
+    {"BUS", "NODE", "node {D}: {N} retries"},
+});
+
+inline constexpr auto MouseTexts = std::to_array<std::string_view>({
+    "X{N} Y{V} left",
+    "X{V} Y{V} left",
+    "X{V} Y{V} right",
+    "X{V} Y{N} wheel",
+});
