@@ -2,12 +2,10 @@
 // read-bench FILE [ROUNDS]: reads a logbook with ReadLogbook and with two yardsticks, in turn, and prints the
 // median times; then what the read costs in memory, measured in a process of its own.
 #include "bench/BareReader.h"
+#include "bench/BenchTools.h"
 #include "bench/PlainReader.h"
 #include "bench/ProcessMemory.h"
-#include "logbook/Mod_FileHandling.h"
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -18,36 +16,6 @@
 #include <unistd.h>
 
 namespace {
-
-class NoProgress : public ReadingProgress {
-  public:
-    void SetValue(double) override {}
-    void ProcessPendingEvents() override {}
-    bool StopWanted() const override { return false; }
-    void ShowMessage(std::string_view) override {}
-};
-
-template <typename Action>
-double Seconds(Action action) {
-    const auto begin = std::chrono::steady_clock::now();
-    action();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
-
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-std::int64_t ReadOnce(const std::string& path, Logbook& logbook) {
-    NoProgress progress;
-    std::string title;
-    if (!ReadLogbook(path, logbook, title, progress, CodePage())) {
-        std::fprintf(stderr, "%s could not be read\n", path.c_str());
-        std::exit(1);
-    }
-    return logbook.EntryCount;
-}
 
 void PrintMemory(const std::string& path, double fileSize) {
     if (const pid_t child = fork(); child != 0) {

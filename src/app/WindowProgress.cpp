@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/WindowProgress.h"
 
+#include "list/QtText.h"
+
 #include <QCoreApplication>
 #include <QMessageBox>
 #include <QProgressBar>
@@ -26,6 +28,5 @@ void WindowProgress::ProcessPendingEvents() {
 }
 
 void WindowProgress::ShowMessage(std::string_view text) {
-    QMessageBox::information(window_, window_->windowTitle(),
-                             QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    QMessageBox::information(window_, window_->windowTitle(), ToQString(text));
 }

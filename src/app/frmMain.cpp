@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/frmMain.h"
 
+#include "dialogs/frmLanguageDialog.h"
 #include "filter/Filter.h"
+#include "filter/FilterStorage.h"
 #include "list/LogbookColumns.h"
+#include "list/QtText.h"
 #include "logbook/Mod_FileHandling.h"
 #include "logbook/modUtil.h"
 
@@ -10,11 +13,13 @@
 #include <QCloseEvent>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QProgressBar>
-#include <QScopeGuard>
 #include <QStatusBar>
 #include <QTableView>
+
+#include <optional>
 
 namespace {
 
@@ -43,14 +48,15 @@ QTableView* MakeLogbookList(QAbstractItemModel* model, QWidget* parent) {
 
 } // namespace
 
-frmMain::frmMain(Logbook& logbook, CodePage codePage)
+frmMain::frmMain(Logbook& logbook, Registry& registry, CodePage codePage)
     : logbook_(logbook),
+      registry_(registry),
       codePage_(std::move(codePage)),
       BaseCaption("Qorvix"),
       model_(new LogbookModel(logbook.Entries, this)),
       lvLogbook(MakeLogbookList(model_, this)),
       sbStatusBar(new QStatusBar(this)),
-      statusText_(new QLabel("Ready", this)),
+      statusText_(new QLabel(this)),
       statusCounts_(new QLabel(this)),
       ProgressBar(new QProgressBar(this)),
       progress_(this, ProgressBar) {
@@ -58,8 +64,10 @@ frmMain::frmMain(Logbook& logbook, CodePage codePage)
     setWindowTitle(BaseCaption);
     resize(14000 / TwipsPerPixel, 12000 / TwipsPerPixel);
     setCentralWidget(lvLogbook);
+    MakeMenus();
 
     sbStatusBar->setObjectName("sbStatusBar");
+    statusText_->setObjectName("statusText");
     statusCounts_->setObjectName("statusCounts");
     ProgressBar->setObjectName("ProgressBar");
     ProgressBar->setTextVisible(false);
@@ -69,6 +77,37 @@ frmMain::frmMain(Logbook& logbook, CodePage codePage)
     sbStatusBar->addPermanentWidget(ProgressBar);
     sbStatusBar->addPermanentWidget(statusCounts_);
     setStatusBar(sbStatusBar);
+    LoadLanguage();
+}
+
+void frmMain::MakeMenus() {
+    mnuExtras = menuBar()->addMenu(QString());
+    mnuExtras->setObjectName("mnuExtras");
+    mnuExtrasDialogLanguage = mnuExtras->addAction(QString(), this, &frmMain::ChooseLanguage);
+    mnuExtrasDialogLanguage->setObjectName("mnuExtrasDialogLanguage");
+}
+
+void frmMain::LoadLanguage() {
+    language_ = ReadLanguage(registry_);
+    qtCatalogue_.SetLanguage(language_);
+    mnuExtras->setTitle(QtText(TextId::mnuExtras, language_));
+    mnuExtrasDialogLanguage->setText(QtText(TextId::mnuExtrasDialogLanguage, language_));
+    model_->SetLanguage(language_);
+    ShowStatus(TextId::StatusReady);
+    if (!statusCounts_->text().isEmpty())
+        ShowLogbookStatus(logbook_.EntryCount);
+}
+
+void frmMain::ChooseLanguage() {
+    if (logbook_.Busy)
+        return;
+    frmLanguageDialog dialog(language_, this);
+    dialog.exec();
+    const std::optional<Language> choice = dialog.Choice();
+    if (!choice || *choice == language_)
+        return;
+    WriteLanguage(registry_, *choice);
+    LoadLanguage();
 }
 
 void frmMain::OpenLogbooks(const QStringList& files) {
@@ -91,16 +130,15 @@ bool frmMain::ReadAndShowLogbook(const QString& file) {
     model_->ClearRows();
     statusCounts_->clear();
     ProgressBar->show();
-    statusText_->setText("Reading log...");
+    ShowStatus(TextId::StatusReading);
     QApplication::setOverrideCursor(Qt::WaitCursor);
 
     std::string title;
-    const bool read = ReadLogbook(file.toStdString(), logbook_, title, progress_, codePage_);
-    if (read)
+    if (ReadLogbook(file.toStdString(), logbook_, title, progress_, codePage_))
         FillList();
 
     QApplication::restoreOverrideCursor();
-    statusText_->setText("Ready");
+    ShowStatus(TextId::StatusReady);
     ProgressBar->hide();
     ShowLogbookStatus(logbook_.EntryCount);
     logbook_.Busy = false;
@@ -115,15 +153,43 @@ bool frmMain::ReadAndShowLogbook(const QString& file) {
     return false;
 }
 
+void frmMain::ApplyFilter() {
+    if (logbook_.Busy)
+        return;
+    FillList();
+    ShowStatus(TextId::StatusReady);
+    ShowLogbookStatus(logbook_.EntryCount);
+}
+
 void frmMain::FillList() {
+    ShowStatus(TextId::StatusFiltering);
+    sbStatusBar->repaint();
+    const QModelIndex current = lvLogbook->currentIndex();
+    const bool selected = current.isValid() && lvLogbook->selectionModel()->isRowSelected(current.row());
+    const EntryNumber before =
+        selected ? model_->Rows()[static_cast<std::size_t>(current.row())].Entry : MostEntries;
+
     logbook_.LoadState = LoadStates::Filtering;
     LogbookRows rows;
-    const bool filled = ApplyFilters(logbook_.Entries, rows);
+    const FilterLists lists = LoadFilters(registry_, language_);
+    const bool filled = ApplyFilters(logbook_.Entries, lists.Filters, rows);
     model_->SetRows(std::move(rows));
-    if (filled)
-        logbook_.LoadState = LoadStates::Done;
-    else
-        QMessageBox::warning(this, "Filter error", "Error applying filters");
+    if (!filled) {
+        QMessageBox::warning(this, QtText(TextId::FilterError, language_),
+                             QtText(TextId::FilterFailed, language_));
+        return;
+    }
+    logbook_.LoadState = LoadStates::Done;
+    if (selected)
+        SelectEntry(before);
+}
+
+void frmMain::SelectEntry(EntryNumber number) {
+    const std::optional<std::size_t> row = RowForEntry(model_->Rows(), number);
+    if (!row)
+        return;
+    lvLogbook->selectRow(static_cast<int>(*row));
+    lvLogbook->scrollTo(model_->index(static_cast<int>(*row), 0));
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
@@ -133,17 +199,24 @@ void frmMain::closeEvent(QCloseEvent* event) {
     event->ignore();
 }
 
+void frmMain::ShowStatus(TextId text) { statusText_->setText(QtText(text, language_)); }
+
 void frmMain::ShowLogbookStatus(std::int64_t total) {
-    statusCounts_->setText(QString("%1 / %2 Items").arg(model_->rowCount()).arg(total));
+    statusCounts_->setText(QString("%1 %2 %3 %4")
+                               .arg(model_->rowCount())
+                               .arg(QtText(TextId::CountSeparator, language_))
+                               .arg(total)
+                               .arg(QtText(TextId::CountUnit, language_)));
 }
 
 void frmMain::ShowLogbookError(std::int16_t code) {
-    const char* const message = code == LoadStates::Opening     ? "Error opening logbook file"
-                                : code == LoadStates::Reading   ? "Error reading logbook file"
-                                : code == LoadStates::Filtering ? "Filter error"
-                                                                : nullptr;
-    if (message != nullptr)
-        QMessageBox::information(this, BaseCaption, message);
+    const std::optional<TextId> message = code == LoadStates::Opening     ? std::optional(TextId::OpenFailed)
+                                          : code == LoadStates::Reading   ? std::optional(TextId::ReadFailed)
+                                          : code == LoadStates::Filtering ? std::optional(TextId::FilterError)
+                                                                          : std::nullopt;
+    if (message)
+        QMessageBox(QMessageBox::NoIcon, BaseCaption, QtText(*message, language_), QMessageBox::Ok, this)
+            .exec();
 }
 
 void frmMain::AddNameToTitle(const QString& name) { setWindowTitle(name + " - " + BaseCaption); }

@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/QtCatalogue.h"
 #include "app/WindowProgress.h"
 #include "list/LogbookModel.h"
 #include "logbook/CodePage.h"
 #include "logbook/Logbook.h"
+#include "settings/Registry.h"
+#include "settings/Texts.h"
 
 #include <QMainWindow>
 
+class QAction;
 class QLabel;
+class QMenu;
 class QProgressBar;
 class QStatusBar;
 class QTableView;
@@ -18,8 +23,8 @@ class frmMain : public QMainWindow {
     Q_OBJECT
 
   public:
-    // The logbook must outlive the window.
-    frmMain(Logbook& logbook, CodePage codePage);
+    // The logbook and the settings must outlive the window.
+    frmMain(Logbook& logbook, Registry& registry, CodePage codePage);
 
     // Opens logbooks one after the other, each in place of the one before; the last that opens stays.
     void OpenLogbooks(const QStringList& files);
@@ -28,21 +33,37 @@ class frmMain : public QMainWindow {
     // has then been told. A file that cannot be opened gives an empty list without a message.
     bool ReadAndShowLogbook(const QString& file);
 
+    // Filters the entries again with the stored filters, and selects the row of the entry that was selected,
+    // or the next one.
+    void ApplyFilter();
+
+    // Asks for the dialog language; another one is stored and applies at once.
+    void ChooseLanguage();
+
   protected:
     // While a logbook is being read, closing ends the read first.
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    void MakeMenus();
+    void LoadLanguage();
+    void FillList();
+    void SelectEntry(EntryNumber number);
+    void ShowStatus(TextId text);
     void ShowLogbookStatus(std::int64_t total);
     void ShowLogbookError(std::int16_t code);
     void AddNameToTitle(const QString& name);
-    void FillList();
 
     Logbook& logbook_;
+    Registry& registry_;
     CodePage codePage_;
+    Language language_;
+    QtCatalogue qtCatalogue_;
     QString BaseCaption;
     LogbookModel* model_;
     QTableView* lvLogbook;
+    QMenu* mnuExtras = nullptr;
+    QAction* mnuExtrasDialogLanguage = nullptr;
     QStatusBar* sbStatusBar;
     QLabel* statusText_;
     QLabel* statusCounts_;

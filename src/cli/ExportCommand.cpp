@@ -4,9 +4,13 @@
 #include "cli/RowWriter.h"
 #include "cli/TerminalProgress.h"
 #include "filter/Filter.h"
+#include "filter/FilterFile.h"
+#include "filter/FilterStorage.h"
 #include "logbook/AtomicFile.h"
 #include "logbook/Mod_FileHandling.h"
 #include "logbook/modUtil.h"
+#include "settings/Registry.h"
+#include "settings/Texts.h"
 
 #include <filesystem>
 #include <fstream>
@@ -42,16 +46,29 @@ bool IsDevice(const std::string& path) {
 } // namespace
 
 int RunExport(const ExportOptions& options) {
+    const auto text = [&](TextId id) { return std::string(Text(id, options.MessageLanguage)); };
+    const CodePage codePage = CodePage::OfUser();
+    std::vector<FilterDefinition> filters = DefaultFilters();
+    if (!options.Filters.empty()) {
+        FilterFileContent content = ImportFilterFile(options.Filters, codePage);
+        if (content.Result != FilterFileContent::Outcome::Read)
+            return Fail(FilterFileMessage(options.Filters, content, options.MessageLanguage));
+        filters = std::move(content.Filters);
+    } else if (options.StoredFilters) {
+        const auto settings = MakeUserSettings();
+        filters = LoadFilters(Registry(*settings), options.MessageLanguage).Filters;
+    }
+
     Logbook logbook;
     std::string title;
     TerminalProgress progress;
-    if (!ReadLogbook(options.File, logbook, title, progress, CodePage::OfUser()))
-        return Fail((logbook.LoadState == LoadStates::Reading ? "Error reading logbook file: "
-                                                              : "Error opening logbook file: ") +
-                    options.File);
+    if (!ReadLogbook(options.File, logbook, title, progress, codePage)) {
+        const bool reading = logbook.LoadState == LoadStates::Reading;
+        return Fail(text(reading ? TextId::ReadFailed : TextId::OpenFailed) + ": " + options.File);
+    }
     LogbookRows rows;
-    if (!ApplyFilters(logbook.Entries, rows))
-        return Fail("Error applying filters");
+    if (!ApplyFilters(logbook.Entries, filters, rows))
+        return Fail(text(TextId::FilterFailed));
 
     if (options.Output.empty()) {
         WriteRows(logbook.Entries, rows, options, std::cout);

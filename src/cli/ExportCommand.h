@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "settings/Language.h"
+
 #include <string>
 
 namespace ExitStatus {
@@ -14,8 +16,12 @@ struct ExportOptions {
     std::string Format = "jsonl"; // or "csv"
     std::string Output;           // "" = standard output
     bool Raw = false;             // CSV: no guard against text that a spreadsheet would run
+    std::string Filters;          // a filter file; "" = none
+    bool StoredFilters = false;   // the filters of the user's settings
+    Language MessageLanguage;     // of messages on standard error
 };
 
-// Prints the list of a logbook, a row a line. Memory does not grow with the rows printed. What goes wrong is
-// told on standard error; nothing has then been printed, and an output file is as it was.
+// Prints the list of a logbook, a row a line: all entries, or those that the filters let through. Memory does
+// not grow with the rows printed. What goes wrong is told on standard error; nothing has then been printed,
+// and an output file is as it was.
 int RunExport(const ExportOptions& options);

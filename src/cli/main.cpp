@@ -12,6 +12,8 @@ int main(int argc, char** argv) {
     app.set_version_flag("--version", "qorvix-cli " QORVIX_VERSION);
     app.require_subcommand(1);
 
+    const CLI::Validator notEmpty(
+        [](const std::string& text) { return std::string(text.empty() ? "the name is empty" : ""); }, "", "");
     ExportOptions exportOptions;
     CLI::App* exportCommand = app.add_subcommand("export", "Print the list of a logbook, a row a line");
     exportCommand->add_option("FILE", exportOptions.File, "The logbook")->required();
@@ -22,6 +24,22 @@ int main(int argc, char** argv) {
                               "Write to this file instead of standard output");
     exportCommand->add_flag("--raw", exportOptions.Raw,
                             "CSV: leave text that a spreadsheet would take for a formula as it is");
+
+    CLI::Option* filters = exportCommand->add_option("--filters", exportOptions.Filters,
+                                                     "Only what this filter file lets through")
+            ->check(notEmpty);
+    exportCommand
+        ->add_flag("--stored-filters", exportOptions.StoredFilters,
+                   "Only what the program's own filters let through")
+        ->excludes(filters);
+    exportCommand
+        ->add_option_function<std::string>(
+            "--language",
+            [&](const std::string& code) {
+                exportOptions.MessageLanguage.Number = code == "de" ? Language::German : Language::English;
+            },
+            "Of messages: en or de")
+        ->check(CLI::IsMember({"en", "de"}));
 
     try {
         app.parse(argc, argv);

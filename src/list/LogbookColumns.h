@@ -2,27 +2,27 @@
 #pragma once
 
 #include "logbook/EntryTable.h"
+#include "settings/Texts.h"
 
 #include <array>
 #include <string>
-#include <string_view>
 
 // The columns of the logbook list, in order.
 enum class LogbookColumn { Event, Data, Sender, Name, Time, Index, Comment };
 
 struct LogbookColumnInfo {
-    std::string_view Header;
+    TextId Header;
     int DefaultWidth; // twips
 };
 
 inline constexpr std::array<LogbookColumnInfo, 7> LogbookColumns{{
-    {"Event type", 2000},
-    {"Data", 5000},
-    {"Sender", 1700},
-    {"Name", 1700},
-    {"Time", 2000},
-    {"Index", 1000},
-    {"Comment", 3000},
+    {TextId::ColumnEvent, 2000},
+    {TextId::ColumnData, 5000},
+    {TextId::ColumnSender, 1700},
+    {TextId::ColumnName, 1700},
+    {TextId::ColumnTime, 2000},
+    {TextId::ColumnIndex, 1000},
+    {TextId::ColumnComment, 3000},
 }};
 
 inline constexpr int LogbookColumnCount = static_cast<int>(LogbookColumns.size());

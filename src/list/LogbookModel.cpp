@@ -2,14 +2,9 @@
 #include "list/LogbookModel.h"
 
 #include "list/LogbookColumns.h"
+#include "list/QtText.h"
 
 #include <utility>
-
-namespace {
-QString ToQString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-} // namespace
 
 LogbookModel::LogbookModel(const EntryTable& entries, QObject* parent)
     : QAbstractTableModel(parent), entries_(entries) {}
@@ -18,6 +13,11 @@ void LogbookModel::SetRows(LogbookRows rows) {
     beginResetModel();
     rows_ = std::move(rows);
     endResetModel();
+}
+
+void LogbookModel::SetLanguage(Language language) {
+    language_ = language;
+    emit headerDataChanged(Qt::Horizontal, 0, LogbookColumnCount - 1);
 }
 
 int LogbookModel::rowCount(const QModelIndex& parent) const {
@@ -42,6 +42,6 @@ QVariant LogbookModel::data(const QModelIndex& index, int role) const {
 QVariant LogbookModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section >= 0 &&
         section < LogbookColumnCount)
-        return ToQString(LogbookColumns[static_cast<std::size_t>(section)].Header);
+        return ToQString(Text(LogbookColumns[static_cast<std::size_t>(section)].Header, language_));
     return {};
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "filter/LogbookRow.h"
+#include "settings/Language.h"
 
 #include <QAbstractTableModel>
 
@@ -22,6 +23,9 @@ class LogbookModel : public QAbstractTableModel {
     void ClearRows() { SetRows({}); }
     const LogbookRows& Rows() const { return rows_; }
 
+    // The language of the column headers.
+    void SetLanguage(Language language);
+
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
@@ -30,4 +34,5 @@ class LogbookModel : public QAbstractTableModel {
   private:
     const EntryTable& entries_;
     LogbookRows rows_;
+    Language language_;
 };

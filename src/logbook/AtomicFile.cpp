@@ -29,6 +29,23 @@ std::error_code FlushToDisk([[maybe_unused]] const std::filesystem::path& file) 
 #endif
 }
 
+// The file that a link names in the end, also when it does not exist yet.
+std::filesystem::path FollowLinks(std::filesystem::path path, std::error_code& error) {
+    constexpr int MostLinks = 40;
+    std::error_code noLink;
+    for (int links = 0; std::filesystem::is_symlink(path, noLink); ++links) {
+        if (links == MostLinks) {
+            error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
+            return path;
+        }
+        const std::filesystem::path link = std::filesystem::read_symlink(path, error);
+        if (error)
+            return path;
+        path = path.parent_path() / link;
+    }
+    return path;
+}
+
 // A new, empty file beside `target`.
 std::filesystem::path MakeTemporary(const std::filesystem::path& target, std::error_code& error) {
     constexpr int Attempts = 100;
@@ -50,13 +67,10 @@ std::filesystem::path MakeTemporary(const std::filesystem::path& target, std::er
 
 } // namespace
 
-AtomicFile::AtomicFile(const std::string& path) : target_(ToPath(path)) {
+AtomicFile::AtomicFile(const std::string& path) : target_(FollowLinks(ToPath(path), error_)) {
+    if (error_)
+        return;
     std::error_code ignored;
-    if (std::filesystem::is_symlink(target_, ignored)) {
-        const std::filesystem::path followed = std::filesystem::weakly_canonical(target_, ignored);
-        if (!ignored)
-            target_ = followed;
-    }
     temporary_ = MakeTemporary(target_, error_);
     if (temporary_.empty())
         return;

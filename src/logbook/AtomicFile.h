@@ -25,8 +25,8 @@ class AtomicFile {
     std::error_code Commit();
 
   private:
+    std::error_code error_;
     std::filesystem::path target_;
     std::filesystem::path temporary_;
     std::ofstream stream_;
-    std::error_code error_;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/EntryTable.h"
 
+#include <algorithm>
+
 void EntryTable::Clear(std::size_t entries, std::size_t textBytes) {
     records_.Clear();
     text_.Clear();
@@ -62,6 +64,21 @@ std::string EntryTable::Time(EntryNumber number) const {
         return stamps_.Text(record.Stamp());
     const std::string_view text = TextOf(number);
     return std::string(text.substr(text.size() - record.StampLengthInText()));
+}
+
+EntryNumber EntryTable::EntryAt(std::size_t place, EntryNumber from) const {
+    EntryNumber low = from; // does not begin behind the place
+    EntryNumber step = 1;
+    while (Count() - low > step && TextBegin(low + step) <= place) {
+        low += step;
+        step *= 2;
+    }
+    EntryNumber high = low + std::min(step, Count() - low); // begins behind it, or is Count
+    while (high - low > 1) {
+        const EntryNumber middle = low + (high - low) / 2;
+        (TextBegin(middle) <= place ? low : high) = middle;
+    }
+    return low;
 }
 
 std::string_view EntryTable::Comment(EntryNumber number) const {

@@ -67,6 +67,10 @@ class EntryTable {
         return number < Count() ? records_[number].TextBegin() : text_.Size();
     }
 
+    // The entry whose part of Text holds a place below the end of Text, searched from an entry on that does
+    // not begin behind it; costs by the logarithm of the distance.
+    EntryNumber EntryAt(std::size_t place, EntryNumber from) const;
+
   private:
     struct Record {
         std::uint64_t TextAndDate; // bits 0-39 where the text begins, 40-63 number of the date

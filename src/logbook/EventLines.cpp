@@ -55,7 +55,7 @@ void ReadEventBody(std::string_view line, ParsedEntry& entry, clsFile& file) {
     entry.AppendToData(LineSeparator);
     do {
         std::string_view continuation;
-        file.ReadLine(continuation);
+        file.ReadPassingLine(continuation);
         entry.AppendToData(Trim(continuation));
         entry.AppendToData(LineSeparator);
     } while (IsContinuationNext(file));

@@ -121,9 +121,11 @@ bool EndUnfinished(Logbook& logbook, EntryCollector& entries) {
 bool ReadLogbook(const std::string& path, Logbook& logbook, std::string& title, ReadingProgress& progress,
                  const CodePage& codePage) {
     logbook.LoadState = LoadStates::Opening;
+    // The file outlives the collector: the last entry's texts may still point into its lines when the error
+    // exit hands it to the table.
+    clsFile file;
     EntryCollector entries(logbook.Entries, codePage);
     try {
-        clsFile file;
         if (!file.OpenFile(path, true)) {
             logbook.LoadState = LoadStates::Done;
             logbook.Entries.ResetToOneEmpty(0);

@@ -14,7 +14,7 @@
 // or was empty; Entries is one empty entry, EntryCount as it was. Opening, Reading: a run-time error ended
 // that phase; Entries keeps what had been stored. It throws nothing of its own.
 //
-// Costs about one look at each byte; memory is about the size of the text without its padding and 16 bytes an
-// entry.
+// Costs about one look at each byte. Memory is about the size of the text without its padding, 16 bytes an
+// entry, and some hundred bytes for each different kind of entry and each different date.
 bool ReadLogbook(const std::string& path, Logbook& logbook, std::string& title, ReadingProgress& progress,
                  const CodePage& codePage);

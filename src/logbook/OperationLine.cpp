@@ -41,7 +41,7 @@ void ReadMessageBlock(ParsedEntry& entry, clsFile& file) {
     file.ReadLine(line);
     entry.Data = WithoutIndent(line);
     while (!file.EndOfFile() && file.NextLineStart() == Indent) {
-        file.ReadLine(line);
+        file.ReadPassingLine(line);
         entry.AppendToData(LineSeparator);
         entry.AppendToData(WithoutIndent(line));
     }

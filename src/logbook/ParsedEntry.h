@@ -3,6 +3,7 @@
 
 #include "logbook/LogbookEntry.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <string>
@@ -47,9 +48,13 @@ class ParsedEntry {
 
     // Makes the joined parts the data, as the entry's own; the parts may point into what the data was.
     void SetData(std::initializer_list<std::string_view> parts) {
-        JoinedParts.clear();
+        std::size_t length = 0;
         for (const std::string_view part : parts)
-            JoinedParts.append(part);
+            length += part.size();
+        JoinedParts.resize(length);
+        char* to = JoinedParts.data();
+        for (const std::string_view part : parts)
+            to += part.copy(to, part.size());
         OwnedData.swap(JoinedParts);
         Data = OwnedData;
     }

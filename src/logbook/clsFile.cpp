@@ -22,6 +22,7 @@ void clsFile::ReleaseLines() {
         SpareBlock = std::move(KeptBlocks.back());
     KeptBlocks.clear();
     LinesAcrossBlocks.clear();
+    BlockHasKeptLines = false;
 }
 
 bool clsFile::OpenFile(const std::string& path, bool closeIfEmpty) {
@@ -79,10 +80,11 @@ void clsFile::GoTo(const Place& place) {
 
 // Puts an empty block in the place of this one, whose lines stay where they are.
 void clsFile::ReplaceBlock(std::int64_t begin) {
-    if (BlockLength != 0) {
+    if (BlockHasKeptLines && BlockLength != 0) {
         KeptBlocks.push_back(std::move(Block));
         Block = SpareBlock ? std::move(SpareBlock) : NewBlock();
     }
+    BlockHasKeptLines = false;
     BlockBegin = begin;
     BlockLength = 0;
     Cursor = 0;
@@ -109,6 +111,21 @@ bool clsFile::ReadBlock() {
 }
 
 bool clsFile::ReadLine(std::string_view& line) {
+    BlockHasKeptLines = true;
+    if (ReadLineWithin(line))
+        return !line.empty() || !EndOfFile();
+    return ReadLineAcrossBlocks(LinesAcrossBlocks.emplace_back(), line);
+}
+
+bool clsFile::ReadPassingLine(std::string_view& line) {
+    if (ReadLineWithin(line))
+        return !line.empty() || !EndOfFile();
+    PassingLineAcrossBlocks.clear();
+    return ReadLineAcrossBlocks(PassingLineAcrossBlocks, line);
+}
+
+// Reads the line if it lies in this block as it is; otherwise consumes nothing.
+inline bool clsFile::ReadLineWithin(std::string_view& line) {
     const char* const begin = Block.get() + Cursor;
     const char* const limit = Block.get() + BlockLength;
     const char* const lineBreak = FindLineBreak(begin);
@@ -116,21 +133,19 @@ bool clsFile::ReadLine(std::string_view& line) {
     if (lineBreak < limit && *lineBreak == '\r')
         ++lineFeed;
     if (lineFeed >= limit || *lineFeed != '\n')
-        return ReadLineAcrossBlocks(line);
-
+        return false;
     line = {begin, static_cast<std::size_t>(lineBreak - begin)};
     Cursor = static_cast<std::size_t>(lineFeed + 1 - Block.get());
     ++LinesReadCount;
-    return !line.empty() || !EndOfFile();
+    return true;
 }
 
 // The line that lies in several blocks, or has a CR that no LF follows, is put together in a text of its own.
-bool clsFile::ReadLineAcrossBlocks(std::string_view& line) {
-    std::string& lineAcrossBlocks = LinesAcrossBlocks.emplace_back();
+bool clsFile::ReadLineAcrossBlocks(std::string& text, std::string_view& line) {
     while (Cursor < BlockLength || ReadBlock()) {
         const char* const begin = Block.get() + Cursor;
         const char* const lineBreak = FindLineBreak(begin);
-        lineAcrossBlocks.append(begin, lineBreak);
+        text.append(begin, lineBreak);
         Cursor = static_cast<std::size_t>(lineBreak - Block.get());
         if (Cursor == BlockLength)
             continue;
@@ -140,7 +155,7 @@ bool clsFile::ReadLineAcrossBlocks(std::string_view& line) {
             break;
         }
     }
-    line = lineAcrossBlocks;
+    line = text;
     return !line.empty() || !EndOfFile();
 }
 

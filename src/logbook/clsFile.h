@@ -52,6 +52,10 @@ class clsFile {
     // RunTimeError when the file has become shorter or fails.
     bool ReadLine(std::string_view& line);
 
+    // The same for a line that is used up at once: it stays valid until the next call of any operation, and
+    // no memory is kept for it.
+    bool ReadPassingLine(std::string_view& line);
+
     // The first two characters of the line that ReadLine would give next, fewer for a shorter line, "" at the
     // end of the file. Consumes nothing. Valid and throws as ReadLine.
     std::string_view NextLineStart();
@@ -83,7 +87,8 @@ class clsFile {
     void GoTo(const Place& place);
     bool ReadBlock();
     void ReplaceBlock(std::int64_t begin);
-    bool ReadLineAcrossBlocks(std::string_view& line);
+    bool ReadLineWithin(std::string_view& line);
+    bool ReadLineAcrossBlocks(std::string& text, std::string_view& line);
 
     std::filebuf File;
     bool Used = false;
@@ -101,7 +106,9 @@ class clsFile {
     std::int64_t BlockBegin = 0; // the block's place in the file
     std::size_t Cursor = 0;      // the next byte to consume, from the block's begin
 
-    std::vector<BlockMemory> KeptBlocks; // earlier blocks that lines handed out may lie in
+    bool BlockHasKeptLines = false;      // lines that were handed out and not released lie in this block
+    std::vector<BlockMemory> KeptBlocks; // earlier blocks with such lines
     BlockMemory SpareBlock;
     std::deque<std::string> LinesAcrossBlocks; // lines that lie in no single block as they are
+    std::string PassingLineAcrossBlocks;
 };

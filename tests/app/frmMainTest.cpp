@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "app/frmMain.h"
 
+#include "filter/FilterStorage.h"
+#include "filter/FilterText.h"
+#include "support/MemorySettings.h"
 #include "support/ReadText.h"
 #include "support/TemporaryFolder.h"
 #include "tools/LogbookWriter.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
@@ -18,7 +24,9 @@ class frmMainTest : public QObject {
   private slots:
     void init() {
         Book = std::make_unique<Logbook>();
-        Window = std::make_unique<frmMain>(*Book, CodePage());
+        Store = std::make_unique<MemorySettings>();
+        Settings = std::make_unique<Registry>(*Store);
+        Window = std::make_unique<frmMain>(*Book, *Settings, CodePage());
         Window->show();
         MessageTexts.clear();
     }
@@ -88,6 +96,98 @@ class frmMainTest : public QObject {
         QVERIFY(MessageTexts.isEmpty());
     }
 
+    void StoredFiltersDecideWhatIsShown() {
+        SaveFilters(*Settings, {{Filter("I|0||||1"), Filter("X|7||||1")}, {}}, "");
+        Window->OpenLogbooks({File("a.log", {Header("BERR:    a"), Header("RESET:"), Header("BERR:    b")})});
+        QCOMPARE(Counts(), QString("2 / 3 Items"));
+        QCOMPARE(Cell(1, 5), QString("2"));
+        SaveFilters(*Settings, {{Filter("I|7||||1")}, {}}, "");
+        Window->ApplyFilter();
+        QCOMPARE(Counts(), QString("1 / 3 Items"));
+        QCOMPARE(Cell(0, 0), QString("Restart"));
+        SaveFilters(*Settings, {{Filter("I|7||||0")}, {}}, "");
+        Window->ApplyFilter();
+        QCOMPARE(Counts(), QString("0 / 3 Items"));
+    }
+
+    void SelectionGoesToTheNextEntryThatIsShown() {
+        std::vector<std::string> lines;
+        for (int i = 0; i < 50; ++i)
+            lines.push_back(Header("BERR:    " + std::to_string(i)));
+        Window->OpenLogbooks({File("a.log", lines)});
+        List()->selectRow(40);
+        SaveFilters(*Settings, {{Filter("I|0||||1"), Filter("X|8|40|||1")}, {}}, "");
+        Window->ApplyFilter();
+        QVERIFY(List()->selectionModel()->isRowSelected(40));
+        QCOMPARE(List()->selectionModel()->selectedRows().size(), 1);
+        QCOMPARE(Cell(40, 5), QString("41"));
+        QVERIFY(List()->viewport()->rect().intersects(List()->visualRect(List()->model()->index(40, 0))));
+
+        SaveFilters(*Settings, {{Filter("I|8|0-5|||1")}, {}}, "");
+        Window->ApplyFilter();
+        QVERIFY(!List()->selectionModel()->hasSelection());
+    }
+
+    void FailedFilterRunKeepsItsRows() {
+        Window->OpenLogbooks({File("a.log", {Header("BERR:    a"), Header("RESET:")})});
+        ParsedEntry bad;
+        bad.EventType = 10;
+        Book->Entries.Append(bad, CodePage());
+        AnswerMessages(1);
+        Window->ApplyFilter();
+        QCOMPARE(MessageTexts, QStringList({"Error applying filters"}));
+        QCOMPARE(Counts(), QString("2 / 2 Items"));
+    }
+
+    void LanguageIsSwitchedAtOnce() {
+        Window->OpenLogbooks({File("a.log", {Header("BERR:    a"), Header("RESET:")})});
+        QCOMPARE(LanguageItem()->text(), QString("&Dialog language..."));
+        ChooseInDialog(1, "cmdOK");
+        QCOMPARE(LanguageItem()->text(), QString("&Dialogsprache..."));
+        QCOMPARE(HeaderTexts(),
+                 QStringList({"Ereignistyp", "Inhalt", "Quelle", "Name", "Zeit", "Index", "Kommentar"}));
+        QCOMPARE(Counts(), QString("2 / 2 Einträge"));
+        QCOMPARE(Window->findChild<QLabel*>("statusText")->text(), QString("Bereit"));
+        QCOMPARE(ReadLanguage(*Settings).Number, 1);
+
+        AnswerMessages(1);
+        Window->OpenLogbooks({File("b.log", {Header("BERR:    a"), "RESET:", std::string(100, ' ')})});
+        QCOMPARE(MessageTexts, QStringList({"Fehler beim Lesen des Logbuchs"}));
+
+        ChooseInDialog(5, "cmdOK");
+        QCOMPARE(LanguageItem()->text(), QString("&Dialog language..."));
+        QCOMPARE(HeaderTexts().first(), QString("Event type"));
+        QCOMPARE(ReadLanguage(*Settings).Number, 5);
+        ChooseInDialog(10, "cmdOK");
+        QCOMPARE(ReadLanguage(*Settings).Number, 10);
+    }
+
+    void UnchangedLanguageWritesNothing() {
+        ChooseInDialog(0, "cmdOK");
+        QVERIFY(Store->Values.empty());
+        ChooseInDialog(1, "cmdCancel");
+        QVERIFY(Store->Values.empty());
+        QCOMPARE(LanguageItem()->text(), QString("&Dialog language..."));
+    }
+
+    void MessageBoxesHaveGermanButtonsToo() {
+        const auto yesText = [this] {
+            QString text;
+            QTimer::singleShot(0, this, [&text] {
+                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                text = box->button(QMessageBox::Yes)->text().remove('&');
+                box->reject();
+            });
+            QMessageBox::question(Window.get(), "", "", QMessageBox::Yes | QMessageBox::No);
+            return text;
+        };
+        QCOMPARE(yesText(), QString("Yes"));
+        ChooseInDialog(1, "cmdOK");
+        QCOMPARE(yesText(), QString("Ja"));
+        ChooseInDialog(0, "cmdOK");
+        QCOMPARE(yesText(), QString("Yes"));
+    }
+
     void ListHasItsColumnWidthsAndSelectsRows() {
         const int pixels[] = {133, 333, 113, 113, 133, 66};
         for (int column = 0; column < 6; ++column)
@@ -106,6 +206,31 @@ class frmMainTest : public QObject {
         return QString::fromStdString(Folder.Write(name, Lines(lines)));
     }
 
+    QAction* LanguageItem() const { return Window->findChild<QAction*>("mnuExtrasDialogLanguage"); }
+
+    QStringList HeaderTexts() const {
+        QStringList texts;
+        for (int column = 0; column < List()->model()->columnCount(); ++column)
+            texts << List()->model()->headerData(column, Qt::Horizontal).toString();
+        return texts;
+    }
+
+    // Opens the language dialog by its menu item, selects a row and presses a button.
+    void ChooseInDialog(int row, const char* button) {
+        QTimer::singleShot(0, this, [row, button] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            dialog->findChild<QComboBox*>("cbDialogLanguage")->setCurrentIndex(row);
+            QTest::mouseClick(dialog->findChild<QPushButton*>(button), Qt::LeftButton);
+        });
+        LanguageItem()->trigger();
+    }
+
+    static FilterDefinition Filter(const char* text) {
+        FilterDefinition filter;
+        ParseFilter(text, filter);
+        return filter;
+    }
+
     // Confirms the next message boxes and remembers their texts.
     void AnswerMessages(int count) {
         if (count == 0)
@@ -122,6 +247,8 @@ class frmMainTest : public QObject {
 
     TemporaryFolder Folder;
     std::unique_ptr<Logbook> Book;
+    std::unique_ptr<MemorySettings> Store;
+    std::unique_ptr<Registry> Settings;
     std::unique_ptr<frmMain> Window;
     QStringList MessageTexts;
 };

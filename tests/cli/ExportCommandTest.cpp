@@ -148,6 +148,61 @@ TEST_F(ExportCommand, VersionMessageGoesToStandardError) {
     EXPECT_THAT(result.Output, StartsWith(R"({"index":0,"type":5)"));
 }
 
+TEST_F(ExportCommand, FilterFileDecidesWhatIsPrinted) {
+    const std::string file = File({Header("BERR:    a"), Header("RESET:"), Header("BERR:    K\xFChlung")});
+    const std::string filters = Folder.Write("a.fil", "[Filters]\r\nI|4||||1\r\nH|0|K\xFChl|||1\r\n");
+    const ProgramResult result =
+        RunCommandLineTool({"export", file, "--filters", filters, "--format", "csv"});
+    EXPECT_EQ(result.ExitStatus, 0);
+    EXPECT_EQ(result.Output, "index,type,event,data,sender,name,time,icon,highlighted,comment\r\n"
+                             "0,4,Fatal,a,,,04.01.2010 12:34:56.789,4,false,\r\n"
+                             "2,4,Fatal,Kühlung,,,04.01.2010 12:34:56.789,18,true,\r\n");
+    const std::string none = Folder.Write("none.fil", "");
+    EXPECT_EQ(RunCommandLineTool({"export", file, "--filters", none}).Output, "");
+}
+
+TEST_F(ExportCommand, StoredFiltersAreThoseOfTheSettings) {
+    const std::string file = File({Header("BERR:    a"), Header("RESET:")});
+    std::filesystem::create_directories(Folder / "config/VELTRANDOR");
+    Folder.Write("config/VELTRANDOR/Qorvix.json",
+                 R"({"Logbook": {"Filters": {"FilterCount": 1, "Filter1": "I|7||||1"}}})");
+    const ProgramResult stored = RunCommandLineTool({"export", file, "--stored-filters"}, Folder / "config");
+    EXPECT_EQ(stored.ExitStatus, 0);
+    EXPECT_THAT(stored.Output, StartsWith(R"({"index":1,"type":7)"));
+    EXPECT_THAT(RunCommandLineTool({"export", file}, Folder / "config").Output,
+                StartsWith(R"({"index":0,"type":4)"));
+    EXPECT_THAT(RunCommandLineTool({"export", file, "--stored-filters"}).Output,
+                StartsWith(R"({"index":0,"type":4)"));
+}
+
+TEST_F(ExportCommand, BadFilterFilePrintsNothing) {
+    const std::string file = File({Header("BERR:    a"), Header("RESET:")});
+    const auto errors = [&](const std::string& filters, const std::string& language) {
+        const ProgramResult result = RunCommandLineTool(
+            {"export", file, "--filters", filters, "--language", language, "--format", "csv"});
+        EXPECT_EQ(result.ExitStatus, 1);
+        EXPECT_EQ(result.Output, "");
+        return result.Errors;
+    };
+    const std::string missing = Folder / "missing.fil";
+    EXPECT_EQ(errors(missing, "en"),
+              "qorvix-cli: Cannot read filter file  \"" + missing + "\" (No such file or directory)\n");
+    EXPECT_EQ(errors(missing, "de"), "qorvix-cli: Filterdatei \"" + missing +
+                                         "\" kann nicht gelesen werden (No such file or directory)\n");
+    const std::string headless = Folder.Write("headless.fil", "I|0||||1\r\n");
+    EXPECT_EQ(errors(headless, "en"), "qorvix-cli: " + headless + ": File includes no filter informaion!\n");
+    EXPECT_EQ(errors(headless, "de"),
+              "qorvix-cli: " + headless + ": Datei enthält keine Filterinformationen!\n");
+    const std::string invalid = Folder.Write("invalid.fil", "[Filters]\r\nI|0||||1\r\nnonsense\r\n");
+    EXPECT_EQ(errors(invalid, "en"), "qorvix-cli: " + invalid + ": invalid filter in line 3\n");
+    EXPECT_EQ(errors(invalid, "de"), "qorvix-cli: " + invalid + ": ungültiger Filter in Zeile 3\n");
+}
+
+TEST_F(ExportCommand, MessagesFollowTheLanguage) {
+    const ProgramResult result = RunCommandLineTool({"export", Folder / "missing.log", "--language", "de"});
+    EXPECT_THAT(result.Errors, HasSubstr("Fehler beim Zugriff auf das Logbuch"));
+}
+
 TEST_F(ExportCommand, WrongUsageIsStatusTwo) {
     for (const std::vector<std::string>& arguments : {std::vector<std::string>{},
                                                       {"export"},

@@ -18,10 +18,11 @@ std::string Quoted(const std::string& argument) {
 
 } // namespace
 
-ProgramResult RunCommandLineTool(const std::vector<std::string>& arguments) {
+ProgramResult RunCommandLineTool(const std::vector<std::string>& arguments, const std::string& configFolder) {
     const TemporaryFolder folder;
-    std::string command = "LC_ALL=C.UTF-8 XDG_CONFIG_HOME=" + Quoted(folder / "config") + " " +
-                          Quoted(QORVIX_PROGRAM_FOLDER "/qorvix-cli");
+    std::string command =
+        "LC_ALL=C.UTF-8 XDG_CONFIG_HOME=" + Quoted(configFolder.empty() ? folder / "config" : configFolder) +
+        " " + Quoted(QORVIX_PROGRAM_FOLDER "/qorvix-cli");
     for (const std::string& argument : arguments)
         command += " " + Quoted(argument);
     command += " >" + Quoted(folder / "output") + " 2>" + Quoted(folder / "errors");

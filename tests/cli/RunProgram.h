@@ -10,5 +10,7 @@ struct ProgramResult {
     std::string Errors;
 };
 
-// Runs qorvix-cli as the shell would, with the locale "C.UTF-8" and none of the user's own settings.
-ProgramResult RunCommandLineTool(const std::vector<std::string>& arguments);
+// Runs qorvix-cli as the shell would, with the locale "C.UTF-8" and the settings below `configFolder`, or
+// none.
+ProgramResult RunCommandLineTool(const std::vector<std::string>& arguments,
+                                 const std::string& configFolder = "");

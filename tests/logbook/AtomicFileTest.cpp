@@ -42,6 +42,25 @@ TEST(AtomicFile, FailureIsToldWithItsReason) {
     EXPECT_EQ(file.Commit(), std::errc::no_such_file_or_directory);
 }
 
+TEST(AtomicFile, FollowsLinksToFilesThatAreMissing) {
+    const TemporaryFolder folder;
+    std::filesystem::create_symlink("second", folder.Path() / "first");
+    std::filesystem::create_symlink("a.txt", folder.Path() / "second");
+    AtomicFile file(folder / "first");
+    file.Stream() << "new";
+    EXPECT_FALSE(file.Commit());
+    EXPECT_EQ(FileContent(folder / "a.txt"), "new");
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.Path() / "second"));
+}
+
+TEST(AtomicFile, LinksInACircleAreAnError) {
+    const TemporaryFolder folder;
+    std::filesystem::create_symlink("b", folder.Path() / "a");
+    std::filesystem::create_symlink("a", folder.Path() / "b");
+    EXPECT_EQ(AtomicFile(folder / "a").Commit(), std::errc::too_many_symbolic_link_levels);
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.Path() / "a"));
+}
+
 TEST(AtomicFile, FollowsLinksAndKeepsPermissions) {
     const TemporaryFolder folder;
     const std::string path = folder.Write("a.txt", "old");

@@ -95,6 +95,19 @@ TEST(EntryTable, TextOfAllEntriesLiesInTheirOrder) {
     EXPECT_EQ(table.Data(1), "two");
 }
 
+TEST(EntryTable, EntryOfAPlaceInTheText) {
+    EntryTable table;
+    std::vector<EntryNumber> owners; // by place in the text
+    for (EntryNumber number = 0; number < 300; ++number) {
+        const std::size_t length = number % 7 == 3 ? 0 : number % 5;
+        Append(table, std::string(length, 'x'));
+        owners.insert(owners.end(), length, number);
+    }
+    for (std::size_t place = 0; place < owners.size(); ++place)
+        for (EntryNumber from = 0; from <= owners[place]; ++from)
+            ASSERT_EQ(table.EntryAt(place, from), owners[place]) << place << " from " << from;
+}
+
 TEST(EntryTable, EntriesOfTheSameKindShareIt) {
     EntryTable table;
     for (int i = 0; i < 6000; ++i)

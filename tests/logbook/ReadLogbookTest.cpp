@@ -178,6 +178,38 @@ TEST(ReadLogbook, StopEndsTheReadThroughItsErrorExit) {
     EXPECT_EQ(result.Book.Entries.Count(), 303U);
 }
 
+TEST(ReadLogbook, KeyStrokeBeforeAnErrorIsKeptWhole) {
+    const std::string key = Header("Key:     ENT down code 0x000D");
+    const std::string kept = std::string("6 5 [] [] ") + At + " ENT down code 0x000D\n";
+    EXPECT_EQ(EntriesOf(Lines({key, "Key:", std::string(100, ' ')})), kept + "error 2\n");
+    EXPECT_EQ(EntriesOf(Lines({Header("Key:     0x0041 -> A"), Header("Key:     0x0042 -> B"), "Key:"})),
+              std::string("9 5 [] [] ") + At + " AB\nerror 2\n");
+    ReadResult result;
+    result.Progress.StopAfterRounds = 2;
+    ReadText(Lines({key, Header("BREG:"), std::string(100, ' ')}), result);
+    EXPECT_EQ(Dump(result.Book.Entries), kept);
+}
+
+TEST(ReadLogbook, KeyStrokeIsKeptAcrossLinesThatAreNoEvents) {
+    // Far more than a block between the stroke and its release.
+    std::vector<std::string> lines{Header("Key:     ENT down code 0x000D mode MANUAL")};
+    lines.insert(lines.end(), 20000, std::string(60, 'x'));
+    lines.push_back(Header("Key:     ENT up"));
+    EXPECT_EQ(EntriesOf(Lines(lines)), std::string("6 5 [] [] ") + At + " 0x000D -> ENT | MANUAL\n");
+}
+
+TEST(ReadLogbook, EventOfManyBlocksIsReadWhole) {
+    std::vector<std::string> lines{Header("Key:     ENT down code 0x000D"), Header("INFO:    GEO AXIS"),
+                                   "first"};
+    lines.insert(lines.end(), 20000, " " + std::string(60, 'x'));
+    std::string data = "first | ";
+    for (int i = 0; i < 20000; ++i)
+        data.append(60, 'x').append(" | ");
+    EXPECT_TRUE(EntriesOf(Lines(lines)) == std::string("6 5 [] [] ") + At +
+                                               " ENT down code 0x000D\n1 1 [GEO] [AXIS] " + At + " " + data +
+                                               "\n");
+}
+
 TEST(ReadLogbook, ErrorInTheFirstSeparatedEventLeavesTheOpeningPhase) {
     ReadResult result;
     result.Book.EntryCount = 42;

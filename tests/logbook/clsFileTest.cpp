@@ -115,6 +115,42 @@ TEST_P(clsFileTest, RewindReadsFromTheFirstByte) {
     EXPECT_EQ(Next(), "a+");
 }
 
+TEST_P(clsFileTest, LinesStayValidUntilTheyAreReleased) {
+    std::string text;
+    for (int i = 0; i < 50; ++i)
+        text += "line " + std::to_string(i) + (i % 3 == 0 ? "\r\n" : i % 3 == 1 ? "\n" : "\r\r\n");
+    Open(text);
+    std::vector<std::string_view> lines(50);
+    std::string_view passing;
+    for (int i = 0; i < 50; ++i) {
+        if (i % 4 == 3) {
+            EXPECT_TRUE(File.ReadPassingLine(passing));
+            EXPECT_EQ(passing, "line " + std::to_string(i));
+        } else {
+            EXPECT_TRUE(File.ReadLine(lines[static_cast<std::size_t>(i)]));
+        }
+        (void)File.NextLineStart();
+    }
+    for (int i = 0; i < 50; ++i)
+        if (i % 4 != 3) {
+            EXPECT_EQ(lines[static_cast<std::size_t>(i)], "line " + std::to_string(i));
+        }
+    File.ReleaseLines();
+    EXPECT_FALSE(File.KeepsLines());
+}
+
+TEST_P(clsFileTest, PassingLinesKeepNoMemory) {
+    Open(std::string(100, 'x') + "\n" + std::string(100, 'y') + "\r\n" + "z");
+    std::string_view line;
+    EXPECT_TRUE(File.ReadPassingLine(line));
+    EXPECT_EQ(line, std::string(100, 'x'));
+    EXPECT_TRUE(File.ReadPassingLine(line));
+    EXPECT_EQ(line, std::string(100, 'y'));
+    EXPECT_TRUE(File.ReadPassingLine(line));
+    EXPECT_EQ(line, "z");
+    EXPECT_FALSE(File.KeepsLines());
+}
+
 TEST_P(clsFileTest, NextLineStartConsumesNothing) {
     Open("one\r\n\r\nx\r\n\rab\n  y");
     const auto start = [&] { return std::string(File.NextLineStart()); };

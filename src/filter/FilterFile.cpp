@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "filter/FilterFile.h"
+
+#include "filter/FilterText.h"
+#include "logbook/AtomicFile.h"
+#include "logbook/modUtil.h"
+#include "settings/Texts.h"
+
+#include <cerrno>
+#include <fstream>
+
+namespace {
+
+constexpr std::string_view Header = "[Filters]";
+
+bool ReadFileLine(std::istream& stream, std::string& line) {
+    if (!std::getline(stream, line))
+        return false;
+    if (line.ends_with('\r'))
+        line.pop_back();
+    return true;
+}
+
+} // namespace
+
+std::vector<std::size_t> FiltersThatLose(std::span<const FilterDefinition> filters,
+                                         const CodePage& codePage) {
+    std::vector<std::size_t> losing;
+    for (std::size_t i = 0; i < filters.size(); ++i)
+        if (codePage.FromUtf8(FormatFilter(filters[i])).Lost != 0)
+            losing.push_back(i);
+    return losing;
+}
+
+std::error_code ExportFilterFile(const std::string& path, std::span<const FilterDefinition> filters,
+                                 const CodePage& codePage) {
+    AtomicFile file(path);
+    file.Stream() << Header << "\r\n";
+    for (const FilterDefinition& filter : filters)
+        file.Stream() << codePage.FromUtf8(FormatFilter(filter)).Text << "\r\n";
+    return file.Commit();
+}
+
+FilterFileContent ImportFilterFile(const std::string& path, const CodePage& codePage) {
+    using Outcome = FilterFileContent::Outcome;
+    FilterFileContent content;
+    errno = 0;
+    std::ifstream stream;
+    std::string line;
+    const auto fails = [&] {
+        content.Result = Outcome::CannotRead;
+        content.Error = {errno != 0 ? errno : EIO, std::generic_category()};
+        return content;
+    };
+    if (std::filesystem::is_directory(ToPath(path))) {
+        errno = EISDIR;
+        return fails();
+    }
+    stream.open(ToPath(path), std::ios::binary);
+    if (!stream)
+        return fails();
+    if (!ReadFileLine(stream, line))
+        return stream.bad() ? fails() : content;
+    if (line != Header) {
+        content.Result = Outcome::NoHeader;
+        return content;
+    }
+    for (content.Line = 2; ReadFileLine(stream, line); ++content.Line) {
+        FilterDefinition filter;
+        if (!ParseFilter(codePage.ToUtf8(line), filter)) {
+            content.Result = Outcome::InvalidLine;
+            return content;
+        }
+        content.Filters.push_back(std::move(filter));
+    }
+    return stream.bad() ? fails() : content;
+}
+
+std::string FilterFileMessage(const std::string& path, const FilterFileContent& content, Language language) {
+    using Outcome = FilterFileContent::Outcome;
+    const auto text = [&](TextId id) { return std::string(Text(id, language)); };
+    switch (content.Result) {
+    case Outcome::Read:
+        break;
+    case Outcome::CannotRead:
+        return text(TextId::FilterFileUnreadableBefore) + path + text(TextId::FilterFileUnreadableAfter) +
+               " (" + content.Error.message() + ")";
+    case Outcome::NoHeader:
+        return path + ": " + text(TextId::FilterFileNoFilters);
+    case Outcome::InvalidLine:
+        return path + ": " + text(TextId::FilterFileLine) + std::to_string(content.Line);
+    }
+    return {};
+}

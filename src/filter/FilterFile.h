@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "filter/FilterDefinition.h"
+#include "logbook/CodePage.h"
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <system_error>
+#include <vector>
+
+// Filter files (*.fil): the line "[Filters]", then a filter a line, in the code page of the control's files.
+
+// The places in the list of the filters that have characters which the code page lacks; an export writes "?"
+// for each. Whoever exports tells the user before the file is replaced.
+std::vector<std::size_t> FiltersThatLose(std::span<const FilterDefinition> filters, const CodePage& codePage);
+
+// Writes the file; an existing one is replaced when the new one is whole.
+std::error_code ExportFilterFile(const std::string& path, std::span<const FilterDefinition> filters,
+                                 const CodePage& codePage);
+
+struct FilterFileContent {
+    enum class Outcome {
+        Read,
+        CannotRead,  // Error tells why
+        NoHeader,    // the first line is not exactly the header
+        InvalidLine, // Line tells which; Filters holds those above it
+    };
+
+    Outcome Result = Outcome::Read;
+    std::error_code Error;
+    std::size_t Line = 0; // from 1
+    std::vector<FilterDefinition> Filters;
+};
+
+// Reads the file; lines may end with CR LF or LF. An empty file is read as an empty list.
+FilterFileContent ImportFilterFile(const std::string& path, const CodePage& codePage);
+
+// The message for a file that was not Read: in the words of the filter dialog where it has some.
+std::string FilterFileMessage(const std::string& path, const FilterFileContent& content, Language language);

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "settings/Texts.h"
+
+#include <QString>
+
+#include <string_view>
+
+// The core's text is UTF-8.
+inline QString ToQString(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+inline QString QtText(TextId id, Language language) { return ToQString(Text(id, language)); }

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+// Holds a lock that other processes take, too, by the name of a lock file; waits until it is free. The lock
+// ends with the object, or with the process. Where the file cannot be made, nothing is held.
+class FileLock {
+  public:
+    explicit FileLock(const std::string& path);
+    ~FileLock();
+    FileLock(const FileLock&) = delete;
+    FileLock& operator=(const FileLock&) = delete;
+
+    bool IsHeld() const { return handle_ >= 0; }
+
+  private:
+    int handle_ = -1;
+};

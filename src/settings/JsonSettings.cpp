@@ -1,0 +1,243 @@
+// SPDX-License-Identifier: MIT
+#include "settings/JsonSettings.h"
+
+#include "logbook/AtomicFile.h"
+#include "logbook/modUtil.h"
+#include "settings/FileLock.h"
+#include "settings/Registry.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <limits>
+
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+bool IsSameName(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return LowerCase(x) == LowerCase(y); });
+}
+
+template <typename Object>
+auto FindMember(Object& key, std::string_view name) {
+    auto member = key.begin();
+    while (member != key.end() && !IsSameName(member.key(), name))
+        ++member;
+    return member;
+}
+
+// Takes the first part off a key path.
+std::string_view TakePart(std::string_view& path) {
+    const std::size_t end = std::min(path.find('\\'), path.size());
+    const std::string_view part = path.substr(0, end);
+    path.remove_prefix(std::min(end + 1, path.size()));
+    return part;
+}
+
+// Leaves of a key path what lies below the application key; false for any other path.
+bool TakeApplicationKey(std::string_view& path) {
+    for (std::string_view application = ApplicationKey; !application.empty();)
+        if (!IsSameName(TakePart(path), TakePart(application)))
+            return false;
+    return true;
+}
+
+const Json* FindKey(const Json& root, std::string_view path) {
+    const Json* key = &root;
+    while (!path.empty()) {
+        const auto member = FindMember(*key, TakePart(path));
+        if (member == key->end() || !member->is_object())
+            return nullptr;
+        key = &*member;
+    }
+    return key;
+}
+
+// The key of a path, made with all above it when it is not there; nullptr when a value stands in its way.
+Json* MakeKey(Json& root, std::string_view path) {
+    Json* key = &root;
+    while (!path.empty()) {
+        const std::string_view part = TakePart(path);
+        auto member = FindMember(*key, part);
+        if (member == key->end()) {
+            key = &((*key)[std::string(part)] = Json::object());
+            continue;
+        }
+        if (!member->is_object())
+            return nullptr;
+        key = &*member;
+    }
+    return key;
+}
+
+void DeleteKey(Json& root, std::string_view path) {
+    const std::size_t last = path.rfind('\\');
+    const std::string_view parentPath =
+        last == std::string_view::npos ? std::string_view{} : path.substr(0, last);
+    const std::string_view name = last == std::string_view::npos ? path : path.substr(last + 1);
+    Json* const parent = const_cast<Json*>(FindKey(root, parentPath));
+    if (parent == nullptr)
+        return;
+    const auto member = FindMember(*parent, name);
+    if (member != parent->end() && member->is_object())
+        parent->erase(member);
+}
+
+bool Apply(const SettingsChange& change, Json& root) {
+    std::string_view path = change.KeyPath;
+    if (!TakeApplicationKey(path))
+        return false;
+    if (change.What == SettingsChange::Kind::DeleteKey) {
+        DeleteKey(root, path);
+        return true;
+    }
+    Json* const key = MakeKey(root, path);
+    if (key == nullptr)
+        return false;
+    if (change.What == SettingsChange::Kind::CreateKey)
+        return true;
+    const auto member = FindMember(*key, change.Name);
+    if (member != key->end() && member->is_object())
+        return false;
+    Json& value = member != key->end() ? *member : (*key)[change.Name];
+    std::visit([&](const auto& newValue) { value = newValue; }, change.Value);
+    return true;
+}
+
+// Parses the whole file; a nesting that no settings have counts as damage, so that no file can exhaust the
+// stack.
+bool Parse(const std::string& text, Json& root) {
+    constexpr int MostDepth = 32;
+    bool tooDeep = false;
+    const auto watchDepth = [&](int depth, Json::parse_event_t, Json&) {
+        tooDeep = tooDeep || depth > MostDepth;
+        return !tooDeep;
+    };
+    root = Json::parse(text, watchDepth, false);
+    return !tooDeep && root.is_object();
+}
+
+std::filesystem::path ConfigurationFolder() {
+    const char* const xdg = std::getenv("XDG_CONFIG_HOME");
+    if (xdg != nullptr && *xdg == '/')
+        return xdg;
+    const char* home = std::getenv("HOME");
+    if (home == nullptr || *home == '\0')
+        if (const passwd* user = getpwuid(getuid()); user != nullptr)
+            home = user->pw_dir;
+    return std::filesystem::path(home == nullptr ? "" : home) / ".config";
+}
+
+} // namespace
+
+std::string JsonSettings::UserFile() {
+    return (ConfigurationFolder() / "VELTRANDOR" / "Qorvix.json").string();
+}
+
+JsonSettings::FileState JsonSettings::StateOfFile() const {
+    struct stat status {};
+    if (::stat(file_.c_str(), &status) != 0)
+        return {};
+    return {static_cast<std::uint64_t>(status.st_dev), static_cast<std::uint64_t>(status.st_ino),
+            static_cast<std::int64_t>(status.st_mtim.tv_sec),
+            static_cast<std::int64_t>(status.st_mtim.tv_nsec), static_cast<std::int64_t>(status.st_size)};
+}
+
+JsonSettings::Content JsonSettings::Load(Json& root) const {
+    root = Json::object();
+    errno = 0;
+    std::ifstream stream(file_, std::ios::binary);
+    if (!stream)
+        return errno == ENOENT || errno == ENOTDIR ? Content::Missing : Content::Unreadable;
+    const std::string text{std::istreambuf_iterator<char>(stream), {}};
+    if (stream.bad())
+        return Content::Unreadable;
+    if (Parse(text, root))
+        return Content::Whole;
+    root = Json::object();
+    return Content::Damaged;
+}
+
+const JsonSettings::Json& JsonSettings::Current() const {
+    // The state is taken first: a file that is replaced in between is then read once more the next time.
+    const FileState state = StateOfFile();
+    if (state.Size < 0)
+        known_ = Json::object();
+    else if (state != knownState_)
+        Load(known_);
+    knownState_ = state;
+    return known_;
+}
+
+std::optional<SettingValue> JsonSettings::Read(std::string_view keyPath, std::string_view name) const {
+    if (!TakeApplicationKey(keyPath))
+        return std::nullopt;
+    const Json* const key = FindKey(Current(), keyPath);
+    if (key == nullptr)
+        return std::nullopt;
+    const auto member = FindMember(*key, name);
+    if (member == key->end())
+        return std::nullopt;
+    if (member->is_string())
+        return member->get<std::string>();
+    using Limits = std::numeric_limits<std::int32_t>;
+    if (member->is_number_unsigned() &&
+        member->get<std::uint64_t>() <= static_cast<std::uint64_t>(Limits::max()))
+        return static_cast<std::int32_t>(member->get<std::uint64_t>());
+    if (!member->is_number_unsigned() && member->is_number_integer() &&
+        member->get<std::int64_t>() >= Limits::min())
+        return static_cast<std::int32_t>(member->get<std::int64_t>());
+    return std::nullopt;
+}
+
+bool JsonSettings::Change(const std::vector<SettingsChange>& changes) {
+    std::error_code error;
+    std::filesystem::create_directories(ToPath(file_).parent_path(), error);
+    const FileLock lock(file_ + ".lock");
+    if (!lock.IsHeld())
+        return false;
+    Json root;
+    const Content before = Load(root);
+    if (before == Content::Unreadable)
+        return false;
+    // A step that cannot be done does not keep the others from being done.
+    bool all = true;
+    for (const SettingsChange& change : changes)
+        all = Apply(change, root) && all;
+    return Store(root, before) && all;
+}
+
+// What a killed writer left; the lock is held, so nobody is writing.
+void JsonSettings::RemoveLeftovers() const {
+    const std::filesystem::path file = ToPath(file_);
+    std::error_code error;
+    for (const auto& item : std::filesystem::directory_iterator(file.parent_path(), error)) {
+        const std::string name = item.path().filename().string();
+        if (name.starts_with(file.filename().string() + ".") && name.ends_with(".part"))
+            std::filesystem::remove(item.path(), error);
+    }
+}
+
+bool JsonSettings::Store(const Json& root, Content before) {
+    RemoveLeftovers();
+    AtomicFile file(file_);
+    file.Stream() << root.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+    if (before == Content::Damaged) {
+        std::error_code error;
+        std::filesystem::copy_file(ToPath(file_), ToPath(file_ + ".damaged"),
+                                   std::filesystem::copy_options::overwrite_existing, error);
+        if (error)
+            return false;
+    }
+    return !file.Commit();
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "settings/SettingsStore.h"
+
+#include <nlohmann/json.hpp>
+
+#include <cstdint>
+#include <string>
+#include <utility>
+
+// The settings in one JSON file: objects are keys, texts and integers are values. The file holds what lies
+// below ApplicationKey; other key paths have no place in it.
+//
+// Every change reads the file anew, replaces it as a whole, and does so under a lock that every running copy
+// of the program takes, so that copies never lose each other's values. A file that cannot be parsed reads as
+// empty and is kept as "<file>.damaged" when a change replaces it.
+class JsonSettings : public SettingsStore {
+  public:
+    explicit JsonSettings(std::string file) : file_(std::move(file)) {}
+
+    // VELTRANDOR/Qorvix.json under $XDG_CONFIG_HOME or ~/.config.
+    static std::string UserFile();
+
+    std::optional<SettingValue> Read(std::string_view keyPath, std::string_view name) const override;
+    bool Change(const std::vector<SettingsChange>& changes) override;
+
+  private:
+    using Json = nlohmann::ordered_json;
+
+    // What tells one state of the file from another: a change always makes a new file.
+    struct FileState {
+        std::uint64_t Device = 0;
+        std::uint64_t Inode = 0;
+        std::int64_t Seconds = 0;
+        std::int64_t Nanoseconds = 0;
+        std::int64_t Size = -1; // -1 = there is no file
+
+        bool operator==(const FileState&) const = default;
+    };
+
+    enum class Content { Missing, Whole, Damaged, Unreadable };
+
+    FileState StateOfFile() const;
+    Content Load(Json& root) const;
+    const Json& Current() const;
+    void RemoveLeftovers() const;
+    bool Store(const Json& root, Content before);
+
+    std::string file_;
+    mutable FileState knownState_;
+    mutable Json known_ = Json::object();
+};

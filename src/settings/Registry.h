@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "settings/SettingsStore.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The key that all settings of the program lie in, directly or in its sub-keys.
+inline constexpr std::string_view ApplicationKey = "Software\\VELTRANDOR\\Qorvix";
+
+// Its sub-keys.
+namespace SubKeys {
+inline constexpr std::string_view None = "";
+inline constexpr std::string_view Logbook = "Logbook";
+inline constexpr std::string_view Filters = "Logbook\\Filters";
+inline constexpr std::string_view FilterDialog = "LogbookFilter";
+inline constexpr std::string_view StringFilterDialog = "StringFilter";
+} // namespace SubKeys
+
+// The kind of a value that a read or a write asks for. Any other number: a read gives its default, a write
+// makes the key and stores nothing.
+enum class SettingType { Text = 1, Integer = 4 };
+
+// The operations on the settings that the program uses. None of them reports an error: a read that finds no
+// value of the wanted kind gives the caller's default, a write that fails leaves the settings as they were.
+class Registry {
+  public:
+    explicit Registry(SettingsStore& store) : store_(store) {}
+
+    // A text longer than this reads as the default, and it ends before its first NUL. In characters.
+    static constexpr std::size_t LongestText = 1023;
+
+    void WriteRegistryValue(std::string_view keyPath, std::string_view valueName, const SettingValue& value,
+                            SettingType type);
+    SettingValue ReadRegistryValue(std::string_view keyPath, std::string_view valueName,
+                                   const SettingValue& defaultValue, SettingType type) const;
+
+    // The same below ApplicationKey; an empty sub-key is that key itself.
+    void WriteSetting(std::string_view valueName, const SettingValue& value, SettingType type,
+                      std::string_view subKey = SubKeys::None);
+    SettingValue ReadSetting(std::string_view valueName, const SettingValue& defaultValue, SettingType type,
+                             std::string_view subKey = SubKeys::None) const;
+    std::string ReadSettingString(std::string_view valueName, std::string_view defaultText,
+                                  std::string_view subKey = SubKeys::None) const;
+    std::int32_t ReadSettingLong(std::string_view valueName, std::int32_t defaultNumber,
+                                 std::string_view subKey = SubKeys::None) const;
+
+    // The same for one sub-key each.
+    std::int32_t ReadLogbookSettingLong(std::string_view name, std::int32_t defaultNumber) const;
+    std::string ReadLogbookSettingString(std::string_view name, std::string_view defaultText) const;
+    SettingValue ReadLogbookSetting(std::string_view name, const SettingValue& defaultValue,
+                                    SettingType type) const;
+    void WriteLogbookSetting(std::string_view name, const SettingValue& value, SettingType type);
+    std::string ReadFilterSettingString(std::string_view name, std::string_view defaultText) const;
+    std::int32_t ReadFilterSettingLong(std::string_view name, std::int32_t defaultNumber) const;
+    void WriteFilterSetting(std::string_view name, const SettingValue& value, SettingType type);
+
+    // Deletes the key of the filters with all its values.
+    void DeleteFilterKey();
+
+    // While one of these lives, what the registry writes and deletes is collected; its end makes all of it at
+    // once. Reads see what is stored. They may not be nested.
+    class Transaction {
+      public:
+        explicit Transaction(Registry& registry);
+        ~Transaction();
+        Transaction(const Transaction&) = delete;
+        Transaction& operator=(const Transaction&) = delete;
+
+      private:
+        Registry& registry_;
+    };
+
+  private:
+    void Change(SettingsChange change);
+
+    SettingsStore& store_;
+    bool collecting_ = false;
+    std::vector<SettingsChange> collected_;
+};
+
+// The settings of the user who runs the program, where this platform keeps them.
+std::unique_ptr<SettingsStore> MakeUserSettings();

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+// A value of the settings: text (UTF-8) or a signed 32-bit integer; the kind is kept.
+using SettingValue = std::variant<std::string, std::int32_t>;
+
+// One step of changing the settings. Key paths are relative to the user's settings, with "\" between their
+// parts.
+struct SettingsChange {
+    enum class Kind { CreateKey, WriteValue, DeleteKey };
+
+    Kind What = Kind::WriteValue;
+    std::string KeyPath;
+    std::string Name;   // for WriteValue
+    SettingValue Value; // for WriteValue
+};
+
+// Where the settings of a user are kept: keys that hold named values and further keys. Names of keys and
+// values compare without case. Nothing here reports an error.
+class SettingsStore {
+  public:
+    virtual ~SettingsStore() = default;
+
+    // The value, or nothing when there is no such key or value.
+    virtual std::optional<SettingValue> Read(std::string_view keyPath, std::string_view name) const = 0;
+
+    // Makes the changes in their order, as one write where the store can; one that cannot be made does not
+    // keep the others from it. False when not all were made. A write that fails leaves the store as it was.
+    virtual bool Change(const std::vector<SettingsChange>& changes) = 0;
+};

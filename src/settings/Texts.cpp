@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "settings/Texts.h"
+
+#include <array>
+#include <cstddef>
+
+namespace {
+
+using Group = AccessKeyGroup;
+
+// Texts stand here as the program has always shown them, also where they look odd. mnuVContent is "&Inhalt"
+// in both languages.
+constexpr auto Table = std::to_array<TextRow>({
+    // The menus of the main window
+    {TextId::mnuFile, "&File", "&Datei", Group::MenuBar},
+    {TextId::mnuView, "&View", "&Ansicht", Group::MenuBar},
+    {TextId::mnuExtras, "E&xtras", "E&xtras", Group::MenuBar},
+    {TextId::mnuHelp, "&Help", "&Hilfe", Group::MenuBar},
+    {TextId::mnuFileOpen, "&Open...", "Ö&ffnen...", Group::FileMenu},
+    {TextId::mnuFileZipLogbook, "&Save log into archive", "&Logbuch in Archiv speichern...", Group::FileMenu},
+    {TextId::mnuFileExit, "E&xit", "&Beenden", Group::FileMenu},
+    {TextId::mnuViewToolbar, "&Tool bar", "&Symbolleiste", Group::ViewMenu},
+    {TextId::mnuViewStatusBar, "&Status bar", "S&tatusleiste", Group::ViewMenu},
+    {TextId::mnuVContent, "&Inhalt", "&Inhalt", Group::ViewMenu},
+    {TextId::mnuViewRefresh, "&Refresh", "&Aktualisieren", Group::ViewMenu},
+    {TextId::mnuExtrasSearch, "&Find...", "&Suchen...", Group::ExtrasMenu},
+    {TextId::mnuExtrasFindNext, "Find &next", "Suche &nächstes", Group::ExtrasMenu},
+    {TextId::mnuExtrasFindPrev, "Find &previous", "Suche &vorheriges", Group::ExtrasMenu},
+    {TextId::mnuExtrasFilters, "&Log filter settings...", "&Logbuch Filtereinstellungen...",
+     Group::ExtrasMenu},
+    {TextId::mnuExtrasDialogLanguage, "&Dialog language...", "&Dialogsprache...", Group::ExtrasMenu},
+    {TextId::mnuHelpContents, "&Contents", "&Inhalt", Group::HelpMenu},
+    {TextId::mnuHelpSearch, "&Search", "&Suche", Group::HelpMenu},
+    {TextId::mnuHelpAbout, "&About...", "&Über...", Group::HelpMenu},
+    {TextId::mnuPopupToggle, "&Toggle highlighting", "&Markierung ein/ausschalten", Group::PopupMenu},
+    {TextId::mnuPopupRemove, "Remove from list", "&Entfernen", Group::PopupMenu},
+    {TextId::mnuPopupProperties, "&View...", "&Ansehen...", Group::PopupMenu},
+    {TextId::mnuPopupEditFilter, "&Edit filter settings...", "&Filtereinstellungen bearbeiten...",
+     Group::PopupMenu},
+    // The tool bar; its other tips are those of the menu items
+    {TextId::ToolBarRefresh, "Refresh", "Aktualisieren"},
+    // The columns of the logbook list
+    {TextId::ColumnEvent, "Event type", "Ereignistyp"},
+    {TextId::ColumnData, "Data", "Inhalt"},
+    {TextId::ColumnSender, "Sender", "Quelle"},
+    {TextId::ColumnName, "Name", "Name"},
+    {TextId::ColumnTime, "Time", "Zeit"},
+    {TextId::ColumnIndex, "Index", "Index"},
+    {TextId::ColumnComment, "Comment", "Kommentar"},
+    // The status bar
+    {TextId::StatusReady, "Ready", "Bereit"},
+    {TextId::StatusReading, "Reading log...", "Lese Logbuch..."},
+    {TextId::StatusFiltering, "Filtering log...", "Filtere Logbuch..."},
+    {TextId::StatusExtracting, "Extracting...", "Extrahiere..."},
+    {TextId::StatusZipping, "Zipping...", "Packe ZIP Datei..."},
+    {TextId::CountSeparator, "/", "/"},
+    {TextId::CountUnit, "Items", "Einträge"},
+    // Messages of the main window
+    {TextId::FilterFailed, "Error applying filters", "Fehler beim Anwenden der Filtereinstellungen"},
+    {TextId::OpenFailed, "Error opening logbook file", "Fehler beim Zugriff auf das Logbuch"},
+    {TextId::ReadFailed, "Error reading logbook file", "Fehler beim Lesen des Logbuchs"},
+    {TextId::FilterError, "Filter error", "Fehler beim Filtern der Datei"},
+    {TextId::LogbookCorrupt, "Logbook is corrupted", "Logbuch ist fehlerhaft"},
+    {TextId::EndReached, "End reached", "Ende erreicht"},
+    {TextId::BeginReached, "Begin reached", "Anfang erreicht"},
+    {TextId::AskSaveComments, "Comments edited. Save into logbook archive?",
+     "Sie haben Kommentare bearbeitet. In Logbuch-Archiv speichern?"},
+    {TextId::ArchiveWithoutLogbook, "The archive contains no logbook file",
+     "Das Archiv enthält keine Logbuchdatei"},
+    {TextId::AskReplaceFilters, "Replace active filter list?", "Aktuelle Filterliste ersetzen?"},
+    {TextId::NoHelpFile, "This application has no help file.",
+     "Hilfeinhalt konnte nicht angezeigt werden. Dieser Anwendung ist keine Hilfedatei zugeordnet."},
+    {TextId::PageSetup, "Page &Setup", "Seite &einrichten"},
+    {TextId::UsageHeading, "Qorvix command line parameters:", "Qorvix Kommandozeilenparameter:"},
+    {TextId::UsageFile, " <file name>: Log/Service file name", " <file name>: Log-/Service-Zip Datiename"},
+    {TextId::UsageEmbedded, " -EMB: Embedded mode", " -EMB: Embedded mode"},
+    // The file dialogs of the main window
+    {TextId::OpenTitle, "Open", "Öffnen"},
+    {TextId::OpenFilter,
+     "All logbook files|*.log;*.qorvix;*.a;service*.zip|Logbook files (*.log)|*.log|Logbook archives "
+     "(*.qorvix)|*.qorvix|ZEK logbook files (*.a)|*.a|Service files (service*.zip)|service*.zip",
+     "Alle Logbuch-Dateien|*.log;*.qorvix;*.a;service*.zip|Logbuch-Dateien (*.log)|*.log|Logbuch-Archive "
+     "(*.qorvix)|*.qorvix|ZEK Logbuch-Dateien (*.a)|*.a|Service-Dateien (service*.zip)|service*.zip"},
+    {TextId::SaveArchiveTitle, "Save Archive", "Archiv speichern"},
+    {TextId::SaveArchiveFilter, "Logbook archive (*.qorvix)|*.qorvix", "Logbuch-Archiv (*.qorvix)|*.qorvix"},
+    // Filter types
+    {TextId::FilterTypeAll, "All entries", "Alle Einträge"},
+    {TextId::FilterTypeInfo, "Info", "Information"},
+    {TextId::FilterTypeWarning, "Warning", "Warnung"},
+    {TextId::FilterTypeError, "Error", "Fehler"},
+    {TextId::FilterTypeFatal, "System error", "Systemfehler"},
+    {TextId::FilterTypeStatus, "Program status change", "Programmstatus Änderung (STIB)"},
+    {TextId::FilterTypeKey, "Key", "Tastenbetätigung"},
+    {TextId::FilterTypeRestart, "Restart", "Restart"},
+    {TextId::FilterTypeNumbers, "Entry number(s)", "Nur bestimmte Nummern"},
+    {TextId::FilterTypeKeystr, "Keystr", "Zeichenfolgen"},
+    // Predefined strings of the filter dialogs
+    {TextId::StringFilterN938, "\"Key without function N938\"-Error",
+     "\"Taste ohne Funktion N938\"-Fehlermeldungen"},
+    {TextId::StringFilterN940, "\"Key without function N940\"-Error",
+     "\"Taste ohne Funktion N940\"-Fehlermeldungen"},
+    // Filter files
+    {TextId::FilterFileUnreadableBefore, "Cannot read filter file  \"", "Filterdatei \""},
+    {TextId::FilterFileUnreadableAfter, "\"", "\" kann nicht gelesen werden"},
+    {TextId::FilterFileNoFilters, "File includes no filter informaion!",
+     "Datei enthält keine Filterinformationen!"},
+    {TextId::FilterFileLine, "invalid filter in line ", "ungültiger Filter in Zeile "},
+    // The language dialog
+    {TextId::LanguageTitle, "Change Language", "Sprache auswählen"},
+    {TextId::LanguageLabel, "&Dialog language:", "&Dialogsprache:", Group::LanguageDialog},
+    {TextId::LanguageNote, "Note: The user interface supports only English and German",
+     "Hinweis: Die Benutzeroberfläche unterstützt nur Englisch und Deutsch"},
+    {TextId::ButtonOK, "OK", "OK"},
+    {TextId::ButtonCancel, "Cancel", "Abbrechen"},
+    // The rows of the language dialog, in the order of their numbers
+    {TextId::LanguageEnglish, "English", "Englisch"},
+    {TextId::LanguageGerman, "German", "Deutsch"},
+    {TextId::LanguageItalian, "Italian", "Italienisch"},
+    {TextId::LanguageSpanish, "Spanish", "Spanisch"},
+    {TextId::LanguageFrench, "French", "Französisch"},
+    {TextId::LanguageSwedish, "Swedish", "Schwedisch"},
+    {TextId::LanguageFinnish, "Finnish", "Finnisch"},
+    {TextId::LanguageCzech, "Czech", "Tschechisch"},
+    {TextId::LanguagePolish, "Polish", "Polnisch"},
+    {TextId::LanguageDanish, "Danish", "Dänisch"},
+    {TextId::LanguageDutch, "Dutch", "Niederländisch"},
+});
+
+constexpr bool RowsAreInOrder() {
+    for (std::size_t i = 0; i < Table.size(); ++i)
+        if (static_cast<std::size_t>(Table[i].Id) != i)
+            return false;
+    return true;
+}
+static_assert(RowsAreInOrder());
+
+} // namespace
+
+std::span<const TextRow> TextTable() { return Table; }
+
+std::string_view Text(TextId id, Language language) {
+    const TextRow& row = Table[static_cast<std::size_t>(id)];
+    return language.IsGerman() ? row.German : row.English;
+}

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "filter/FilterFile.h"
+
+#include "filter/FilterText.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Outcome = FilterFileContent::Outcome;
+
+class FilterFile : public testing::Test {
+  protected:
+    FilterFileContent Import(std::string_view content) const {
+        return ImportFilterFile(Folder.Write("a.fil", content), CodePage());
+    }
+
+    // The filters in their text form, one a line.
+    static std::string Texts(const FilterFileContent& content) {
+        std::string texts;
+        for (const FilterDefinition& filter : content.Filters)
+            texts += FormatFilter(filter) + "\n";
+        return texts;
+    }
+
+    TemporaryFolder Folder;
+};
+
+} // namespace
+
+TEST_F(FilterFile, ExportWritesHeaderAndLines) {
+    const std::string path = Folder / "a.fil";
+    const std::vector<FilterDefinition> filters{{FilterActions::Include, 0, "Kühlung", "", "", true},
+                                                {FilterActions::Highlight, 8, "1-3", "", "", false}};
+    EXPECT_FALSE(ExportFilterFile(path, filters, CodePage()));
+    EXPECT_EQ(FileContent(path), "[Filters]\r\nI|0|K\xFChlung|||1\r\nH|8|1-3|||0\r\n");
+    const FilterFileContent content = ImportFilterFile(path, CodePage());
+    EXPECT_EQ(content.Result, Outcome::Read);
+    EXPECT_EQ(content.Filters, filters);
+}
+
+TEST_F(FilterFile, BothLineEndsAreRead) {
+    EXPECT_EQ(Texts(Import("[Filters]\r\nI|0||||1\r\nX|3|a|||1")), "I|0||||1\nX|3|a|||1\n");
+    EXPECT_EQ(Texts(Import("[Filters]\nI|0||||1\nX|3|a|||1\n")), "I|0||||1\nX|3|a|||1\n");
+    EXPECT_EQ(Import("[Filters]").Result, Outcome::Read);
+}
+
+TEST_F(FilterFile, EmptyFileIsAnEmptyList) {
+    const FilterFileContent content = Import("");
+    EXPECT_EQ(content.Result, Outcome::Read);
+    EXPECT_TRUE(content.Filters.empty());
+}
+
+TEST_F(FilterFile, HeaderIsExact) {
+    for (const char* content :
+         {"[filters]\r\nI|0||||1\r\n", "I|0||||1\r\n", " [Filters]\r\n", "[Filters] \r\n", "\r\n"})
+        EXPECT_EQ(Import(content).Result, Outcome::NoHeader) << content;
+}
+
+TEST_F(FilterFile, InvalidLineStopsAndIsNamed) {
+    const FilterFileContent content = Import("[Filters]\r\nI|0||||1\r\nnonsense\r\nX|3||||1\r\n");
+    EXPECT_EQ(content.Result, Outcome::InvalidLine);
+    EXPECT_EQ(content.Line, 3U);
+    EXPECT_EQ(Texts(content), "I|0||||1\n");
+    EXPECT_EQ(Import("[Filters]\r\n\r\n").Line, 2U);
+}
+
+TEST_F(FilterFile, UnreadableFilesAreToldWithTheReason) {
+    const std::string missing = Folder / "missing.fil";
+    const FilterFileContent content = ImportFilterFile(missing, CodePage());
+    EXPECT_EQ(content.Result, Outcome::CannotRead);
+    EXPECT_EQ(FilterFileMessage(missing, content, {Language::English}),
+              "Cannot read filter file  \"" + missing + "\" (No such file or directory)");
+    EXPECT_EQ(FilterFileMessage(missing, content, {Language::German}),
+              "Filterdatei \"" + missing + "\" kann nicht gelesen werden (No such file or directory)");
+    const FilterFileContent folder = ImportFilterFile(Folder.Path().string(), CodePage());
+    EXPECT_EQ(folder.Result, Outcome::CannotRead);
+    EXPECT_EQ(folder.Error, std::errc::is_a_directory);
+}
+
+TEST_F(FilterFile, LosingFiltersAreNamedBeforeTheExport) {
+    const std::vector<FilterDefinition> filters{{FilterActions::Include, 0, "ü€", "", "", true},
+                                                {FilterActions::Include, 0, "Ω", "", "", true},
+                                                {FilterActions::Include, 1, "", "ř", "", true}};
+    EXPECT_EQ(FiltersThatLose(filters, CodePage()), (std::vector<std::size_t>{1, 2}));
+    EXPECT_FALSE(ExportFilterFile(Folder / "a.fil", filters, CodePage()));
+    EXPECT_EQ(FileContent(Folder / "a.fil"), "[Filters]\r\nI|0|\xFC\x80|||1\r\nI|0|?|||1\r\nI|1||?||1\r\n");
+}
+
+TEST_F(FilterFile, ExportThatFailsKeepsTheOldFile) {
+    EXPECT_EQ(ExportFilterFile(Folder / "no/such/a.fil", DefaultFilters(), CodePage()),
+              std::errc::no_such_file_or_directory);
+}

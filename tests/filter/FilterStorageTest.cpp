@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "filter/FilterStorage.h"
+
+#include "settings/Registry.h"
+#include "support/MemorySettings.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class FilterStorage : public testing::Test {
+  protected:
+    std::string StoredText(const std::string& name) const {
+        const auto value = Store.Read("Software\\VELTRANDOR\\Qorvix\\Logbook\\Filters", name);
+        return value ? std::get<std::string>(*value) : "(none)";
+    }
+    std::int32_t StoredNumber(const std::string& name) const {
+        const auto value = Store.Read("Software\\VELTRANDOR\\Qorvix\\Logbook\\Filters", name);
+        return value ? std::get<std::int32_t>(*value) : -1;
+    }
+    void StoreText(const char* name, const char* text) {
+        Settings.WriteFilterSetting(name, std::string(text), SettingType::Text);
+    }
+    void StoreNumber(const char* name, std::int32_t number) {
+        Settings.WriteFilterSetting(name, number, SettingType::Integer);
+    }
+
+    MemorySettings Store;
+    Registry Settings{Store};
+};
+
+const FilterDefinition Errors{FilterActions::Include, 3, "", "", "", true};
+const FilterDefinition NoN938{FilterActions::Exclude, 0, "N938", "", "", true};
+
+} // namespace
+
+TEST_F(FilterStorage, EmptyStoreGivesTheDefaults) {
+    const FilterLists lists = LoadFilters(Settings, {Language::German});
+    EXPECT_EQ(lists.Filters, DefaultFilters());
+    EXPECT_EQ(lists.StringFilters, DefaultStringFilters({Language::German}));
+}
+
+TEST_F(FilterStorage, ListsComeBack) {
+    SaveFilters(Settings, {{Errors, NoN938}, {{"N938", "keys"}}}, "/home/user/filters");
+    EXPECT_EQ(StoredText("Filter1"), "I|3||||1");
+    EXPECT_EQ(StoredText("Filter2"), "X|0|N938|||1");
+    EXPECT_EQ(StoredNumber("FilterCount"), 2);
+    EXPECT_EQ(StoredText("StringFilter1"), "N938|keys|1");
+    EXPECT_EQ(StoredNumber("SpecialFilterCount"), 1);
+    EXPECT_EQ(StoredText("InitFilterDir"), "/home/user/filters");
+    const FilterLists lists = LoadFilters(Settings, {});
+    EXPECT_EQ(lists.Filters, (std::vector{Errors, NoN938}));
+    EXPECT_EQ(lists.StringFilters, (std::vector<StringFilter>{{"N938", "keys"}, {}}));
+}
+
+TEST_F(FilterStorage, SavingIsOneWrite) {
+    SaveFilters(Settings, {std::vector<FilterDefinition>(50, Errors), {}}, "");
+    EXPECT_EQ(Store.Writes, 1);
+}
+
+TEST_F(FilterStorage, ShorterListLeavesNothingOfALongerOne) {
+    SaveFilters(Settings, {std::vector<FilterDefinition>(5, Errors), {}}, "");
+    SaveFilters(Settings, {std::vector<FilterDefinition>(2, NoN938), {}}, "");
+    EXPECT_EQ(StoredNumber("FilterCount"), 2);
+    EXPECT_EQ(StoredText("Filter2"), "X|0|N938|||1");
+    for (const char* name : {"Filter3", "Filter4", "Filter5"})
+        EXPECT_EQ(StoredText(name), "(none)");
+}
+
+TEST_F(FilterStorage, OneBadFilterReplacesTheWholeList) {
+    StoreNumber("FilterCount", 2);
+    StoreText("Filter1", "I|3||||1");
+    StoreText("Filter2", "Q|0|||1");
+    EXPECT_EQ(LoadFilters(Settings, {}).Filters, DefaultFilters());
+}
+
+TEST_F(FilterStorage, MissingFilterReplacesTheWholeList) {
+    StoreNumber("FilterCount", 2147483647);
+    StoreText("Filter1", "I|3||||1");
+    EXPECT_EQ(LoadFilters(Settings, {}).Filters, DefaultFilters());
+}
+
+TEST_F(FilterStorage, CountBelowOneGivesTheDefaults) {
+    for (const std::int32_t count : {0, -1, -2147483647}) {
+        StoreNumber("FilterCount", count);
+        StoreNumber("SpecialFilterCount", count);
+        EXPECT_EQ(LoadFilters(Settings, {}).Filters, DefaultFilters());
+        EXPECT_EQ(LoadFilters(Settings, {}).StringFilters, DefaultStringFilters({}));
+    }
+}
+
+TEST_F(FilterStorage, OlderFormLoadsAsActive) {
+    StoreNumber("FilterCount", 1);
+    StoreText("Filter1", "I|3|abc|NAME|SENDER");
+    EXPECT_EQ(LoadFilters(Settings, {}).Filters,
+              (std::vector<FilterDefinition>{{FilterActions::Include, 3, "abc", "NAME", "SENDER", true}}));
+}
+
+TEST_F(FilterStorage, ExtraEmptyStringFilterIsSavedToo) {
+    StoreNumber("SpecialFilterCount", 2);
+    StoreText("StringFilter1", "a|b|1");
+    StoreText("StringFilter2", "c|d|1");
+    const FilterLists lists = LoadFilters(Settings, {});
+    EXPECT_EQ(lists.StringFilters, (std::vector<StringFilter>{{"a", "b"}, {"c", "d"}, {}}));
+    SaveFilters(Settings, lists, "");
+    EXPECT_EQ(StoredNumber("SpecialFilterCount"), 3);
+    EXPECT_EQ(StoredText("StringFilter3"), "||1");
+}
+
+TEST_F(FilterStorage, MissingStringFiltersReadAsEmpty) {
+    StoreNumber("SpecialFilterCount", 2);
+    EXPECT_EQ(LoadFilters(Settings, {}).StringFilters, (std::vector<StringFilter>{{}, {}, {}}));
+    StoreNumber("SpecialFilterCount", 2147483647);
+    EXPECT_EQ(LoadFilters(Settings, {}).StringFilters.size(), 32768U);
+}

@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+#include "settings/JsonSettings.h"
+
+#include "settings/Registry.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdlib>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+class JsonSettingsTest : public testing::Test {
+  protected:
+    std::string File() const { return Folder / "Qorvix.json"; }
+
+    TemporaryFolder Folder;
+    JsonSettings Store{File()};
+    Registry Settings{Store};
+};
+
+void WriteNumber(const std::string& file, const std::string& name, std::int32_t number) {
+    JsonSettings store(file);
+    Registry(store).WriteSetting(name, number, SettingType::Integer);
+}
+
+std::int32_t ReadNumber(const std::string& file, const std::string& name) {
+    JsonSettings store(file);
+    return Registry(store).ReadSettingLong(name, -1);
+}
+
+} // namespace
+
+TEST_F(JsonSettingsTest, ObjectsAreKeys) {
+    Settings.WriteSetting("DialogLanguage", 1, SettingType::Integer);
+    Settings.WriteFilterSetting("Filter1", std::string("I|0||||1"), SettingType::Text);
+    EXPECT_EQ(FileContent(File()), "{\n"
+                                   "  \"DialogLanguage\": 1,\n"
+                                   "  \"Logbook\": {\n"
+                                   "    \"Filters\": {\n"
+                                   "      \"Filter1\": \"I|0||||1\"\n"
+                                   "    }\n"
+                                   "  }\n"
+                                   "}\n");
+}
+
+TEST_F(JsonSettingsTest, UserFileFollowsTheEnvironment) {
+    const char* const home = std::getenv("HOME");
+    const std::string savedHome = home == nullptr ? "" : home;
+    ::setenv("XDG_CONFIG_HOME", "/somewhere/config", 1);
+    EXPECT_EQ(JsonSettings::UserFile(), "/somewhere/config/VELTRANDOR/Qorvix.json");
+    ::setenv("HOME", "/home/user", 1);
+    ::setenv("XDG_CONFIG_HOME", "relative", 1);
+    EXPECT_EQ(JsonSettings::UserFile(), "/home/user/.config/VELTRANDOR/Qorvix.json");
+    ::unsetenv("XDG_CONFIG_HOME");
+    EXPECT_EQ(JsonSettings::UserFile(), "/home/user/.config/VELTRANDOR/Qorvix.json");
+    ::setenv("HOME", savedHome.c_str(), 1);
+}
+
+TEST_F(JsonSettingsTest, FoldersAreMade) {
+    const std::string file = Folder / "a/b/Qorvix.json";
+    WriteNumber(file, "A", 5);
+    EXPECT_EQ(ReadNumber(file, "A"), 5);
+}
+
+TEST_F(JsonSettingsTest, OtherProgramsValuesAreSeenAtOnce) {
+    EXPECT_EQ(Settings.ReadSettingLong("A", 0), 0);
+    WriteNumber(File(), "A", 5);
+    EXPECT_EQ(Settings.ReadSettingLong("A", 0), 5);
+    WriteNumber(File(), "A", 6);
+    EXPECT_EQ(Settings.ReadSettingLong("A", 0), 6);
+    std::filesystem::remove(File());
+    EXPECT_EQ(Settings.ReadSettingLong("A", 0), 0);
+}
+
+TEST_F(JsonSettingsTest, DamagedFileReadsAsEmptyAndIsKept) {
+    for (const std::string& content :
+         {std::string("{ \"DialogLanguage\": "), std::string("[1]"), std::string("5"),
+          std::string("\xFF\xFE"), std::string(100000, '['), std::string("{\"a\":1} rest")}) {
+        Folder.Write("Qorvix.json", content);
+        EXPECT_EQ(ReadNumber(File(), "DialogLanguage"), -1);
+        EXPECT_EQ(FileContent(File()), content);
+        WriteNumber(File(), "DialogLanguage", 1);
+        EXPECT_EQ(ReadNumber(File(), "DialogLanguage"), 1);
+        EXPECT_EQ(FileContent(File() + ".damaged"), content);
+    }
+}
+
+TEST_F(JsonSettingsTest, ValuesOfOtherKindsReadAsDefaultAndStay) {
+    Folder.Write("Qorvix.json", R"({"A": 1.5, "B": true, "C": null, "D": 2147483648, "E": -2147483648,
+                                    "F": -2147483649, "G": [1], "H": {"x": 1}, "I": 18446744073709551615})");
+    for (const char* name : {"A", "B", "C", "D", "F", "G", "H", "I"})
+        EXPECT_EQ(Settings.ReadSettingLong(name, 7), 7) << name;
+    EXPECT_EQ(Settings.ReadSettingLong("E", 7), std::numeric_limits<std::int32_t>::min());
+    WriteNumber(File(), "New", 1);
+    const auto content = nlohmann::json::parse(FileContent(File()));
+    EXPECT_EQ(content["A"], 1.5);
+    EXPECT_EQ(content["G"].size(), 1U);
+}
+
+TEST_F(JsonSettingsTest, ValueDoesNotReplaceAKey) {
+    Settings.WriteLogbookSetting("A", 5, SettingType::Integer);
+    Settings.WriteSetting("Logbook", 1, SettingType::Integer);
+    EXPECT_EQ(Settings.ReadLogbookSettingLong("A", 0), 5);
+    Settings.WriteSetting("Value", 1, SettingType::Integer);
+    Settings.WriteSetting("A", 1, SettingType::Integer, "Value");
+    EXPECT_EQ(Settings.ReadSettingLong("Value", 0), 1);
+}
+
+TEST_F(JsonSettingsTest, InvalidUtf8DoesNotBreakTheFile) {
+    Settings.WriteSetting("A", std::string("a\xFFz"), SettingType::Text);
+    EXPECT_EQ(ReadNumber(File(), "B"), -1);
+    EXPECT_EQ(Settings.ReadSettingString("A", ""), "a\xEF\xBF\xBDz");
+}
+
+TEST_F(JsonSettingsTest, FullDiskLeavesTheOldFile) {
+    WriteNumber(File(), "A", 5);
+    const std::string before = FileContent(File());
+    // A process of its own, which may write no file longer than a few bytes.
+    const pid_t child = fork();
+    if (child == 0) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{4, 4};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        JsonSettings store(File());
+        const bool changed =
+            store.Change({{SettingsChange::Kind::WriteValue, std::string(ApplicationKey), "A", 6}});
+        _exit(changed ? 1 : 0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+    EXPECT_EQ(FileContent(File()), before);
+}
+
+TEST_F(JsonSettingsTest, FolderThatCannotBeMadeFailsTheWriteOnly) {
+    Folder.Write("blocked", "");
+    const std::string file = Folder / "blocked/Qorvix.json";
+    WriteNumber(file, "A", 5);
+    EXPECT_EQ(ReadNumber(file, "A"), -1);
+}
+
+TEST_F(JsonSettingsTest, TwoProcessesLoseNoValue) {
+    constexpr int Count = 1000;
+    pid_t children[2] = {};
+    for (int process = 0; process < 2; ++process) {
+        children[process] = fork();
+        if (children[process] == 0) {
+            for (int i = 0; i < Count; ++i)
+                WriteNumber(File(), "P" + std::to_string(process) + "." + std::to_string(i), i);
+            _exit(0);
+        }
+    }
+    for (const pid_t child : children)
+        waitpid(child, nullptr, 0);
+    int lost = 0;
+    for (int process = 0; process < 2; ++process)
+        for (int i = 0; i < Count; ++i)
+            lost +=
+                Settings.ReadSettingLong("P" + std::to_string(process) + "." + std::to_string(i), -1) != i;
+    EXPECT_EQ(lost, 0);
+}
+
+TEST_F(JsonSettingsTest, KilledWriterLeavesAWholeFile) {
+    WriteNumber(File(), "First", 1);
+    int killed = 0;
+    for (int round = 0; round < 30; ++round) {
+        const pid_t child = fork();
+        if (child == 0) {
+            for (int i = 0;; ++i)
+                WriteNumber(File(), "V" + std::to_string(i % 50), i);
+        }
+        ::usleep(static_cast<useconds_t>(1000 + round * 700));
+        ::kill(child, SIGKILL);
+        int status = 0;
+        waitpid(child, &status, 0);
+        killed += WIFSIGNALED(status);
+        ASSERT_FALSE(nlohmann::json::parse(FileContent(File()), nullptr, false).is_discarded());
+        EXPECT_EQ(ReadNumber(File(), "First"), 1);
+    }
+    EXPECT_EQ(killed, 30);
+    // What the killed ones left beside the file is gone after the next write.
+    WriteNumber(File(), "Last", 1);
+    for (const auto& item : std::filesystem::directory_iterator(Folder.Path()))
+        EXPECT_NE(item.path().extension(), ".part");
+    EXPECT_FALSE(std::filesystem::exists(File() + ".damaged"));
+}
