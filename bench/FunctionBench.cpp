@@ -29,7 +29,8 @@ BENCHMARK(BenchFindLineBreak)->Arg(20)->Arg(72);
 
 void BenchEncode(benchmark::State& state) {
     const CodePage codePage;
-    const std::string text = state.range(0) != 0 ? "P2702 K\xFChlmittel fehlt, Pumpe 3" : "P2702 Coolant low, pump 3 is off";
+    const std::string text =
+        state.range(0) != 0 ? "P2702 K\xFChlmittel fehlt, Pumpe 3" : "P2702 Coolant low, pump 3 is off";
     std::string out(text.size() * CodePage::MostBytes + CodePage::Overrun, '\0');
     for (auto _ : state)
         benchmark::DoNotOptimize(codePage.Encode(text, out.data()));

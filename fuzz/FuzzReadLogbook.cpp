@@ -41,11 +41,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::size_t sum = 0;
     for (EntryNumber number = 0; number < logbook.Entries.Count(); ++number) {
         const LogbookEntry entry = logbook.Entries[number];
-        for (const std::string_view text : {entry.Sender, entry.Name, entry.Data, std::string_view(entry.Time)})
+        for (const std::string_view text :
+             {entry.Sender, entry.Name, entry.Data, std::string_view(entry.Time)})
             for (const char c : text)
                 sum += static_cast<unsigned char>(c);
     }
     static volatile std::size_t seen = 0;
-    seen = sum;
+    seen = seen + sum;
     return 0;
 }

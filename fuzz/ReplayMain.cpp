@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Runs a fuzz target over the files of its corpus, so that each input that once mattered is tested with every build.
+// Runs a fuzz target over the files of its corpus, so that each input that once mattered is tested with every
+// build.
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>

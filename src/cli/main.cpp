@@ -20,13 +20,15 @@ int main(int argc, char** argv) {
     exportCommand->add_option("--format", exportOptions.Format, "jsonl (JSON Lines) or csv (RFC 4180)")
         ->check(CLI::IsMember({"jsonl", "csv"}))
         ->capture_default_str();
-    exportCommand->add_option("--output", exportOptions.Output,
-                              "Write to this file instead of standard output");
+    exportCommand
+        ->add_option("--output", exportOptions.Output, "Write to this file instead of standard output")
+        ->check(notEmpty);
     exportCommand->add_flag("--raw", exportOptions.Raw,
                             "CSV: leave text that a spreadsheet would take for a formula as it is");
 
-    CLI::Option* filters = exportCommand->add_option("--filters", exportOptions.Filters,
-                                                     "Only what this filter file lets through")
+    CLI::Option* filters =
+        exportCommand
+            ->add_option("--filters", exportOptions.Filters, "Only what this filter file lets through")
             ->check(notEmpty);
     exportCommand
         ->add_flag("--stored-filters", exportOptions.StoredFilters,

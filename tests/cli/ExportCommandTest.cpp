@@ -204,12 +204,17 @@ TEST_F(ExportCommand, MessagesFollowTheLanguage) {
 }
 
 TEST_F(ExportCommand, WrongUsageIsStatusTwo) {
-    for (const std::vector<std::string>& arguments : {std::vector<std::string>{},
-                                                      {"export"},
-                                                      {"unknown"},
-                                                      {"export", "a.log", "--format", "xml"},
-                                                      {"export", "a.log", "b.log"},
-                                                      {"--unknown"}}) {
+    const std::vector<std::string> wrong[] = {{},
+                                              {"export"},
+                                              {"unknown"},
+                                              {"--unknown"},
+                                              {"export", "a.log", "b.log"},
+                                              {"export", "a.log", "--format", "xml"},
+                                              {"export", "a.log", "--output", ""},
+                                              {"export", "a.log", "--filters", ""},
+                                              {"export", "a.log", "--filters", "a.fil", "--stored-filters"},
+                                              {"export", "a.log", "--language", "fr"}};
+    for (const std::vector<std::string>& arguments : wrong) {
         const ProgramResult result = RunCommandLineTool(arguments);
         EXPECT_EQ(result.ExitStatus, 2);
         EXPECT_EQ(result.Output, "");
