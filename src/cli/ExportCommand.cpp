@@ -3,6 +3,7 @@
 
 #include "cli/RowWriter.h"
 #include "cli/TerminalProgress.h"
+#include "cli/TerminalUser.h"
 #include "filter/Filter.h"
 #include "filter/FilterFile.h"
 #include "filter/FilterStorage.h"
@@ -11,6 +12,7 @@
 #include "logbook/modUtil.h"
 #include "settings/Registry.h"
 #include "settings/Texts.h"
+#include "sources/LogbookSource.h"
 
 #include <filesystem>
 #include <fstream>
@@ -43,26 +45,42 @@ bool IsDevice(const std::string& path) {
            !std::filesystem::is_directory(status);
 }
 
-} // namespace
-
-int RunExport(const ExportOptions& options) {
-    const auto text = [&](TextId id) { return std::string(Text(id, options.MessageLanguage)); };
-    const CodePage codePage = CodePage::OfUser();
-    std::vector<FilterDefinition> filters = DefaultFilters();
-    if (!options.Filters.empty()) {
-        FilterFileContent content = ImportFilterFile(options.Filters, codePage);
-        if (content.Result != FilterFileContent::Outcome::Read)
-            return Fail(FilterFileMessage(options.Filters, content, options.MessageLanguage));
+// The filters that the options name; false when that failed, which has then been told.
+bool ChooseFilters(const ExportOptions& options, const std::string& archiveFilters, const CodePage& codePage,
+                   std::vector<FilterDefinition>& filters) {
+    const std::string& file = archiveFilters.empty() ? options.Filters : archiveFilters;
+    if (!file.empty()) {
+        FilterFileContent content = ImportFilterFile(file, codePage);
+        if (content.Result != FilterFileContent::Outcome::Read) {
+            Fail(FilterFileMessage(file, content, options.MessageLanguage));
+            return false;
+        }
         filters = std::move(content.Filters);
     } else if (options.StoredFilters) {
         const auto settings = MakeUserSettings();
         filters = LoadFilters(Registry(*settings), options.MessageLanguage).Filters;
     }
+    return true;
+}
+
+} // namespace
+
+int RunExport(const ExportOptions& options) {
+    using Answer = UserInterface::Answer;
+    const auto text = [&](TextId id) { return std::string(Text(id, options.MessageLanguage)); };
+    const CodePage codePage = CodePage::OfUser();
+    const TempFolder tempFolder;
+    TerminalUser user(options.ArchiveFilters ? Answer::Yes : Answer::No);
+    const std::optional<LogbookSource> source =
+        ResolveSource(options.File, tempFolder, user, options.MessageLanguage);
+    std::vector<FilterDefinition> filters = DefaultFilters();
+    if (!source || user.MessageShown() || !ChooseFilters(options, source->FilterFile, codePage, filters))
+        return ExitStatus::Failed;
 
     Logbook logbook;
     std::string title;
     TerminalProgress progress;
-    if (!ReadLogbook(options.File, logbook, title, progress, codePage)) {
+    if (!ReadLogbook(source->LogbookFile, logbook, title, progress, codePage)) {
         const bool reading = logbook.LoadState == LoadStates::Reading;
         return Fail(text(reading ? TextId::ReadFailed : TextId::OpenFailed) + ": " + options.File);
     }

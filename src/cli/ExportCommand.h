@@ -18,6 +18,7 @@ struct ExportOptions {
     bool Raw = false;             // CSV: no guard against text that a spreadsheet would run
     std::string Filters;          // a filter file; "" = none
     bool StoredFilters = false;   // the filters of the user's settings
+    bool ArchiveFilters = false;  // the filters that the program's own archive carries, if it does
     Language MessageLanguage;     // of messages on standard error
 };
 

@@ -16,7 +16,10 @@ int main(int argc, char** argv) {
         [](const std::string& text) { return std::string(text.empty() ? "the name is empty" : ""); }, "", "");
     ExportOptions exportOptions;
     CLI::App* exportCommand = app.add_subcommand("export", "Print the list of a logbook, a row a line");
-    exportCommand->add_option("FILE", exportOptions.File, "The logbook")->required();
+    exportCommand
+        ->add_option("FILE", exportOptions.File,
+                     "The logbook, a service archive (*.zip), or an own archive (*.qorvix)")
+        ->required();
     exportCommand->add_option("--format", exportOptions.Format, "jsonl (JSON Lines) or csv (RFC 4180)")
         ->check(CLI::IsMember({"jsonl", "csv"}))
         ->capture_default_str();
@@ -30,10 +33,15 @@ int main(int argc, char** argv) {
         exportCommand
             ->add_option("--filters", exportOptions.Filters, "Only what this filter file lets through")
             ->check(notEmpty);
+    CLI::Option* storedFilters = exportCommand
+                                     ->add_flag("--stored-filters", exportOptions.StoredFilters,
+                                                "Only what the program's own filters let through")
+                                     ->excludes(filters);
     exportCommand
-        ->add_flag("--stored-filters", exportOptions.StoredFilters,
-                   "Only what the program's own filters let through")
-        ->excludes(filters);
+        ->add_flag("--use-archive-filters", exportOptions.ArchiveFilters,
+                   "Only what the filters in the program's own archive let through, if it has some")
+        ->excludes(filters)
+        ->excludes(storedFilters);
     exportCommand
         ->add_option_function<std::string>(
             "--language",

@@ -2,6 +2,7 @@
 #include "cli/RunProgram.h"
 #include "support/ReadText.h"
 #include "support/TemporaryFolder.h"
+#include "support/ZipWriter.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -203,17 +204,42 @@ TEST_F(ExportCommand, MessagesFollowTheLanguage) {
     EXPECT_THAT(result.Errors, HasSubstr("Fehler beim Zugriff auf das Logbuch"));
 }
 
+TEST_F(ExportCommand, ArchivesAreOpenedLikeLogbooks) {
+    const std::string log = Lines({Header("BERR:    a"), Header("RESET:")});
+    WriteZip(Folder / "service.zip", {{"logbook/lb_act.log", log}});
+    WriteZip(Folder / "own.qorvix", {{"x.log", log}, {"x.fil", "[Filters]\r\nI|7||||1\r\n"}});
+    const std::string all = RunCommandLineTool({"export", Folder.Write("x.log", log)}).Output;
+    EXPECT_THAT(all, StartsWith(R"({"index":0,"type":4)"));
+    EXPECT_EQ(RunCommandLineTool({"export", Folder / "service.zip"}).Output, all);
+    EXPECT_EQ(RunCommandLineTool({"export", Folder / "own.qorvix"}).Output, all);
+    const ProgramResult filtered =
+        RunCommandLineTool({"export", Folder / "own.qorvix", "--use-archive-filters"});
+    EXPECT_THAT(filtered.Output, StartsWith(R"({"index":1,"type":7)"));
+    EXPECT_EQ(RunCommandLineTool({"export", Folder / "service.zip", "--use-archive-filters"}).Output, all);
+}
+
+TEST_F(ExportCommand, ArchiveWithoutLogbookIsToldOnce) {
+    WriteZip(Folder / "a.zip", {{"readme", "x"}});
+    const ProgramResult result = RunCommandLineTool({"export", Folder / "a.zip", "--language", "de"});
+    EXPECT_EQ(result.ExitStatus, 1);
+    EXPECT_EQ(result.Output, "");
+    EXPECT_EQ(result.Errors,
+              "qorvix-cli: Das Archiv enthält keine Logbuchdatei (" + (Folder / "a.zip") + ")\n");
+}
+
 TEST_F(ExportCommand, WrongUsageIsStatusTwo) {
-    const std::vector<std::string> wrong[] = {{},
-                                              {"export"},
-                                              {"unknown"},
-                                              {"--unknown"},
-                                              {"export", "a.log", "b.log"},
-                                              {"export", "a.log", "--format", "xml"},
-                                              {"export", "a.log", "--output", ""},
-                                              {"export", "a.log", "--filters", ""},
-                                              {"export", "a.log", "--filters", "a.fil", "--stored-filters"},
-                                              {"export", "a.log", "--language", "fr"}};
+    const std::vector<std::string> wrong[] = {
+        {},
+        {"export"},
+        {"unknown"},
+        {"--unknown"},
+        {"export", "a.log", "b.log"},
+        {"export", "a.log", "--format", "xml"},
+        {"export", "a.log", "--output", ""},
+        {"export", "a.log", "--filters", ""},
+        {"export", "a.log", "--filters", "a.fil", "--stored-filters"},
+        {"export", "a.log", "--use-archive-filters", "--stored-filters"},
+        {"export", "a.log", "--language", "fr"}};
     for (const std::vector<std::string>& arguments : wrong) {
         const ProgramResult result = RunCommandLineTool(arguments);
         EXPECT_EQ(result.ExitStatus, 2);

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "sources/UserInterface.h"
+
+#include <iostream>
+
+// Opening logbooks on a terminal: messages go to standard error, and the one question has been answered by an
+// option.
+class TerminalUser : public UserInterface {
+  public:
+    explicit TerminalUser(Answer answer) : answer_(answer) {}
+
+    void ShowMessage(std::string_view text, MessageIcon) override {
+        std::cerr << "qorvix-cli: " << text << std::endl;
+        messageShown_ = true;
+    }
+    Answer Ask(TextId) override { return answer_; }
+    void ShowStatus(TextId) override {}
+    void RestoreStatus() override {}
+
+    bool MessageShown() const { return messageShown_; }
+
+  private:
+    Answer answer_;
+    bool messageShown_ = false;
+};

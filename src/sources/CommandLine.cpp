@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "sources/CommandLine.h"
+
+#include "logbook/modUtil.h"
+#include "settings/Texts.h"
+
+#include <algorithm>
+
+namespace {
+
+std::string UpperCase(std::string_view text) {
+    std::string upper(text);
+    std::transform(upper.begin(), upper.end(), upper.begin(),
+                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+    return upper;
+}
+
+// Takes the next word off the line; "" ends the command line.
+std::string_view TakeToken(std::string_view& rest) {
+    rest.remove_prefix(std::min(rest.find_first_not_of(Blank), rest.size()));
+    if (!rest.starts_with('"')) {
+        const std::size_t blank = rest.find(Blank);
+        const std::string_view token = rest.substr(0, blank);
+        rest.remove_prefix(blank == std::string_view::npos ? rest.size() : blank + 1);
+        return token;
+    }
+    const std::size_t closing = rest.find('"', 1);
+    if (closing == std::string_view::npos || closing == 1) {
+        const std::string_view token = rest.substr(1);
+        rest = {};
+        return token;
+    }
+    const std::string_view token = rest.substr(1, closing - 1);
+    rest.remove_prefix(closing + 1);
+    return token;
+}
+
+void ApplyOption(std::string_view text, CommandLine& commandLine) {
+    const std::string option = UpperCase(text);
+    if (option.starts_with('X'))
+        return;
+    if (option.starts_with("EMB"))
+        commandLine.Embedded = true;
+    else
+        commandLine.ShowUsage = true;
+}
+
+} // namespace
+
+CommandLine ParseCommandLine(std::string_view line, const std::function<bool(std::string_view)>& isFile) {
+    CommandLine commandLine;
+    for (std::string_view token = TakeToken(line); !token.empty(); token = TakeToken(line)) {
+        const bool isOption = token.front() == '-' || (token.front() == '/' && !isFile(token));
+        if (isOption)
+            ApplyOption(token.substr(1), commandLine);
+        else if (token == "?")
+            commandLine.ShowUsage = true;
+        else
+            commandLine.Sources.emplace_back(token);
+    }
+    commandLine.ShowUsage = commandLine.ShowUsage && !commandLine.Embedded;
+    return commandLine;
+}
+
+std::string JoinArguments(const std::vector<std::string>& arguments) {
+    std::string line;
+    for (const std::string& argument : arguments) {
+        const bool quoted = argument.find(Blank) != std::string::npos;
+        line += line.empty() ? "" : " ";
+        line += quoted ? '"' + argument + '"' : argument;
+    }
+    return line;
+}
+
+bool IsSlashFile(std::string_view word) {
+    return word.find('/', 1) != std::string_view::npos || FileExists(std::string(word));
+}
+
+std::string UsageText(Language language) {
+    const auto text = [&](TextId id) { return std::string(Text(id, language)); };
+    return text(TextId::UsageHeading) + "\r\n\r\n" + text(TextId::UsageFile) + "\r\n" +
+           text(TextId::UsageEmbedded);
+}

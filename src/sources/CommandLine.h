@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "settings/Language.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// What a command line asks for.
+struct CommandLine {
+    std::vector<std::string> Sources; // logbooks to open one after the other
+    bool Embedded = false;            // the usage is never shown
+    bool ShowUsage = false;           // an unknown option or "?" was there, and Embedded was not
+
+    bool operator==(const CommandLine&) const = default;
+};
+
+// Reads the command line, everything behind the program's own path as one text. Words are separated by
+// blanks; one in double quotes may hold blanks. "-" or "/" begins an option: those with X are passed over,
+// EMB sets Embedded, any other shows the usage. An empty pair of quotes takes the rest of the line as its
+// word.
+//
+// `isFile` tells of a word that begins with "/" whether it names a file: file names begin so on some systems.
+CommandLine ParseCommandLine(std::string_view line, const std::function<bool(std::string_view)>& isFile);
+
+// The arguments of the process as one command line; an argument that holds a blank is put in double quotes.
+std::string JoinArguments(const std::vector<std::string>& arguments);
+
+// True for a word that begins with "/" and holds a further one or names an existing file.
+bool IsSlashFile(std::string_view word);
+
+// The message that explains the command line.
+std::string UsageText(Language language);

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "sources/LogbookSource.h"
+
+#include "logbook/modUtil.h"
+#include "sources/ZipArchive.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <vector>
+
+namespace {
+
+constexpr std::string_view SystemArchive = "sysroot.zip";
+constexpr std::string_view OperationLog = "runtime\\operation.log";
+constexpr std::string_view ClassicLog = "logbook\\lb_act.log";
+constexpr std::string_view LogExtension = ".log";
+constexpr std::string_view FilterExtension = ".fil";
+constexpr std::string_view CommentsExtension = ".cmt";
+
+std::string LowerCase(std::string_view text) {
+    std::string lower(text);
+    std::transform(lower.begin(), lower.end(), lower.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return lower;
+}
+
+bool EndsWith(std::string_view text, std::string_view lowerEnd) {
+    return LowerCase(text).ends_with(lowerEnd);
+}
+
+std::string FileNameOf(const std::string& path) {
+    std::string folder;
+    std::string fileName;
+    SplitPath(path, folder, fileName);
+    return fileName;
+}
+
+// Unpacks the logbook of an archive, with what belongs to it, into a folder that is empty before.
+class Extraction {
+  public:
+    Extraction(const std::filesystem::path& archive, std::filesystem::path folder)
+        : archive_(archive), folder_(std::move(folder)) {}
+
+    // The base name of the logbook, which then lies in the folder with the extension ".log"; nothing when the
+    // archive has none or it could not be unpacked whole.
+    std::optional<std::string> Extract() {
+        const auto system =
+            std::find_if(archive_.Members().begin(), archive_.Members().end(),
+                         [](const ZipMember& m) { return LowerCase(m.Name) == SystemArchive; });
+        const std::optional<std::size_t> classic = archive_.FindMember(ClassicLog);
+        if (system == archive_.Members().end() && !classic)
+            return ExtractOwn();
+
+        std::optional<std::string> base;
+        if (system != archive_.Members().end() &&
+            ExtractOperationLog(static_cast<std::size_t>(system - archive_.Members().begin())))
+            base = "operation";
+        // The classic logbook, where both are there, is the one that is shown.
+        if (classic && Unpack(archive_, *classic, "lb_act.log"))
+            base = "lb_act";
+        return base;
+    }
+
+    // Why it failed; "" when the archive just has no logbook.
+    const std::string& Reason() const { return reason_; }
+
+  private:
+    bool Unpack(ZipArchive& archive, std::size_t member, std::string_view fileName) {
+        if (archive.Unpack(member, folder_ / ToPath(fileName)))
+            return true;
+        reason_ = archive.Error();
+        return false;
+    }
+
+    bool ExtractOperationLog(std::size_t systemArchive) {
+        if (!Unpack(archive_, systemArchive, SystemArchive))
+            return false;
+        ZipArchive inner(folder_ / SystemArchive);
+        const std::optional<std::size_t> member = inner.FindMember(OperationLog);
+        if (!member) {
+            reason_ = inner.Error();
+            return false;
+        }
+        return Unpack(inner, *member, "operation.log");
+    }
+
+    std::optional<std::string> ExtractOwn() {
+        const std::vector<ZipMember>& members = archive_.Members();
+        const auto log = std::find_if(members.begin(), members.end(), [](const ZipMember& member) {
+            return EndsWith(member.Name, LogExtension);
+        });
+        if (log == members.end()) {
+            reason_ = archive_.Error();
+            return std::nullopt;
+        }
+        const std::string base(log->FileName().substr(0, log->FileName().size() - LogExtension.size()));
+        for (const std::string_view extension : {LogExtension, FilterExtension, CommentsExtension}) {
+            const auto part = std::find_if(members.begin(), members.end(), [&](const ZipMember& member) {
+                return LowerCase(member.FileName()) == LowerCase(base).append(extension);
+            });
+            if (part != members.end() && !Unpack(archive_, static_cast<std::size_t>(part - members.begin()),
+                                                 std::string(base).append(extension)))
+                return std::nullopt;
+        }
+        return base;
+    }
+
+    ZipArchive archive_;
+    std::filesystem::path folder_;
+    std::string reason_;
+};
+
+// Puts the unpacked files in the place of all files of that base name from an earlier archive.
+void TakeOver(const std::filesystem::path& from, const std::filesystem::path& folder,
+              const std::string& base) {
+    for (const std::string_view extension : {LogExtension, FilterExtension, CommentsExtension}) {
+        const std::filesystem::path file = ToPath(std::string(base).append(extension));
+        std::error_code error;
+        std::filesystem::remove(folder / file, error);
+        std::filesystem::rename(from / file, folder / file, error);
+    }
+}
+
+std::optional<LogbookSource> ResolveArchive(const std::string& path, const TempFolder& tempFolder,
+                                            UserInterface& user, Language language) {
+    // Unpacked apart, so that the logbook that is shown keeps its files until it is clear that this one
+    // replaces it.
+    const std::filesystem::path unpacked = tempFolder.MakeSubfolder();
+    user.ShowStatus(TextId::StatusExtracting);
+    Extraction extraction(ToPath(path), unpacked);
+    const std::optional<std::string> base = extraction.Extract();
+    user.RestoreStatus();
+
+    std::optional<LogbookSource> source;
+    const auto inTemp = [&](std::string_view name) { return (tempFolder.Path() / ToPath(name)).string(); };
+    const auto isUnpacked = [&](std::string_view extension) {
+        return FileExists((unpacked / ToPath(std::string(*base).append(extension))).string());
+    };
+    if (!base) {
+        std::string message(Text(TextId::ArchiveWithoutLogbook, language));
+        message.append(" (").append(path);
+        if (!extraction.Reason().empty())
+            message.append(": ").append(extraction.Reason());
+        user.ShowMessage(message.append(")"), UserInterface::MessageIcon::Exclamation);
+        const std::string fileName = FileNameOf(path);
+        source = LogbookSource{fileName.substr(0, fileName.find('.')), (unpacked / ToPath(fileName)).string(),
+                               "", ""};
+    } else {
+        const UserInterface::Answer answer =
+            isUnpacked(FilterExtension) ? user.Ask(TextId::AskReplaceFilters) : UserInterface::Answer::No;
+        if (answer != UserInterface::Answer::Cancel) {
+            const bool hasComments = isUnpacked(CommentsExtension);
+            TakeOver(unpacked, tempFolder.Path(), *base);
+            source = LogbookSource{base->substr(0, base->find('.')), inTemp(*base + ".log"),
+                                   hasComments ? inTemp(*base + ".cmt") : "",
+                                   answer == UserInterface::Answer::Yes ? inTemp(*base + ".fil") : ""};
+        }
+    }
+    std::error_code ignored;
+    std::filesystem::remove_all(unpacked, ignored);
+    return source;
+}
+
+} // namespace
+
+bool IsArchive(std::string_view fileName) {
+    return EndsWith(fileName, ".zip") || EndsWith(fileName, ".qorvix");
+}
+
+std::optional<LogbookSource> ResolveSource(const std::string& path, const TempFolder& tempFolder,
+                                           UserInterface& user, Language language) {
+    const std::string fileName = FileNameOf(path);
+    if (IsArchive(fileName))
+        return ResolveArchive(path, tempFolder, user, language);
+    return LogbookSource{fileName.substr(0, fileName.find('.')), path, "", ""};
+}

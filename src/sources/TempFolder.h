@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+// The program's scratch folder: "Qorvix" in the system's temporary folder, for its owner only. A folder that
+// a crashed copy of the program left is emptied and used. Where a running copy holds it, or it is a link or
+// somebody else's, this copy takes a folder of its own beside it, "Qorvix-" and six random characters.
+//
+// The object holds the folder; its end empties and removes it, and no other. Failures of that are ignored.
+class TempFolder {
+  public:
+    // `parent` is the system's temporary folder, or what stands for it in a test.
+    explicit TempFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path());
+    ~TempFolder();
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+
+    // Empty when no folder could be made.
+    const std::filesystem::path& Path() const { return path_; }
+
+    // A new folder in it, for what is not yet decided upon; empty when it could not be made.
+    std::filesystem::path MakeSubfolder() const;
+
+  private:
+    bool Take(const std::filesystem::path& folder);
+    void Empty() const;
+
+    std::filesystem::path path_;
+    int lock_ = -1;
+};

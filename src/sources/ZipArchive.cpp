@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "sources/ZipArchive.h"
+
+#include <zip.h>
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+
+namespace {
+
+constexpr std::uint64_t MostUnpacked = std::uint64_t{4} << 30U;
+constexpr std::uint64_t AlwaysUnpacked = std::uint64_t{64} << 20U;
+constexpr std::uint64_t MostExpansion = 1000;
+
+struct CloseMember {
+    void operator()(zip_file_t* member) const { zip_fclose(member); }
+};
+
+} // namespace
+
+std::string_view ZipMember::FileName() const {
+    const std::size_t separator = Name.rfind('\\');
+    return std::string_view(Name).substr(separator == std::string::npos ? 0 : separator + 1);
+}
+
+void ZipArchive::Close::operator()(zip* archive) const { zip_discard(archive); }
+
+ZipArchive::ZipArchive(const std::filesystem::path& file) {
+    int code = 0;
+    archive_.reset(zip_open(file.string().c_str(), ZIP_RDONLY, &code));
+    if (!archive_) {
+        zip_error_t error;
+        zip_error_init_with_code(&error, code);
+        error_ = zip_error_strerror(&error);
+        zip_error_fini(&error);
+        return;
+    }
+    const zip_int64_t count = zip_get_num_entries(archive_.get(), 0);
+    for (zip_int64_t i = 0; i < count; ++i) {
+        zip_stat_t status;
+        zip_stat_init(&status);
+        ZipMember member;
+        // A member that has no name or sizes keeps its place, so that a place in the list is a place in the
+        // archive.
+        if (zip_stat_index(archive_.get(), static_cast<zip_uint64_t>(i), 0, &status) == 0) {
+            member.Name = status.name == nullptr ? "" : status.name;
+            std::replace(member.Name.begin(), member.Name.end(), '/', '\\');
+            member.Size = status.size;
+            member.PackedSize = status.comp_size;
+        }
+        members_.push_back(std::move(member));
+    }
+}
+
+std::optional<std::size_t> ZipArchive::FindMember(std::string_view name) const {
+    const auto found = std::find_if(members_.begin(), members_.end(),
+                                    [&](const ZipMember& member) { return member.Name == name; });
+    if (found == members_.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(found - members_.begin());
+}
+
+bool ZipArchive::Fail(std::string reason) {
+    error_ = std::move(reason);
+    return false;
+}
+
+bool ZipArchive::Unpack(std::size_t member, const std::filesystem::path& target) {
+    const ZipMember& what = members_[member];
+    if (what.Size > MostUnpacked)
+        return Fail("a member is larger than 4 GiB");
+    if (what.Size > AlwaysUnpacked && what.Size / MostExpansion > what.PackedSize)
+        return Fail("a member claims more than a thousand times its packed size");
+    if (WriteMember(member, target))
+        return true;
+    std::error_code ignored;
+    std::filesystem::remove(target, ignored);
+    return false;
+}
+
+bool ZipArchive::WriteMember(std::size_t member, const std::filesystem::path& target) {
+    const std::unique_ptr<zip_file_t, CloseMember> source(zip_fopen_index(archive_.get(), member, 0));
+    if (!source)
+        return Fail(zip_strerror(archive_.get()));
+    std::ofstream stream(target, std::ios::binary | std::ios::trunc);
+    std::array<char, 65536> buffer;
+    std::uint64_t written = 0;
+    for (;;) {
+        const zip_int64_t count = zip_fread(source.get(), buffer.data(), buffer.size());
+        if (count < 0)
+            return Fail(zip_file_strerror(source.get()));
+        if (count == 0)
+            break;
+        written += static_cast<std::uint64_t>(count);
+        // The claim bounds what is unpacked, whatever the packed data says.
+        if (written > members_[member].Size)
+            return Fail("a member is larger than it claims");
+        stream.write(buffer.data(), static_cast<std::streamsize>(count));
+    }
+    stream.close();
+    if (!stream)
+        return Fail("the temporary folder cannot be written to");
+    return written == members_[member].Size || Fail("a member is smaller than it claims");
+}

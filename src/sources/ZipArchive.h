@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct zip;
+
+// A member of a zip archive. "/" in its name stands as "\" here, so that both forms are the same name.
+struct ZipMember {
+    std::string Name;
+    std::uint64_t Size = 0;       // unpacked, as the archive claims
+    std::uint64_t PackedSize = 0; // in bytes
+
+    // The part of the name behind its last "\".
+    std::string_view FileName() const;
+};
+
+// Reading a zip archive. What is claimed too large is not unpacked: a member of more than 4 GiB, and one of
+// more than 64 MiB that claims over a thousand times its packed size.
+class ZipArchive {
+  public:
+    explicit ZipArchive(const std::filesystem::path& file);
+
+    // Why the archive could not be listed, or a member not be unpacked; "" when nothing failed.
+    const std::string& Error() const { return error_; }
+
+    const std::vector<ZipMember>& Members() const { return members_; }
+
+    // The first member that is called so.
+    std::optional<std::size_t> FindMember(std::string_view name) const;
+
+    // Unpacks a member to a file, whole or not at all.
+    bool Unpack(std::size_t member, const std::filesystem::path& target);
+
+  private:
+    struct Close {
+        void operator()(zip* archive) const;
+    };
+
+    bool Fail(std::string reason);
+    bool WriteMember(std::size_t member, const std::filesystem::path& target);
+
+    std::unique_ptr<zip, Close> archive_;
+    std::vector<ZipMember> members_;
+    std::string error_;
+};

@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: MIT
+#include "sources/LogbookSource.h"
+
+#include "support/TemporaryFolder.h"
+#include "support/ZipWriter.h"
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <vector>
+
+namespace {
+
+using Members = std::vector<std::pair<std::string, std::string>>;
+
+// Answers from a list, and remembers what was said.
+class ScriptedUser : public UserInterface {
+  public:
+    void ShowMessage(std::string_view text, MessageIcon icon) override {
+        Messages.emplace_back(text);
+        EXPECT_EQ(icon, MessageIcon::Exclamation);
+    }
+    Answer Ask(TextId question) override {
+        EXPECT_EQ(question, TextId::AskReplaceFilters);
+        ++Questions;
+        if (Answers.empty())
+            return Answer::Cancel;
+        const Answer answer = Answers.front();
+        Answers.pop_front();
+        return answer;
+    }
+    void ShowStatus(TextId status) override {
+        EXPECT_EQ(status, TextId::StatusExtracting);
+        ++Statuses;
+    }
+    void RestoreStatus() override { --Statuses; }
+
+    std::deque<Answer> Answers;
+    std::vector<std::string> Messages;
+    int Questions = 0;
+    int Statuses = 0;
+};
+
+class LogbookSourceTest : public testing::Test {
+  protected:
+    std::string Zip(const std::string& name, const Members& members) {
+        WriteZip(Folder / name, members);
+        return Folder / name;
+    }
+
+    std::optional<LogbookSource> Resolve(const std::string& path) {
+        const auto source = ResolveSource(path, Temp, User, Language{Language::English});
+        EXPECT_EQ(User.Statuses, 0);
+        return source;
+    }
+
+    std::string InTemp(const std::string& name) const { return (Temp.Path() / name).string(); }
+
+    // The content of the resolved logbook file; "(none)" when it does not exist.
+    static std::string Logbook(const std::optional<LogbookSource>& source) {
+        return std::filesystem::exists(source->LogbookFile) ? FileContent(source->LogbookFile) : "(none)";
+    }
+
+    TemporaryFolder Folder;
+    TempFolder Temp{Folder.Path()};
+    ScriptedUser User;
+};
+
+} // namespace
+
+TEST(IsArchive, IsToldByTheNamesEnd) {
+    for (const char* name : {"SERVICE1.ZIP", "a.zip", "a.qorvix", "a.QorVix", ".zip"})
+        EXPECT_TRUE(IsArchive(name)) << name;
+    for (const char* name : {"x.zip.bak", "a.log", "zip", "qorvix", "a.zi", ""})
+        EXPECT_FALSE(IsArchive(name)) << name;
+}
+
+TEST_F(LogbookSourceTest, PlainFileIsItsOwnLogbook) {
+    Folder.Write("lb.act.cmt", "[Comments]");
+    const std::string path = Folder.Write("lb.act.log", "text");
+    const auto source = Resolve(path);
+    EXPECT_EQ(source->Name, "lb");
+    EXPECT_EQ(source->LogbookFile, path);
+    EXPECT_EQ(source->CommentsFile, "");
+    EXPECT_EQ(source->FilterFile, "");
+    EXPECT_EQ(Resolve("name")->Name, "name");
+}
+
+TEST_F(LogbookSourceTest, NewerServiceArchiveHoldsAnArchive) {
+    for (const std::string inner : {"runtime/operation.log", "runtime\\operation.log"})
+        for (const std::string outer : {"sysroot.zip", "SysRoot.ZIP"}) {
+            WriteZip(Folder / "inner.zip", {{"other", "x"}, {inner, "operation text"}});
+            const auto source =
+                Resolve(Zip("service1.zip", {{"readme", "x"}, {outer, FileContent(Folder / "inner.zip")}}));
+            EXPECT_EQ(source->Name, "operation");
+            EXPECT_EQ(source->LogbookFile, InTemp("operation.log"));
+            EXPECT_EQ(Logbook(source), "operation text");
+        }
+    EXPECT_TRUE(User.Messages.empty());
+}
+
+TEST_F(LogbookSourceTest, OlderServiceArchiveHoldsTheLogbook) {
+    for (const std::string member : {"logbook/lb_act.log", "logbook\\lb_act.log"}) {
+        const auto source = Resolve(Zip("SERVICE2.ZIP", {{member, "classic text"}}));
+        EXPECT_EQ(source->Name, "lb_act");
+        EXPECT_EQ(source->LogbookFile, InTemp("lb_act.log"));
+        EXPECT_EQ(Logbook(source), "classic text");
+        EXPECT_EQ(source->CommentsFile, "");
+    }
+}
+
+TEST_F(LogbookSourceTest, ServiceArchiveWithBothEndsAsTheClassicLogbook) {
+    WriteZip(Folder / "inner.zip", {{"runtime/operation.log", "operation text"}});
+    const auto source = Resolve(Zip("service.zip", {{"sysroot.zip", FileContent(Folder / "inner.zip")},
+                                                    {"logbook/lb_act.log", "classic text"}}));
+    EXPECT_EQ(source->Name, "lb_act");
+    EXPECT_EQ(Logbook(source), "classic text");
+}
+
+TEST_F(LogbookSourceTest, OwnArchiveBringsCommentsAndFilters) {
+    const Members members{{"base.log", "text"}, {"base.fil", "[Filters]"}, {"base.cmt", "[Comments]"}};
+    User.Answers = {UserInterface::Answer::Yes, UserInterface::Answer::No};
+    auto source = Resolve(Zip("my.qorvix", members));
+    EXPECT_EQ(source->Name, "base");
+    EXPECT_EQ(Logbook(source), "text");
+    EXPECT_EQ(FileContent(source->FilterFile), "[Filters]");
+    EXPECT_EQ(FileContent(source->CommentsFile), "[Comments]");
+    source = Resolve(Zip("my.qorvix", members));
+    EXPECT_EQ(source->FilterFile, "");
+    EXPECT_EQ(FileContent(source->CommentsFile), "[Comments]");
+    EXPECT_EQ(User.Questions, 2);
+}
+
+TEST_F(LogbookSourceTest, CancelLeavesEverythingAsItWas) {
+    User.Answers = {UserInterface::Answer::Yes};
+    const auto first = Resolve(Zip("a.qorvix", {{"base.log", "first"}, {"base.fil", "[Filters]"}}));
+    User.Answers = {UserInterface::Answer::Cancel};
+    EXPECT_FALSE(Resolve(Zip("b.qorvix", {{"base.log", "second"}, {"base.fil", "other"}})).has_value());
+    EXPECT_EQ(Logbook(first), "first");
+    EXPECT_EQ(FileContent(first->FilterFile), "[Filters]");
+}
+
+TEST_F(LogbookSourceTest, FilesOfAnEarlierArchiveNeverCount) {
+    User.Answers = {UserInterface::Answer::Yes};
+    Resolve(Zip("a.qorvix", {{"base.log", "first"}, {"base.fil", "[Filters]"}, {"base.cmt", "[Comments]"}}));
+    const auto second = Resolve(Zip("b.qorvix", {{"base.log", "second"}}));
+    EXPECT_EQ(Logbook(second), "second");
+    EXPECT_EQ(second->CommentsFile, "");
+    EXPECT_EQ(second->FilterFile, "");
+    EXPECT_EQ(User.Questions, 1);
+    EXPECT_FALSE(std::filesystem::exists(InTemp("base.fil")));
+}
+
+TEST_F(LogbookSourceTest, NoMemberNameLeadsOutsideTheFolder) {
+    for (const std::string name :
+         {"../../outside.log", "/etc/outside.log", "..\\..\\outside.log", "a/b/outside.log"}) {
+        const auto source = Resolve(Zip("a.qorvix", {{name, "text"}}));
+        EXPECT_EQ(source->LogbookFile, InTemp("outside.log"));
+        EXPECT_EQ(Logbook(source), "text");
+    }
+    EXPECT_FALSE(std::filesystem::exists(Folder.Path().parent_path() / "outside.log"));
+}
+
+TEST_F(LogbookSourceTest, UpperCaseMembersOfOwnArchivesAreFound) {
+    User.Answers = {UserInterface::Answer::Yes};
+    const auto source = Resolve(Zip("a.qorvix", {{"BASE.LOG", "text"}, {"BASE.FIL", "[Filters]"}}));
+    EXPECT_EQ(source->LogbookFile, InTemp("BASE.log"));
+    EXPECT_EQ(FileContent(source->FilterFile), "[Filters]");
+}
+
+TEST_F(LogbookSourceTest, ArchiveWithoutLogbookIsToldOnce) {
+    WriteZip(Folder / "inner.zip", {{"other", "x"}});
+    const std::string paths[] = {Zip("a.zip", {{"readme", "x"}}),
+                                 Zip("b.qorvix", {{"base.fil", "[Filters]"}}),
+                                 Zip("c.zip", {{"sysroot.zip", FileContent(Folder / "inner.zip")}}),
+                                 Zip("d.zip", {{"Logbook/lb_act.txt", "x"}})};
+    for (const std::string& path : paths) {
+        User.Messages.clear();
+        const auto source = Resolve(path);
+        EXPECT_EQ(Logbook(source), "(none)");
+        EXPECT_EQ(User.Messages,
+                  (std::vector<std::string>{"The archive contains no logbook file (" + path + ")"}));
+    }
+    EXPECT_EQ(User.Questions, 0);
+}
+
+TEST_F(LogbookSourceTest, DamagedArchivesAreToldWithTheReason) {
+    const std::string whole =
+        FileContent(Zip("whole.qorvix", {{"base.log", std::string(5000, 'x') + "end"}}));
+    std::string damaged = whole;
+    damaged[50] = static_cast<char>(damaged[50] + 1);
+    const std::string paths[] = {Folder.Write("none.zip", ""),
+                                 Folder.Write("text.zip", "no archive"),
+                                 Folder.Write("cut.qorvix", whole.substr(0, whole.size() - 10)),
+                                 Folder.Write("damaged.qorvix", damaged),
+                                 Folder / "missing.zip",
+                                 Zip("inner.zip", {{"sysroot.zip", "no archive"}})};
+    for (const std::string& path : paths) {
+        User.Messages.clear();
+        const auto source = Resolve(path);
+        EXPECT_EQ(Logbook(source), "(none)") << path;
+        ASSERT_EQ(User.Messages.size(), 1U) << path;
+        EXPECT_TRUE(User.Messages[0].starts_with("The archive contains no logbook file (" + path + ": "))
+            << User.Messages[0];
+    }
+}
+
+TEST_F(LogbookSourceTest, MemberThatClaimsTooMuchIsRefused) {
+    // 70 MiB of the same byte pack to far less than a thousandth.
+    const auto source = Resolve(Zip("bomb.qorvix", {{"base.log", std::string(70U << 20U, 'x')}}));
+    EXPECT_EQ(Logbook(source), "(none)");
+    ASSERT_EQ(User.Messages.size(), 1U);
+    EXPECT_TRUE(User.Messages[0].ends_with("claims more than a thousand times its packed size)"))
+        << User.Messages[0];
+    const auto small = Resolve(Zip("small.qorvix", {{"base.log", std::string(60U << 20U, 'x')}}));
+    EXPECT_EQ(std::filesystem::file_size(small->LogbookFile), 60U << 20U);
+}
+
+TEST_F(LogbookSourceTest, NothingIsLeftBesideTheLogbook) {
+    Resolve(Zip("a.qorvix", {{"base.log", "text"}, {"other", "x"}}));
+    std::vector<std::string> names;
+    for (const auto& item : std::filesystem::directory_iterator(Temp.Path()))
+        names.push_back(item.path().filename().string());
+    EXPECT_EQ(names, std::vector<std::string>{"base.log"});
+}
