@@ -3,11 +3,13 @@
 
 #include "dialogs/frmLanguageDialog.h"
 #include "filter/Filter.h"
+#include "filter/FilterFile.h"
 #include "filter/FilterStorage.h"
 #include "list/LogbookColumns.h"
 #include "list/QtText.h"
 #include "logbook/Mod_FileHandling.h"
-#include "logbook/modUtil.h"
+#include "sources/CommandLine.h"
+#include "sources/LogbookSource.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -48,9 +50,10 @@ QTableView* MakeLogbookList(QAbstractItemModel* model, QWidget* parent) {
 
 } // namespace
 
-frmMain::frmMain(Logbook& logbook, Registry& registry, CodePage codePage)
+frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFolder, CodePage codePage)
     : logbook_(logbook),
       registry_(registry),
+      tempFolder_(tempFolder),
       codePage_(std::move(codePage)),
       BaseCaption("Qorvix"),
       model_(new LogbookModel(logbook.Entries, this)),
@@ -59,7 +62,8 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, CodePage codePage)
       statusText_(new QLabel(this)),
       statusCounts_(new QLabel(this)),
       ProgressBar(new QProgressBar(this)),
-      progress_(this, ProgressBar) {
+      progress_(this, ProgressBar),
+      user_(this, statusText_) {
     setObjectName("frmMain");
     setWindowTitle(BaseCaption);
     resize(14000 / TwipsPerPixel, 12000 / TwipsPerPixel);
@@ -90,6 +94,7 @@ void frmMain::MakeMenus() {
 void frmMain::LoadLanguage() {
     language_ = ReadLanguage(registry_);
     qtCatalogue_.SetLanguage(language_);
+    user_.SetLanguage(language_);
     mnuExtras->setTitle(QtText(TextId::mnuExtras, language_));
     mnuExtrasDialogLanguage->setText(QtText(TextId::mnuExtrasDialogLanguage, language_));
     model_->SetLanguage(language_);
@@ -110,20 +115,43 @@ void frmMain::ChooseLanguage() {
     LoadLanguage();
 }
 
-void frmMain::OpenLogbooks(const QStringList& files) {
-    for (const QString& file : files) {
-        if (progress_.StopWanted())
-            return;
-        if (!ReadAndShowLogbook(file))
-            continue;
-        std::string folder;
-        std::string fileName;
-        SplitPath(file.toStdString(), folder, fileName);
-        AddNameToTitle(QString::fromStdString(fileName.substr(0, fileName.find('.'))));
-    }
+void frmMain::RunCommandLine(const std::vector<std::string>& arguments) {
+    const CommandLine commandLine = ParseCommandLine(JoinArguments(arguments), IsSlashFile);
+    for (const std::string& source : commandLine.Sources)
+        if (!progress_.StopWanted())
+            OpenLogbook(source);
+    if (commandLine.ShowUsage && !progress_.StopWanted())
+        user_.ShowMessage(UsageText(language_), UserInterface::MessageIcon::None);
 }
 
-bool frmMain::ReadAndShowLogbook(const QString& file) {
+bool frmMain::OpenLogbook(const std::string& path) {
+    if (logbook_.Busy)
+        return false;
+    const std::optional<LogbookSource> source = ResolveSource(path, tempFolder_, user_, language_);
+    if (!source)
+        return false;
+    if (!source->FilterFile.empty())
+        ReplaceFilters(source->FilterFile);
+    if (!ReadAndShowLogbook(source->LogbookFile))
+        return false;
+    AddNameToTitle(QString::fromStdString(source->Name));
+    return true;
+}
+
+// The filters of an archive become the active ones. A damaged filter file is told, and the active ones stay.
+void frmMain::ReplaceFilters(const std::string& filterFile) {
+    FilterFileContent content = ImportFilterFile(filterFile, codePage_);
+    if (content.Result != FilterFileContent::Outcome::Read) {
+        user_.ShowMessage(FilterFileMessage(filterFile, content, language_),
+                          UserInterface::MessageIcon::Exclamation);
+        return;
+    }
+    FilterLists lists = LoadFilters(registry_, language_);
+    lists.Filters = std::move(content.Filters);
+    SaveFilters(registry_, lists, registry_.ReadFilterSettingString("InitFilterDir", ""));
+}
+
+bool frmMain::ReadAndShowLogbook(const std::string& file) {
     if (logbook_.Busy)
         return false;
     logbook_.Busy = true;
@@ -134,7 +162,7 @@ bool frmMain::ReadAndShowLogbook(const QString& file) {
     QApplication::setOverrideCursor(Qt::WaitCursor);
 
     std::string title;
-    if (ReadLogbook(file.toStdString(), logbook_, title, progress_, codePage_))
+    if (ReadLogbook(file, logbook_, title, progress_, codePage_))
         FillList();
 
     QApplication::restoreOverrideCursor();

@@ -3,13 +3,18 @@
 
 #include "app/QtCatalogue.h"
 #include "app/WindowProgress.h"
+#include "app/WindowUser.h"
 #include "list/LogbookModel.h"
 #include "logbook/CodePage.h"
 #include "logbook/Logbook.h"
 #include "settings/Registry.h"
 #include "settings/Texts.h"
+#include "sources/TempFolder.h"
 
 #include <QMainWindow>
+
+#include <string>
+#include <vector>
 
 class QAction;
 class QLabel;
@@ -23,15 +28,20 @@ class frmMain : public QMainWindow {
     Q_OBJECT
 
   public:
-    // The logbook and the settings must outlive the window.
-    frmMain(Logbook& logbook, Registry& registry, CodePage codePage);
+    // The logbook, the settings and the temporary folder must outlive the window.
+    frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFolder, CodePage codePage);
 
-    // Opens logbooks one after the other, each in place of the one before; the last that opens stays.
-    void OpenLogbooks(const QStringList& files);
+    // Opens the logbooks that a command line names, one after the other, each in place of the one before; the
+    // last that opens stays. Shows the usage where the command line asks for it.
+    void RunCommandLine(const std::vector<std::string>& arguments);
+
+    // Opens one source: a logbook file, a service archive or an own archive. False when the person cancelled
+    // or the read was left unfinished; the title then stays as it was.
+    bool OpenLogbook(const std::string& path);
 
     // Reads a logbook file and fills the list. False when a run-time error left it unfinished, which the user
     // has then been told. A file that cannot be opened gives an empty list without a message.
-    bool ReadAndShowLogbook(const QString& file);
+    bool ReadAndShowLogbook(const std::string& file);
 
     // Filters the entries again with the stored filters, and selects the row of the entry that was selected,
     // or the next one.
@@ -48,6 +58,7 @@ class frmMain : public QMainWindow {
     void MakeMenus();
     void LoadLanguage();
     void FillList();
+    void ReplaceFilters(const std::string& filterFile);
     void SelectEntry(EntryNumber number);
     void ShowStatus(TextId text);
     void ShowLogbookStatus(std::int64_t total);
@@ -56,6 +67,7 @@ class frmMain : public QMainWindow {
 
     Logbook& logbook_;
     Registry& registry_;
+    const TempFolder& tempFolder_;
     CodePage codePage_;
     Language language_;
     QtCatalogue qtCatalogue_;
@@ -69,4 +81,5 @@ class frmMain : public QMainWindow {
     QLabel* statusCounts_;
     QProgressBar* ProgressBar;
     WindowProgress progress_;
+    WindowUser user_;
 };

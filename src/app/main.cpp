@@ -5,6 +5,8 @@
 #include <QTimer>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -13,9 +15,13 @@ int main(int argc, char** argv) {
 
     const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
     Registry registry(*settings);
+    const TempFolder tempFolder;
     Logbook logbook;
-    frmMain window(logbook, registry, CodePage::OfUser());
+    frmMain window(logbook, registry, tempFolder, CodePage::OfUser());
     window.show();
-    QTimer::singleShot(0, &window, [&window] { window.OpenLogbooks(QApplication::arguments().mid(1)); });
+    std::vector<std::string> arguments;
+    for (const QString& argument : QApplication::arguments().mid(1))
+        arguments.push_back(argument.toStdString());
+    QTimer::singleShot(0, &window, [&] { window.RunCommandLine(arguments); });
     return QApplication::exec();
 }

@@ -6,6 +6,7 @@
 #include "support/MemorySettings.h"
 #include "support/ReadText.h"
 #include "support/TemporaryFolder.h"
+#include "support/ZipWriter.h"
 #include "tools/LogbookWriter.h"
 
 #include <QAction>
@@ -26,7 +27,7 @@ class frmMainTest : public QObject {
         Book = std::make_unique<Logbook>();
         Store = std::make_unique<MemorySettings>();
         Settings = std::make_unique<Registry>(*Store);
-        Window = std::make_unique<frmMain>(*Book, *Settings, CodePage());
+        Window = std::make_unique<frmMain>(*Book, *Settings, Temp, CodePage());
         Window->show();
         MessageTexts.clear();
     }
@@ -35,8 +36,8 @@ class frmMainTest : public QObject {
 
     void ShowsTheSamples() {
         for (const char* sample : {"classic", "separated", "operation"}) {
-            const QString path = QString(QORVIX_SOURCE_FOLDER "/samples/%1.log").arg(sample);
-            Window->OpenLogbooks({path});
+            const std::string path = QORVIX_SOURCE_FOLDER "/samples/" + std::string(sample) + ".log";
+            Window->RunCommandLine({path});
             QCOMPARE(Window->windowTitle(), QString("%1 - Qorvix").arg(sample));
             const int rows = List()->model()->rowCount();
             QVERIFY(rows > 100);
@@ -45,24 +46,24 @@ class frmMainTest : public QObject {
     }
 
     void LastLogbookStays() {
-        const QString first = File("first.log", {Header("BERR:    a"), Header("RESET:")});
-        const QString second = File("second.x.log", {Header("BERR:    b"), std::string(60, ' ')});
-        Window->OpenLogbooks({first, second});
+        const std::string first = File("first.log", {Header("BERR:    a"), Header("RESET:")});
+        const std::string second = File("second.x.log", {Header("BERR:    b"), std::string(60, ' ')});
+        Window->RunCommandLine({first, second});
         QCOMPARE(Window->windowTitle(), QString("second - Qorvix"));
         QCOMPARE(Cell(0, 1), QString("b"));
         QCOMPARE(Counts(), QString("1 / 1 Items"));
     }
 
     void FileThatCannotBeOpenedGivesAnEmptyListInSilence() {
-        Window->OpenLogbooks({File("a.log", {Header("BERR:    a"), Header("RESET:")})});
-        Window->OpenLogbooks({QString::fromStdString(Folder / "missing.log")});
+        Window->RunCommandLine({File("a.log", {Header("BERR:    a"), Header("RESET:")})});
+        Window->RunCommandLine({Folder / "missing.log"});
         QCOMPARE(Window->windowTitle(), QString("missing - Qorvix"));
         QCOMPARE(Counts(), QString("0 / 2 Items"));
     }
 
     void ReadErrorIsToldAndLeavesTheListEmpty() {
         AnswerMessages(1);
-        Window->OpenLogbooks({File("a.log", {Header("BERR:    a"), "RESET:", std::string(100, ' ')})});
+        Window->RunCommandLine({File("a.log", {Header("BERR:    a"), "RESET:", std::string(100, ' ')})});
         QCOMPARE(MessageTexts, QStringList({"Error reading logbook file"}));
         QCOMPARE(Counts(), QString("0 / 1 Items"));
         QCOMPARE(Window->windowTitle(), QString("Qorvix"));
@@ -70,14 +71,14 @@ class frmMainTest : public QObject {
 
     void FileWithoutEventsIsAFilterError() {
         AnswerMessages(2);
-        Window->OpenLogbooks({File("a.log", {"nothing"})});
+        Window->RunCommandLine({File("a.log", {"nothing"})});
         QCOMPARE(MessageTexts, QStringList({"Error applying filters", "Filter error"}));
         QCOMPARE(Counts(), QString("0 / 1 Items"));
     }
 
     void UnsupportedVersionIsToldInGerman() {
         AnswerMessages(1);
-        Window->OpenLogbooks({File("a.log", {"Operation Logbook Version 2.0", Header("Stib: ON")})});
+        Window->RunCommandLine({File("a.log", {"Operation Logbook Version 2.0", Header("Stib: ON")})});
         QCOMPARE(MessageTexts,
                  QStringList({"Logbuch Version 2.0 wird von dieser Kelvaro Version nicht unterstützt.\r\n"
                               "Informieren Sie sich bei VELTRANDOR über die neueste Kelvaro Version."}));
@@ -85,12 +86,12 @@ class frmMainTest : public QObject {
     }
 
     void ClosingEndsAReadThatNeverFinishes() {
-        const QString endless = File("a.log", {Header("RESET:"), Header("BREG:"), " D0=1"});
+        const std::string endless = File("a.log", {Header("RESET:"), Header("BREG:"), " D0=1"});
         QTimer::singleShot(0, Window.get(), [this] {
             QVERIFY(Book->Busy);
             QVERIFY(!Window->close());
         });
-        Window->OpenLogbooks({endless, endless});
+        Window->RunCommandLine({endless, endless});
         QVERIFY(!Window->isVisible());
         QVERIFY(!Book->Busy);
         QVERIFY(MessageTexts.isEmpty());
@@ -98,7 +99,8 @@ class frmMainTest : public QObject {
 
     void StoredFiltersDecideWhatIsShown() {
         SaveFilters(*Settings, {{Filter("I|0||||1"), Filter("X|7||||1")}, {}}, "");
-        Window->OpenLogbooks({File("a.log", {Header("BERR:    a"), Header("RESET:"), Header("BERR:    b")})});
+        Window->RunCommandLine(
+            {File("a.log", {Header("BERR:    a"), Header("RESET:"), Header("BERR:    b")})});
         QCOMPARE(Counts(), QString("2 / 3 Items"));
         QCOMPARE(Cell(1, 5), QString("2"));
         SaveFilters(*Settings, {{Filter("I|7||||1")}, {}}, "");
@@ -114,7 +116,7 @@ class frmMainTest : public QObject {
         std::vector<std::string> lines;
         for (int i = 0; i < 50; ++i)
             lines.push_back(Header("BERR:    " + std::to_string(i)));
-        Window->OpenLogbooks({File("a.log", lines)});
+        Window->RunCommandLine({File("a.log", lines)});
         List()->selectRow(40);
         SaveFilters(*Settings, {{Filter("I|0||||1"), Filter("X|8|40|||1")}, {}}, "");
         Window->ApplyFilter();
@@ -129,7 +131,7 @@ class frmMainTest : public QObject {
     }
 
     void FailedFilterRunKeepsItsRows() {
-        Window->OpenLogbooks({File("a.log", {Header("BERR:    a"), Header("RESET:")})});
+        Window->RunCommandLine({File("a.log", {Header("BERR:    a"), Header("RESET:")})});
         ParsedEntry bad;
         bad.EventType = 10;
         Book->Entries.Append(bad, CodePage());
@@ -139,8 +141,70 @@ class frmMainTest : public QObject {
         QCOMPARE(Counts(), QString("2 / 2 Items"));
     }
 
+    void ArchivesAreOpened() {
+        const std::string log = Lines({Header("BERR:    a"), Header("RESET:")});
+        WriteZip(Folder / "service.zip", {{"logbook/lb_act.log", log}});
+        Window->RunCommandLine({Folder / "service.zip"});
+        QCOMPARE(Window->windowTitle(), QString("lb_act - Qorvix"));
+        QCOMPARE(Counts(), QString("2 / 2 Items"));
+    }
+
+    void FiltersOfAnArchiveReplaceTheActiveOnesWhenWanted() {
+        const std::string log = Lines({Header("BERR:    a"), Header("RESET:")});
+        WriteZip(Folder / "own.qorvix", {{"x.log", log}, {"x.fil", "[Filters]\r\nI|7||||1\r\n"}});
+        AnswerQuestion(QMessageBox::No);
+        Window->RunCommandLine({Folder / "own.qorvix"});
+        QCOMPARE(MessageTexts, QStringList({"Replace active filter list?"}));
+        QCOMPARE(Counts(), QString("2 / 2 Items"));
+        AnswerQuestion(QMessageBox::Yes);
+        Window->RunCommandLine({Folder / "own.qorvix"});
+        QCOMPARE(Counts(), QString("1 / 2 Items"));
+        QCOMPARE(LoadFilters(*Settings, {}).Filters, std::vector{Filter("I|7||||1")});
+    }
+
+    void CancelKeepsTheLogbookThatIsShown() {
+        Window->RunCommandLine(
+            {File("first.log", {Header("BERR:    a"), Header("BERR:    b"), Header("BERR:    c")})});
+        WriteZip(Folder / "own.qorvix", {{"x.log", Lines({Header("RESET:")})}, {"x.fil", "[Filters]\r\n"}});
+        AnswerQuestion(QMessageBox::Cancel);
+        QVERIFY(!Window->OpenLogbook(Folder / "own.qorvix"));
+        QCOMPARE(Window->windowTitle(), QString("first - Qorvix"));
+        QCOMPARE(Counts(), QString("3 / 3 Items"));
+    }
+
+    void DamagedFiltersOfAnArchiveAreToldAndTheActiveOnesStay() {
+        WriteZip(Folder / "own.qorvix", {{"x.log", Lines({Header("BERR:    a"), Header("RESET:")})},
+                                         {"x.fil", "[Filters]\r\nnonsense\r\n"}});
+        AnswerQuestion(QMessageBox::Yes);
+        QTimer::singleShot(50, this, [this] { AnswerMessages(1); });
+        Window->RunCommandLine({Folder / "own.qorvix"});
+        QCOMPARE(MessageTexts.size(), 2);
+        QVERIFY(MessageTexts[1].endsWith("invalid filter in line 2"));
+        QCOMPARE(Counts(), QString("2 / 2 Items"));
+    }
+
+    void ArchiveWithoutLogbookIsTold() {
+        WriteZip(Folder / "a.zip", {{"readme", "x"}});
+        AnswerMessages(1);
+        Window->RunCommandLine({Folder / "a.zip"});
+        QCOMPARE(MessageTexts, QStringList({QString::fromStdString("The archive contains no logbook file (" +
+                                                                   (Folder / "a.zip") + ")")}));
+        QCOMPARE(Window->windowTitle(), QString("a - Qorvix"));
+    }
+
+    void UnknownOptionShowsTheUsage() {
+        AnswerMessages(1);
+        Window->RunCommandLine({"-y", File("my log.log", {Header("BERR:    a"), Header("RESET:")})});
+        QCOMPARE(MessageTexts, QStringList({"Qorvix command line parameters:\r\n\r\n"
+                                            " <file name>: Log/Service file name\r\n -EMB: Embedded mode"}));
+        QCOMPARE(Counts(), QString("2 / 2 Items"));
+        MessageTexts.clear();
+        Window->RunCommandLine({"-y", "-emb"});
+        QVERIFY(MessageTexts.isEmpty());
+    }
+
     void LanguageIsSwitchedAtOnce() {
-        Window->OpenLogbooks({File("a.log", {Header("BERR:    a"), Header("RESET:")})});
+        Window->RunCommandLine({File("a.log", {Header("BERR:    a"), Header("RESET:")})});
         QCOMPARE(LanguageItem()->text(), QString("&Dialog language..."));
         ChooseInDialog(1, "cmdOK");
         QCOMPARE(LanguageItem()->text(), QString("&Dialogsprache..."));
@@ -151,7 +215,7 @@ class frmMainTest : public QObject {
         QCOMPARE(ReadLanguage(*Settings).Number, 1);
 
         AnswerMessages(1);
-        Window->OpenLogbooks({File("b.log", {Header("BERR:    a"), "RESET:", std::string(100, ' ')})});
+        Window->RunCommandLine({File("b.log", {Header("BERR:    a"), "RESET:", std::string(100, ' ')})});
         QCOMPARE(MessageTexts, QStringList({"Fehler beim Lesen des Logbuchs"}));
 
         ChooseInDialog(5, "cmdOK");
@@ -192,7 +256,7 @@ class frmMainTest : public QObject {
         const int pixels[] = {133, 333, 113, 113, 133, 66};
         for (int column = 0; column < 6; ++column)
             QCOMPARE(List()->columnWidth(column), pixels[column]);
-        Window->OpenLogbooks({File("a.log", {Header("BERR:    a"), Header("RESET:")})});
+        Window->RunCommandLine({File("a.log", {Header("BERR:    a"), Header("RESET:")})});
         List()->selectRow(1);
         QCOMPARE(List()->selectionModel()->selectedIndexes().size(), 7);
     }
@@ -202,8 +266,8 @@ class frmMainTest : public QObject {
     QString Counts() const { return Window->findChild<QLabel*>("statusCounts")->text(); }
     QString Cell(int row, int column) const { return List()->model()->index(row, column).data().toString(); }
 
-    QString File(std::string_view name, const std::vector<std::string>& lines) const {
-        return QString::fromStdString(Folder.Write(name, Lines(lines)));
+    std::string File(std::string_view name, const std::vector<std::string>& lines) const {
+        return Folder.Write(name, Lines(lines));
     }
 
     QAction* LanguageItem() const { return Window->findChild<QAction*>("mnuExtrasDialogLanguage"); }
@@ -245,7 +309,19 @@ class frmMainTest : public QObject {
         });
     }
 
+    // Presses a button of the next question and remembers its text.
+    void AnswerQuestion(QMessageBox::StandardButton button) {
+        QTimer::singleShot(0, this, [this, button] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr)
+                return AnswerQuestion(button);
+            MessageTexts << box->text();
+            box->button(button)->click();
+        });
+    }
+
     TemporaryFolder Folder;
+    TempFolder Temp{Folder.Path()};
     std::unique_ptr<Logbook> Book;
     std::unique_ptr<MemorySettings> Store;
     std::unique_ptr<Registry> Settings;

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "app/WindowUser.h"
+
+#include "list/QtText.h"
+
+#include <QLabel>
+#include <QMessageBox>
+
+void WindowUser::ShowMessage(std::string_view text, MessageIcon icon) {
+    QMessageBox(icon == MessageIcon::Exclamation ? QMessageBox::Warning : QMessageBox::NoIcon,
+                window_->windowTitle(), ToQString(text), QMessageBox::Ok, window_)
+        .exec();
+}
+
+UserInterface::Answer WindowUser::Ask(TextId question) {
+    const auto answer =
+        QMessageBox::question(window_, window_->windowTitle(), QtText(question, language_),
+                              QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+    return answer == QMessageBox::Yes ? Answer::Yes : answer == QMessageBox::No ? Answer::No : Answer::Cancel;
+}
+
+void WindowUser::ShowStatus(TextId status) {
+    savedStatusText_ = statusText_->text().toStdString();
+    statusText_->setText(QtText(status, language_));
+    statusText_->repaint();
+}
+
+void WindowUser::RestoreStatus() {
+    statusText_->setText(QString::fromStdString(savedStatusText_));
+    statusText_->repaint();
+}

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "sources/UserInterface.h"
+
+class QLabel;
+class QWidget;
+
+// Opening and saving in the window: message boxes, and the status text in the first panel of the status bar.
+class WindowUser : public UserInterface {
+  public:
+    WindowUser(QWidget* window, QLabel* statusText) : window_(window), statusText_(statusText) {}
+
+    void SetLanguage(Language language) { language_ = language; }
+
+    void ShowMessage(std::string_view text, MessageIcon icon) override;
+    Answer Ask(TextId question) override;
+    void ShowStatus(TextId status) override;
+    void RestoreStatus() override;
+
+  private:
+    QWidget* window_;
+    QLabel* statusText_;
+    Language language_;
+    std::string savedStatusText_;
+};
