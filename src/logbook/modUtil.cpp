@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/modUtil.h"
 
+#include "logbook/AsciiCase.h"
+
 #include <array>
 #include <fstream>
 #include <limits>
@@ -24,8 +26,6 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 12> Months{{
 }};
 
 constexpr std::string_view PathSeparators = "\\/";
-
-char UpperCase(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 // The month's number between its dots; "" for an unknown name.
 std::string_view MonthText(std::string_view name) {

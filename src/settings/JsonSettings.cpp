@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/JsonSettings.h"
 
+#include "logbook/AsciiCase.h"
 #include "logbook/AtomicFile.h"
 #include "logbook/modUtil.h"
 #include "settings/FileLock.h"
@@ -21,17 +22,10 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-bool IsSameName(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return LowerCase(x) == LowerCase(y); });
-}
-
 template <typename Object>
 auto FindMember(Object& key, std::string_view name) {
     auto member = key.begin();
-    while (member != key.end() && !IsSameName(member.key(), name))
+    while (member != key.end() && !IsSameWithoutCase(member.key(), name))
         ++member;
     return member;
 }
@@ -47,7 +41,7 @@ std::string_view TakePart(std::string_view& path) {
 // Leaves of a key path what lies below the application key; false for any other path.
 bool TakeApplicationKey(std::string_view& path) {
     for (std::string_view application = ApplicationKey; !application.empty();)
-        if (!IsSameName(TakePart(path), TakePart(application)))
+        if (!IsSameWithoutCase(TakePart(path), TakePart(application)))
             return false;
     return true;
 }

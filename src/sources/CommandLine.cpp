@@ -1,19 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "sources/CommandLine.h"
 
+#include "logbook/AsciiCase.h"
 #include "logbook/modUtil.h"
 #include "settings/Texts.h"
 
 #include <algorithm>
 
 namespace {
-
-std::string UpperCase(std::string_view text) {
-    std::string upper(text);
-    std::transform(upper.begin(), upper.end(), upper.begin(),
-                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return upper;
-}
 
 // Takes the next word off the line; "" ends the command line.
 std::string_view TakeToken(std::string_view& rest) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/LogbookSource.h"
 
+#include "logbook/AsciiCase.h"
 #include "logbook/modUtil.h"
 #include "sources/ZipArchive.h"
 
@@ -16,13 +17,6 @@ constexpr std::string_view ClassicLog = "logbook\\lb_act.log";
 constexpr std::string_view LogExtension = ".log";
 constexpr std::string_view FilterExtension = ".fil";
 constexpr std::string_view CommentsExtension = ".cmt";
-
-std::string LowerCase(std::string_view text) {
-    std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return lower;
-}
 
 bool EndsWith(std::string_view text, std::string_view lowerEnd) {
     return LowerCase(text).ends_with(lowerEnd);
@@ -46,7 +40,7 @@ class Extraction {
     std::optional<std::string> Extract() {
         const auto system =
             std::find_if(archive_.Members().begin(), archive_.Members().end(),
-                         [](const ZipMember& m) { return LowerCase(m.Name) == SystemArchive; });
+                         [](const ZipMember& m) { return IsSameWithoutCase(m.Name, SystemArchive); });
         const std::optional<std::size_t> classic = archive_.FindMember(ClassicLog);
         if (system == archive_.Members().end() && !classic)
             return ExtractOwn();
@@ -96,7 +90,7 @@ class Extraction {
         const std::string base(log->FileName().substr(0, log->FileName().size() - LogExtension.size()));
         for (const std::string_view extension : {LogExtension, FilterExtension, CommentsExtension}) {
             const auto part = std::find_if(members.begin(), members.end(), [&](const ZipMember& member) {
-                return LowerCase(member.FileName()) == LowerCase(base).append(extension);
+                return IsSameWithoutCase(member.FileName(), std::string(base).append(extension));
             });
             if (part != members.end() && !Unpack(archive_, static_cast<std::size_t>(part - members.begin()),
                                                  std::string(base).append(extension)))
