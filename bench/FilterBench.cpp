@@ -63,9 +63,9 @@ int main(int argc, char** argv) {
     Logbook logbook;
     const std::int64_t entries = ReadOnce(path, logbook);
 
-    const std::string text = "nicht referenziert";
+    const std::string text = "verbunden";
     Filters ten;
-    for (const char* part : {"nicht referenziert", "Werkzeug", "verbunden", "Platz", "fertig", "Nullpunkt",
+    for (const char* part : {"verbunden", "Werkzeug", "nicht referenziert", "Platz", "fertig", "Nullpunkt",
                              "block", "buffer", "pages", "Satz"})
         ten.push_back(Exclude(FilterTypes::All, part));
     Measured runs[] = {
@@ -91,7 +91,8 @@ int main(int argc, char** argv) {
     std::printf("%lld entries; bare reader %.3f s, rg of one text %.3f s\n", static_cast<long long>(entries),
                 Median(bare), Median(ripgrep));
     for (const Measured& run : runs)
-        std::printf("%-30s %.3f s, %zu rows; to bare %.2f, to rg %.2f, to default %.2f\n", run.Name,
-                    Median(run.Times), run.Rows, Median(run.Times) / Median(bare),
-                    Median(run.Times) / Median(ripgrep), Median(run.Times) / Median(runs[0].Times));
+        std::printf("%-30s %.3f s, %zu rows; to bare %.2f, to rg %.2f, to default %.2f, to one text %.2f\n",
+                    run.Name, Median(run.Times), run.Rows, Median(run.Times) / Median(bare),
+                    Median(run.Times) / Median(ripgrep), Median(run.Times) / Median(runs[0].Times),
+                    Median(run.Times) / Median(runs[1].Times));
 }

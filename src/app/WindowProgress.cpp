@@ -7,6 +7,11 @@
 #include <QMessageBox>
 #include <QProgressBar>
 
+namespace {
+// A large logbook reports a hundred thousand times a second; a person sees no more than this.
+constexpr qint64 FrameTime = 20; // milliseconds
+} // namespace
+
 WindowProgress::WindowProgress(QWidget* window, QProgressBar* bar) : window_(window), bar_(bar) {
     sinceEvents_.start();
 }
@@ -17,9 +22,15 @@ void WindowProgress::SetValue(double percent) {
         bar_->setValue(0);
 }
 
+void WindowProgress::PaintValue(double percent) {
+    if (percent != 0 && sinceEvents_.elapsed() < FrameTime)
+        return;
+    bar_->setValue(static_cast<int>(percent));
+    bar_->repaint();
+    sinceEvents_.start();
+}
+
 void WindowProgress::ProcessPendingEvents() {
-    // A large logbook asks a hundred thousand times a second; a person sees no more than this.
-    constexpr qint64 FrameTime = 20; // milliseconds
     if (sinceEvents_.elapsed() < FrameTime)
         return;
     bar_->setValue(static_cast<int>(value_));

@@ -16,6 +16,10 @@ class WindowProgress : public ReadingProgress {
     void RequestStop() { stopRequested_ = true; }
 
     void SetValue(double percent) override;
+
+    // The same for a step that lets no events run: only the bar is painted.
+    void PaintValue(double percent);
+
     void ProcessPendingEvents() override;
     bool StopWanted() const override { return stopRequested_; }
     void ShowMessage(std::string_view text) override;

@@ -184,7 +184,11 @@ bool frmMain::ReadAndShowLogbook(const std::string& file) {
 void frmMain::ApplyFilter() {
     if (logbook_.Busy)
         return;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    ProgressBar->show();
     FillList();
+    ProgressBar->hide();
+    QApplication::restoreOverrideCursor();
     ShowStatus(TextId::StatusReady);
     ShowLogbookStatus(logbook_.EntryCount);
 }
@@ -200,7 +204,8 @@ void frmMain::FillList() {
     logbook_.LoadState = LoadStates::Filtering;
     LogbookRows rows;
     const FilterLists lists = LoadFilters(registry_, language_);
-    const bool filled = ApplyFilters(logbook_.Entries, lists.Filters, rows);
+    const bool filled = ApplyFilters(logbook_.Entries, lists.Filters, rows,
+                                     [this](double percent) { progress_.PaintValue(percent); });
     model_->SetRows(std::move(rows));
     if (!filled) {
         QMessageBox::warning(this, QtText(TextId::FilterError, language_),

@@ -90,12 +90,12 @@ int RunExport(const ExportOptions& options) {
 
     if (options.Output.empty()) {
         WriteRows(logbook.Entries, rows, options, std::cout);
-        return std::cout ? ExitStatus::Done : Fail("the list could not be written");
+        return std::cout ? ExitStatus::Done : Fail(text(TextId::ListNotWritten));
     }
     if (IsDevice(options.Output)) {
         std::ofstream stream(ToPath(options.Output), std::ios::binary);
         WriteRows(logbook.Entries, rows, options, stream);
-        return stream ? ExitStatus::Done : Fail(options.Output + " could not be written");
+        return stream ? ExitStatus::Done : Fail(options.Output + text(TextId::FileNotWritten));
     }
     AtomicFile file(options.Output);
     WriteRows(logbook.Entries, rows, options, file.Stream());

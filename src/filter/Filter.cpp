@@ -25,6 +25,8 @@ bool ApplyFilters(const EntryTable& entries, std::span<const FilterDefinition> f
     FilterRun run(entries, filters);
     const EntryNumber count = entries.Count();
     EntryNumber lastShown = 0;
+    if (progress)
+        progress(0);
     for (EntryNumber first = 0; first < count; first += FilterRun::BatchSize) {
         const EntryNumber end = first + std::min(count - first, FilterRun::BatchSize);
         run.BeginBatch(first, end);

@@ -19,7 +19,8 @@ bool MatchText(std::string_view field, std::string_view filterText);
 // entries is ApplyFilters.
 bool MatchFilter(const FilterDefinition& filter, const EntryTable& entries, EntryNumber number);
 
-// What a run tells its surroundings: a percentage from 0 to 100, every hundred entries.
+// What a run tells its surroundings: a percentage from 0 to 100, every hundred entries; 0 at its begin and
+// end.
 using FilterProgress = std::function<void(double percent)>;
 
 // Makes the rows of the list from the entries, in entry order: those that an active include filter matches

@@ -21,13 +21,25 @@ bool ReadFileLine(std::istream& stream, std::string& line) {
     return true;
 }
 
+// A filter's line in the code page; what has no place in a line is lost like a character that the code page
+// lacks.
+CodePage::Bytes FilterLine(const FilterDefinition& filter, const CodePage& codePage) {
+    CodePage::Bytes line = codePage.FromUtf8(FormatFilter(filter));
+    for (char& c : line.Text)
+        if (c == '\r' || c == '\n') {
+            c = '?';
+            ++line.Lost;
+        }
+    return line;
+}
+
 } // namespace
 
 std::vector<std::size_t> FiltersThatLose(std::span<const FilterDefinition> filters,
                                          const CodePage& codePage) {
     std::vector<std::size_t> losing;
     for (std::size_t i = 0; i < filters.size(); ++i)
-        if (codePage.FromUtf8(FormatFilter(filters[i])).Lost != 0)
+        if (FilterLine(filters[i], codePage).Lost != 0)
             losing.push_back(i);
     return losing;
 }
@@ -37,7 +49,7 @@ std::error_code ExportFilterFile(const std::string& path, std::span<const Filter
     AtomicFile file(path);
     file.Stream() << Header << "\r\n";
     for (const FilterDefinition& filter : filters)
-        file.Stream() << codePage.FromUtf8(FormatFilter(filter)).Text << "\r\n";
+        file.Stream() << FilterLine(filter, codePage).Text << "\r\n";
     return file.Commit();
 }
 

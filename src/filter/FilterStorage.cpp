@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <string>
+#include <variant>
 
 namespace {
 
@@ -16,9 +17,9 @@ constexpr std::string_view StringFilterCountName = "SpecialFilterCount";
 constexpr std::string_view StringFilterName = "StringFilter";
 constexpr std::string_view FolderName = "InitFilterDir";
 
-// A count beyond this is damage: missing string filters read as empty ones, and there shall not be billions
-// of them.
-constexpr std::int32_t MostStringFilters = 32767;
+// Missing string filters read as empty ones; behind this number they end the list, so that a damaged count
+// does not make billions of them.
+constexpr std::int32_t MostMissing = 1000;
 
 // The numbered values count from 1.
 std::string Numbered(std::string_view name, std::size_t number) {
@@ -40,14 +41,20 @@ std::vector<FilterDefinition> LoadFilterList(const Registry& registry) {
 }
 
 std::vector<StringFilter> LoadStringFilterList(const Registry& registry, Language language) {
-    const std::int32_t count =
-        std::min(registry.ReadFilterSettingLong(StringFilterCountName, 0), MostStringFilters);
+    const std::int32_t count = registry.ReadFilterSettingLong(StringFilterCountName, 0);
     if (count < 1)
         return DefaultStringFilters(language);
     std::vector<StringFilter> filters;
-    for (std::int32_t number = 1; number <= count; ++number)
-        filters.push_back(ParseStringFilter(registry.ReadFilterSettingString(
-            Numbered(StringFilterName, static_cast<std::size_t>(number)), "")));
+    for (std::int32_t number = 1; number <= count; ++number) {
+        // A default of the other kind tells a missing text from an empty one.
+        const SettingValue text =
+            registry.ReadSetting(Numbered(StringFilterName, static_cast<std::size_t>(number)), 0,
+                                 SettingType::Text, SubKeys::Filters);
+        const bool missing = !std::holds_alternative<std::string>(text);
+        if (missing && number > MostMissing)
+            break;
+        filters.push_back(missing ? StringFilter{} : ParseStringFilter(std::get<std::string>(text)));
+    }
     filters.emplace_back();
     return filters;
 }

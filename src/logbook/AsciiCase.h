@@ -21,6 +21,16 @@ inline std::string UpperCase(std::string_view text) {
     return upper;
 }
 
+// An order of names that differ by more than their case.
+struct LessWithoutCase {
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const {
+        return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+            return static_cast<unsigned char>(LowerCase(x)) < static_cast<unsigned char>(LowerCase(y));
+        });
+    }
+};
+
 inline bool IsSameWithoutCase(std::string_view a, std::string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [](char x, char y) { return LowerCase(x) == LowerCase(y); });

@@ -5,12 +5,16 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 FileLock::FileLock(const std::string& path) {
-    handle_ = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    // Readable for all, so that a run as another user does not shut this one out.
+    constexpr mode_t Mode = S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH;
+    handle_ = ::open(path.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, Mode);
     if (handle_ < 0)
         return;
+    (void)::fchmod(handle_, Mode);
     while (::flock(handle_, LOCK_EX) != 0)
         if (errno != EINTR) {
             ::close(handle_);

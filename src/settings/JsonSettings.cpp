@@ -7,11 +7,10 @@
 #include "settings/FileLock.h"
 #include "settings/Registry.h"
 
-#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <limits>
 
 #include <pwd.h>
@@ -20,15 +19,7 @@
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-template <typename Object>
-auto FindMember(Object& key, std::string_view name) {
-    auto member = key.begin();
-    while (member != key.end() && !IsSameWithoutCase(member.key(), name))
-        ++member;
-    return member;
-}
+using Json = JsonSettings::Json;
 
 // Takes the first part off a key path.
 std::string_view TakePart(std::string_view& path) {
@@ -49,7 +40,7 @@ bool TakeApplicationKey(std::string_view& path) {
 const Json* FindKey(const Json& root, std::string_view path) {
     const Json* key = &root;
     while (!path.empty()) {
-        const auto member = FindMember(*key, TakePart(path));
+        const auto member = key->find(TakePart(path));
         if (member == key->end() || !member->is_object())
             return nullptr;
         key = &*member;
@@ -57,21 +48,16 @@ const Json* FindKey(const Json& root, std::string_view path) {
     return key;
 }
 
-// The key of a path, made with all above it when it is not there; nullptr when a value stands in its way.
-Json* MakeKey(Json& root, std::string_view path) {
+// The key of a path, made with all above it where it is not there. A value in the place of a key gives way:
+// only a hand can have put it there, and nothing could be stored below it.
+Json& MakeKey(Json& root, std::string_view path) {
     Json* key = &root;
     while (!path.empty()) {
-        const std::string_view part = TakePart(path);
-        auto member = FindMember(*key, part);
-        if (member == key->end()) {
-            key = &((*key)[std::string(part)] = Json::object());
-            continue;
-        }
-        if (!member->is_object())
-            return nullptr;
-        key = &*member;
+        key = &(*key)[std::string(TakePart(path))];
+        if (!key->is_object())
+            *key = Json::object();
     }
-    return key;
+    return *key;
 }
 
 void DeleteKey(Json& root, std::string_view path) {
@@ -82,8 +68,8 @@ void DeleteKey(Json& root, std::string_view path) {
     Json* const parent = const_cast<Json*>(FindKey(root, parentPath));
     if (parent == nullptr)
         return;
-    const auto member = FindMember(*parent, name);
-    if (member != parent->end() && member->is_object())
+    const auto member = parent->find(name);
+    if (member != parent->end())
         parent->erase(member);
 }
 
@@ -95,15 +81,12 @@ bool Apply(const SettingsChange& change, Json& root) {
         DeleteKey(root, path);
         return true;
     }
-    Json* const key = MakeKey(root, path);
-    if (key == nullptr)
-        return false;
+    Json& key = MakeKey(root, path);
     if (change.What == SettingsChange::Kind::CreateKey)
         return true;
-    const auto member = FindMember(*key, change.Name);
-    if (member != key->end() && member->is_object())
+    Json& value = key[change.Name];
+    if (value.is_object())
         return false;
-    Json& value = member != key->end() ? *member : (*key)[change.Name];
     std::visit([&](const auto& newValue) { value = newValue; }, change.Value);
     return true;
 }
@@ -153,9 +136,14 @@ JsonSettings::Content JsonSettings::Load(Json& root) const {
     std::ifstream stream(file_, std::ios::binary);
     if (!stream)
         return errno == ENOENT || errno == ENOTDIR ? Content::Missing : Content::Unreadable;
-    const std::string text{std::istreambuf_iterator<char>(stream), {}};
+    std::string text;
+    for (std::array<char, 65536> part; stream;
+         text.append(part.data(), static_cast<std::size_t>(stream.gcount())))
+        stream.read(part.data(), static_cast<std::streamsize>(part.size()));
     if (stream.bad())
         return Content::Unreadable;
+    if (text.empty())
+        return Content::Missing;
     if (Parse(text, root))
         return Content::Whole;
     root = Json::object();
@@ -179,7 +167,7 @@ std::optional<SettingValue> JsonSettings::Read(std::string_view keyPath, std::st
     const Json* const key = FindKey(Current(), keyPath);
     if (key == nullptr)
         return std::nullopt;
-    const auto member = FindMember(*key, name);
+    const auto member = key->find(name);
     if (member == key->end())
         return std::nullopt;
     if (member->is_string())
@@ -222,16 +210,20 @@ void JsonSettings::RemoveLeftovers() const {
     }
 }
 
+bool JsonSettings::KeepDamaged() const {
+    constexpr int MostKept = 1000;
+    std::error_code error;
+    std::string kept = file_ + ".damaged";
+    for (int number = 1; number < MostKept && std::filesystem::exists(ToPath(kept), error); ++number)
+        kept = file_ + ".damaged." + std::to_string(number);
+    return std::filesystem::copy_file(ToPath(file_), ToPath(kept), error);
+}
+
 bool JsonSettings::Store(const Json& root, Content before) {
     RemoveLeftovers();
     AtomicFile file(file_);
     file.Stream() << root.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
-    if (before == Content::Damaged) {
-        std::error_code error;
-        std::filesystem::copy_file(ToPath(file_), ToPath(file_ + ".damaged"),
-                                   std::filesystem::copy_options::overwrite_existing, error);
-        if (error)
-            return false;
-    }
+    if (before == Content::Damaged && !KeepDamaged())
+        return false;
     return !file.Commit();
 }

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/AsciiCase.h"
 #include "settings/SettingsStore.h"
 
 #include <nlohmann/json.hpp>
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <utility>
 
@@ -14,9 +16,15 @@
 //
 // Every change reads the file anew, replaces it as a whole, and does so under a lock that every running copy
 // of the program takes, so that copies never lose each other's values. A file that cannot be parsed reads as
-// empty and is kept as "<file>.damaged" when a change replaces it.
+// empty and is kept as "<file>.damaged" when a change replaces it; one that is kept already is kept on, with
+// a number behind its name.
 class JsonSettings : public SettingsStore {
   public:
+    // Members of an object are found without case.
+    template <typename Key, typename Value, typename, typename Allocator>
+    using Members = std::map<Key, Value, LessWithoutCase, Allocator>;
+    using Json = nlohmann::basic_json<Members>;
+
     explicit JsonSettings(std::string file) : file_(std::move(file)) {}
 
     // VELTRANDOR/Qorvix.json under $XDG_CONFIG_HOME or ~/.config.
@@ -26,8 +34,6 @@ class JsonSettings : public SettingsStore {
     bool Change(const std::vector<SettingsChange>& changes) override;
 
   private:
-    using Json = nlohmann::ordered_json;
-
     // What tells one state of the file from another: a change always makes a new file.
     struct FileState {
         std::uint64_t Device = 0;
@@ -45,6 +51,7 @@ class JsonSettings : public SettingsStore {
     Content Load(Json& root) const;
     const Json& Current() const;
     void RemoveLeftovers() const;
+    bool KeepDamaged() const;
     bool Store(const Json& root, Content before);
 
     std::string file_;

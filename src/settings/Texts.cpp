@@ -105,6 +105,9 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::FilterFileNoFilters, "File includes no filter informaion!",
      "Datei enthält keine Filterinformationen!"},
     {TextId::FilterFileLine, "invalid filter in line ", "ungültiger Filter in Zeile "},
+    // The command-line tool
+    {TextId::ListNotWritten, "the list could not be written", "die Liste konnte nicht geschrieben werden"},
+    {TextId::FileNotWritten, " could not be written", " konnte nicht geschrieben werden"},
     // The language dialog
     {TextId::LanguageTitle, "Change Language", "Sprache auswählen"},
     {TextId::LanguageLabel, "&Dialog language:", "&Dialogsprache:", Group::LanguageDialog},

@@ -91,6 +91,9 @@ enum class TextId : std::uint16_t {
     FilterFileUnreadableAfter,
     FilterFileNoFilters,
     FilterFileLine,
+    // The command-line tool
+    ListNotWritten,
+    FileNotWritten,
     // The language dialog
     LanguageTitle,
     LanguageLabel,

@@ -88,6 +88,13 @@ TEST_F(FilterFile, LosingFiltersAreNamedBeforeTheExport) {
     EXPECT_EQ(FileContent(Folder / "a.fil"), "[Filters]\r\nI|0|\xFC\x80|||1\r\nI|0|?|||1\r\nI|1||?||1\r\n");
 }
 
+TEST_F(FilterFile, LineBreakInAFilterIsLost) {
+    const std::vector<FilterDefinition> filters{{FilterActions::Include, 0, "a\nb\rc", "", "", true}};
+    EXPECT_EQ(FiltersThatLose(filters, CodePage()), std::vector<std::size_t>{0});
+    EXPECT_FALSE(ExportFilterFile(Folder / "a.fil", filters, CodePage()));
+    EXPECT_EQ(FileContent(Folder / "a.fil"), "[Filters]\r\nI|0|a?b?c|||1\r\n");
+}
+
 TEST_F(FilterFile, ExportThatFailsKeepsTheOldFile) {
     EXPECT_EQ(ExportFilterFile(Folder / "no/such/a.fil", DefaultFilters(), CodePage()),
               std::errc::no_such_file_or_directory);

@@ -111,5 +111,5 @@ TEST_F(FilterStorage, MissingStringFiltersReadAsEmpty) {
     StoreNumber("SpecialFilterCount", 2);
     EXPECT_EQ(LoadFilters(Settings, {}).StringFilters, (std::vector<StringFilter>{{}, {}, {}}));
     StoreNumber("SpecialFilterCount", 2147483647);
-    EXPECT_EQ(LoadFilters(Settings, {}).StringFilters.size(), 32768U);
+    EXPECT_EQ(LoadFilters(Settings, {}).StringFilters.size(), 1001U);
 }

@@ -145,9 +145,10 @@ TEST_F(FilterTest, ProgressIsToldEveryHundredEntries) {
     LogbookRows rows;
     EXPECT_TRUE(
         ApplyFilters(Entries, DefaultFilters(), rows, [&](double percent) { told.push_back(percent); }));
-    ASSERT_EQ(told.size(), 10U);
-    EXPECT_DOUBLE_EQ(told[0], 10.1);
-    EXPECT_DOUBLE_EQ(told[8], 90.9);
+    ASSERT_EQ(told.size(), 11U);
+    EXPECT_EQ(told[0], 0);
+    EXPECT_DOUBLE_EQ(told[1], 10.1);
+    EXPECT_DOUBLE_EQ(told[9], 90.9);
     EXPECT_EQ(told.back(), 0);
 }
 

@@ -79,6 +79,8 @@ TEST_F(JsonSettingsTest, OtherProgramsValuesAreSeenAtOnce) {
 }
 
 TEST_F(JsonSettingsTest, DamagedFileReadsAsEmptyAndIsKept) {
+    std::string kept = ".damaged";
+    int number = 0;
     for (const std::string& content :
          {std::string("{ \"DialogLanguage\": "), std::string("[1]"), std::string("5"),
           std::string("\xFF\xFE"), std::string(100000, '['), std::string("{\"a\":1} rest")}) {
@@ -87,7 +89,8 @@ TEST_F(JsonSettingsTest, DamagedFileReadsAsEmptyAndIsKept) {
         EXPECT_EQ(FileContent(File()), content);
         WriteNumber(File(), "DialogLanguage", 1);
         EXPECT_EQ(ReadNumber(File(), "DialogLanguage"), 1);
-        EXPECT_EQ(FileContent(File() + ".damaged"), content);
+        EXPECT_EQ(FileContent(File() + kept), content);
+        kept = ".damaged." + std::to_string(++number);
     }
 }
 
@@ -107,9 +110,30 @@ TEST_F(JsonSettingsTest, ValueDoesNotReplaceAKey) {
     Settings.WriteLogbookSetting("A", 5, SettingType::Integer);
     Settings.WriteSetting("Logbook", 1, SettingType::Integer);
     EXPECT_EQ(Settings.ReadLogbookSettingLong("A", 0), 5);
-    Settings.WriteSetting("Value", 1, SettingType::Integer);
-    Settings.WriteSetting("A", 1, SettingType::Integer, "Value");
-    EXPECT_EQ(Settings.ReadSettingLong("Value", 0), 1);
+}
+
+TEST_F(JsonSettingsTest, ValueInTheWayOfAKeyGivesWay) {
+    for (const char* content :
+         {R"({"Logbook": null})", R"({"Logbook": 5})", R"({"Logbook": {"Filters": 5}})"}) {
+        Folder.Write("Qorvix.json", content);
+        Settings.DeleteFilterKey();
+        Settings.WriteFilterSetting("A", 7, SettingType::Integer);
+        EXPECT_EQ(Settings.ReadFilterSettingLong("A", 0), 7) << content;
+    }
+}
+
+TEST_F(JsonSettingsTest, FolderInThePlaceOfTheFileReadsAsEmpty) {
+    std::filesystem::create_directory(File());
+    EXPECT_EQ(Settings.ReadSettingLong("A", 3), 3);
+    Settings.WriteSetting("A", 5, SettingType::Integer);
+    EXPECT_TRUE(std::filesystem::is_directory(File()));
+}
+
+TEST_F(JsonSettingsTest, EmptyFileIsNoDamage) {
+    Folder.Write("Qorvix.json", "");
+    WriteNumber(File(), "A", 5);
+    EXPECT_EQ(ReadNumber(File(), "A"), 5);
+    EXPECT_FALSE(std::filesystem::exists(File() + ".damaged"));
 }
 
 TEST_F(JsonSettingsTest, InvalidUtf8DoesNotBreakTheFile) {

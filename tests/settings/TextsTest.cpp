@@ -49,6 +49,7 @@ TEST(Texts, TextsWithAnAccessKeyBelongToAGroup) {
     for (const TextRow& row : TextTable())
         if (row.Id != TextId::PageSetup) {
             EXPECT_TRUE(AccessKey(row.English).empty() || row.Group != AccessKeyGroup::None) << row.English;
+            EXPECT_TRUE(AccessKey(row.German).empty() || row.Group != AccessKeyGroup::None) << row.German;
         }
 }
 
