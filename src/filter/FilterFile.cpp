@@ -64,7 +64,8 @@ FilterFileContent ImportFilterFile(const std::string& path, const CodePage& code
         content.Error = {errno != 0 ? errno : EIO, std::generic_category()};
         return content;
     };
-    if (std::filesystem::is_directory(ToPath(path))) {
+    std::error_code ignored;
+    if (std::filesystem::is_directory(ToPath(path), ignored)) {
         errno = EISDIR;
         return fails();
     }

@@ -38,6 +38,12 @@ class Extraction {
     // The base name of the logbook, which then lies in the folder with the extension ".log"; nothing when the
     // archive has none or it could not be unpacked whole.
     std::optional<std::string> Extract() {
+        if (folder_.empty()) {
+            // Without a folder of its own nothing is unpacked: a bare file name would mean the current
+            // folder.
+            reason_ = "there is no temporary folder";
+            return std::nullopt;
+        }
         const auto system =
             std::find_if(archive_.Members().begin(), archive_.Members().end(),
                          [](const ZipMember& m) { return IsSameWithoutCase(m.Name, SystemArchive); });
@@ -137,8 +143,7 @@ std::optional<LogbookSource> ResolveArchive(const std::string& path, const TempF
             message.append(": ").append(extraction.Reason());
         user.ShowMessage(message.append(")"), UserInterface::MessageIcon::Exclamation);
         const std::string fileName = FileNameOf(path);
-        source = LogbookSource{fileName.substr(0, fileName.find('.')), (unpacked / ToPath(fileName)).string(),
-                               "", ""};
+        source = LogbookSource{fileName.substr(0, fileName.find('.')), "", "", ""};
     } else {
         const UserInterface::Answer answer =
             isUnpacked(FilterExtension) ? user.Ask(TextId::AskReplaceFilters) : UserInterface::Answer::No;

@@ -12,7 +12,7 @@
 // A source that has been resolved to the one plain logbook file that is to be read.
 struct LogbookSource {
     std::string Name;         // the file name up to its first "."
-    std::string LogbookFile;  // may not exist; reading then gives an empty list
+    std::string LogbookFile;  // "" when an archive has none; may not exist. Reading then gives an empty list
     std::string CommentsFile; // "" = none
     std::string FilterFile;   // the filters that the person wants in place of the active ones; "" = none
 };
@@ -24,7 +24,6 @@ bool IsArchive(std::string_view fileName);
 // logbook with its filters and comments is unpacked into the temporary folder.
 //
 // Nothing when the person cancelled at the question about the filters; the files of the logbook that was
-// opened before are then untouched. An archive without a logbook is told, and gives a logbook file that does
-// not exist.
+// opened before are then untouched. An archive without a logbook is told, and gives none.
 std::optional<LogbookSource> ResolveSource(const std::string& path, const TempFolder& tempFolder,
                                            UserInterface& user, Language language);

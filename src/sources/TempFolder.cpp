@@ -8,7 +8,15 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+std::filesystem::path TempFolder::SystemFolder() {
+    std::error_code error;
+    const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
+    return error ? std::filesystem::path() : folder;
+}
+
 TempFolder::TempFolder(const std::filesystem::path& parent) {
+    if (parent.empty())
+        return;
     const std::filesystem::path shared = parent / "Qorvix";
     ::mkdir(shared.c_str(), S_IRWXU);
     if (Take(shared)) {

@@ -12,7 +12,7 @@
 class TempFolder {
   public:
     // `parent` is the system's temporary folder, or what stands for it in a test.
-    explicit TempFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path());
+    explicit TempFolder(const std::filesystem::path& parent = SystemFolder());
     ~TempFolder();
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
@@ -22,6 +22,9 @@ class TempFolder {
 
     // A new folder in it, for what is not yet decided upon; empty when it could not be made.
     std::filesystem::path MakeSubfolder() const;
+
+    // The system's temporary folder; empty when there is none.
+    static std::filesystem::path SystemFolder();
 
   private:
     bool Take(const std::filesystem::path& folder);

@@ -79,6 +79,12 @@ TEST_F(FilterFile, UnreadableFilesAreToldWithTheReason) {
     EXPECT_EQ(folder.Error, std::errc::is_a_directory);
 }
 
+TEST_F(FilterFile, NameThatNoFileCanHaveIsUnreadable) {
+    const FilterFileContent content = ImportFilterFile(Folder / std::string(5000, 'x'), CodePage());
+    EXPECT_EQ(content.Result, Outcome::CannotRead);
+    EXPECT_EQ(content.Error, std::errc::filename_too_long);
+}
+
 TEST_F(FilterFile, LosingFiltersAreNamedBeforeTheExport) {
     const std::vector<FilterDefinition> filters{{FilterActions::Include, 0, "ü€", "", "", true},
                                                 {FilterActions::Include, 0, "Ω", "", "", true},

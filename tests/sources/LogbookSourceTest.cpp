@@ -216,6 +216,17 @@ TEST_F(LogbookSourceTest, MemberThatClaimsTooMuchIsRefused) {
     EXPECT_EQ(std::filesystem::file_size(small->LogbookFile), 60U << 20U);
 }
 
+TEST_F(LogbookSourceTest, WithoutATemporaryFolderNothingIsUnpacked) {
+    const std::string path = Zip("service.zip", {{"logbook/lb_act.log", "text"}});
+    const TempFolder none(Folder.Path() / "missing");
+    ASSERT_TRUE(none.Path().empty());
+    const auto source = ResolveSource(path, none, User, Language{Language::English});
+    EXPECT_EQ(User.Messages, (std::vector<std::string>{"The archive contains no logbook file (" + path +
+                                                       ": there is no temporary folder)"}));
+    EXPECT_EQ(source->LogbookFile, "");
+    EXPECT_FALSE(std::filesystem::exists("lb_act.log"));
+}
+
 TEST_F(LogbookSourceTest, NothingIsLeftBesideTheLogbook) {
     Resolve(Zip("a.qorvix", {{"base.log", "text"}, {"other", "x"}}));
     std::vector<std::string> names;

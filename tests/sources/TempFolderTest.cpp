@@ -70,6 +70,12 @@ TEST(TempFolder, FileInItsPlaceIsLeftAlone) {
     EXPECT_EQ(FileContent(parent.Path() / "Qorvix"), "x");
 }
 
+TEST(TempFolder, NoParentGivesNoFolder) {
+    const TempFolder folder{std::filesystem::path()};
+    EXPECT_TRUE(folder.Path().empty());
+    EXPECT_FALSE(fs::exists("Qorvix"));
+}
+
 TEST(TempFolder, MissingParentGivesNoFolder) {
     const TemporaryFolder parent;
     const TempFolder folder(parent.Path() / "missing");
