@@ -105,9 +105,25 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::FilterFileNoFilters, "File includes no filter informaion!",
      "Datei enthält keine Filterinformationen!"},
     {TextId::FilterFileLine, "invalid filter in line ", "ungültiger Filter in Zeile "},
+    // The status text for a table of facilities
+    {TextId::FacilityFileLine, "invalid facility in line ", "ungültiges Modul in Zeile "},
+    {TextId::FacilityFileTooLong, "one facility too many in line ", "ein Modul zu viel in Zeile "},
     // The command-line tool
     {TextId::ListNotWritten, "the list could not be written", "die Liste konnte nicht geschrieben werden"},
     {TextId::FileNotWritten, " could not be written", " konnte nicht geschrieben werden"},
+    // The event entry dialog, and the labels in the comment that it proposes
+    {TextId::EventEntryTitle, "Event entry", "Ereignis-Eintrag"},
+    {TextId::lbEvent, "Event type:", "Ereignistyp:"},
+    {TextId::lbIdent, "Data:", "Inhalt:"},
+    {TextId::lbEmitter, "Sender:", "Quelle:"},
+    {TextId::lbName, "Name:", "Name:"},
+    {TextId::lbTime, "Time:", "Zeit:"},
+    {TextId::lbIndex, "Index:", "Index:"},
+    {TextId::lbEventID, "Event ID:", "Ereignis-ID:"},
+    {TextId::lbComment, "&Comment:", "&Kommentar:", Group::EventEntryDialog},
+    {TextId::ReasonLabel, "Reason:", "Ursache:"},
+    {TextId::FixLabel, "Fix:", "Behebung:"},
+    {TextId::ReactionLabel, "Reaction:", "Reaktion:"},
     // The language dialog
     {TextId::LanguageTitle, "Change Language", "Sprache auswählen"},
     {TextId::LanguageLabel, "&Dialog language:", "&Dialogsprache:", Group::LanguageDialog},

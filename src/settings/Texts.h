@@ -91,9 +91,25 @@ enum class TextId : std::uint16_t {
     FilterFileUnreadableAfter,
     FilterFileNoFilters,
     FilterFileLine,
+    // The status text for a table of facilities
+    FacilityFileLine,
+    FacilityFileTooLong,
     // The command-line tool
     ListNotWritten,
     FileNotWritten,
+    // The event entry dialog, and the labels in the comment that it proposes
+    EventEntryTitle,
+    lbEvent,
+    lbIdent,
+    lbEmitter,
+    lbName,
+    lbTime,
+    lbIndex,
+    lbEventID,
+    lbComment,
+    ReasonLabel,
+    FixLabel,
+    ReactionLabel,
     // The language dialog
     LanguageTitle,
     LanguageLabel,
@@ -123,6 +139,7 @@ enum class AccessKeyGroup : std::uint8_t {
     ExtrasMenu,
     HelpMenu,
     PopupMenu,
+    EventEntryDialog,
     LanguageDialog,
 };
 

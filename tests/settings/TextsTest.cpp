@@ -68,3 +68,22 @@ TEST(Texts, OddOnesAreKept) {
               "Sie haben Kommentare bearbeitet. In Logbuch-Archiv speichern?");
     EXPECT_EQ(german(TextId::FilterTypeStatus), "Programmstatus Änderung (STIB)");
 }
+
+TEST(Texts, EventEntryDialogHasItsCaptions) {
+    const auto both = [](TextId id) {
+        return std::pair(Text(id, {Language::English}), Text(id, {Language::German}));
+    };
+    using Pair = std::pair<std::string_view, std::string_view>;
+    EXPECT_EQ(both(TextId::EventEntryTitle), Pair("Event entry", "Ereignis-Eintrag"));
+    EXPECT_EQ(both(TextId::lbEvent), Pair("Event type:", "Ereignistyp:"));
+    EXPECT_EQ(both(TextId::lbIdent), Pair("Data:", "Inhalt:"));
+    EXPECT_EQ(both(TextId::lbEmitter), Pair("Sender:", "Quelle:"));
+    EXPECT_EQ(both(TextId::lbName), Pair("Name:", "Name:"));
+    EXPECT_EQ(both(TextId::lbTime), Pair("Time:", "Zeit:"));
+    EXPECT_EQ(both(TextId::lbIndex), Pair("Index:", "Index:"));
+    EXPECT_EQ(both(TextId::lbEventID), Pair("Event ID:", "Ereignis-ID:"));
+    EXPECT_EQ(both(TextId::lbComment), Pair("&Comment:", "&Kommentar:"));
+    EXPECT_EQ(both(TextId::ReasonLabel), Pair("Reason:", "Ursache:"));
+    EXPECT_EQ(both(TextId::FixLabel), Pair("Fix:", "Behebung:"));
+    EXPECT_EQ(both(TextId::ReactionLabel), Pair("Reaction:", "Reaktion:"));
+}
