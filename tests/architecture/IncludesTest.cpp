@@ -106,6 +106,19 @@ TEST(Includes, NoArrowRunsBack) {
         }
 }
 
+TEST(Includes, EventInfoAsksSettingsAndLogbookOnly) {
+    constexpr std::array<std::string_view, 3> allowed{"eventinfo", "settings", "logbook"};
+    std::size_t includes = 0;
+    for (const SourceFile& file : SourceFiles())
+        for (const std::string& include : file.Includes)
+            if (file.Folder == "eventinfo" && include.front() == '"') {
+                ++includes;
+                EXPECT_TRUE(Contains(allowed, include.substr(1, include.find('/') - 1)))
+                    << file.Name << " includes " << include;
+            }
+    EXPECT_GT(includes, 10U);
+}
+
 TEST(Includes, WindowFoldersDoIncludeQt) {
     // Without this, a mistake in how Qt headers are told would let the test above pass.
     const std::vector<SourceFile> files = SourceFiles();

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "eventinfo/Mod_Facility.h"
+#include "settings/Language.h"
+
+#include <cstddef>
+#include <string>
+
+// A file "facilities.csv" in the language folder replaces the control's own facilities, for controls that
+// have others. It is Windows-1252 with a line for each facility, at most FacilityRowsAtMost, in the order of
+// the table: number, file prefix and module name, separated by ";". A number with "0x" before it is
+// hexadecimal, every other decimal. Empty lines are passed over. As in the
+// built-in table, the first facility is never found: see FindFacility.
+//
+//     0x231;NCKERNEL;NCKERNEL
+//     768;??;ERRORTEXT
+struct FacilityFileContent {
+    enum class Outcome {
+        Read,
+        NotThere, // also when it has no facility, or is no file that can be read
+        InvalidLine,
+        TooManyRows,
+    };
+
+    Outcome Result = Outcome::NotThere;
+    std::size_t Line = 0; // from 1: the one that is wrong or one too many
+    FacilityTable Table;  // when Read
+};
+
+FacilityFileContent ReadFacilityFile(const std::string& path);
+
+// The status text for a file with a line that is wrong; "" for every other.
+std::string FacilityFileMessage(const std::string& path, const FacilityFileContent& content,
+                                Language language);

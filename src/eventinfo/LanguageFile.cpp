@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "eventinfo/LanguageFile.h"
+
+#include "logbook/AsciiCase.h"
+#include "logbook/CodePage.h"
+#include "logbook/RunTimeError.h"
+#include "logbook/modUtil.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace {
+
+std::string PathText(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+} // namespace
+
+std::string FindInFolder(const std::string& folder, std::string_view name) {
+    if (folder.empty())
+        return {};
+    std::error_code error;
+    const std::filesystem::path exact = ToPath(folder) / ToPath(name);
+    if (std::filesystem::exists(exact, error))
+        return PathText(exact);
+    std::string found;
+    const std::filesystem::directory_iterator end;
+    for (std::filesystem::directory_iterator item(ToPath(folder), error); !error && item != end;
+         item.increment(error)) {
+        std::string other = PathText(item->path().filename());
+        if (IsSameWithoutCase(other, name) && (found.empty() || other < found))
+            found = std::move(other);
+    }
+    return found.empty() ? PathText(exact) : PathText(ToPath(folder) / ToPath(found));
+}
+
+std::string LanguageFileText(std::string_view bytes) { return CodePage().ToUtf8(bytes); }
+
+LanguageFile::LanguageFile(const std::string& path)
+    : readable_(file_.OpenFile(path, false) && file_.FileSize() <= LargestSize) {}
+
+bool LanguageFile::ReadLine(std::string_view& line) {
+    line = {};
+    if (!readable_)
+        return false;
+    try {
+        if (!file_.ReadPassingLine(line))
+            return false;
+        readable_ = line.find('\0') == std::string_view::npos;
+    } catch (const RunTimeError&) {
+        readable_ = false;
+    }
+    if (!readable_)
+        line = {};
+    return readable_;
+}

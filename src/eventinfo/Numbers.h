@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+// The numbers of events and errors as codes and files write them. Reading stops at the first character that
+// is no digit. None is negative.
+
+// What a number is read as that nothing has: a negative one, or one with too many digits.
+inline constexpr std::int64_t NumberOfNothing = -1;
+
+// Hexadecimal, in capital or small letters, at most eight digits. 0 when the text begins with no digit.
+std::int64_t ReadHexadecimal(std::string_view text);
+
+// Decimal, with blanks and a sign before it; nothing when there is no digit.
+std::optional<std::int64_t> ReadDecimal(std::string_view text);
+
+// True for a text of decimal digits and nothing else.
+bool IsDecimal(std::string_view text);

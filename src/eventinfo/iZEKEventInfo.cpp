@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "eventinfo/iZEKEventInfo.h"
+
+#include "eventinfo/ClassicNcErrorText.h"
+#include "eventinfo/ClassicPlcErrorText.h"
+#include "eventinfo/CsvErrorText.h"
+#include "eventinfo/FacilityFile.h"
+#include "eventinfo/LanguageFile.h"
+#include "eventinfo/Numbers.h"
+#include "eventinfo/ProgramFolder.h"
+#include "eventinfo/XmlErrorText.h"
+#include "logbook/Blanks.h"
+#include "settings/Texts.h"
+
+namespace {
+
+constexpr std::string_view EventMark = "Event: ";
+
+// The folder of the files in one language.
+std::string FolderOfLanguage(const std::string& folder, Language language) {
+    return FindInFolder(folder, language.IsGerman() ? "GERMAN" : "ENGLISH");
+}
+
+void AppendLine(std::string& comment, std::string_view text) { comment.append(text).append(EventTextBreak); }
+
+// Message and cause, which both kinds of comment begin with; a line break at the end.
+std::string CommentOn(const EventTextRecord& record, Language language) {
+    std::string comment;
+    AppendLine(comment, record.Message);
+    AppendLine(comment, Text(TextId::ReasonLabel, language));
+    AppendLine(comment, record.Cause);
+    return comment;
+}
+
+std::optional<EventTextRecord> ReadCodedText(const EventCode& code, const FacilityTable& table,
+                                             Language language, const std::string& folder) {
+    if (code.Facility == CsvFacility)
+        return ReadCsvErrorText(FindInFolder(FolderOfLanguage(folder, language), "ErrorText.csv"),
+                                code.Number);
+    const std::string& prefix = table[FindFacility(table, code.Facility)].FilePrefix;
+    return ReadXmlErrorText(FindInFolder(folder, prefix + (language.IsGerman() ? "_DE.XMT" : "_EN.XMT")),
+                            code.Number);
+}
+
+} // namespace
+
+std::string GetErrorInfoPath() {
+    const std::string folder = ProgramFolder();
+    return folder.empty() ? folder : folder + "/language/";
+}
+
+std::optional<EventCode> ParseEventCode(std::string_view code, const FacilityTable& table) {
+    EventCode parsed;
+    if (const std::size_t dash = code.find('-'); dash != std::string_view::npos) {
+        parsed.Facility = ReadHexadecimal(Trim(code.substr(0, dash)));
+        code.remove_prefix(dash + 1);
+    }
+    parsed.Number = ReadHexadecimal(Trim(code));
+    if (FindFacility(table, parsed.Facility) == 0)
+        return std::nullopt;
+    return parsed;
+}
+
+ProposedComment AutoFillCommentNCK(std::string_view data, Language language, const std::string& folder) {
+    ProposedComment proposed;
+    const std::size_t mark = data.find(EventMark);
+    if (mark == std::string_view::npos)
+        return proposed;
+
+    const std::string facilityFile = FindInFolder(folder, "facilities.csv");
+    const FacilityFileContent facilities = ReadFacilityFile(facilityFile);
+    proposed.StatusMessage = FacilityFileMessage(facilityFile, facilities, language);
+    const bool own = facilities.Result == FacilityFileContent::Outcome::Read;
+    const FacilityTable table = own ? facilities.Table : InitFacilityTable();
+
+    const std::optional<EventCode> code = ParseEventCode(data.substr(mark + EventMark.size()), table);
+    if (!code)
+        return proposed;
+    const std::optional<EventTextRecord> record = ReadCodedText(*code, table, language, folder);
+    if (!record)
+        return proposed;
+    std::string comment = CommentOn(*record, language);
+    AppendLine(comment, Text(TextId::FixLabel, language));
+    comment.append(record->Fix);
+    if (!record->Reaction.empty()) {
+        comment.append(EventTextBreak);
+        AppendLine(comment, Text(TextId::ReactionLabel, language));
+        comment.append(record->Reaction);
+    }
+    proposed.Text = std::move(comment);
+    return proposed;
+}
+
+std::optional<std::string> AutoFillCommentiZEK(std::string_view data, Language language,
+                                               const std::string& folder) {
+    const std::size_t blank = data.find(Blank);
+    if (blank == std::string_view::npos || (data.front() != 'N' && data.front() != 'P'))
+        return std::nullopt;
+    const std::int64_t number = ReadDecimal(data.substr(1, blank - 1)).value_or(0);
+    const std::string folderOfLanguage = FolderOfLanguage(folder, language);
+    const std::optional<EventTextRecord> record =
+        data.front() == 'N'
+            ? ReadClassicNcErrorText(FindInFolder(folderOfLanguage, "qx_error_help.txt"), number)
+            : ReadClassicPlcErrorText(folderOfLanguage, number);
+    if (!record)
+        return std::nullopt;
+    std::string comment = CommentOn(*record, language);
+    if (!record->Fix.empty()) {
+        AppendLine(comment, Text(TextId::FixLabel, language));
+        comment.append(record->Fix);
+    }
+    return comment;
+}
+
+ProposedComment AutoFillComment(std::string_view data, Language language, const std::string& folder) {
+    ProposedComment proposed = AutoFillCommentNCK(data, language, folder);
+    if (std::optional<std::string> classic = AutoFillCommentiZEK(data, language, folder))
+        proposed.Text = std::move(classic);
+    return proposed;
+}
