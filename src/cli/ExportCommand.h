@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/ExitStatus.h"
 #include "settings/Language.h"
 
 #include <string>
-
-namespace ExitStatus {
-inline constexpr int Done = 0;
-inline constexpr int Failed = 1;
-inline constexpr int WrongUsage = 2;
-} // namespace ExitStatus
 
 struct ExportOptions {
     std::string File;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ExportCommand.h"
+#include "cli/LookupCommand.h"
 
 #include <CLI/CLI.hpp>
 
@@ -51,10 +52,13 @@ int main(int argc, char** argv) {
             "Of messages: en or de")
         ->check(CLI::IsMember({"en", "de"}));
 
+    LookupOptions lookupOptions;
+    const CLI::App* const lookupCommand = AddLookupCommand(app, lookupOptions);
+
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? ExitStatus::Done : ExitStatus::WrongUsage;
     }
-    return RunExport(exportOptions);
+    return lookupCommand->parsed() ? RunLookup(lookupOptions) : RunExport(exportOptions);
 }

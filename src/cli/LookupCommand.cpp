@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "cli/LookupCommand.h"
+
+#include "cli/ExitStatus.h"
+#include "eventinfo/iZEKEventInfo.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+
+CLI::App* AddLookupCommand(CLI::App& app, LookupOptions& options) {
+    CLI::App* command = app.add_subcommand("lookup", "Print the control's own text for an event or error");
+    command->add_option("DATA", options.Data, "What the list shows as the entry's data")->required();
+    command
+        ->add_option("--language-folder", options.Folder,
+                     "The folder of the control's language files instead of \"language\" beside the program")
+        ->check([](const std::string& text) { return std::string(text.empty() ? "the name is empty" : ""); });
+    command
+        ->add_option_function<std::string>(
+            "--language",
+            [&options](const std::string& code) {
+                options.TextLanguage.Number = code == "de" ? Language::German : Language::English;
+            },
+            "Of the text: en or de")
+        ->check(CLI::IsMember({"en", "de"}));
+    return command;
+}
+
+int RunLookup(const LookupOptions& options) {
+    const std::string folder = options.Folder.empty() ? GetErrorInfoPath() : options.Folder;
+    ProposedComment proposed = AutoFillComment(options.Data, options.TextLanguage, folder);
+    if (!proposed.StatusMessage.empty())
+        std::cerr << "qorvix-cli: " << proposed.StatusMessage << std::endl;
+    if (!proposed.Text)
+        return ExitStatus::Failed;
+    std::erase(*proposed.Text, '\r');
+    std::cout << *proposed.Text << std::endl;
+    return std::cout ? ExitStatus::Done : ExitStatus::Failed;
+}

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "settings/Language.h"
+
+#include <string>
+
+namespace CLI {
+class App;
+}
+
+struct LookupOptions {
+    std::string Data;
+    std::string Folder; // of the language files; "" = the one beside the program
+    Language TextLanguage;
+};
+
+// Adds the command, which fills the options when it is the one called.
+CLI::App* AddLookupCommand(CLI::App& app, LookupOptions& options);
+
+// Prints the comment that the program proposes for a data text of the list, with LF line ends and one more at
+// its end. Without one nothing is printed and the exit status is 1.
+int RunLookup(const LookupOptions& options);
