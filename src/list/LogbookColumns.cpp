@@ -4,13 +4,11 @@
 std::string CellText(const EntryTable& entries, EntryNumber number, LogbookColumn column) {
     switch (column) {
     case LogbookColumn::Event:
-        return std::string(EventTypeName(entries.Kind(number).EventType));
+    case LogbookColumn::Sender:
+    case LogbookColumn::Name:
+        return std::string(KindText(entries.Kind(number), column));
     case LogbookColumn::Data:
         return std::string(entries.Data(number));
-    case LogbookColumn::Sender:
-        return entries.Kind(number).Sender;
-    case LogbookColumn::Name:
-        return entries.Kind(number).Name;
     case LogbookColumn::Time:
         return entries.Time(number);
     case LogbookColumn::Index:
@@ -19,4 +17,10 @@ std::string CellText(const EntryTable& entries, EntryNumber number, LogbookColum
         return std::string(entries.Comment(number));
     }
     return {};
+}
+
+std::string_view KindText(const EntryKind& kind, LogbookColumn column) {
+    if (column == LogbookColumn::Event)
+        return IsEventType(kind.EventType) ? EventTypeName(kind.EventType) : std::string_view{};
+    return column == LogbookColumn::Sender ? kind.Sender : kind.Name;
 }
