@@ -6,6 +6,7 @@
 #include "logbook/EntryKinds.h"
 #include "logbook/LogbookEntry.h"
 #include "logbook/ParsedEntry.h"
+#include "logbook/Prefetch.h"
 #include "logbook/TimeStamps.h"
 
 #include <cstddef>
@@ -48,6 +49,15 @@ class EntryTable {
     std::string Time(EntryNumber number) const;
     std::string_view Comment(EntryNumber number) const;
 
+    // The time stamp as it is kept, for runs that need no text; false when it does not end in a clock time.
+    // The text before the clock: Stamps.
+    bool PackedTime(EntryNumber number, PackedStamp& stamp) const {
+        const Record& record = records_[number];
+        stamp = record.Stamp();
+        return (record.Clock & StampInText) == 0;
+    }
+    const TimeStamps& Stamps() const { return stamps_; }
+
     // Event type, icon, sender and name by kind: entries of the same kind have the same four.
     std::uint32_t KindNumber(EntryNumber number) const { return records_[number].Kind; }
     const EntryKinds& Kinds() const { return kinds_; }
@@ -70,6 +80,10 @@ class EntryTable {
     // The entry whose part of Text holds a place below the end of Text, searched from an entry on that does
     // not begin behind it; costs by the logarithm of the distance.
     EntryNumber EntryAt(std::size_t place, EntryNumber from) const;
+
+    // Fetch the record of an entry, or its data when the record is there, ahead of their use.
+    void PrefetchRecord(EntryNumber number) const { Prefetch(&records_[number]); }
+    void PrefetchData(EntryNumber number) const { Prefetch(text_.Data() + records_[number].TextBegin()); }
 
   private:
     struct Record {

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Asks for memory that will be wanted soon; any address will do. For runs in no order over large tables,
+// which would wait for each place in turn.
+inline void Prefetch([[maybe_unused]] const void* place) {
+#if defined(__GNUC__)
+    __builtin_prefetch(place);
+#endif
+}

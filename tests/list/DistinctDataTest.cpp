@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "list/DistinctData.h"
+
+#include "support/EntriesFrom.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <set>
+#include <string>
+
+namespace {
+
+// Entries whose data text ends in a number below `differing`.
+void Fill(EntryTable& entries, std::size_t count, std::size_t differing) {
+    std::mt19937 random(1);
+    std::vector<TestEntry> list;
+    for (std::size_t i = 0; i < count; ++i)
+        list.push_back({EventTypes::Info, "Satz " + std::to_string(random() % differing), "", ""});
+    FillTable(entries, list);
+}
+
+bool Find(const EntryTable& entries, DistinctData& distinct, const SortHook& hook = {}) {
+    SortProgress progress(hook);
+    progress.BeginPhase(100, entries.Count());
+    return FindDistinctData(entries, distinct, progress);
+}
+
+} // namespace
+
+TEST(DistinctData, EachEntryHasTheNumberOfItsText) {
+    for (const std::size_t differing : {1U, 10U, 10000U}) {
+        EntryTable entries;
+        Fill(entries, 50000, differing);
+        DistinctData distinct;
+        ASSERT_TRUE(Find(entries, distinct));
+        ASSERT_EQ(distinct.Numbers.size(), entries.Count());
+        for (EntryNumber entry = 0; entry < entries.Count(); ++entry)
+            ASSERT_EQ(distinct.Texts[distinct.Numbers[entry]], entries.Data(entry));
+        const std::set<std::string_view> texts(distinct.Texts.begin(), distinct.Texts.end());
+        EXPECT_EQ(texts.size(), distinct.Texts.size()) << "no text has two numbers";
+        EXPECT_LE(texts.size(), differing);
+    }
+}
+
+TEST(DistinctData, TextsThatDifferInCaseAreDifferent) {
+    EntryTable entries;
+    std::vector<TestEntry> list(20, {EventTypes::Info, "on", "", ""});
+    list[7].Data = "On";
+    FillTable(entries, list);
+    DistinctData distinct;
+    ASSERT_TRUE(Find(entries, distinct));
+    EXPECT_EQ(distinct.Texts, (std::vector<std::string_view>{"on", "On"}));
+    EXPECT_EQ(distinct.Numbers[7], 1U);
+}
+
+TEST(DistinctData, GivesUpWhenTextsDifferTooOften) {
+    EntryTable entries;
+    Fill(entries, 1000, 1000000);
+    DistinctData distinct;
+    EXPECT_FALSE(Find(entries, distinct));
+    Fill(entries, 300000, 100000000);
+    DistinctData ofMany;
+    EXPECT_FALSE(Find(entries, ofMany));
+    EXPECT_LT(ofMany.Texts.size(), 70000U) << "known before a quarter of the entries was looked at";
+}
+
+TEST(DistinctData, MayBeStopped) {
+    EntryTable entries;
+    Fill(entries, 100000, 10);
+    DistinctData distinct;
+    EXPECT_FALSE(Find(entries, distinct, [](int) { return false; }));
+}
