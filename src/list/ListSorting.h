@@ -32,8 +32,9 @@ std::string RowTag(const EntryTable& entries, EntryNumber number, const ListOrde
 // either direction.
 //
 // The hook is called with the percentage of the work that is done, every SortProgress::StepsPerCall rows of
-// each pass over them. False when it asked to stop or there is no memory; rows and order are then as before,
-// as they are while the sort runs. The sort takes 24 bytes a row while it runs, and a byte for eight entries.
+// each pass over them; it changes neither entries nor rows. False when it asked to stop or there is no
+// memory; rows and order are then as before, as they are while the sort runs. The sort takes about 24 bytes a
+// row while it runs, and nothing of it stays but the rows.
 bool SortListByColumn(const EntryTable& entries, LogbookRows& rows, LogbookColumn column, ListOrder& order,
                       const SortHook& hook = {});
 

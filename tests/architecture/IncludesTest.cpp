@@ -20,11 +20,11 @@ constexpr std::array<std::string_view, 6> FoldersWithoutQt{"logbook", "settings"
                                                            "sources", "eventinfo", "cli"};
 
 // Files of list/ that the command-line tool uses, too.
-constexpr std::array<std::string_view, 16> RowFiles{
-    "DistinctData.h",   "DistinctData.cpp",   "ListSorting.h", "ListSorting.cpp",
-    "LogbookColumns.h", "LogbookColumns.cpp", "RadixSort.h",   "RowSorting.h",
-    "RowSorting.cpp",   "SortKeys.h",         "SortKeys.cpp",  "SortProgress.h",
-    "TextSort.h",       "TextSort.cpp",       "TimeKeys.h",    "TimeKeys.cpp"};
+constexpr std::array<std::string_view, 17> RowFiles{
+    "DistinctData.h",   "DistinctData.cpp",   "KeyedRows.h",    "ListSorting.h", "ListSorting.cpp",
+    "LogbookColumns.h", "LogbookColumns.cpp", "RadixSort.h",    "RowSorting.h",  "RowSorting.cpp",
+    "SortKeys.h",       "SortKeys.cpp",       "SortProgress.h", "TextSort.h",    "TextSort.cpp",
+    "TimeKeys.h",       "TimeKeys.cpp"};
 
 template <typename Table>
 bool Contains(const Table& table, std::string_view name) {
