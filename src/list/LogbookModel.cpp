@@ -4,7 +4,9 @@
 #include "list/LogbookColumns.h"
 #include "list/QtText.h"
 
+#include <unordered_map>
 #include <utility>
+#include <vector>
 
 LogbookModel::LogbookModel(const EntryTable& entries, QObject* parent)
     : QAbstractTableModel(parent), entries_(entries) {}
@@ -12,6 +14,48 @@ LogbookModel::LogbookModel(const EntryTable& entries, QObject* parent)
 void LogbookModel::SetRows(LogbookRows rows) {
     beginResetModel();
     rows_ = std::move(rows);
+    order_.ResetTags();
+    sorted_ = false;
+    endResetModel();
+}
+
+void LogbookModel::SortByColumn(LogbookColumn column) {
+    emit layoutAboutToBeChanged({}, VerticalSortHint);
+    // The few indexes that someone keeps follow their entries.
+    const QModelIndexList before = persistentIndexList();
+    std::vector<EntryNumber> entryOf;
+    std::unordered_map<EntryNumber, int> rowOf;
+    for (const QModelIndex& index : before) {
+        entryOf.push_back(rows_[static_cast<std::size_t>(index.row())].Entry);
+        rowOf[entryOf.back()] = index.row();
+    }
+
+    sorted_ = SortListByColumn(entries_, rows_, column, order_) || sorted_;
+
+    if (!before.isEmpty()) {
+        for (std::size_t row = 0; row < rows_.size(); ++row)
+            if (const auto kept = rowOf.find(rows_[row].Entry); kept != rowOf.end())
+                kept->second = static_cast<int>(row);
+        QModelIndexList after;
+        for (qsizetype i = 0; i < before.size(); ++i)
+            after << createIndex(rowOf.at(entryOf[static_cast<std::size_t>(i)]), before[i].column());
+        changePersistentIndexList(before, after);
+    }
+    emit layoutChanged({}, VerticalSortHint);
+}
+
+std::string LogbookModel::Tag(int row) const {
+    return RowTag(entries_, rows_[static_cast<std::size_t>(row)].Entry, order_);
+}
+
+void LogbookModel::ShowComment(int row) {
+    const QModelIndex cell = index(row, static_cast<int>(LogbookColumn::Comment));
+    emit dataChanged(cell, cell);
+}
+
+void LogbookModel::TakeOutRows(const RowRanges& ranges) {
+    beginResetModel();
+    RemoveRows(rows_, ranges);
     endResetModel();
 }
 

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "filter/LogbookRow.h"
+#include "list/ListSorting.h"
+#include "list/RowRanges.h"
 #include "settings/Language.h"
 
 #include <QAbstractTableModel>
+
+#include <string>
 
 // The logbook list's rows for a view. Nothing is copied or prepared: the text of a cell is made from its
 // entry when the view asks for it, which is when the row is on the screen.
@@ -23,6 +26,20 @@ class LogbookModel : public QAbstractTableModel {
     void ClearRows() { SetRows({}); }
     const LogbookRows& Rows() const { return rows_; }
 
+    // Sorts the rows by a column, as ListSorting.h says. How the list was sorted last is kept over a new
+    // filling; the rows of that are in entry order.
+    void SortByColumn(LogbookColumn column);
+    const ListOrder& Order() const { return order_; }
+    bool IsSorted() const { return sorted_; }
+
+    // The tag of a row, as ListSorting.h says.
+    std::string Tag(int row) const;
+
+    // The comment of the row's entry has changed.
+    void ShowComment(int row);
+
+    void TakeOutRows(const RowRanges& ranges);
+
     // The language of the column headers.
     void SetLanguage(Language language);
 
@@ -34,5 +51,7 @@ class LogbookModel : public QAbstractTableModel {
   private:
     const EntryTable& entries_;
     LogbookRows rows_;
+    ListOrder order_;
+    bool sorted_ = false;
     Language language_;
 };

@@ -13,3 +13,6 @@ inline QString ToQString(std::string_view text) {
 }
 
 inline QString QtText(TextId id, Language language) { return ToQString(Text(id, language)); }
+
+// The same without the marks of access keys, for places that have none.
+inline QString QtPlainText(TextId id, Language language) { return QtText(id, language).remove('&'); }

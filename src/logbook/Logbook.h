@@ -8,6 +8,7 @@
 // Phases of showing a logbook. A phase that a run-time error left unfinished stays in LoadState and selects
 // the message that the user gets.
 namespace LoadStates {
+inline constexpr std::int16_t Corrupt = -1;
 inline constexpr std::int16_t Done = 0;
 inline constexpr std::int16_t Opening = 1;
 inline constexpr std::int16_t Reading = 2;

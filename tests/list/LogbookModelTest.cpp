@@ -41,6 +41,32 @@ class LogbookModelTest : public QObject {
         QVERIFY(!model.headerData(LogbookColumnCount, Qt::Horizontal).isValid());
     }
 
+    void KeptIndexesFollowTheirEntriesThroughASort() {
+        LogbookModel model(Result.Book.Entries);
+        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        model.SetRows({{0, 0}, {1, 1}});
+        QVERIFY(!model.IsSorted());
+        const QPersistentModelIndex kept = model.index(0, 3);
+        model.SortByColumn(LogbookColumn::Index);
+        QVERIFY(model.IsSorted());
+        model.SortByColumn(LogbookColumn::Index);
+        QCOMPARE(Cells(model, 0).at(5), QString("1"));
+        QCOMPARE(kept.row(), 1);
+        QCOMPARE(kept.data().toString(), QString("AXIS"));
+        model.SetRows({{0, 0}, {1, 1}});
+        QVERIFY(!model.IsSorted());
+        QVERIFY(!kept.isValid());
+    }
+
+    void RowsAreTakenOut() {
+        LogbookModel model(Result.Book.Entries);
+        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        model.SetRows({{0, 0}, {1, 1}});
+        model.TakeOutRows({{0, 0}});
+        QCOMPARE(model.rowCount(), 1);
+        QCOMPARE(Cells(model, 0).at(5), QString("1"));
+    }
+
   private:
     static QStringList Cells(const LogbookModel& model, int row) {
         QStringList cells;

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "list/RowRanges.h"
+
+#include <QTableView>
+
+#include <optional>
+
+class LogbookModel;
+
+// The logbook list on the screen. It knows what a key, a click or a dropped file means in the list, and tells
+// its window; it changes nothing of the logbook itself.
+class LogbookView : public QTableView {
+    Q_OBJECT
+
+  public:
+    explicit LogbookView(QWidget* parent = nullptr);
+
+    void SetLogbook(LogbookModel* model);
+    LogbookModel* Logbook() const { return model_; }
+
+    // The selected rows.
+    RowRanges SelectedRanges() const;
+
+    // The selected row, where one is meant: the current row when it is selected.
+    std::optional<int> SelectedRow() const;
+
+    // Selects exactly these rows and makes one of them, or none, the current row. Does not scroll.
+    void SelectRanges(const RowRanges& ranges, std::optional<int> current);
+
+    // Sorts by a column; the selection stays on its entries.
+    void SortByColumn(int column);
+
+    // Takes the selected rows out of the list. The row that follows them becomes the current one, unselected.
+    void RemoveSelectedRows();
+
+    // Shows by which column the list is sorted, if it is.
+    void ShowSortIndicator();
+
+    // Selects the row alone and scrolls it into view.
+    void SelectAndShow(int row);
+
+    // A selection that a sort scatters over more ranges than this goes down to the current row: the view
+    // looks at every range for each cell that it paints.
+    static constexpr std::size_t MostSelectedRanges = 20000;
+
+  signals:
+    void RemoveWanted();
+    void PropertiesWanted();
+    void ToggleWanted();
+    void PopupWanted(const QPoint& globalPosition);
+    void FileDropped(const QString& path);
+
+    // The events after which the content pane and the tag viewer are brought up to date.
+    void RowClicked();
+    void KeyUp();
+    void MouseUp();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    QPoint PopupPosition() const;
+
+    LogbookModel* model_ = nullptr;
+};

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "list/RowDelegate.h"
+
+#include "list/LogbookModel.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QToolTip>
+
+void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    // The frame around the current cell only tells something where its row is not selected.
+    if (option->state.testFlag(QStyle::State_Selected))
+        option->state &= ~QStyle::State_HasFocus;
+    const QVariant image = index.data(LogbookModel::ImageRole);
+    if (!image.isValid())
+        return;
+    option->features |= QStyleOptionViewItem::HasDecoration;
+    option->decorationSize = {RowIconSize, RowIconSize};
+    option->icon = icons_.Icon(image.toInt());
+}
+
+bool RowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                            const QModelIndex& index) {
+    if (event->type() != QEvent::ToolTip || !index.isValid())
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QRect seen = view->style()->subElementRect(QStyle::SE_ItemViewItemText, &cell, view);
+    const int margin = view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &cell, view) + 1;
+    const bool cut = cell.fontMetrics.horizontalAdvance(cell.text) > seen.width() - 2 * margin;
+    // As plain text: an event may hold what looks like markup.
+    QToolTip::showText(event->globalPos(), cut ? "<qt>" + cell.text.toHtmlEscaped() + "</qt>" : QString(),
+                       view);
+    return true;
+}

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "list/RowIcons.h"
+
+#include <QStyledItemDelegate>
+
+// Paints the cells of the logbook list: the row's icon before its first cell, and texts that are too long for
+// their column in full as a tool tip.
+class RowDelegate : public QStyledItemDelegate {
+    Q_OBJECT
+
+  public:
+    explicit RowDelegate(QObject* parent = nullptr) : QStyledItemDelegate(parent) {}
+
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
+  private:
+    RowIcons icons_;
+};
