@@ -12,6 +12,7 @@
 #include "logbook/modUtil.h"
 #include "settings/Registry.h"
 #include "settings/Texts.h"
+#include "sources/Comments.h"
 #include "sources/LogbookSource.h"
 
 #include <filesystem>
@@ -84,6 +85,8 @@ int RunExport(const ExportOptions& options) {
         const bool reading = logbook.LoadState == LoadStates::Reading;
         return Fail(text(reading ? TextId::ReadFailed : TextId::OpenFailed) + ": " + options.File);
     }
+    if (!source->CommentsFile.empty() && !CommentLogbook(source->CommentsFile, logbook.Entries, codePage))
+        return Fail(source->CommentsFile + ": " + text(TextId::NoComments));
     LogbookRows rows;
     if (!ApplyFilters(logbook.Entries, filters, rows))
         return Fail(text(TextId::FilterFailed));

@@ -16,8 +16,12 @@ class TerminalUser : public UserInterface {
         messageShown_ = true;
     }
     Answer Ask(TextId) override { return answer_; }
+    bool Confirm(std::string_view) override { return answer_ == Answer::Yes; }
+    std::optional<std::string> AskFileToOpen(const FileRequest&) override { return std::nullopt; }
+    std::optional<std::string> AskFileToSave(const FileRequest&) override { return std::nullopt; }
     void ShowStatus(TextId) override {}
     void RestoreStatus() override {}
+    void ShowProgress(double) override {}
 
     bool MessageShown() const { return messageShown_; }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ExportCommand.h"
 #include "cli/LookupCommand.h"
+#include "cli/PackCommand.h"
 
 #include <CLI/CLI.hpp>
 
@@ -54,11 +55,15 @@ int main(int argc, char** argv) {
 
     LookupOptions lookupOptions;
     const CLI::App* const lookupCommand = AddLookupCommand(app, lookupOptions);
+    PackOptions packOptions;
+    const CLI::App* const packCommand = AddPackCommand(app, packOptions);
 
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? ExitStatus::Done : ExitStatus::WrongUsage;
     }
+    if (packCommand->parsed())
+        return RunPack(packOptions);
     return lookupCommand->parsed() ? RunLookup(lookupOptions) : RunExport(exportOptions);
 }

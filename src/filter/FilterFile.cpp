@@ -44,12 +44,18 @@ std::vector<std::size_t> FiltersThatLose(std::span<const FilterDefinition> filte
     return losing;
 }
 
+std::string FilterFileText(std::span<const FilterDefinition> filters, const CodePage& codePage) {
+    std::string text(Header);
+    text += "\r\n";
+    for (const FilterDefinition& filter : filters)
+        text.append(FilterLine(filter, codePage).Text).append("\r\n");
+    return text;
+}
+
 std::error_code ExportFilterFile(const std::string& path, std::span<const FilterDefinition> filters,
                                  const CodePage& codePage) {
     AtomicFile file(path);
-    file.Stream() << Header << "\r\n";
-    for (const FilterDefinition& filter : filters)
-        file.Stream() << FilterLine(filter, codePage).Text << "\r\n";
+    file.Stream() << FilterFileText(filters, codePage);
     return file.Commit();
 }
 

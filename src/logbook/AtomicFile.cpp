@@ -91,17 +91,26 @@ AtomicFile::~AtomicFile() {
         std::filesystem::remove(temporary_, ignored);
 }
 
+const std::filesystem::path& AtomicFile::PathToWrite() {
+    stream_.close();
+    return temporary_;
+}
+
 std::error_code AtomicFile::Commit() {
     if (error_)
         return error_;
     errno = 0;
-    stream_.close();
+    if (stream_.is_open())
+        stream_.close();
     if (!stream_)
         return error_ = LastError();
     if (error_ = FlushToDisk(temporary_); error_)
         return error_;
     std::filesystem::rename(temporary_, target_, error_);
-    if (!error_)
-        temporary_.clear();
+    if (error_)
+        return error_;
+    temporary_.clear();
+    // The file is in its place; that its folder remembers it is best effort, as some file systems refuse this.
+    (void)FlushToDisk(target_.has_parent_path() ? target_.parent_path() : ".");
     return error_;
 }

@@ -20,6 +20,9 @@ class AtomicFile {
     // Where to write. A failure is told by Commit.
     std::ostream& Stream() { return stream_; }
 
+    // Where someone else writes the whole file, in place of Stream.
+    const std::filesystem::path& PathToWrite();
+
     // Flushes the file to the disk and puts it in its place. The error tells why that failed; the old file is
     // then as it was.
     std::error_code Commit();

@@ -1,45 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "sources/LogbookSource.h"
 
+#include "support/ScriptedUser.h"
 #include "support/TemporaryFolder.h"
 #include "support/ZipWriter.h"
 
 #include <gtest/gtest.h>
 
-#include <deque>
 #include <vector>
 
 namespace {
 
 using Members = std::vector<std::pair<std::string, std::string>>;
-
-// Answers from a list, and remembers what was said.
-class ScriptedUser : public UserInterface {
-  public:
-    void ShowMessage(std::string_view text, MessageIcon icon) override {
-        Messages.emplace_back(text);
-        EXPECT_EQ(icon, MessageIcon::Exclamation);
-    }
-    Answer Ask(TextId question) override {
-        EXPECT_EQ(question, TextId::AskReplaceFilters);
-        ++Questions;
-        if (Answers.empty())
-            return Answer::Cancel;
-        const Answer answer = Answers.front();
-        Answers.pop_front();
-        return answer;
-    }
-    void ShowStatus(TextId status) override {
-        EXPECT_EQ(status, TextId::StatusExtracting);
-        ++Statuses;
-    }
-    void RestoreStatus() override { --Statuses; }
-
-    std::deque<Answer> Answers;
-    std::vector<std::string> Messages;
-    int Questions = 0;
-    int Statuses = 0;
-};
 
 class LogbookSourceTest : public testing::Test {
   protected:
@@ -50,7 +22,13 @@ class LogbookSourceTest : public testing::Test {
 
     std::optional<LogbookSource> Resolve(const std::string& path) {
         const auto source = ResolveSource(path, Temp, User, Language{Language::English});
-        EXPECT_EQ(User.Statuses, 0);
+        EXPECT_EQ(User.OpenStatuses, 0);
+        for (const TextId status : User.Statuses)
+            EXPECT_EQ(status, TextId::StatusExtracting);
+        for (const TextId question : User.Questions)
+            EXPECT_EQ(question, TextId::AskReplaceFilters);
+        for (const UserInterface::MessageIcon icon : User.Icons)
+            EXPECT_EQ(icon, UserInterface::MessageIcon::Exclamation);
         return source;
     }
 
@@ -128,7 +106,7 @@ TEST_F(LogbookSourceTest, OwnArchiveBringsCommentsAndFilters) {
     source = Resolve(Zip("my.qorvix", members));
     EXPECT_EQ(source->FilterFile, "");
     EXPECT_EQ(FileContent(source->CommentsFile), "[Comments]");
-    EXPECT_EQ(User.Questions, 2);
+    EXPECT_EQ(User.Questions.size(), 2U);
 }
 
 TEST_F(LogbookSourceTest, CancelLeavesEverythingAsItWas) {
@@ -147,7 +125,7 @@ TEST_F(LogbookSourceTest, FilesOfAnEarlierArchiveNeverCount) {
     EXPECT_EQ(Logbook(second), "second");
     EXPECT_EQ(second->CommentsFile, "");
     EXPECT_EQ(second->FilterFile, "");
-    EXPECT_EQ(User.Questions, 1);
+    EXPECT_EQ(User.Questions.size(), 1U);
     EXPECT_FALSE(std::filesystem::exists(InTemp("base.fil")));
 }
 
@@ -181,7 +159,7 @@ TEST_F(LogbookSourceTest, ArchiveWithoutLogbookIsToldOnce) {
         EXPECT_EQ(User.Messages,
                   (std::vector<std::string>{"The archive contains no logbook file (" + path + ")"}));
     }
-    EXPECT_EQ(User.Questions, 0);
+    EXPECT_EQ(User.Questions.size(), 0U);
 }
 
 TEST_F(LogbookSourceTest, DamagedArchivesAreToldWithTheReason) {
