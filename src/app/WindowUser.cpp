@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/WindowUser.h"
 
+#include "app/FileDialog.h"
 #include "list/QtText.h"
 
 #include <QLabel>
@@ -17,6 +18,19 @@ UserInterface::Answer WindowUser::Ask(TextId question) {
         QMessageBox::question(window_, window_->windowTitle(), QtText(question, language_),
                               QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
     return answer == QMessageBox::Yes ? Answer::Yes : answer == QMessageBox::No ? Answer::No : Answer::Cancel;
+}
+
+bool WindowUser::Confirm(std::string_view question) {
+    return QMessageBox::question(window_, window_->windowTitle(), ToQString(question),
+                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+std::optional<std::string> WindowUser::AskFileToOpen(const FileRequest& request) {
+    return ShowFileDialog(request, QFileDialog::AcceptOpen, language_, window_);
+}
+
+std::optional<std::string> WindowUser::AskFileToSave(const FileRequest& request) {
+    return ShowFileDialog(request, QFileDialog::AcceptSave, language_, window_);
 }
 
 void WindowUser::ShowStatus(TextId status) {

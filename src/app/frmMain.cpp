@@ -1,51 +1,62 @@
 // SPDX-License-Identifier: MIT
 #include "app/frmMain.h"
 
+#include "app/EntryProperties.h"
+#include "app/MainArea.h"
+#include "app/MainStatusBar.h"
+#include "app/MainToolBar.h"
+#include "app/WindowPlacement.h"
 #include "dialogs/frmLanguageDialog.h"
+#include "eventinfo/ProgramFolder.h"
 #include "filter/Filter.h"
 #include "filter/FilterFile.h"
 #include "filter/FilterStorage.h"
-#include "list/LogbookColumns.h"
+#include "list/LogbookModel.h"
+#include "list/LogbookView.h"
 #include "list/QtText.h"
+#include "list/RowsAsText.h"
 #include "logbook/Mod_FileHandling.h"
 #include "sources/CommandLine.h"
+#include "sources/Comments.h"
+#include "sources/LogbookArchive.h"
 #include "sources/LogbookSource.h"
+#include "sources/OpenLogbook.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
+#include <QFontDatabase>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMenuBar>
+#include <QMenu>
 #include <QMessageBox>
-#include <QProgressBar>
-#include <QStatusBar>
-#include <QTableView>
+#include <QPlainTextEdit>
+#include <QTimer>
 
 #include <optional>
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
+// The hourglass, for as long as this lives.
+class WaitPointer {
+  public:
+    WaitPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitPointer() { QApplication::restoreOverrideCursor(); }
+    WaitPointer(const WaitPointer&) = delete;
+    WaitPointer& operator=(const WaitPointer&) = delete;
+};
 
-QTableView* MakeLogbookList(QAbstractItemModel* model, QWidget* parent) {
-    auto* list = new QTableView(parent);
-    list->setObjectName("lvLogbook");
-    list->setAccessibleName("Logbook");
-    list->setModel(model);
-    list->setSelectionBehavior(QAbstractItemView::SelectRows);
-    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    list->setShowGrid(false);
-    list->setWordWrap(false);
-    list->setTabKeyNavigation(false);
-    list->verticalHeader()->hide();
-    list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    list->verticalHeader()->setDefaultSectionSize(list->fontMetrics().height() + 4);
-    list->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    list->horizontalHeader()->setHighlightSections(false);
-    for (int column = 0; column < LogbookColumnCount; ++column)
-        list->setColumnWidth(column,
-                             LogbookColumns[static_cast<std::size_t>(column)].DefaultWidth / TwipsPerPixel);
-    return list;
+QPlainTextEdit* MakeContentPane(QWidget* parent) {
+    auto* pane = new QPlainTextEdit(parent);
+    pane->setObjectName("txContent");
+    pane->setReadOnly(true);
+    pane->setTabChangesFocus(true);
+    QFont font("Lucida Console");
+    if (!QFontDatabase::hasFamily(font.family()))
+        font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSizeF(9.75);
+    pane->setFont(font);
+    return pane;
 }
 
 } // namespace
@@ -56,56 +67,116 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFol
       tempFolder_(tempFolder),
       codePage_(std::move(codePage)),
       BaseCaption("Qorvix"),
+      InitZipArchiveDir(registry.ReadLogbookSettingString("InitZipArchiveDir", ProgramFolder() + '/')),
+      ViewContents(registry.ReadLogbookSettingLong("MainViewContents", 0) == 1),
       model_(new LogbookModel(logbook.Entries, this)),
-      lvLogbook(MakeLogbookList(model_, this)),
-      sbStatusBar(new QStatusBar(this)),
-      statusText_(new QLabel(this)),
-      statusCounts_(new QLabel(this)),
-      ProgressBar(new QProgressBar(this)),
-      progress_(this, ProgressBar),
-      user_(this, statusText_) {
+      lvLogbook(new LogbookView(this)),
+      pbTagViewer(new QWidget(this)),
+      txContent(MakeContentPane(this)),
+      area_(new MainArea(lvLogbook, pbTagViewer, txContent, this)),
+      tbToolBar(new MainToolBar(this)),
+      sbStatusBar(new MainStatusBar(this)),
+      menus_(*this, [this](Command command) { Run(command); }),
+      progress_(this, sbStatusBar->Progress()),
+      user_(this, sbStatusBar->StatusText(), [this](double percent) { progress_.PaintValue(percent); }) {
     setObjectName("frmMain");
     setWindowTitle(BaseCaption);
-    resize(14000 / TwipsPerPixel, 12000 / TwipsPerPixel);
-    setCentralWidget(lvLogbook);
-    MakeMenus();
-
-    sbStatusBar->setObjectName("sbStatusBar");
-    statusText_->setObjectName("statusText");
-    statusCounts_->setObjectName("statusCounts");
-    ProgressBar->setObjectName("ProgressBar");
-    ProgressBar->setTextVisible(false);
-    ProgressBar->setMaximumWidth(200);
-    ProgressBar->hide();
-    sbStatusBar->addWidget(statusText_, 1);
-    sbStatusBar->addPermanentWidget(ProgressBar);
-    sbStatusBar->addPermanentWidget(statusCounts_);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    pbTagViewer->setObjectName("pbTagViewer");
+    addToolBar(Qt::TopToolBarArea, tbToolBar);
+    connect(tbToolBar, &MainToolBar::ButtonClick, this, &frmMain::ToolBarButtonClick);
+    for (const Command command : {Command::Open, Command::ZipLogbook, Command::Filters, Command::Refresh})
+        tbToolBar->SetEnabled(command, menus_.Item(command).isEnabled());
+    setCentralWidget(area_);
+    connect(area_, &MainArea::LayoutChanged, sbStatusBar, &MainStatusBar::HideProgressBar);
     setStatusBar(sbStatusBar);
+    MakeList();
+    LoadPlacement(registry_, *this);
+    LoadColumnWidths(registry_, *lvLogbook->horizontalHeader());
     LoadLanguage();
+    sbStatusBar->StatusText()->setText(QtText(TextId::StatusReady, language_));
+    lvLogbook->setFocus();
 }
 
-void frmMain::MakeMenus() {
-    mnuExtras = menuBar()->addMenu(QString());
-    mnuExtras->setObjectName("mnuExtras");
-    mnuExtrasDialogLanguage = mnuExtras->addAction(QString(), this, &frmMain::ChooseLanguage);
-    mnuExtrasDialogLanguage->setObjectName("mnuExtrasDialogLanguage");
+void frmMain::MakeList() {
+    lvLogbook->SetLogbook(model_);
+    connect(lvLogbook->horizontalHeader(), &QHeaderView::sectionClicked, this, &frmMain::SortByColumn);
+    connect(lvLogbook, &LogbookView::PopupWanted, this,
+            [this](const QPoint& position) { menus_.Popup().popup(position); });
+    connect(lvLogbook, &LogbookView::PropertiesWanted, this, [this] { Run(Command::Properties); });
+    // Not before the program that the file comes from has got its answer.
+    connect(
+        lvLogbook, &LogbookView::FileDropped, this,
+        [this](const QString& path) { OpenLogbook(path.toStdString()); }, Qt::QueuedConnection);
+    auto* copy = new QAction(lvLogbook);
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    connect(copy, &QAction::triggered, this, &frmMain::CopySelectedRows);
+    lvLogbook->addAction(copy);
 }
 
 void frmMain::LoadLanguage() {
     language_ = ReadLanguage(registry_);
     qtCatalogue_.SetLanguage(language_);
     user_.SetLanguage(language_);
-    mnuExtras->setTitle(QtText(TextId::mnuExtras, language_));
-    mnuExtrasDialogLanguage->setText(QtText(TextId::mnuExtrasDialogLanguage, language_));
+    menus_.LoadLanguage(language_);
+    tbToolBar->LoadLanguage(language_);
+    sbStatusBar->LoadLanguage(language_);
     model_->SetLanguage(language_);
-    ShowStatus(TextId::StatusReady);
-    if (!statusCounts_->text().isEmpty())
-        ShowLogbookStatus(logbook_.EntryCount);
+    lvLogbook->setAccessibleName(QtText(TextId::lvLogbook, language_));
+    pbTagViewer->setAccessibleName(QtText(TextId::pbTagViewer, language_));
+    txContent->setAccessibleName(QtText(TextId::txContent, language_));
 }
 
-void frmMain::ChooseLanguage() {
-    if (logbook_.Busy)
+void frmMain::Run(Command command) {
+    if (logbook_.Busy && NeedsIdleLogbook(command))
         return;
+    switch (command) {
+    case Command::Open:
+        OpenLogbook("");
+        break;
+    case Command::ZipLogbook:
+        ZipLogbook();
+        break;
+    case Command::Exit:
+        close();
+        break;
+    case Command::ViewToolbar:
+        tbToolBar->setVisible(menus_.Item(command).isChecked());
+        break;
+    case Command::ViewStatusBar:
+        sbStatusBar->setVisible(menus_.Item(command).isChecked());
+        break;
+    case Command::ViewContent:
+        ShowContentPane(menus_.Item(command).isChecked());
+        break;
+    case Command::Refresh:
+        Refresh();
+        break;
+    case Command::DialogLanguage:
+        ChooseLanguage();
+        break;
+    case Command::Properties:
+        ShowEntryProperties();
+        break;
+    default:
+        break;
+    }
+}
+
+void frmMain::ToolBarButtonClick(const QString& key) {
+    if (const std::optional<Command> command = MainToolBar::CommandOf(key))
+        Run(*command);
+}
+
+void frmMain::ShowContentPane(bool shown) {
+    txContent->setVisible(shown);
+    RecalculateLayout();
+}
+
+void frmMain::RecalculateLayout() { area_->RecalculateLayout(); }
+
+void frmMain::ChooseLanguage() {
     frmLanguageDialog dialog(language_, this);
     dialog.exec();
     const std::optional<Language> choice = dialog.Choice();
@@ -113,29 +184,71 @@ void frmMain::ChooseLanguage() {
         return;
     WriteLanguage(registry_, *choice);
     LoadLanguage();
+    sbStatusBar->StatusText()->setText(QtText(TextId::StatusReady, language_));
+    if (sbStatusBar->HasCounts())
+        ShowLogbookStatus();
+}
+
+void frmMain::FirstActivation(const std::vector<std::string>& arguments) {
+    RunCommandLine(arguments);
+    if (ViewContents)
+        menus_.Item(Command::ViewContent).trigger();
 }
 
 void frmMain::RunCommandLine(const std::vector<std::string>& arguments) {
     const CommandLine commandLine = ParseCommandLine(JoinArguments(arguments), IsSlashFile);
-    for (const std::string& source : commandLine.Sources)
-        if (!progress_.StopWanted())
-            OpenLogbook(source);
+    for (const std::string& source : commandLine.Sources) {
+        std::string name = source;
+        if (!progress_.StopWanted() && ExecuteLogbook(name))
+            AddNameToTitle(name);
+    }
     if (commandLine.ShowUsage && !progress_.StopWanted())
         user_.ShowMessage(UsageText(language_), UserInterface::MessageIcon::None);
 }
 
-bool frmMain::OpenLogbook(const std::string& path) {
-    if (logbook_.Busy)
+bool frmMain::OpenLogbook(std::string name) {
+    if (logbook_.Busy || !MayLeaveComments())
         return false;
-    const std::optional<LogbookSource> source = ResolveSource(path, tempFolder_, user_, language_);
+    if (name.empty()) {
+        const std::optional<std::string> chosen =
+            ReadAndShowLogbookName(registry_, user_, ProgramFolder() + '/');
+        if (!chosen)
+            return false;
+        name = *chosen;
+    }
+    if (!ExecuteLogbook(name))
+        return false;
+    AddNameToTitle(name);
+    return true;
+}
+
+bool frmMain::MayLeaveComments() {
+    return ::MayLeaveComments(CommentsEdited, user_, [this] { return ZipLogbook(); });
+}
+
+bool frmMain::ZipLogbook() {
+    const FilterLists lists = LoadFilters(registry_, language_);
+    sbStatusBar->ShowProgressBar();
+    const bool saved =
+        ::ZipLogbook({CurrentLogbookFile, logbook_.Entries, lists.Filters, codePage_, InitZipArchiveDir},
+                     registry_, user_, language_);
+    sbStatusBar->HideProgressBar();
+    if (saved)
+        CommentsEdited = false;
+    return saved;
+}
+
+// Opens one source; the name becomes that of the logbook.
+bool frmMain::ExecuteLogbook(std::string& name) {
+    const std::optional<LogbookSource> source = ResolveSource(name, tempFolder_, user_, language_);
     if (!source)
         return false;
     if (!source->FilterFile.empty())
         ReplaceFilters(source->FilterFile);
-    if (!ReadAndShowLogbook(source->LogbookFile))
-        return false;
-    AddNameToTitle(QString::fromStdString(source->Name));
-    return true;
+    name = source->Name;
+    const bool read = ReadAndShowLogbook(source->LogbookFile, source->CommentsFile);
+    CurrentLogbookFile = read ? source->LogbookFile : "";
+    return read;
 }
 
 // The filters of an archive become the active ones. A damaged filter file is told, and the active ones stay.
@@ -151,24 +264,36 @@ void frmMain::ReplaceFilters(const std::string& filterFile) {
     SaveFilters(registry_, lists, registry_.ReadFilterSettingString("InitFilterDir", ""));
 }
 
-bool frmMain::ReadAndShowLogbook(const std::string& file) {
+void frmMain::Refresh() {
+    tbToolBar->repaint();
+    // The comments go with this, so that they are asked about as they are before another logbook.
+    if (MayLeaveComments())
+        ReadAndShowLogbook(CurrentLogbookFile, "");
+}
+
+bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& commentsFile) {
     if (logbook_.Busy)
         return false;
     logbook_.Busy = true;
+    CommentsEdited = false;
     model_->ClearRows();
-    statusCounts_->clear();
-    ProgressBar->show();
-    ShowStatus(TextId::StatusReading);
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-
-    std::string title;
-    if (ReadLogbook(file, logbook_, title, progress_, codePage_))
-        FillList();
-
-    QApplication::restoreOverrideCursor();
-    ShowStatus(TextId::StatusReady);
-    ProgressBar->hide();
-    ShowLogbookStatus(logbook_.EntryCount);
+    lvLogbook->ShowSortIndicator();
+    txContent->clear();
+    sbStatusBar->ClearCounts();
+    sbStatusBar->ShowProgressBar();
+    {
+        const WaitPointer wait;
+        user_.ShowStatus(TextId::StatusReading);
+        std::string title;
+        const bool read = ReadLogbook(file, logbook_, title, progress_, codePage_);
+        user_.RestoreStatus();
+        if (read && !commentsFile.empty())
+            ReadComments(commentsFile);
+        if (read && !FillList())
+            user_.ShowMessage(Text(TextId::FilterFailed, language_), UserInterface::MessageIcon::Exclamation);
+    }
+    sbStatusBar->HideProgressBar();
+    ShowLogbookStatus();
     logbook_.Busy = false;
     if (progress_.StopWanted()) {
         // The window was closed while it was reading.
@@ -181,25 +306,35 @@ bool frmMain::ReadAndShowLogbook(const std::string& file) {
     return false;
 }
 
+void frmMain::ReadComments(const std::string& commentsFile) {
+    user_.ShowStatus(TextId::StatusCommenting);
+    const bool read = CommentLogbook(commentsFile, logbook_.Entries, codePage_);
+    user_.RestoreStatus();
+    if (!read)
+        user_.ShowMessage(Text(TextId::NoComments, language_), UserInterface::MessageIcon::None);
+}
+
 void frmMain::ApplyFilter() {
     if (logbook_.Busy)
         return;
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    ProgressBar->show();
-    FillList();
-    ProgressBar->hide();
-    QApplication::restoreOverrideCursor();
-    ShowStatus(TextId::StatusReady);
-    ShowLogbookStatus(logbook_.EntryCount);
+    sbStatusBar->ShowProgressBar();
+    bool filled = false;
+    {
+        const WaitPointer wait;
+        filled = FillList();
+    }
+    sbStatusBar->HideProgressBar();
+    if (!filled)
+        user_.ShowMessage(Text(TextId::FilterFailed, language_), UserInterface::MessageIcon::Exclamation);
+    ShowLogbookStatus();
 }
 
-void frmMain::FillList() {
-    ShowStatus(TextId::StatusFiltering);
-    sbStatusBar->repaint();
-    const QModelIndex current = lvLogbook->currentIndex();
-    const bool selected = current.isValid() && lvLogbook->selectionModel()->isRowSelected(current.row());
+// Makes the rows anew from the stored filters. False when that failed; the rows made until then are shown.
+bool frmMain::FillList() {
+    user_.ShowStatus(TextId::StatusFiltering);
+    const std::optional<int> selected = lvLogbook->SelectedRow();
     const EntryNumber before =
-        selected ? model_->Rows()[static_cast<std::size_t>(current.row())].Entry : MostEntries;
+        selected ? model_->Rows()[static_cast<std::size_t>(*selected)].Entry : MostEntries;
 
     logbook_.LoadState = LoadStates::Filtering;
     LogbookRows rows;
@@ -207,49 +342,96 @@ void frmMain::FillList() {
     const bool filled = ApplyFilters(logbook_.Entries, lists.Filters, rows,
                                      [this](double percent) { progress_.PaintValue(percent); });
     model_->SetRows(std::move(rows));
-    if (!filled) {
-        QMessageBox::warning(this, QtText(TextId::FilterError, language_),
-                             QtText(TextId::FilterFailed, language_));
-        return;
+    lvLogbook->ShowSortIndicator();
+    if (filled) {
+        logbook_.LoadState = LoadStates::Done;
+        if (selected)
+            if (const std::optional<std::size_t> row = RowForEntry(model_->Rows(), before))
+                lvLogbook->SelectAndShow(static_cast<int>(*row));
     }
-    logbook_.LoadState = LoadStates::Done;
-    if (selected)
-        SelectEntry(before);
+    user_.RestoreStatus();
+    return filled;
 }
 
-void frmMain::SelectEntry(EntryNumber number) {
-    const std::optional<std::size_t> row = RowForEntry(model_->Rows(), number);
-    if (!row)
+void frmMain::SortByColumn(int column) {
+    if (logbook_.Busy)
         return;
-    lvLogbook->selectRow(static_cast<int>(*row));
-    lvLogbook->scrollTo(model_->index(static_cast<int>(*row), 0));
+    const WaitPointer wait;
+    lvLogbook->SortByColumn(column);
+    if (const std::optional<int> row = lvLogbook->SelectedRow())
+        lvLogbook->scrollTo(model_->index(*row, 0));
+}
+
+void frmMain::CopySelectedRows() {
+    const RowRanges ranges = lvLogbook->SelectedRanges();
+    if (logbook_.Busy || ranges.empty())
+        return;
+    const WaitPointer wait;
+    QApplication::clipboard()->setText(
+        ToQString(RowsAsText(logbook_.Entries, model_->Rows(), ranges, language_)));
+}
+
+void frmMain::ShowEntryProperties() {
+    ShowEntryDialogs(
+        lvLogbook->SelectedRanges(), logbook_, *model_, language_, this,
+        {.CommentChanged = [this](int) { CommentsEdited = true; },
+         .StatusMessage = [this](const QString& text) { sbStatusBar->StatusText()->setText(text); }});
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    if (!logbook_.Busy)
-        return QMainWindow::closeEvent(event);
-    progress_.RequestStop();
-    event->ignore();
+    if (logbook_.Busy) {
+        progress_.RequestStop();
+        event->ignore();
+        return;
+    }
+    if (CommentsEdited) {
+        const UserInterface::Answer answer = user_.Ask(TextId::AskSaveComments);
+        if (answer == UserInterface::Answer::Cancel) {
+            event->ignore();
+            return;
+        }
+        if (answer == UserInterface::Answer::Yes)
+            ZipLogbook();
+    }
+    Unload();
+    QMainWindow::closeEvent(event);
 }
 
-void frmMain::ShowStatus(TextId text) { statusText_->setText(QtText(text, language_)); }
+void frmMain::Unload() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (auto window = windows.rbegin(); window != windows.rend(); ++window)
+        if (*window != this && (*window)->isVisible())
+            (*window)->close();
+    const Registry::Transaction transaction(registry_);
+    registry_.WriteLogbookSetting("MainIsMaximized", isMaximized() ? 1 : 0, SettingType::Integer);
+    registry_.WriteLogbookSetting("MainViewContents", menus_.Item(Command::ViewContent).isChecked() ? 1 : 0,
+                                  SettingType::Integer);
+    SavePlacement(registry_, *this);
+    SaveColumnWidths(registry_, *lvLogbook->horizontalHeader());
+    registry_.WriteLogbookSetting("InitZipArchiveDir", InitZipArchiveDir, SettingType::Text);
+}
 
-void frmMain::ShowLogbookStatus(std::int64_t total) {
-    statusCounts_->setText(QString("%1 %2 %3 %4")
-                               .arg(model_->rowCount())
-                               .arg(QtText(TextId::CountSeparator, language_))
-                               .arg(total)
-                               .arg(QtText(TextId::CountUnit, language_)));
+void frmMain::ShowLogbookStatus() {
+    sbStatusBar->ShowLogbookStatus(model_->rowCount(), logbook_.EntryCount, language_);
 }
 
 void frmMain::ShowLogbookError(std::int16_t code) {
-    const std::optional<TextId> message = code == LoadStates::Opening     ? std::optional(TextId::OpenFailed)
-                                          : code == LoadStates::Reading   ? std::optional(TextId::ReadFailed)
-                                          : code == LoadStates::Filtering ? std::optional(TextId::FilterError)
-                                                                          : std::nullopt;
-    if (message)
-        QMessageBox(QMessageBox::NoIcon, BaseCaption, QtText(*message, language_), QMessageBox::Ok, this)
-            .exec();
+    struct Row {
+        std::int16_t Code;
+        TextId Message;
+        UserInterface::MessageIcon Icon;
+    };
+    static constexpr Row Messages[] = {
+        {LoadStates::Corrupt, TextId::LogbookCorrupt, UserInterface::MessageIcon::Exclamation},
+        {LoadStates::Opening, TextId::OpenFailed, UserInterface::MessageIcon::None},
+        {LoadStates::Reading, TextId::ReadFailed, UserInterface::MessageIcon::None},
+        {LoadStates::Filtering, TextId::FilterError, UserInterface::MessageIcon::None},
+    };
+    for (const Row& row : Messages)
+        if (row.Code == code)
+            user_.ShowMessage(Text(row.Message, language_), row.Icon);
 }
 
-void frmMain::AddNameToTitle(const QString& name) { setWindowTitle(name + " - " + BaseCaption); }
+void frmMain::AddNameToTitle(const std::string& name) {
+    setWindowTitle(ToQString(name) + " - " + BaseCaption);
+}

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/Commands.h"
+#include "app/MainMenus.h"
 #include "app/QtCatalogue.h"
 #include "app/WindowProgress.h"
 #include "app/WindowUser.h"
-#include "list/LogbookModel.h"
 #include "logbook/CodePage.h"
 #include "logbook/Logbook.h"
 #include "settings/Registry.h"
@@ -16,54 +17,77 @@
 #include <string>
 #include <vector>
 
-class QAction;
-class QLabel;
-class QMenu;
-class QProgressBar;
-class QStatusBar;
-class QTableView;
+class LogbookModel;
+class LogbookView;
+class MainArea;
+class MainStatusBar;
+class MainToolBar;
+class QPlainTextEdit;
 
-// The program's main window: it shows one logbook as a list.
+// The program's only top-level window: every order of the person enters here. It shows one logbook as a list.
 class frmMain : public QMainWindow {
     Q_OBJECT
 
   public:
-    // The logbook, the settings and the temporary folder must outlive the window.
+    // Places the window as the settings have it. The logbook, the settings and the temporary folder must
+    // outlive the window.
     frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFolder, CodePage codePage);
+
+    // What happens once, when the window is on the screen: the command line is run, and the content pane is
+    // shown where it was shown when the program ended.
+    void FirstActivation(const std::vector<std::string>& arguments);
 
     // Opens the logbooks that a command line names, one after the other, each in place of the one before; the
     // last that opens stays. Shows the usage where the command line asks for it.
     void RunCommandLine(const std::vector<std::string>& arguments);
 
-    // Opens one source: a logbook file, a service archive or an own archive. False when the person cancelled
-    // or the read was left unfinished; the title then stays as it was.
-    bool OpenLogbook(const std::string& path);
+    // Carries out a command. Those that need an idle logbook do nothing while one is being read.
+    void Run(Command command);
 
-    // Reads a logbook file and fills the list. False when a run-time error left it unfinished, which the user
-    // has then been told. A file that cannot be opened gives an empty list without a message.
-    bool ReadAndShowLogbook(const std::string& file);
+    // A click on the button of the tool bar with this key; any other text does nothing.
+    void ToolBarButtonClick(const QString& key);
+
+    // Opens one source: a logbook file, a service archive or an own archive; "" asks for it. Before edited
+    // comments go, the person is asked about them. False when the person cancelled or the read was left
+    // unfinished; the title then stays as it was.
+    bool OpenLogbook(std::string name);
+
+    // Reads a logbook file with its comments ("" = none) and fills the list. False when a run-time error left
+    // it unfinished, which the user has then been told. A file that cannot be opened gives an empty list
+    // without a message.
+    bool ReadAndShowLogbook(const std::string& file, const std::string& commentsFile);
 
     // Filters the entries again with the stored filters, and selects the row of the entry that was selected,
-    // or the next one.
+    // or the next one. The rows are then in entry order.
     void ApplyFilter();
 
-    // Asks for the dialog language; another one is stored and applies at once.
-    void ChooseLanguage();
+    // Sorts the list by a column, counted from 0; the selected row stays in view.
+    void SortByColumn(int column);
+
+    void RecalculateLayout();
 
   protected:
     // While a logbook is being read, closing ends the read first.
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    void MakeMenus();
+    void MakeList();
     void LoadLanguage();
-    void FillList();
+    void Unload();
+    bool ExecuteLogbook(std::string& name);
     void ReplaceFilters(const std::string& filterFile);
-    void SelectEntry(EntryNumber number);
-    void ShowStatus(TextId text);
-    void ShowLogbookStatus(std::int64_t total);
+    void Refresh();
+    void ReadComments(const std::string& commentsFile);
+    bool ZipLogbook();
+    bool MayLeaveComments();
+    bool FillList();
+    void ShowLogbookStatus();
     void ShowLogbookError(std::int16_t code);
-    void AddNameToTitle(const QString& name);
+    void ShowContentPane(bool shown);
+    void ChooseLanguage();
+    void CopySelectedRows();
+    void ShowEntryProperties();
+    void AddNameToTitle(const std::string& name);
 
     Logbook& logbook_;
     Registry& registry_;
@@ -72,14 +96,18 @@ class frmMain : public QMainWindow {
     Language language_;
     QtCatalogue qtCatalogue_;
     QString BaseCaption;
+    std::string InitZipArchiveDir;
+    std::string CurrentLogbookFile;
+    bool CommentsEdited = false;
+    bool ViewContents;
     LogbookModel* model_;
-    QTableView* lvLogbook;
-    QMenu* mnuExtras = nullptr;
-    QAction* mnuExtrasDialogLanguage = nullptr;
-    QStatusBar* sbStatusBar;
-    QLabel* statusText_;
-    QLabel* statusCounts_;
-    QProgressBar* ProgressBar;
+    LogbookView* lvLogbook;
+    QWidget* pbTagViewer;
+    QPlainTextEdit* txContent;
+    MainArea* area_;
+    MainToolBar* tbToolBar;
+    MainStatusBar* sbStatusBar;
+    MainMenus menus_;
     WindowProgress progress_;
     WindowUser user_;
 };

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "app/AppIcons.h"
 #include "app/frmMain.h"
 
 #include <QApplication>
@@ -12,6 +13,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName("Qorvix");
     QApplication::setApplicationVersion(QORVIX_VERSION);
+    QApplication::setWindowIcon(MakeAppIcon(AppIcon::Program));
 
     const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
     Registry registry(*settings);
@@ -22,6 +24,6 @@ int main(int argc, char** argv) {
     std::vector<std::string> arguments;
     for (const QString& argument : QApplication::arguments().mid(1))
         arguments.push_back(argument.toStdString());
-    QTimer::singleShot(0, &window, [&] { window.RunCommandLine(arguments); });
+    QTimer::singleShot(0, &window, [&] { window.FirstActivation(arguments); });
     return QApplication::exec();
 }

@@ -1,37 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "app/frmMain.h"
+#include "app/MainWindowTest.h"
 
 #include "filter/FilterStorage.h"
-#include "filter/FilterText.h"
-#include "support/MemorySettings.h"
-#include "support/ReadText.h"
-#include "support/TemporaryFolder.h"
 #include "support/ZipWriter.h"
-#include "tools/LogbookWriter.h"
 
-#include <QAction>
-#include <QApplication>
 #include <QComboBox>
-#include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
-#include <QTableView>
-#include <QTest>
-#include <QTimer>
 
-class frmMainTest : public QObject {
+class frmMainTest : public MainWindowTest {
     Q_OBJECT
 
   private slots:
-    void init() {
-        Book = std::make_unique<Logbook>();
-        Store = std::make_unique<MemorySettings>();
-        Settings = std::make_unique<Registry>(*Store);
-        Window = std::make_unique<frmMain>(*Book, *Settings, Temp, CodePage());
-        Window->show();
-        MessageTexts.clear();
-    }
-
+    void init() { StartAfresh(); }
     void cleanup() { Window.reset(); }
 
     void ShowsTheSamples() {
@@ -252,32 +232,8 @@ class frmMainTest : public QObject {
         QCOMPARE(yesText(), QString("Yes"));
     }
 
-    void ListHasItsColumnWidthsAndSelectsRows() {
-        const int pixels[] = {133, 333, 113, 113, 133, 66};
-        for (int column = 0; column < 6; ++column)
-            QCOMPARE(List()->columnWidth(column), pixels[column]);
-        Window->RunCommandLine({File("a.log", {Header("BERR:    a"), Header("RESET:")})});
-        List()->selectRow(1);
-        QCOMPARE(List()->selectionModel()->selectedIndexes().size(), 7);
-    }
-
   private:
-    QTableView* List() const { return Window->findChild<QTableView*>("lvLogbook"); }
-    QString Counts() const { return Window->findChild<QLabel*>("statusCounts")->text(); }
-    QString Cell(int row, int column) const { return List()->model()->index(row, column).data().toString(); }
-
-    std::string File(std::string_view name, const std::vector<std::string>& lines) const {
-        return Folder.Write(name, Lines(lines));
-    }
-
-    QAction* LanguageItem() const { return Window->findChild<QAction*>("mnuExtrasDialogLanguage"); }
-
-    QStringList HeaderTexts() const {
-        QStringList texts;
-        for (int column = 0; column < List()->model()->columnCount(); ++column)
-            texts << List()->model()->headerData(column, Qt::Horizontal).toString();
-        return texts;
-    }
+    QAction* LanguageItem() const { return Item("mnuExtrasDialogLanguage"); }
 
     // Opens the language dialog by its menu item, selects a row and presses a button.
     void ChooseInDialog(int row, const char* button) {
@@ -288,45 +244,6 @@ class frmMainTest : public QObject {
         });
         LanguageItem()->trigger();
     }
-
-    static FilterDefinition Filter(const char* text) {
-        FilterDefinition filter;
-        ParseFilter(text, filter);
-        return filter;
-    }
-
-    // Confirms the next message boxes and remembers their texts.
-    void AnswerMessages(int count) {
-        if (count == 0)
-            return;
-        QTimer::singleShot(0, this, [this, count] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr)
-                return AnswerMessages(count);
-            MessageTexts << box->text();
-            box->accept();
-            AnswerMessages(count - 1);
-        });
-    }
-
-    // Presses a button of the next question and remembers its text.
-    void AnswerQuestion(QMessageBox::StandardButton button) {
-        QTimer::singleShot(0, this, [this, button] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr)
-                return AnswerQuestion(button);
-            MessageTexts << box->text();
-            box->button(button)->click();
-        });
-    }
-
-    TemporaryFolder Folder;
-    TempFolder Temp{Folder.Path()};
-    std::unique_ptr<Logbook> Book;
-    std::unique_ptr<MemorySettings> Store;
-    std::unique_ptr<Registry> Settings;
-    std::unique_ptr<frmMain> Window;
-    QStringList MessageTexts;
 };
 
 QTEST_MAIN(frmMainTest)

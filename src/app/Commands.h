@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// What a person can order in the main window, from whichever menu, button or key.
+enum class Command {
+    Open,
+    ZipLogbook,
+    Exit,
+    ViewToolbar,
+    ViewStatusBar,
+    ViewContent,
+    Refresh,
+    Find,
+    FindNext,
+    FindPrevious,
+    Filters,
+    DialogLanguage,
+    HelpContents,
+    HelpSearch,
+    About,
+    ToggleHighlighting,
+    RemoveFromList,
+    Properties,
+    EditFilters,
+};
+
+// True for the commands that read, filter, sort, open or archive, or that change what such a step works with.
+// They do nothing while a logbook is being read.
+constexpr bool NeedsIdleLogbook(Command command) {
+    switch (command) {
+    case Command::Exit:
+    case Command::ViewToolbar:
+    case Command::ViewStatusBar:
+    case Command::ViewContent:
+    case Command::HelpContents:
+    case Command::HelpSearch:
+    case Command::About:
+        return false;
+    default:
+        return true;
+    }
+}

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "app/EntryProperties.h"
+
+#include "dialogs/frmLogbookIdent.h"
+#include "eventinfo/iZEKEventInfo.h"
+#include "list/LogbookModel.h"
+#include "list/MultiLineText.h"
+#include "list/QtText.h"
+#include "logbook/Logbook.h"
+
+namespace {
+
+LogbookIdent IdentOf(const LogbookModel& model, int row) {
+    const auto cell = [&](LogbookColumn column) {
+        return model.index(row, static_cast<int>(column)).data().toString();
+    };
+    return {cell(LogbookColumn::Event),  WithLineBreaks(cell(LogbookColumn::Data)),
+            cell(LogbookColumn::Sender), cell(LogbookColumn::Name),
+            cell(LogbookColumn::Time),   cell(LogbookColumn::Index),
+            ToQString(model.Tag(row)),   WithLineBreaks(cell(LogbookColumn::Comment))};
+}
+
+} // namespace
+
+void ShowEntryDialogs(const RowRanges& rows, Logbook& logbook, LogbookModel& model, Language language,
+                      QWidget* parent, const EntryPropertiesEvents& events) {
+    frmLogbookIdent dialog(
+        language,
+        [&](const QString& data) {
+            const ProposedComment proposed =
+                AutoFillComment(data.toStdString(), language, GetErrorInfoPath());
+            if (!proposed.StatusMessage.empty())
+                events.StatusMessage(ToQString(proposed.StatusMessage));
+            return ToQString(proposed.Text.value_or(""));
+        },
+        parent);
+    for (const RowRange& range : rows) {
+        for (std::size_t row = range.First; row <= range.Last; ++row) {
+            dialog.ShowEntry(IdentOf(model, static_cast<int>(row)));
+            if (dialog.WasClosed())
+                return;
+            const QString& comment = dialog.Comment();
+            if (comment.isEmpty())
+                continue;
+            logbook.Entries.SetComment(model.Rows()[row].Entry, comment == frmLogbookIdent::ClearMark
+                                                                    ? std::string()
+                                                                    : OnOneLine(comment).toStdString());
+            model.ShowComment(static_cast<int>(row));
+            events.CommentChanged(static_cast<int>(row));
+        }
+    }
+}

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "list/RowRanges.h"
+#include "settings/Language.h"
+
+#include <QString>
+
+#include <functional>
+
+class LogbookModel;
+class QWidget;
+struct Logbook;
+
+// What the event entry dialog tells the window.
+struct EntryPropertiesEvents {
+    std::function<void(int row)> CommentChanged;
+    std::function<void(const QString& text)> StatusMessage; // of the lookup of error texts
+};
+
+// Shows the event entry dialog for each of these rows, from the first to the last, and writes a changed
+// comment into its entry. Closing the dialog by its title bar ends the row of dialogs.
+void ShowEntryDialogs(const RowRanges& rows, Logbook& logbook, LogbookModel& model, Language language,
+                      QWidget* parent, const EntryPropertiesEvents& events);

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/MainStatusBar.h"
+#include "app/frmMain.h"
+#include "filter/FilterText.h"
+#include "list/LogbookModel.h"
+#include "list/LogbookView.h"
+#include "support/MemorySettings.h"
+#include "support/ReadText.h"
+#include "support/TemporaryFolder.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+// What tests of the main window share: a real window over settings of its own, and a person who answers its
+// message boxes.
+class MainWindowTest : public QObject {
+  protected:
+    // Every test begins with a shown window without a logbook.
+    void OpenWindow() {
+        Window.reset();
+        Book = std::make_unique<Logbook>();
+        Window = std::make_unique<frmMain>(*Book, *Settings, Temp, CodePage());
+        Window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(Window.get()));
+        MessageTexts.clear();
+    }
+
+    void StartAfresh() {
+        Window.reset();
+        Store = std::make_unique<MemorySettings>();
+        Settings = std::make_unique<Registry>(*Store);
+        OpenWindow();
+    }
+
+    template <class T>
+    T* Find(const char* name) const {
+        return Window->findChild<T*>(name);
+    }
+    LogbookView* List() const { return Find<LogbookView>("lvLogbook"); }
+    QAction* Item(const char* name) const { return Find<QAction>(name); }
+    QString Counts() const { return Find<QLabel>("statusCounts")->text(); }
+    QString Cell(int row, int column) const { return List()->model()->index(row, column).data().toString(); }
+
+    QStringList Column(int column) const {
+        QStringList cells;
+        for (int row = 0; row < List()->model()->rowCount(); ++row)
+            cells << Cell(row, column);
+        return cells;
+    }
+
+    std::string File(std::string_view name, const std::vector<std::string>& lines) const {
+        return Folder.Write(name, Lines(lines));
+    }
+
+    // A logbook of so many errors, whose data are their numbers.
+    std::string FileOfErrors(int count) const {
+        std::vector<std::string> lines;
+        for (int i = 0; i < count; ++i)
+            lines.push_back(Header("BERR:    " + std::to_string(i)));
+        return File("errors.log", lines);
+    }
+
+    QStringList HeaderTexts() const {
+        QStringList texts;
+        for (int column = 0; column < List()->model()->columnCount(); ++column)
+            texts << List()->model()->headerData(column, Qt::Horizontal).toString();
+        return texts;
+    }
+
+    void ClickHeader(int column) const {
+        QHeaderView* const header = List()->horizontalHeader();
+        const QPoint place(header->sectionViewportPosition(column) + header->sectionSize(column) / 2,
+                           header->height() / 2);
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
+    }
+
+    QPoint RowPoint(int row) const { return List()->visualRect(List()->model()->index(row, 0)).center(); }
+
+    static FilterDefinition Filter(const char* text) {
+        FilterDefinition filter;
+        ParseFilter(text, filter);
+        return filter;
+    }
+
+    // Confirms the next message boxes and remembers their texts.
+    void AnswerMessages(int count) {
+        if (count == 0)
+            return;
+        QTimer::singleShot(0, this, [this, count] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr)
+                return AnswerMessages(count);
+            MessageTexts << box->text();
+            box->accept();
+            AnswerMessages(count - 1);
+        });
+    }
+
+    // Presses a button of the next question and remembers its text.
+    void AnswerQuestion(QMessageBox::StandardButton button) {
+        QTimer::singleShot(0, this, [this, button] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr)
+                return AnswerQuestion(button);
+            MessageTexts << box->text();
+            box->button(button)->click();
+        });
+    }
+
+    TemporaryFolder Folder;
+    TempFolder Temp{Folder.Path()};
+    std::unique_ptr<Logbook> Book;
+    std::unique_ptr<MemorySettings> Store;
+    std::unique_ptr<Registry> Settings;
+    std::unique_ptr<frmMain> Window;
+    QStringList MessageTexts;
+};
