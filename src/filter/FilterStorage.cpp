@@ -26,20 +26,6 @@ std::string Numbered(std::string_view name, std::size_t number) {
     return std::string(name).append(std::to_string(number));
 }
 
-std::vector<FilterDefinition> LoadFilterList(const Registry& registry) {
-    const std::int32_t count = registry.ReadFilterSettingLong(FilterCountName, 0);
-    std::vector<FilterDefinition> filters;
-    for (std::int32_t number = 1; number <= count; ++number) {
-        FilterDefinition filter;
-        if (!ParseFilter(
-                registry.ReadFilterSettingString(Numbered(FilterName, static_cast<std::size_t>(number)), ""),
-                filter))
-            return DefaultFilters();
-        filters.push_back(std::move(filter));
-    }
-    return filters.empty() ? DefaultFilters() : filters;
-}
-
 std::vector<StringFilter> LoadStringFilterList(const Registry& registry, Language language) {
     const std::int32_t count = registry.ReadFilterSettingLong(StringFilterCountName, 0);
     if (count < 1)
@@ -68,8 +54,40 @@ void WriteList(Registry& registry, std::string_view name, std::string_view count
 
 } // namespace
 
+StoredFilters LoadFilterList(const Registry& registry) {
+    const std::int32_t count = registry.ReadFilterSettingLong(FilterCountName, 0);
+    std::vector<FilterDefinition> filters;
+    for (std::int32_t number = 1; number <= count; ++number) {
+        FilterDefinition filter;
+        if (!ParseFilter(
+                registry.ReadFilterSettingString(Numbered(FilterName, static_cast<std::size_t>(number)), ""),
+                filter))
+            return {DefaultFilters(), false};
+        filters.push_back(std::move(filter));
+    }
+    if (filters.empty())
+        return {DefaultFilters(), false};
+    return {std::move(filters), true};
+}
+
+void WriteFilter(Registry& registry, std::size_t place, const FilterDefinition& filter) {
+    const std::string text = FormatFilter(filter);
+    if (Registry::CharacterCount(text) <= Registry::LongestText)
+        registry.WriteFilterSetting(Numbered(FilterName, place + 1), text, SettingType::Text);
+}
+
+void WriteFilterCount(Registry& registry, std::size_t count) {
+    registry.WriteFilterSetting(FilterCountName, static_cast<std::int32_t>(count), SettingType::Integer);
+}
+
+std::size_t RoomForText(FilterDefinition filter) {
+    filter.StringFilter.clear();
+    const std::size_t others = Registry::CharacterCount(FormatFilter(filter));
+    return Registry::LongestText - std::min(others, Registry::LongestText);
+}
+
 FilterLists LoadFilters(const Registry& registry, Language language) {
-    return {LoadFilterList(registry), LoadStringFilterList(registry, language)};
+    return {LoadFilterList(registry).Filters, LoadStringFilterList(registry, language)};
 }
 
 void SaveFilters(Registry& registry, const FilterLists& lists, std::string_view initFilterDir) {

@@ -3,7 +3,9 @@
 
 #include "filter/FilterDefinition.h"
 
+#include <cstddef>
 #include <string_view>
+#include <vector>
 
 class Registry;
 
@@ -14,3 +16,20 @@ FilterLists LoadFilters(const Registry& registry, Language language);
 
 // Replaces the stored lists and the folder of filter files, in one write of the settings.
 void SaveFilters(Registry& registry, const FilterLists& lists, std::string_view initFilterDir);
+
+// The filters alone. IsStored is false when the default list stands in for what the settings hold.
+struct StoredFilters {
+    std::vector<FilterDefinition> Filters;
+    bool IsStored = false;
+};
+StoredFilters LoadFilterList(const Registry& registry);
+
+// Changes of the stored filters that leave the rest as it is: one filter, by its place in the list from 0,
+// and their number. A filter whose text the settings could not give back is not written: it would take the
+// whole list with it.
+void WriteFilter(Registry& registry, std::size_t place, const FilterDefinition& filter);
+void WriteFilterCount(Registry& registry, std::size_t count);
+
+// How many characters the data text or number list of this filter may have, so that the settings give the
+// filter back.
+std::size_t RoomForText(FilterDefinition filter);

@@ -31,12 +31,12 @@ std::optional<std::int32_t> ToInteger(const SettingValue& value) {
     return number;
 }
 
-std::size_t CharacterCount(std::string_view utf8) {
+} // namespace
+
+std::size_t Registry::CharacterCount(std::string_view utf8) {
     return static_cast<std::size_t>(std::count_if(
         utf8.begin(), utf8.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
-
-} // namespace
 
 void Registry::WriteRegistryValue(std::string_view keyPath, std::string_view valueName,
                                   const SettingValue& value, SettingType type) {

@@ -33,6 +33,7 @@ class Registry {
 
     // A text longer than this reads as the default, and it ends before its first NUL. In characters.
     static constexpr std::size_t LongestText = 1023;
+    static std::size_t CharacterCount(std::string_view utf8);
 
     void WriteRegistryValue(std::string_view keyPath, std::string_view valueName, const SettingValue& value,
                             SettingType type);
