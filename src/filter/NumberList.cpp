@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "filter/NumberList.h"
 
+#include "filter/NumberLists.h"
 #include "logbook/Blanks.h"
 
 #include <algorithm>
@@ -20,17 +21,14 @@ std::optional<EntryNumber> ParseNumber(std::string_view text) {
     return error == std::errc::result_out_of_range ? std::numeric_limits<EntryNumber>::max() : number;
 }
 
-// Calls `visit` with each part, in order, until it returns true.
-template <typename Visit>
-bool AnyPart(std::string_view list, Visit visit) {
-    for (;;) {
-        const std::size_t comma = list.find(',');
-        if (visit(list.substr(0, comma)))
-            return true;
-        if (comma == std::string_view::npos)
-            return false;
-        list.remove_prefix(comma + 1);
-    }
+// The list as changed by `change`.
+template <typename Change>
+std::string Changed(std::string_view list, Change change) {
+    constexpr std::size_t NoLimit = std::numeric_limits<std::size_t>::max();
+    NumberLists lists(NoLimit);
+    lists.Append(list, NoLimit);
+    change(lists);
+    return lists.Text(0);
 }
 
 } // namespace
@@ -47,7 +45,7 @@ std::optional<NumberRange> ParseNumberPart(std::string_view part) {
 
 std::vector<NumberRange> ParseNumberList(std::string_view list) {
     std::vector<NumberRange> parts;
-    AnyPart(list, [&](std::string_view part) {
+    AnyNumberPart(list, [&](std::string_view part) {
         if (const std::optional<NumberRange> range = ParseNumberPart(part))
             parts.push_back(*range);
         return false;
@@ -65,8 +63,21 @@ std::vector<NumberRange> ParseNumberList(std::string_view list) {
 }
 
 bool MatchNumberList(EntryNumber entry, std::string_view list) {
-    return AnyPart(list, [&](std::string_view part) {
+    return AnyNumberPart(list, [&](std::string_view part) {
         const std::optional<NumberRange> range = ParseNumberPart(part);
         return range && range->First <= entry && entry <= range->Last;
     });
+}
+
+std::string FormatNumberRange(NumberRange range) {
+    std::string text = std::to_string(range.First);
+    return range.First == range.Last ? text : text + "-" + std::to_string(range.Last);
+}
+
+std::string AddToNumberList(std::string_view list, EntryNumber number) {
+    return Changed(list, [&](NumberLists& lists) { lists.Add(number); });
+}
+
+std::string RemoveFromNumberList(std::string_view list, EntryNumber number) {
+    return Changed(list, [&](NumberLists& lists) { lists.Remove(number); });
 }

@@ -3,7 +3,9 @@
 
 #include "logbook/EntryTable.h"
 
+#include <cstddef>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -25,3 +27,29 @@ std::vector<NumberRange> ParseNumberList(std::string_view list);
 
 // True when a part of the list matches the entry. Looks at the whole list.
 bool MatchNumberList(EntryNumber entry, std::string_view list);
+
+// A range as a part of a list: one number as that number, more as the bounds joined by "-".
+std::string FormatNumberRange(NumberRange range);
+
+// The list with the number added. One that matches the number stays as it is. Otherwise every part that ends
+// or begins next to the number is extended to it, and no parts are merged (3,5 with 4 is 3-4,4-5); when there
+// is none, the number comes behind the others. Parts that are not extended keep their text, whatever it is.
+std::string AddToNumberList(std::string_view list, EntryNumber number);
+
+// The list without the number: what remains of a part that holds it is written as one part or two (4-9
+// without 6 is 4-5,7-9), or left out. The other parts keep their text.
+std::string RemoveFromNumberList(std::string_view list, EntryNumber number);
+
+// Calls `visit` with the text of each part, in order, until it returns true; true when it did. An empty list
+// has one part, which is empty.
+template <typename Visit>
+bool AnyNumberPart(std::string_view list, Visit visit) {
+    for (;;) {
+        const std::size_t comma = list.find(',');
+        if (visit(list.substr(0, comma)))
+            return true;
+        if (comma == std::string_view::npos)
+            return false;
+        list.remove_prefix(comma + 1);
+    }
+}

@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
+#include <set>
+#include <utility>
 
 namespace {
 
@@ -22,6 +25,25 @@ std::string MatchesOfRanges(std::string_view list) {
         for (EntryNumber entry = range.First; entry <= std::min<EntryNumber>(range.Last, 30); ++entry)
             matches += std::to_string(entry) + " ";
     return matches;
+}
+
+// Any text that a user might type as a number list.
+std::string WildList(std::mt19937& random) {
+    constexpr const char* Pieces[] = {"0", "1", "2", "7",  "10", "9-12", "3-5", "12-9",          " 4 ",
+                                      "-", "x", "",  "ä€", " ",  "007",  "5-",  "20-99999999999"};
+    std::string list;
+    for (std::size_t piece = random() % 8; piece > 0; --piece)
+        list += std::string(Pieces[random() % std::size(Pieces)]) + (random() % 4 == 0 ? "" : ",");
+    return list;
+}
+
+std::vector<std::string> Parts(std::string_view list) {
+    std::vector<std::string> parts;
+    AnyNumberPart(list, [&](std::string_view part) {
+        parts.emplace_back(part);
+        return false;
+    });
+    return parts;
 }
 
 } // namespace
@@ -58,4 +80,115 @@ TEST(NumberList, AnythingElseMatchesNothing) {
 TEST(NumberList, RangesAreSortedAndMerged) {
     EXPECT_EQ(ParseNumberList("9,1-3,2-5,20,6"),
               (std::vector<NumberRange>{{1, 5}, {6, 6}, {9, 9}, {20, 20}}));
+}
+
+TEST(NumberList, AddingANumber) {
+    struct Case {
+        const char* List;
+        EntryNumber Number;
+        const char* Expected;
+    };
+    const Case cases[] = {
+        {"", 5, "5"},              // the first
+        {"5", 5, "5"},             // held already
+        {"2-9", 5, "2-9"},         //
+        {"1,2-9,4", 5, "1,2-9,4"}, //
+        {"5", 4, "4-5"},           // beside a number
+        {"5", 6, "5-6"},           //
+        {"5-7", 4, "4-7"},         // beside a range
+        {"5-7", 8, "5-8"},         //
+        {"7-7", 8, "7-8"},         //
+        {"1,5,9", 6, "1,5-6,9"},   // the order stays
+        {"3,5", 4, "3-4,4-5"},     // between two parts, nothing is merged
+        {"5-9,1-3", 4, "4-9,1-4"}, //
+        {"5,5", 6, "5-6,5-6"},     //
+        {"9,1", 5, "9,1,5"},       // beside none
+        {"0", 1, "0-1"},           // the ends of the numbers
+        {"1", 0, "0-1"},           //
+        {"4294967294", 4294967295, "4294967294-4294967295"},
+        {"4294967295", 0, "4294967295,0"},
+        {"9-12", 13, "9-13"},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(AddToNumberList(c.List, c.Number), c.Expected) << c.List << " + " << c.Number;
+}
+
+TEST(NumberList, RemovingANumber) {
+    struct Case {
+        const char* List;
+        EntryNumber Number;
+        const char* Expected;
+    };
+    const Case cases[] = {
+        {"4-9", 4, "5-9"},
+        {"4-9", 9, "4-8"},
+        {"4-9", 6, "4-5,7-9"},
+        {"4-9", 5, "4,6-9"},
+        {"4-9", 8, "4-7,9"},
+        {"4-5", 4, "5"},
+        {"4-5", 5, "4"},
+        {"4-6", 5, "4,6"},
+        {"7-7", 7, ""},
+        {"5", 5, ""},
+        {"1,5,9", 5, "1,9"},
+        {"20,4-9,1", 6, "20,4-5,7-9,1"},
+        {"3-4,4-5", 4, "3,5"}, // both parts hold it
+        {"5,5", 5, ""},
+        {"", 5, ""},
+        {"1,2", 5, "1,2"},
+        {"0-4294967295", 0, "1-4294967295"},
+        {"0-4294967295", 4294967295, "0-4294967294"},
+        {"9-11", 9, "10-11"},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(RemoveFromNumberList(c.List, c.Number), c.Expected) << c.List << " - " << c.Number;
+}
+
+TEST(NumberList, PartsThatDoNotChangeKeepTheirText) {
+    EXPECT_EQ(AddToNumberList(" 1 , x,7-2,, 007 ,30", 31), " 1 , x,7-2,, 007 ,30-31");
+    EXPECT_EQ(AddToNumberList(" 1 , x", 5), " 1 , x,5");
+    EXPECT_EQ(AddToNumberList(" 1 , x", 2), "1-2, x");
+    EXPECT_EQ(AddToNumberList("7-2", 6), "7-2,6") << "a range that matches nothing is not extended";
+    EXPECT_EQ(AddToNumberList("  ", 6), "  ,6");
+    EXPECT_EQ(AddToNumberList(",", 6), ",,6");
+    EXPECT_EQ(AddToNumberList("3--5,äöü|€", 4), "3--5,äöü|€,4");
+    EXPECT_EQ(RemoveFromNumberList("x, 5 ,007,,8", 5), "x,007,,8");
+    EXPECT_EQ(RemoveFromNumberList("x,007", 7), "x");
+    EXPECT_EQ(RemoveFromNumberList("5,", 5), "");
+    EXPECT_EQ(RemoveFromNumberList(" 4 - 6 ,\t", 5), "4,6,\t");
+}
+
+TEST(NumberList, AnyListMatchesWhatItMatchedAndTheNumber) {
+    std::mt19937 random(4);
+    for (int round = 0; round < 20000; ++round) {
+        const std::string list = WildList(random);
+        const auto number = static_cast<EntryNumber>(random() % 16);
+        const std::string added = AddToNumberList(list, number);
+        const std::string removed = RemoveFromNumberList(list, number);
+        EXPECT_TRUE(MatchNumberList(number, added)) << list << " + " << number;
+        EXPECT_FALSE(MatchNumberList(number, removed)) << list << " - " << number;
+        for (EntryNumber other = 0; other <= 30; ++other) {
+            if (other == number)
+                continue;
+            EXPECT_EQ(MatchNumberList(other, added), MatchNumberList(other, list)) << list << "+" << number;
+            EXPECT_EQ(MatchNumberList(other, removed), MatchNumberList(other, list)) << list << "-" << number;
+        }
+    }
+}
+
+TEST(NumberList, AnyPartThatNamesNoEntryKeepsItsText) {
+    const auto senseless = [](std::string_view list) {
+        std::multiset<std::string> parts;
+        for (const std::string& part : Parts(list))
+            if (!part.empty() && !ParseNumberPart(part))
+                parts.insert(part);
+        return parts;
+    };
+    std::mt19937 random(5);
+    for (int round = 0; round < 20000; ++round) {
+        const std::string list = WildList(random);
+        const auto number = static_cast<EntryNumber>(random() % 16);
+        EXPECT_EQ(senseless(AddToNumberList(list, number)), senseless(list)) << list;
+        EXPECT_EQ(senseless(RemoveFromNumberList(list, number)), senseless(list)) << list;
+    }
 }
