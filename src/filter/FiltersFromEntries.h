@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "filter/FilterStorage.h"
+#include "filter/NumberLists.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+class Registry;
+
+// Filters that collect entries by their numbers: what the user takes out of the list is kept in an exclude
+// filter, what he highlights in a highlight filter. They are ordinary stored filters of type 8, so that the
+// next filter run and the next start give the same picture, and the user edits them like any other.
+//
+// The filter that is used is the first active one of type 8 with the action; an inactive one is never
+// touched. When there is none, a new one comes to the end of the list. Only the changed filters are written,
+// and the number of filters when one is new. Where the default list stands in for a missing or damaged one,
+// a new filter is stored behind the default filter, so that everything else stays on the screen.
+//
+// The settings give no text back that is longer than Registry::LongestText, and a list with such a filter
+// would fall back to the default list as a whole. So no filter is made that long: a number for which the
+// first one has no room goes to the next active number filter of the action that has, or to a new one; and a
+// number is taken out of every active number filter of the action that holds it.
+
+// Adds the entry to the filter of the action (see FilterActions), which is written also when it held it
+// already. True on success.
+bool AddEntryToFilter(Registry& registry, EntryNumber number, std::int16_t action);
+
+// Takes the entry out. True when there is a number filter for the action, also one that does not hold the
+// entry: it is then written back as it was.
+bool RemoveEntryFromFilter(Registry& registry, EntryNumber number, std::int16_t action);
+
+// The number filters of one action for a change of many entries: gives the same filters as one of the calls
+// above for each entry in this order, and writes the settings once. The filters are read when it is made;
+// nothing else may change the stored filters until it is written.
+class NumberFilters {
+  public:
+    NumberFilters(Registry& registry, std::int16_t action);
+
+    bool Add(EntryNumber number);
+    bool Remove(EntryNumber number) { return lists_.Remove(number); }
+
+    // Nothing is written before, and nothing when no entry was added or removed.
+    void Write();
+
+  private:
+    Registry& registry_;
+    std::int16_t action_;
+    StoredFilters stored_;
+    std::vector<std::size_t> places_; // in the list of filters, of those that lists_ comes from
+    NumberLists lists_;
+};
