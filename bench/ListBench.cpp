@@ -79,7 +79,7 @@ void MeasureRemoval(frmMain& window, LogbookView& list) {
         select.push_back(Painted(
             list, [&] { list.SelectRanges(scattered, 0); }, 1));
         remove.push_back(Painted(
-            list, [&] { list.RemoveSelectedRows(); }, 1));
+            list, [&] { window.Run(Command::RemoveFromList); }, 1));
         if (list.Logbook()->Rows().size() + scattered.size() != rows)
             std::printf("rows are missing\n");
     }

@@ -11,6 +11,7 @@
 #include "filter/Filter.h"
 #include "filter/FilterFile.h"
 #include "filter/FilterStorage.h"
+#include "list/EntryActions.h"
 #include "list/LogbookModel.h"
 #include "list/LogbookView.h"
 #include "list/QtText.h"
@@ -103,6 +104,8 @@ void frmMain::MakeList() {
     connect(lvLogbook->horizontalHeader(), &QHeaderView::sectionClicked, this, &frmMain::SortByColumn);
     connect(lvLogbook, &LogbookView::PopupWanted, this,
             [this](const QPoint& position) { menus_.Popup().popup(position); });
+    connect(lvLogbook, &LogbookView::RemoveWanted, this, [this] { Run(Command::RemoveFromList); });
+    connect(lvLogbook, &LogbookView::ToggleWanted, this, [this] { Run(Command::ToggleHighlighting); });
     connect(lvLogbook, &LogbookView::PropertiesWanted, this, [this] { Run(Command::Properties); });
     // Not before the program that the file comes from has got its answer.
     connect(
@@ -155,6 +158,12 @@ void frmMain::Run(Command command) {
         break;
     case Command::DialogLanguage:
         ChooseLanguage();
+        break;
+    case Command::ToggleHighlighting:
+        ToggleSelectedEntries();
+        break;
+    case Command::RemoveFromList:
+        RemoveSelectedEntries();
         break;
     case Command::Properties:
         ShowEntryProperties();
@@ -376,6 +385,16 @@ void frmMain::ShowEntryProperties() {
         lvLogbook->SelectedRanges(), logbook_, *model_, language_, this,
         {.CommentChanged = [this](int) { CommentsEdited = true; },
          .StatusMessage = [this](const QString& text) { sbStatusBar->StatusText()->setText(text); }});
+}
+
+void frmMain::RemoveSelectedEntries() {
+    const WaitPointer wait;
+    lvLogbook->RemoveRows(RemoveFromList(registry_, model_->Rows(), lvLogbook->SelectedRanges()));
+}
+
+void frmMain::ToggleSelectedEntries() {
+    const WaitPointer wait;
+    model_->SwitchHighlighting(ToggleHighlighting(registry_, model_->Rows(), lvLogbook->SelectedRanges()));
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

@@ -87,6 +87,8 @@ class frmMain : public QMainWindow {
     void ChooseLanguage();
     void CopySelectedRows();
     void ShowEntryProperties();
+    void RemoveSelectedEntries();
+    void ToggleSelectedEntries();
     void AddNameToTitle(const std::string& name);
 
     Logbook& logbook_;

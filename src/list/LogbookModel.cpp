@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "list/LogbookModel.h"
 
+#include "list/EntryActions.h"
 #include "list/LogbookColumns.h"
 #include "list/QtText.h"
 
@@ -57,6 +58,14 @@ void LogbookModel::TakeOutRows(const RowRanges& ranges) {
     beginResetModel();
     RemoveRows(rows_, ranges);
     endResetModel();
+}
+
+void LogbookModel::SwitchHighlighting(const RowRanges& ranges) {
+    if (ranges.empty())
+        return;
+    ::SwitchHighlighting(rows_, ranges);
+    emit dataChanged(index(static_cast<int>(ranges.front().First), 0),
+                     index(static_cast<int>(ranges.back().Last), 0));
 }
 
 void LogbookModel::SetLanguage(Language language) {

@@ -40,6 +40,9 @@ class LogbookModel : public QAbstractTableModel {
 
     void TakeOutRows(const RowRanges& ranges);
 
+    // Plain rows become highlighted, highlighted ones plain.
+    void SwitchHighlighting(const RowRanges& ranges);
+
     // The language of the column headers.
     void SetLanguage(Language language);
 

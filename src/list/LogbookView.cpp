@@ -97,8 +97,7 @@ void LogbookView::SortByColumn(int column) {
     ShowSortIndicator();
 }
 
-void LogbookView::RemoveSelectedRows() {
-    const RowRanges ranges = SelectedRanges();
+void LogbookView::RemoveRows(const RowRanges& ranges) {
     if (ranges.empty())
         return;
     const int top = verticalScrollBar()->value();

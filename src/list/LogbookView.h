@@ -32,8 +32,8 @@ class LogbookView : public QTableView {
     // Sorts by a column; the selection stays on its entries.
     void SortByColumn(int column);
 
-    // Takes the selected rows out of the list. The row that follows them becomes the current one, unselected.
-    void RemoveSelectedRows();
+    // Takes these rows out of the list. The row that follows them becomes the current one, unselected.
+    void RemoveRows(const RowRanges& ranges);
 
     // Shows by which column the list is sorted, if it is.
     void ShowSortIndicator();

@@ -85,14 +85,14 @@ class MainWindowListTest : public MainWindowTest {
     void RowsAreTakenOutAtOnce() {
         Window->OpenLogbook(FileOfErrors(10));
         List()->SelectRanges({{0, 1}, {4, 6}, {9, 9}}, 4);
-        List()->RemoveSelectedRows();
+        List()->RemoveRows(List()->SelectedRanges());
         QCOMPARE(Column(1), QStringList({"2", "3", "7", "8"}));
         QVERIFY(List()->SelectedRanges().empty());
         QCOMPARE(List()->currentIndex().row(), 3);
         List()->selectAll();
-        List()->RemoveSelectedRows();
+        List()->RemoveRows(List()->SelectedRanges());
         QCOMPARE(List()->model()->rowCount(), 0);
-        List()->RemoveSelectedRows();
+        List()->RemoveRows(List()->SelectedRanges());
     }
 
     void SelectedRowsAreCopiedWithTheirHeader() {
@@ -134,6 +134,34 @@ class MainWindowListTest : public MainWindowTest {
         QTest::mouseDClick(List()->viewport(), Qt::LeftButton, {}, List()->viewport()->rect().bottomLeft());
         QCOMPARE(open.size(), 3);
         Book->Busy = false;
+    }
+
+    void DeleteKeepsTheSelectedEntriesOut() {
+        Window->OpenLogbook(FileOfErrors(6));
+        List()->SelectRanges({{1, 2}, {4, 4}}, 4);
+        QTest::keyClick(List(), Qt::Key_Delete);
+        QCOMPARE(Column(1), QStringList({"0", "3", "5"}));
+        QCOMPARE(Counts(), QString("6 / 6 Items")); // of the last filter run
+        QCOMPARE(LoadFilters(*Settings, {}).Filters.back(), Filter("X|8|1-2,4|||1"));
+        Window->ApplyFilter();
+        QCOMPARE(Column(1), QStringList({"0", "3", "5"}));
+        QCOMPARE(Counts(), QString("3 / 6 Items"));
+        List()->clearSelection();
+        Item("mnuPopupRemove")->trigger();
+        QCOMPARE(List()->model()->rowCount(), 3);
+    }
+
+    void SpaceHighlightsAndBack() {
+        Window->OpenLogbook(FileOfErrors(3));
+        List()->SelectRanges({{0, 1}}, 0);
+        QTest::keyClick(List(), Qt::Key_Space);
+        QCOMPARE(Icons(), QList<int>({18, 18, 4}));
+        QCOMPARE(List()->SelectedRanges(), RowRanges({{0, 1}}));
+        Window->ApplyFilter();
+        QCOMPARE(Icons(), QList<int>({18, 18, 4}));
+        List()->SelectRanges({{1, 2}}, 1);
+        Item("mnuPopupToggle")->trigger();
+        QCOMPARE(Icons(), QList<int>({18, 4, 18}));
     }
 
     void PopupComesWithTheRightButtonAndWithItsKey() {
@@ -195,6 +223,13 @@ class MainWindowListTest : public MainWindowTest {
     }
 
   private:
+    QList<int> Icons() const {
+        QList<int> icons;
+        for (int row = 0; row < List()->model()->rowCount(); ++row)
+            icons << List()->model()->index(row, 0).data(LogbookModel::ImageRole).toInt();
+        return icons;
+    }
+
     // Entry 0 is the latest.
     void OpenTimes() {
         Window->OpenLogbook(File("a.log", {Header("BERR:    a", "03.02.2010 00:00:00.000"),

@@ -36,6 +36,7 @@ class MainWindowTest : public QObject {
 
     void StartAfresh() {
         Window.reset();
+        Person = std::make_unique<QObject>(); // whom the test before left waiting is gone
         Store = std::make_unique<MemorySettings>();
         Settings = std::make_unique<Registry>(*Store);
         OpenWindow();
@@ -95,7 +96,7 @@ class MainWindowTest : public QObject {
     void AnswerMessages(int count) {
         if (count == 0)
             return;
-        QTimer::singleShot(0, this, [this, count] {
+        QTimer::singleShot(0, Person.get(), [this, count] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (box == nullptr)
                 return AnswerMessages(count);
@@ -107,7 +108,7 @@ class MainWindowTest : public QObject {
 
     // Presses a button of the next question and remembers its text.
     void AnswerQuestion(QMessageBox::StandardButton button) {
-        QTimer::singleShot(0, this, [this, button] {
+        QTimer::singleShot(0, Person.get(), [this, button] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (box == nullptr)
                 return AnswerQuestion(button);
@@ -116,6 +117,13 @@ class MainWindowTest : public QObject {
         });
     }
 
+    // A key in the window, which a dialog that was closed may have left inactive.
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {
+        QApplication::setActiveWindow(Window.get());
+        QTest::keyClick(Window.get(), key, modifiers);
+    }
+
+    std::unique_ptr<QObject> Person; // who answers
     TemporaryFolder Folder;
     TempFolder Temp{Folder.Path()};
     std::unique_ptr<Logbook> Book;

@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+#include "app/FileDialog.h"
+#include "app/MainWindowTest.h"
+
+#include "support/ZipWriter.h"
+
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+// Opening and saving with the common file dialog, and the question about edited comments.
+class ArchiveTest : public MainWindowTest {
+    Q_OBJECT
+
+  private slots:
+    void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    void init() { StartAfresh(); }
+    void cleanup() { Window.reset(); }
+
+    void OpenAsksForTheFile() {
+        const std::string file = File("a.log", {Header("BERR:    a"), Header("BERR:    b")});
+        QString title;
+        AnswerFileDialog(QString::fromStdString(file), &title);
+        Item("mnuFileOpen")->trigger();
+        QCOMPARE(title, QString("Open"));
+        QCOMPARE(Window->windowTitle(), QString("a - Qorvix"));
+        QCOMPARE(Counts(), QString("2 / 2 Items"));
+        QCOMPARE(Settings->ReadLogbookSettingString("InitLogbookDir", ""), Folder.Path().string() + "/");
+        QCOMPARE(Settings->ReadLogbookSettingString("InitLogbookFile", ""), file);
+
+        AnswerFileDialog("");
+        Press(Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(Window->windowTitle(), QString("a - Qorvix"));
+    }
+
+    void DialogsAreGermanToo() {
+        WriteLanguage(*Settings, {1});
+        OpenWindow();
+        QString title;
+        QStringList filters;
+        AnswerFileDialog("", &title, &filters);
+        Item("mnuFileOpen")->trigger();
+        QCOMPARE(title, QString("Öffnen"));
+        QCOMPARE(filters.size(), 5);
+        QVERIFY(filters.first().startsWith("Alle Logbuch-Dateien ("));
+        Window->OpenLogbook(FileOfErrors(1));
+        AnswerFileDialog("", &title, &filters);
+        Item("mnuFileZipLogbook")->trigger();
+        QCOMPARE(title, QString("Archiv speichern"));
+        QVERIFY(filters.first().startsWith("Logbuch-Archiv ("));
+    }
+
+    void FileFiltersAreInAnyCase() {
+        QCOMPARE(NameFilters("Logs (*.log)|*.log|Old|*.a;s*.zip"),
+                 QStringList({"Logs (*.[lL][oO][gG])", "Old (*.[aA] [sS]*.[zZ][iI][pP])"}));
+    }
+
+    void NothingIsSavedWithoutALogbook() {
+        Item("mnuFileZipLogbook")->trigger();
+        QVERIFY(QApplication::activeModalWidget() == nullptr);
+    }
+
+    void ArchiveBringsCommentsAndFiltersBack() {
+        Window->OpenLogbook(FileOfErrors(3));
+        Book->Entries.SetComment(1, "geprüft, \"gut\"");
+        AnswerFileDialog(QString::fromStdString(Folder / "saved"));
+        Press(Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(std::filesystem::exists(Folder / "saved.qorvix"));
+        QCOMPARE(Settings->ReadLogbookSettingString("InitZipArchiveDir", ""), Folder.Path().string() + "/");
+
+        AnswerQuestion(QMessageBox::Yes);
+        QVERIFY(Window->OpenLogbook(Folder / "saved.qorvix"));
+        QCOMPARE(MessageTexts, QStringList({"Replace active filter list?"}));
+        QCOMPARE(Column(6), QStringList({"", "geprüft, \"gut\"", ""}));
+        QCOMPARE(Window->windowTitle(), QString("saved - Qorvix"));
+
+        // Refresh reads the logbook alone.
+        Item("mnuViewRefresh")->trigger();
+        QCOMPARE(Column(6), QStringList({"", "", ""}));
+    }
+
+    void CommentsFileWithoutItsHeaderIsTold() {
+        WriteZip(Folder / "bad.qorvix",
+                 {{"x.log", Lines({Header("BERR:    a")})}, {"x.cmt", "nonsense\r\n"}});
+        AnswerMessages(1);
+        QVERIFY(Window->OpenLogbook(Folder / "bad.qorvix"));
+        QCOMPARE(MessageTexts, QStringList({"File includes no comment information!"}));
+        QCOMPARE(Counts(), QString("1 / 1 Items"));
+    }
+
+    void EditedCommentsAreAskedAboutBeforeAnotherLogbook() {
+        EditAComment();
+        const std::string other = File("other.log", {Header("BERR:    x"), Header("BERR:    y")});
+        AnswerQuestion(QMessageBox::Cancel);
+        QVERIFY(!Window->OpenLogbook(other));
+        QCOMPARE(MessageTexts, QStringList({"Comments edited. Save into logbook archive?"}));
+        QCOMPARE(Window->windowTitle(), QString("errors - Qorvix"));
+
+        // Yes, but the archive is not saved after all.
+        AnswerQuestion(QMessageBox::Yes);
+        QTimer::singleShot(50, Person.get(), [this] { AnswerFileDialog(""); });
+        QVERIFY(!Window->OpenLogbook(other));
+        QCOMPARE(Column(6).first(), QString("edited"));
+
+        AnswerQuestion(QMessageBox::No);
+        QVERIFY(Window->OpenLogbook(other));
+        QCOMPARE(Window->windowTitle(), QString("other - Qorvix"));
+        MessageTexts.clear();
+        QVERIFY(Window->close());
+        QVERIFY(MessageTexts.isEmpty());
+    }
+
+    void CancelAtTheCloseQuestionKeepsTheWindow() {
+        EditAComment();
+        AnswerQuestion(QMessageBox::Cancel);
+        QVERIFY(!Window->close());
+        QVERIFY(Window->isVisible());
+        AnswerQuestion(QMessageBox::Cancel);
+        QVERIFY(!Window->close());
+        QCOMPARE(MessageTexts.size(), 2);
+        AnswerQuestion(QMessageBox::No);
+        QVERIFY(Window->close());
+        QVERIFY(!Window->isVisible());
+    }
+
+    void YesAtTheCloseQuestionSavesAndClosesEitherWay() {
+        EditAComment();
+        AnswerQuestion(QMessageBox::Yes);
+        QTimer::singleShot(50, Person.get(), [this] { AnswerFileDialog(""); });
+        QVERIFY(Window->close());
+
+        StartAfresh();
+        EditAComment();
+        AnswerQuestion(QMessageBox::Yes);
+        QTimer::singleShot(50, Person.get(),
+                           [this] { AnswerFileDialog(QString::fromStdString(Folder / "kept.qorvix")); });
+        QVERIFY(Window->close());
+        QVERIFY(std::filesystem::exists(Folder / "kept.qorvix"));
+    }
+
+    void SavedCommentsAreNotAskedAbout() {
+        EditAComment();
+        AnswerFileDialog(QString::fromStdString(Folder / "unasked.qorvix"));
+        Item("mnuFileZipLogbook")->trigger();
+        QVERIFY(Window->close());
+        QVERIFY(MessageTexts.isEmpty());
+    }
+
+  private:
+    void EditAComment() {
+        QVERIFY(Window->OpenLogbook(FileOfErrors(2)));
+        List()->selectRow(0);
+        QTimer::singleShot(0, Person.get(), [] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            dialog->findChild<QPlainTextEdit*>("tbComment")->setPlainText("edited");
+            QTest::mouseClick(dialog->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+        });
+        QTest::keyClick(List(), Qt::Key_Return);
+        QCOMPARE(Cell(0, 6), QString("edited"));
+    }
+
+    // Chooses a path in the next file dialog, or cancels it.
+    void AnswerFileDialog(const QString& path, QString* title = nullptr, QStringList* filters = nullptr) {
+        QTimer::singleShot(0, Person.get(), [=, this] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr)
+                return AnswerFileDialog(path, title, filters);
+            if (title != nullptr)
+                *title = dialog->windowTitle();
+            if (filters != nullptr)
+                *filters = dialog->nameFilters();
+            QCOMPARE(dialog->objectName(), QString("dlgCommonDialog"));
+            if (path.isEmpty())
+                return dialog->reject();
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+    }
+};
+
+QTEST_MAIN(ArchiveTest)
+#include "ArchiveTest.moc"
