@@ -1,16 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "app/WindowUser.h"
 
-#include "app/FileDialog.h"
+#include "app/CommonDialog.h"
 #include "list/QtText.h"
 
 #include <QLabel>
 #include <QMessageBox>
 
 void WindowUser::ShowMessage(std::string_view text, MessageIcon icon) {
-    QMessageBox(icon == MessageIcon::Exclamation ? QMessageBox::Warning : QMessageBox::NoIcon,
-                window_->windowTitle(), ToQString(text), QMessageBox::Ok, window_)
-        .exec();
+    QMessageBox box(icon == MessageIcon::Exclamation ? QMessageBox::Warning : QMessageBox::NoIcon,
+                    window_->windowTitle(), ToQString(text), QMessageBox::Ok, window_);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+bool WindowUser::Confirm(std::string_view question) {
+    QMessageBox box(QMessageBox::Warning, window_->windowTitle(), ToQString(question),
+                    QMessageBox::Yes | QMessageBox::No, window_);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+std::optional<std::string> WindowUser::AskFileToOpen(const FileQuestion& question) {
+    return RunCommonDialog(question, QFileDialog::AcceptOpen, language_, window_);
+}
+
+std::optional<std::string> WindowUser::AskFileToSave(const FileQuestion& question) {
+    return RunCommonDialog(question, QFileDialog::AcceptSave, language_, window_);
 }
 
 UserInterface::Answer WindowUser::Ask(TextId question) {
@@ -18,19 +35,6 @@ UserInterface::Answer WindowUser::Ask(TextId question) {
         QMessageBox::question(window_, window_->windowTitle(), QtText(question, language_),
                               QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
     return answer == QMessageBox::Yes ? Answer::Yes : answer == QMessageBox::No ? Answer::No : Answer::Cancel;
-}
-
-bool WindowUser::Confirm(std::string_view question) {
-    return QMessageBox::question(window_, window_->windowTitle(), ToQString(question),
-                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
-}
-
-std::optional<std::string> WindowUser::AskFileToOpen(const FileRequest& request) {
-    return ShowFileDialog(request, QFileDialog::AcceptOpen, language_, window_);
-}
-
-std::optional<std::string> WindowUser::AskFileToSave(const FileRequest& request) {
-    return ShowFileDialog(request, QFileDialog::AcceptSave, language_, window_);
 }
 
 void WindowUser::ShowStatus(TextId status) {

@@ -19,9 +19,8 @@
 #include "logbook/Mod_FileHandling.h"
 #include "sources/CommandLine.h"
 #include "sources/Comments.h"
-#include "sources/LogbookArchive.h"
 #include "sources/LogbookSource.h"
-#include "sources/OpenLogbook.h"
+#include "sources/ZipLogbook.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -68,7 +67,8 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFol
       tempFolder_(tempFolder),
       codePage_(std::move(codePage)),
       BaseCaption("Qorvix"),
-      InitZipArchiveDir(registry.ReadLogbookSettingString("InitZipArchiveDir", ProgramFolder() + '/')),
+      state_{.InitZipArchiveDir =
+                 registry.ReadLogbookSettingString("InitZipArchiveDir", ProgramFolder() + '/')},
       ViewContents(registry.ReadLogbookSettingLong("MainViewContents", 0) == 1),
       model_(new LogbookModel(logbook.Entries, this)),
       lvLogbook(new LogbookView(this)),
@@ -79,8 +79,9 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFol
       sbStatusBar(new MainStatusBar(this)),
       menus_(*this, [this](Command command) { Run(command); }),
       progress_(this, sbStatusBar->Progress()),
-      user_(this, sbStatusBar->StatusText(), [this](double percent) { progress_.PaintValue(percent); }) {
+      user_(this, sbStatusBar->StatusText()) {
     setObjectName("frmMain");
+    state_.InitZipArchiveDir = registry_.ReadLogbookSettingString("InitZipArchiveDir", ProgramFolder() + '/');
     setWindowTitle(BaseCaption);
     setContextMenuPolicy(Qt::PreventContextMenu);
     pbTagViewer->setObjectName("pbTagViewer");
@@ -216,35 +217,29 @@ void frmMain::RunCommandLine(const std::vector<std::string>& arguments) {
 }
 
 bool frmMain::OpenLogbook(std::string name) {
-    if (logbook_.Busy || !MayLeaveComments())
+    if (logbook_.Busy)
         return false;
-    if (name.empty()) {
-        const std::optional<std::string> chosen =
-            ReadAndShowLogbookName(registry_, user_, ProgramFolder() + '/');
-        if (!chosen)
-            return false;
-        name = *chosen;
-    }
-    if (!ExecuteLogbook(name))
+    const OpeningSteps steps{
+        .ZipLogbook = [this] { return ZipLogbook(); },
+        .ExecuteLogbook = [this](std::string& source) { return ExecuteLogbook(source); }};
+    if (!::OpenLogbook(name, state_, registry_, user_, ProgramFolder() + '/', steps))
         return false;
     AddNameToTitle(name);
     return true;
 }
 
-bool frmMain::MayLeaveComments() {
-    return ::MayLeaveComments(CommentsEdited, user_, [this] { return ZipLogbook(); });
+CommentsOutcome frmMain::AskToSaveComments() {
+    return ::AskToSaveComments(state_, user_, [this] { return ZipLogbook(); });
 }
 
 bool frmMain::ZipLogbook() {
     const FilterLists lists = LoadFilters(registry_, language_);
+    const ZipLogbookParts parts{logbook_.Entries, lists.Filters, codePage_, tempFolder_, registry_};
     sbStatusBar->ShowProgressBar();
-    const bool saved =
-        ::ZipLogbook({CurrentLogbookFile, logbook_.Entries, lists.Filters, codePage_, InitZipArchiveDir},
-                     registry_, user_, language_);
+    const ZipOutcome outcome = ::ZipLogbook(state_, parts, user_, language_,
+                                            [this](double percent) { progress_.PaintValue(percent); });
     sbStatusBar->HideProgressBar();
-    if (saved)
-        CommentsEdited = false;
-    return saved;
+    return outcome == ZipOutcome::Saved;
 }
 
 // Opens one source; the name becomes that of the logbook.
@@ -256,7 +251,7 @@ bool frmMain::ExecuteLogbook(std::string& name) {
         ReplaceFilters(source->FilterFile);
     name = source->Name;
     const bool read = ReadAndShowLogbook(source->LogbookFile, source->CommentsFile);
-    CurrentLogbookFile = read ? source->LogbookFile : "";
+    state_.CurrentLogbookFile = read ? source->LogbookFile : "";
     return read;
 }
 
@@ -276,15 +271,18 @@ void frmMain::ReplaceFilters(const std::string& filterFile) {
 void frmMain::Refresh() {
     tbToolBar->repaint();
     // The comments go with this, so that they are asked about as they are before another logbook.
-    if (MayLeaveComments())
-        ReadAndShowLogbook(CurrentLogbookFile, "");
+    const CommentsOutcome outcome = AskToSaveComments();
+    if (outcome != CommentsOutcome::NotSaved && outcome != CommentsOutcome::Stay)
+        ReadAndShowLogbook(state_.CurrentLogbookFile, "");
 }
 
 bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& commentsFile) {
     if (logbook_.Busy)
         return false;
     logbook_.Busy = true;
-    CommentsEdited = false;
+    state_.CommentsEdited = false;
+    std::error_code noFile;
+    state_.CurrentFileStamp = StampOf(file, noFile);
     model_->ClearRows();
     lvLogbook->ShowSortIndicator();
     txContent->clear();
@@ -317,10 +315,11 @@ bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& com
 
 void frmMain::ReadComments(const std::string& commentsFile) {
     user_.ShowStatus(TextId::StatusCommenting);
-    const bool read = CommentLogbook(commentsFile, logbook_.Entries, codePage_);
+    const CommentsFileResult result = CommentLogbook(commentsFile, logbook_.Entries, codePage_);
     user_.RestoreStatus();
-    if (!read)
-        user_.ShowMessage(Text(TextId::NoComments, language_), UserInterface::MessageIcon::None);
+    if (result.Result != CommentsFileResult::Outcome::Read)
+        user_.ShowMessage(CommentsFileMessage(commentsFile, result, language_),
+                          UserInterface::MessageIcon::None);
 }
 
 void frmMain::ApplyFilter() {
@@ -383,7 +382,7 @@ void frmMain::CopySelectedRows() {
 void frmMain::ShowEntryProperties() {
     ShowEntryDialogs(
         lvLogbook->SelectedRanges(), logbook_, *model_, language_, this,
-        {.CommentChanged = [this](int) { CommentsEdited = true; },
+        {.CommentChanged = [this](int) { state_.CommentsEdited = true; },
          .StatusMessage = [this](const QString& text) { sbStatusBar->StatusText()->setText(text); }});
 }
 
@@ -403,14 +402,10 @@ void frmMain::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    if (CommentsEdited) {
-        const UserInterface::Answer answer = user_.Ask(TextId::AskSaveComments);
-        if (answer == UserInterface::Answer::Cancel) {
-            event->ignore();
-            return;
-        }
-        if (answer == UserInterface::Answer::Yes)
-            ZipLogbook();
+    // Where saving did not succeed the window closes all the same.
+    if (AskToSaveComments() == CommentsOutcome::Stay) {
+        event->ignore();
+        return;
     }
     Unload();
     QMainWindow::closeEvent(event);
@@ -427,7 +422,7 @@ void frmMain::Unload() {
                                   SettingType::Integer);
     SavePlacement(registry_, *this);
     SaveColumnWidths(registry_, *lvLogbook->horizontalHeader());
-    registry_.WriteLogbookSetting("InitZipArchiveDir", InitZipArchiveDir, SettingType::Text);
+    registry_.WriteLogbookSetting("InitZipArchiveDir", state_.InitZipArchiveDir, SettingType::Text);
 }
 
 void frmMain::ShowLogbookStatus() {

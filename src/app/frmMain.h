@@ -10,6 +10,8 @@
 #include "logbook/Logbook.h"
 #include "settings/Registry.h"
 #include "settings/Texts.h"
+#include "sources/LogbookState.h"
+#include "sources/OpenLogbook.h"
 #include "sources/TempFolder.h"
 
 #include <QMainWindow>
@@ -79,7 +81,7 @@ class frmMain : public QMainWindow {
     void Refresh();
     void ReadComments(const std::string& commentsFile);
     bool ZipLogbook();
-    bool MayLeaveComments();
+    CommentsOutcome AskToSaveComments();
     bool FillList();
     void ShowLogbookStatus();
     void ShowLogbookError(std::int16_t code);
@@ -98,9 +100,7 @@ class frmMain : public QMainWindow {
     Language language_;
     QtCatalogue qtCatalogue_;
     QString BaseCaption;
-    std::string InitZipArchiveDir;
-    std::string CurrentLogbookFile;
-    bool CommentsEdited = false;
+    LogbookState state_;
     bool ViewContents;
     LogbookModel* model_;
     LogbookView* lvLogbook;

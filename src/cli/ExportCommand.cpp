@@ -1,30 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ExportCommand.h"
 
+#include "cli/ReadSource.h"
 #include "cli/RowWriter.h"
-#include "cli/TerminalProgress.h"
-#include "cli/TerminalUser.h"
 #include "filter/Filter.h"
-#include "filter/FilterFile.h"
 #include "filter/FilterStorage.h"
 #include "logbook/AtomicFile.h"
-#include "logbook/Mod_FileHandling.h"
 #include "logbook/modUtil.h"
 #include "settings/Registry.h"
 #include "settings/Texts.h"
-#include "sources/Comments.h"
-#include "sources/LogbookSource.h"
 
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 
 namespace {
-
-int Fail(const std::string& message) {
-    std::cerr << "qorvix-cli: " << message << std::endl;
-    return ExitStatus::Failed;
-}
 
 void WriteRows(const EntryTable& entries, const LogbookRows& rows, const ExportOptions& options,
                std::ostream& stream) {
@@ -50,14 +40,9 @@ bool IsDevice(const std::string& path) {
 bool ChooseFilters(const ExportOptions& options, const std::string& archiveFilters, const CodePage& codePage,
                    std::vector<FilterDefinition>& filters) {
     const std::string& file = archiveFilters.empty() ? options.Filters : archiveFilters;
-    if (!file.empty()) {
-        FilterFileContent content = ImportFilterFile(file, codePage);
-        if (content.Result != FilterFileContent::Outcome::Read) {
-            Fail(FilterFileMessage(file, content, options.MessageLanguage));
-            return false;
-        }
-        filters = std::move(content.Filters);
-    } else if (options.StoredFilters) {
+    if (!file.empty())
+        return ReadFilters(file, filters, options.MessageLanguage, codePage);
+    if (options.StoredFilters) {
         const auto settings = MakeUserSettings();
         filters = LoadFilters(Registry(*settings), options.MessageLanguage).Filters;
     }
@@ -72,36 +57,32 @@ int RunExport(const ExportOptions& options) {
     const CodePage codePage = CodePage::OfUser();
     const TempFolder tempFolder;
     TerminalUser user(options.ArchiveFilters ? Answer::Yes : Answer::No);
-    const std::optional<LogbookSource> source =
-        ResolveSource(options.File, tempFolder, user, options.MessageLanguage);
-    std::vector<FilterDefinition> filters = DefaultFilters();
-    if (!source || user.MessageShown() || !ChooseFilters(options, source->FilterFile, codePage, filters))
+    SourceLogbook logbook;
+    if (!ReadSource(options.File, logbook, tempFolder, user, options.MessageLanguage, codePage))
         return ExitStatus::Failed;
+    const LogbookSource& source = logbook.Source;
+    std::vector<FilterDefinition> filters = DefaultFilters();
+    if (!ChooseFilters(options, source.FilterFile, codePage, filters))
+        return ExitStatus::Failed;
+    // Comments that cannot be read are told; the list is printed without them, as the window shows it.
+    if (!source.CommentsFile.empty())
+        ReadComments(source.CommentsFile, logbook, options.MessageLanguage, codePage);
 
-    Logbook logbook;
-    std::string title;
-    TerminalProgress progress;
-    if (!ReadLogbook(source->LogbookFile, logbook, title, progress, codePage)) {
-        const bool reading = logbook.LoadState == LoadStates::Reading;
-        return Fail(text(reading ? TextId::ReadFailed : TextId::OpenFailed) + ": " + options.File);
-    }
-    if (!source->CommentsFile.empty() && !CommentLogbook(source->CommentsFile, logbook.Entries, codePage))
-        return Fail(source->CommentsFile + ": " + text(TextId::NoComments));
     LogbookRows rows;
-    if (!ApplyFilters(logbook.Entries, filters, rows))
+    if (!ApplyFilters(logbook.Book.Entries, filters, rows))
         return Fail(text(TextId::FilterFailed));
 
     if (options.Output.empty()) {
-        WriteRows(logbook.Entries, rows, options, std::cout);
+        WriteRows(logbook.Book.Entries, rows, options, std::cout);
         return std::cout ? ExitStatus::Done : Fail(text(TextId::ListNotWritten));
     }
     if (IsDevice(options.Output)) {
         std::ofstream stream(ToPath(options.Output), std::ios::binary);
-        WriteRows(logbook.Entries, rows, options, stream);
+        WriteRows(logbook.Book.Entries, rows, options, stream);
         return stream ? ExitStatus::Done : Fail(options.Output + text(TextId::FileNotWritten));
     }
     AtomicFile file(options.Output);
-    WriteRows(logbook.Entries, rows, options, file.Stream());
+    WriteRows(logbook.Book.Entries, rows, options, file.Stream());
     if (const std::error_code error = file.Commit())
         return Fail(options.Output + ": " + error.message());
     return ExitStatus::Done;

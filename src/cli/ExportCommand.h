@@ -19,5 +19,5 @@ struct ExportOptions {
 
 // Prints the list of a logbook, a row a line: all entries, or those that the filters let through. Memory does
 // not grow with the rows printed. What goes wrong is told on standard error; nothing has then been printed,
-// and an output file is as it was.
+// and an output file is as it was. Only comments of an archive that cannot be read do not count as that.
 int RunExport(const ExportOptions& options);

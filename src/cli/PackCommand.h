@@ -11,17 +11,15 @@ class App;
 
 struct PackOptions {
     std::string Source;
-    std::string Output;
-    std::string Filters;  // a filter file in place of the source's own filters; "" = those
-    std::string Comments; // a comments file likewise
-    bool AllowLoss = false;
+    std::string Archive;
+    std::string Filters;  // a filter file; "" = those of the source, or the one that shows all entries
+    std::string Comments; // a comments file; "" = those of the source
     Language MessageLanguage;
 };
 
 // Adds the command, which fills the options when it is the one called.
 CLI::App* AddPackCommand(CLI::App& app, PackOptions& options);
 
-// Writes an own archive of a source. It takes over the filters and comments of an own archive; a source
-// without filters gets those of a first start. Characters that the files cannot hold end it, unless that is
-// allowed.
+// Saves a logbook as the program's own archive, with filters and comments. What goes wrong is told on
+// standard error; an archive of that name is then as it was.
 int RunPack(const PackOptions& options);

@@ -6,7 +6,7 @@
 #include <iostream>
 
 // Opening logbooks on a terminal: messages go to standard error, and the one question has been answered by an
-// option.
+// option. What has no option is not agreed to.
 class TerminalUser : public UserInterface {
   public:
     explicit TerminalUser(Answer answer) : answer_(answer) {}
@@ -16,12 +16,11 @@ class TerminalUser : public UserInterface {
         messageShown_ = true;
     }
     Answer Ask(TextId) override { return answer_; }
-    bool Confirm(std::string_view) override { return answer_ == Answer::Yes; }
-    std::optional<std::string> AskFileToOpen(const FileRequest&) override { return std::nullopt; }
-    std::optional<std::string> AskFileToSave(const FileRequest&) override { return std::nullopt; }
+    bool Confirm(std::string_view) override { return false; }
+    std::optional<std::string> AskFileToOpen(const FileQuestion&) override { return std::nullopt; }
+    std::optional<std::string> AskFileToSave(const FileQuestion&) override { return std::nullopt; }
     void ShowStatus(TextId) override {}
     void RestoreStatus() override {}
-    void ShowProgress(double) override {}
 
     bool MessageShown() const { return messageShown_; }
 

@@ -3,23 +3,14 @@
 
 #include "filter/FilterText.h"
 #include "logbook/AtomicFile.h"
-#include "logbook/modUtil.h"
+#include "logbook/TextFile.h"
 #include "settings/Texts.h"
 
-#include <cerrno>
 #include <fstream>
 
 namespace {
 
 constexpr std::string_view Header = "[Filters]";
-
-bool ReadFileLine(std::istream& stream, std::string& line) {
-    if (!std::getline(stream, line))
-        return false;
-    if (line.ends_with('\r'))
-        line.pop_back();
-    return true;
-}
 
 // A filter's line in the code page; what has no place in a line is lost like a character that the code page
 // lacks.
@@ -44,47 +35,35 @@ std::vector<std::size_t> FiltersThatLose(std::span<const FilterDefinition> filte
     return losing;
 }
 
-std::string FilterFileText(std::span<const FilterDefinition> filters, const CodePage& codePage) {
-    std::string text(Header);
-    text += "\r\n";
-    for (const FilterDefinition& filter : filters)
-        text.append(FilterLine(filter, codePage).Text).append("\r\n");
-    return text;
-}
-
 std::error_code ExportFilterFile(const std::string& path, std::span<const FilterDefinition> filters,
                                  const CodePage& codePage) {
     AtomicFile file(path);
-    file.Stream() << FilterFileText(filters, codePage);
+    file.Stream() << Header << "\r\n";
+    for (const FilterDefinition& filter : filters)
+        file.Stream() << FilterLine(filter, codePage).Text << "\r\n";
     return file.Commit();
 }
 
 FilterFileContent ImportFilterFile(const std::string& path, const CodePage& codePage) {
     using Outcome = FilterFileContent::Outcome;
     FilterFileContent content;
-    errno = 0;
     std::ifstream stream;
     std::string line;
-    const auto fails = [&] {
-        content.Result = Outcome::CannotRead;
-        content.Error = {errno != 0 ? errno : EIO, std::generic_category()};
+    const auto endsWith = [&](std::error_code error) {
+        content.Error = error;
+        if (error)
+            content.Result = Outcome::CannotRead;
         return content;
     };
-    std::error_code ignored;
-    if (std::filesystem::is_directory(ToPath(path), ignored)) {
-        errno = EISDIR;
-        return fails();
-    }
-    stream.open(ToPath(path), std::ios::binary);
-    if (!stream)
-        return fails();
-    if (!ReadFileLine(stream, line))
-        return stream.bad() ? fails() : content;
+    if (const std::error_code error = OpenTextFile(path, stream))
+        return endsWith(error);
+    if (!ReadTextLine(stream, line))
+        return endsWith(TextFileError(stream));
     if (line != Header) {
         content.Result = Outcome::NoHeader;
         return content;
     }
-    for (content.Line = 2; ReadFileLine(stream, line); ++content.Line) {
+    for (content.Line = 2; ReadTextLine(stream, line); ++content.Line) {
         FilterDefinition filter;
         if (!ParseFilter(codePage.ToUtf8(line), filter)) {
             content.Result = Outcome::InvalidLine;
@@ -92,7 +71,7 @@ FilterFileContent ImportFilterFile(const std::string& path, const CodePage& code
         }
         content.Filters.push_back(std::move(filter));
     }
-    return stream.bad() ? fails() : content;
+    return endsWith(TextFileError(stream));
 }
 
 std::string FilterFileMessage(const std::string& path, const FilterFileContent& content, Language language) {

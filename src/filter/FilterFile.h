@@ -16,9 +16,6 @@
 // for each. Whoever exports tells the user before the file is replaced.
 std::vector<std::size_t> FiltersThatLose(std::span<const FilterDefinition> filters, const CodePage& codePage);
 
-// The bytes of a filter file with these filters.
-std::string FilterFileText(std::span<const FilterDefinition> filters, const CodePage& codePage);
-
 // Writes the file; an existing one is replaced when the new one is whole.
 std::error_code ExportFilterFile(const std::string& path, std::span<const FilterDefinition> filters,
                                  const CodePage& codePage);

@@ -29,6 +29,18 @@ std::error_code FlushToDisk([[maybe_unused]] const std::filesystem::path& file) 
 #endif
 }
 
+// Makes the new name of a file in a folder last. A file system that cannot is no failure: the file has its
+// name.
+void FlushFolder([[maybe_unused]] const std::filesystem::path& folder) {
+#if defined(__unix__) || defined(__APPLE__)
+    const int handle = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0)
+        return;
+    ::fsync(handle);
+    ::close(handle);
+#endif
+}
+
 // The file that a link names in the end, also when it does not exist yet.
 std::filesystem::path FollowLinks(std::filesystem::path path, std::error_code& error) {
     constexpr int MostLinks = 40;
@@ -91,17 +103,11 @@ AtomicFile::~AtomicFile() {
         std::filesystem::remove(temporary_, ignored);
 }
 
-const std::filesystem::path& AtomicFile::PathToWrite() {
-    stream_.close();
-    return temporary_;
-}
-
 std::error_code AtomicFile::Commit() {
     if (error_)
         return error_;
     errno = 0;
-    if (stream_.is_open())
-        stream_.close();
+    stream_.close();
     if (!stream_)
         return error_ = LastError();
     if (error_ = FlushToDisk(temporary_); error_)
@@ -110,7 +116,6 @@ std::error_code AtomicFile::Commit() {
     if (error_)
         return error_;
     temporary_.clear();
-    // The file is in its place; that its folder remembers it is best effort, as some file systems refuse this.
-    (void)FlushToDisk(target_.has_parent_path() ? target_.parent_path() : ".");
-    return error_;
+    FlushFolder(target_.parent_path());
+    return {};
 }

@@ -20,8 +20,9 @@ class AtomicFile {
     // Where to write. A failure is told by Commit.
     std::ostream& Stream() { return stream_; }
 
-    // Where someone else writes the whole file, in place of Stream.
-    const std::filesystem::path& PathToWrite();
+    // The file that is written, for a writer that wants a path in place of a stream; such a writer may also
+    // replace it. Empty when it could not be made, which Commit tells.
+    const std::filesystem::path& Path() const { return temporary_; }
 
     // Flushes the file to the disk and puts it in its place. The error tells why that failed; the old file is
     // then as it was.

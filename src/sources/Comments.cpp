@@ -2,132 +2,151 @@
 #include "sources/Comments.h"
 
 #include "logbook/AtomicFile.h"
-#include "logbook/modUtil.h"
+#include "logbook/Blanks.h"
+#include "logbook/EventLines.h"
+#include "logbook/TextFile.h"
+#include "settings/Texts.h"
 
+#include <algorithm>
 #include <charconv>
-#include <fstream>
+#include <limits>
 #include <optional>
-#include <utility>
+#include <string_view>
 
 namespace {
 
 constexpr std::string_view Header = "[Comments]";
+constexpr char Quote = '"';
+constexpr char Comma = ',';
 
-// A comment is one line; what would end the line becomes what separates lines in the list.
-std::string OnOneLine(std::string_view comment) {
+// A line of the file, its text still in the code page.
+struct CommentLine {
+    std::int64_t Number = 0;
+    std::string Text;
+};
+
+void SkipBlanks(std::string_view& text) {
+    text.remove_prefix(std::min(text.find_first_not_of(Blank), text.size()));
+}
+
+// The number at the line's begin, which goes off the line; nothing when there is none. What follows a number
+// is a blank, a comma, a quote or the line's end.
+std::optional<std::int64_t> TakeNumber(std::string_view& line) {
+    SkipBlanks(line);
+    std::int64_t number = 0;
+    const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), number);
+    if (error == std::errc::invalid_argument)
+        return std::nullopt;
+    if (error == std::errc::result_out_of_range)
+        number = std::numeric_limits<std::int64_t>::max();
+    line.remove_prefix(static_cast<std::size_t>(end - line.data()));
+    constexpr std::string_view Separators = " ,\"";
+    const bool ends = line.empty() || Separators.find(line.front()) != std::string_view::npos;
+    return ends ? std::optional(number) : std::nullopt;
+}
+
+// The text between the quote at the begin and its closing one, or the line's end where that is missing.
+std::string Unquoted(std::string_view text) {
+    std::string unquoted;
+    for (std::size_t i = 1; i < text.size(); ++i) {
+        if (text[i] == Quote) {
+            ++i;
+            if (i == text.size() || text[i] != Quote)
+                break;
+        }
+        unquoted += text[i];
+    }
+    return unquoted;
+}
+
+std::optional<CommentLine> ParseLine(std::string_view line) {
+    const std::optional<std::int64_t> number = TakeNumber(line);
+    if (!number)
+        return std::nullopt;
+    SkipBlanks(line);
+    if (line.starts_with(Comma)) {
+        line.remove_prefix(1);
+        SkipBlanks(line);
+    }
+    return CommentLine{*number, line.starts_with(Quote) ? Unquoted(line)
+                                                        : std::string(line.substr(0, line.find(Comma)))};
+}
+
+// Line breaks, which a comment has none of, would end its line.
+std::string WithoutLineBreaks(std::string_view text) {
     std::string line;
-    for (std::size_t i = 0; i < comment.size(); ++i) {
-        if (comment[i] == '\r' && i + 1 < comment.size() && comment[i + 1] == '\n')
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
             continue;
-        if (comment[i] == '\r' || comment[i] == '\n')
-            line += " | ";
+        if (text[i] == '\r' || text[i] == '\n')
+            line += LineSeparator;
         else
-            line += comment[i];
+            line += text[i];
     }
     return line;
 }
 
-CodePage::Bytes BytesOf(std::string_view comment, const CodePage& codePage) {
-    return codePage.FromUtf8(OnOneLine(comment));
-}
-
-std::string InFileForm(const std::string& text) {
-    if (text.find_first_of(",\"") == std::string::npos && text.front() != ' ' && text.back() != ' ')
+// A comment as its line holds it.
+std::string FormatText(const std::string& comment) {
+    const std::string text = WithoutLineBreaks(comment);
+    if (text.find_first_of("\",") == std::string::npos && !text.starts_with(Blank) && !text.ends_with(Blank))
         return text;
-    std::string quoted = "\"";
+    std::string quoted(1, Quote);
     for (const char c : text)
-        quoted.append(c == '"' ? 2 : 1, c);
-    return quoted + '"';
-}
-
-// The text of a line behind its number; nothing when a quote is not closed.
-std::optional<std::string> TextOf(std::string_view field) {
-    if (field.empty() || field.front() != '"')
-        return std::string(field.substr(0, field.find(',')));
-    std::string text;
-    for (std::size_t i = 1; i < field.size(); ++i) {
-        if (field[i] != '"')
-            text += field[i];
-        else if (i + 1 < field.size() && field[i + 1] == '"')
-            text += field[++i];
-        else
-            return text;
-    }
-    return std::nullopt;
-}
-
-std::string_view WithoutLeadingBlanks(std::string_view text) {
-    return text.substr(std::min(text.find_first_not_of(' '), text.size()));
-}
-
-// The number and the text of a line; nothing when it is damaged.
-std::optional<std::pair<EntryNumber, std::string>> FieldsOf(std::string_view line) {
-    line = WithoutLeadingBlanks(line);
-    EntryNumber number = 0;
-    const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), number);
-    if (error != std::errc())
-        return std::nullopt;
-    std::string_view rest = line.substr(static_cast<std::size_t>(end - line.data()));
-    if (!rest.empty() && rest.front() != ' ' && rest.front() != ',')
-        return std::nullopt;
-    rest = WithoutLeadingBlanks(rest);
-    // Other writers separate the two by a comma.
-    if (rest.starts_with(','))
-        rest = WithoutLeadingBlanks(rest.substr(1));
-    std::optional<std::string> text = TextOf(rest);
-    if (!text)
-        return std::nullopt;
-    return std::pair(number, std::move(*text));
-}
-
-bool ReadFileLine(std::istream& stream, std::string& line) {
-    if (!std::getline(stream, line))
-        return false;
-    if (line.ends_with('\r'))
-        line.pop_back();
-    return true;
+        quoted.append(c == Quote ? 2 : 1, c);
+    return quoted + Quote;
 }
 
 } // namespace
 
-std::string CommentsFileText(const EntryTable& entries, const CodePage& codePage) {
-    std::string text(Header);
-    text += "\r\n";
-    for (const auto& [number, comment] : entries.Comments())
-        text.append(" ")
-            .append(std::to_string(number))
-            .append(" ")
-            .append(InFileForm(BytesOf(comment, codePage).Text))
-            .append("\r\n");
-    return text;
+CommentsFileResult CommentLogbook(const std::string& path, EntryTable& entries, const CodePage& codePage) {
+    using Outcome = CommentsFileResult::Outcome;
+    const auto endWith = [](std::error_code error) {
+        return CommentsFileResult{error ? Outcome::CannotRead : Outcome::Read, error};
+    };
+    std::ifstream stream;
+    std::string line;
+    if (const std::error_code error = OpenTextFile(path, stream))
+        return endWith(error);
+    if (!ReadTextLine(stream, line))
+        return endWith(TextFileError(stream));
+    if (line != Header)
+        return {Outcome::NoHeader, {}};
+    while (ReadTextLine(stream, line)) {
+        const std::optional<CommentLine> comment = ParseLine(line);
+        if (comment && comment->Number >= 0 && comment->Number < entries.Count())
+            entries.SetComment(static_cast<EntryNumber>(comment->Number), codePage.ToUtf8(comment->Text));
+    }
+    return endWith(TextFileError(stream));
+}
+
+std::string CommentsFileMessage(const std::string& path, const CommentsFileResult& result,
+                                Language language) {
+    using Outcome = CommentsFileResult::Outcome;
+    switch (result.Result) {
+    case Outcome::Read:
+        break;
+    case Outcome::CannotRead:
+        return std::string(Text(TextId::CommentsFileUnreadable, language)) + " (" + path + ": " +
+               result.Error.message() + ")";
+    case Outcome::NoHeader:
+        return std::string(Text(TextId::CommentsFileNoComments, language));
+    }
+    return {};
 }
 
 std::vector<EntryNumber> CommentsThatLose(const EntryTable& entries, const CodePage& codePage) {
     std::vector<EntryNumber> losing;
     for (const auto& [number, comment] : entries.Comments())
-        if (BytesOf(comment, codePage).Lost != 0)
+        if (codePage.FromUtf8(comment).Lost != 0)
             losing.push_back(number);
     return losing;
 }
 
 std::error_code SaveComments(const std::string& path, const EntryTable& entries, const CodePage& codePage) {
     AtomicFile file(path);
-    file.Stream() << CommentsFileText(entries, codePage);
+    file.Stream() << Header << "\r\n";
+    for (const auto& [number, comment] : entries.Comments())
+        file.Stream() << Blank << number << Blank << FormatText(codePage.FromUtf8(comment).Text) << "\r\n";
     return file.Commit();
-}
-
-bool CommentLogbook(const std::string& path, EntryTable& entries, const CodePage& codePage) {
-    std::error_code ignored;
-    if (std::filesystem::is_directory(ToPath(path), ignored))
-        return true;
-    std::ifstream stream(ToPath(path), std::ios::binary);
-    std::string line;
-    if (!ReadFileLine(stream, line))
-        return true;
-    if (line != Header)
-        return false;
-    while (ReadFileLine(stream, line))
-        if (const auto fields = FieldsOf(line); fields && fields->first < entries.Count())
-            entries.SetComment(fields->first, codePage.ToUtf8(fields->second));
-    return true;
 }

@@ -1,27 +1,49 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "logbook/CodePage.h"
 #include "logbook/EntryTable.h"
+#include "settings/Language.h"
 
+#include <cstdint>
 #include <string>
+#include <system_error>
 #include <vector>
 
-// Comments files (*.cmt): the line "[Comments]", then a line for each entry that has a comment: its number
-// with a blank before and after it, and the comment, in the code page of the control's files. A comment with
-// a comma or a double quote, or with a blank at an end, stands between double quotes, which are doubled
-// inside.
+// Comments files (*.cmt): the line "[Comments]", then for each entry with a comment a line of its number,
+// with a blank before and behind it, and the comment, in the code page of the control's files:
+//
+//     [Comments]
+//      12 pump replaced
+//      40 "oil, filter"
+//
+// A comment that holds a comma or a double quote, or begins or ends with a blank, stands in double quotes,
+// its own ones doubled. So every comment comes back as it was.
 
-// The bytes of a comments file with all comments, in the order of their entries.
-std::string CommentsFileText(const EntryTable& entries, const CodePage& codePage);
+struct CommentsFileResult {
+    enum class Outcome : std::uint8_t {
+        Read,
+        CannotRead, // Error tells why
+        NoHeader,   // the first line is not exactly the header
+    };
 
-// The entries whose comments have characters that the code page lacks; the file has "?" for each.
+    Outcome Result = Outcome::Read;
+    std::error_code Error;
+};
+
+// Sets the comments of the entries that the file names; the others keep theirs. Without Read none is set,
+// except where the file cannot be read to its end. An empty file is read as one without comments.
+//
+// Files of other writers may have a comma between number and comment. A comment without quotes ends at a
+// comma; what follows on the line is passed over. So are lines that have no number, and numbers that the
+// logbook has no entry for: the file may have been written for a longer one.
+CommentsFileResult CommentLogbook(const std::string& path, EntryTable& entries, const CodePage& codePage);
+
+// The message for a file that was not Read.
+std::string CommentsFileMessage(const std::string& path, const CommentsFileResult& result, Language language);
+
+// The entries whose comments have characters that the code page lacks; a file gets "?" for each. Whoever
+// saves comments tells the user before.
 std::vector<EntryNumber> CommentsThatLose(const EntryTable& entries, const CodePage& codePage);
 
-// Writes the comments file. The error tells why that failed; an old file is then as it was.
+// Writes the comments of all entries; an existing file is replaced when the new one is whole.
 std::error_code SaveComments(const std::string& path, const EntryTable& entries, const CodePage& codePage);
-
-// Reads a comments file into the entries. Damaged lines and numbers without an entry are passed over, so that
-// the comments of a longer logbook load what fits. False when the first line is no header; nothing is then
-// read. An empty file, and one that cannot be read, has no comments.
-bool CommentLogbook(const std::string& path, EntryTable& entries, const CodePage& codePage);

@@ -4,45 +4,39 @@
 #include "filter/FilterDefinition.h"
 #include "logbook/CodePage.h"
 #include "logbook/EntryTable.h"
-#include "sources/UserInterface.h"
+#include "settings/Language.h"
+#include "sources/FileStamp.h"
+#include "sources/TempFolder.h"
+#include "sources/ZipBuilder.h"
 
-#include <functional>
+#include <optional>
 #include <span>
 #include <string>
-#include <vector>
 
-class Registry;
+// The program's own archive (*.qorvix): a zip archive of three members at its top level that have the
+// archive's own base name, as "a.log", "a.fil" and "a.cmt" in "a.qorvix".
 
-// The program's own archive (*.qorvix): a zip archive with three members, which have the archive's base name:
-// the logbook (.log), the active filters (.fil) and the comments (.cmt).
-struct ArchiveContents {
-    std::string BaseName;
-    std::string LogbookFile; // packed as it stands on the disk
-    std::string Filters;     // bytes of a filter file
-    std::string Comments;    // bytes of a comments file
+struct ArchiveContent {
+    std::string LogbookFile;                   // goes in byte for byte
+    std::optional<FileStamp> LogbookStamp;     // as the logbook file must still be; nothing = as it is now
+    std::span<const FilterDefinition> Filters; // the active ones
+    const EntryTable& Entries;                 // whose comments go in
+    const CodePage& FileCodePage;              // of filters and comments
 };
 
-// Writes the archive beside its place and puts it there when it is whole and flushed. "" when that is done,
-// otherwise why not; an old archive is then as it was. The logbook may come from the archive that is
-// replaced: its unpacked file is read, not the archive. Its bytes pass through, whatever their number.
-std::string WriteArchive(const std::string& path, const ArchiveContents& contents,
-                         const std::function<void(double percent)>& progress);
+// Names the comments and filters with characters that an archive cannot hold, which become "?" in it, in
+// words for the user; "" when there are none. Of each at most ten are named: entries by their numbers,
+// filters by their places in the list, counted from 1.
+std::string TextsThatLose(const ArchiveContent& content, Language language);
 
-// What is saved, and where the person is asked to.
-struct ZipRequest {
-    std::string LogbookFile; // "" = no logbook is shown
-    const EntryTable& Entries;
-    std::span<const FilterDefinition> Filters;
-    const CodePage& Encoding;
-    std::string& InitZipArchiveDir; // where the dialog begins; afterwards the folder that was chosen
-};
-
-// Saves the logbook with its comments and the active filters as an archive of the person's choice, and keeps
-// the folder in the settings. True when the archive was built. False when no logbook is shown, the person
-// cancelled, or it could not be built, which has then been told. Characters that the files cannot hold are
-// told before anything is written.
-bool ZipLogbook(const ZipRequest& request, Registry& registry, UserInterface& user, Language language);
-
-// What would be lost when these comments and filters are written, as a question; "" when nothing would.
-std::string QuestionAboutLosses(const std::vector<EntryNumber>& entries,
-                                const std::vector<std::size_t>& filters, Language language);
+// Saves an archive: built beside its place, flushed to the disk, and only then put there, so that a failure
+// leaves an archive of that name as it was. The logbook may come out of that same archive.
+//
+// Returns why it failed, in words for the user, "" when it did not. It fails also when the logbook file is
+// gone or does not stay as it was; where the archive would replace the logbook file or be deleted with the
+// temporary folder; and when the program would not open it again, as of a logbook above 4 GiB.
+//
+// Costs the time of deflating the logbook; its size in memory does not matter.
+std::string SaveLogbookArchive(const std::string& path, const ArchiveContent& content,
+                               const TempFolder& tempFolder, Language language,
+                               const PackingProgress& progress = {});

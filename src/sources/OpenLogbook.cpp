@@ -2,34 +2,53 @@
 #include "sources/OpenLogbook.h"
 
 #include "logbook/modUtil.h"
-#include "settings/Registry.h"
 
-bool MayLeaveComments(bool commentsEdited, UserInterface& user, const std::function<bool()>& zipLogbook) {
-    if (!commentsEdited)
-        return true;
+namespace {
+constexpr std::string_view FolderSetting = "InitLogbookDir";
+constexpr std::string_view FileSetting = "InitLogbookFile";
+} // namespace
+
+CommentsOutcome AskToSaveComments(const LogbookState& state, UserInterface& user,
+                                  const std::function<bool()>& zipLogbook) {
+    if (!state.CommentsEdited)
+        return CommentsOutcome::NoneEdited;
     switch (user.Ask(TextId::AskSaveComments)) {
     case UserInterface::Answer::Yes:
-        return zipLogbook();
+        return zipLogbook() ? CommentsOutcome::Saved : CommentsOutcome::NotSaved;
     case UserInterface::Answer::No:
-        return true;
+        return CommentsOutcome::Dropped;
     case UserInterface::Answer::Cancel:
         break;
     }
-    return false;
+    return CommentsOutcome::Stay;
 }
 
-std::optional<std::string> ReadAndShowLogbookName(Registry& registry, UserInterface& user,
-                                                  const std::string& programFolder) {
-    const std::optional<std::string> path =
-        user.AskFileToOpen({TextId::OpenTitle, TextId::OpenFilter,
-                            registry.ReadLogbookSettingString("InitLogbookDir", programFolder), "", ""});
-    if (!path || path->empty())
-        return std::nullopt;
+bool ReadAndShowLogbookName(std::string& name, Registry& registry, UserInterface& user,
+                            const std::string& programFolder) {
+    const std::optional<std::string> choice =
+        user.AskFileToOpen({.Title = TextId::OpenTitle,
+                            .Filters = TextId::OpenFilter,
+                            .DefaultExtension = "",
+                            .Folder = registry.ReadLogbookSettingString(FolderSetting, programFolder),
+                            .Name = ""});
+    if (!choice || choice->empty())
+        return false;
+    name = *choice;
     std::string folder;
     std::string fileName;
-    SplitPath(*path, folder, fileName);
+    SplitPath(name, folder, fileName);
     const Registry::Transaction transaction(registry);
-    registry.WriteLogbookSetting("InitLogbookDir", folder, SettingType::Text);
-    registry.WriteLogbookSetting("InitLogbookFile", *path, SettingType::Text);
-    return path;
+    registry.WriteLogbookSetting(FolderSetting, folder, SettingType::Text);
+    registry.WriteLogbookSetting(FileSetting, name, SettingType::Text);
+    return true;
+}
+
+bool OpenLogbook(std::string& name, const LogbookState& state, Registry& registry, UserInterface& user,
+                 const std::string& programFolder, const OpeningSteps& steps) {
+    const CommentsOutcome comments = AskToSaveComments(state, user, steps.ZipLogbook);
+    if (comments == CommentsOutcome::NotSaved || comments == CommentsOutcome::Stay)
+        return false;
+    if (name.empty() && !ReadAndShowLogbookName(name, registry, user, programFolder))
+        return false;
+    return steps.ExecuteLogbook(name);
 }

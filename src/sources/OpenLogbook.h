@@ -1,19 +1,41 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "settings/Registry.h"
+#include "sources/LogbookState.h"
 #include "sources/UserInterface.h"
 
+#include <cstdint>
 #include <functional>
-#include <optional>
 #include <string>
 
-class Registry;
+// What became of edited comments before the logbook that they belong to goes.
+enum class CommentsOutcome : std::uint8_t {
+    NoneEdited,
+    Saved,
+    NotSaved, // saving was cancelled or failed, which the user knows
+    Dropped,  // the user does not want them saved
+    Stay,     // the user wants to stay with this logbook
+};
 
-// Before edited comments go, because another logbook takes their place: the person is asked whether to save
-// them. False when they must stay: the person cancelled, or saving did not succeed.
-bool MayLeaveComments(bool commentsEdited, UserInterface& user, const std::function<bool()>& zipLogbook);
+// Asks whether edited comments are to be saved, before they are lost, and has them saved. `zipLogbook` saves
+// an archive; true when it did.
+CommentsOutcome AskToSaveComments(const LogbookState& state, UserInterface& user,
+                                  const std::function<bool()>& zipLogbook);
 
-// Asks for the source to open and keeps its folder and path in the settings. Nothing on cancel, with nothing
-// kept. The dialog begins in the folder of the last one, at first in that of the program.
-std::optional<std::string> ReadAndShowLogbookName(Registry& registry, UserInterface& user,
-                                                  const std::string& programFolder);
+// Asks for the logbook to open. The choice and its folder are stored; a cancelled dialog stores nothing and
+// gives false. The dialog begins in the folder of the last choice, the first time in `programFolder`.
+bool ReadAndShowLogbookName(std::string& name, Registry& registry, UserInterface& user,
+                            const std::string& programFolder);
+
+struct OpeningSteps {
+    std::function<bool()> ZipLogbook;                      // saves an archive; true when it did
+    std::function<bool(std::string& name)> ExecuteLogbook; // opens a source and gives its bare name; true
+                                                           // when it did. Sets the state of what it opened
+};
+
+// Opens a logbook in place of the one that is shown; an empty name is asked for. Nothing changes where the
+// user cancels, or wanted comments saved that could not be. True when the logbook has been opened; `name` is
+// then its bare name.
+bool OpenLogbook(std::string& name, const LogbookState& state, Registry& registry, UserInterface& user,
+                 const std::string& programFolder, const OpeningSteps& steps);

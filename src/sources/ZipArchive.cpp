@@ -24,6 +24,14 @@ std::string_view ZipMember::FileName() const {
     return std::string_view(Name).substr(separator == std::string::npos ? 0 : separator + 1);
 }
 
+std::string_view ZipMember::Refusal() const {
+    if (Size > MostUnpacked)
+        return "a member is larger than 4 GiB";
+    if (Size > AlwaysUnpacked && Size / MostExpansion > PackedSize)
+        return "a member claims more than a thousand times its packed size";
+    return {};
+}
+
 void ZipArchive::Close::operator()(zip* archive) const { zip_discard(archive); }
 
 ZipArchive::ZipArchive(const std::filesystem::path& file) {
@@ -67,11 +75,8 @@ bool ZipArchive::Fail(std::string reason) {
 }
 
 bool ZipArchive::Unpack(std::size_t member, const std::filesystem::path& target) {
-    const ZipMember& what = members_[member];
-    if (what.Size > MostUnpacked)
-        return Fail("a member is larger than 4 GiB");
-    if (what.Size > AlwaysUnpacked && what.Size / MostExpansion > what.PackedSize)
-        return Fail("a member claims more than a thousand times its packed size");
+    if (const std::string_view refusal = members_[member].Refusal(); !refusal.empty())
+        return Fail(std::string(refusal));
     if (WriteMember(member, target))
         return true;
     std::error_code ignored;

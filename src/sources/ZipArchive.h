@@ -20,10 +20,13 @@ struct ZipMember {
 
     // The part of the name behind its last "\".
     std::string_view FileName() const;
+
+    // Why the member is not unpacked, as it claims to be too large: more than 4 GiB, or more than 64 MiB and
+    // over a thousand times its packed size. "" when it is.
+    std::string_view Refusal() const;
 };
 
-// Reading a zip archive. What is claimed too large is not unpacked: a member of more than 4 GiB, and one of
-// more than 64 MiB that claims over a thousand times its packed size.
+// Reading a zip archive.
 class ZipArchive {
   public:
     explicit ZipArchive(const std::filesystem::path& file);

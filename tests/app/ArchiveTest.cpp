@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "app/FileDialog.h"
 #include "app/MainWindowTest.h"
 
 #include "support/ZipWriter.h"
@@ -49,11 +48,6 @@ class ArchiveTest : public MainWindowTest {
         Item("mnuFileZipLogbook")->trigger();
         QCOMPARE(title, QString("Archiv speichern"));
         QVERIFY(filters.first().startsWith("Logbuch-Archiv ("));
-    }
-
-    void FileFiltersAreInAnyCase() {
-        QCOMPARE(NameFilters("Logs (*.log)|*.log|Old|*.a;s*.zip"),
-                 QStringList({"Logs (*.[lL][oO][gG])", "Old (*.[aA] [sS]*.[zZ][iI][pP])"}));
     }
 
     void NothingIsSavedWithoutALogbook() {

@@ -2,6 +2,7 @@
 #include "cli/RunProgram.h"
 #include "support/ReadText.h"
 #include "support/TemporaryFolder.h"
+#include "support/ZipReader.h"
 #include "support/ZipWriter.h"
 
 #include <gmock/gmock.h>
@@ -11,62 +12,124 @@ using testing::HasSubstr;
 
 namespace {
 
+using Members = std::vector<std::pair<std::string, std::string>>;
+
 class PackCommand : public testing::Test {
   protected:
-    std::string Logbook() const {
-        return Folder.Write("lb.log", Lines({Header("BERR:    a"), Header("BERR:    b"), Header("RESET:")}));
+    // Packs into "out.qorvix" and gives its members.
+    Members Pack(const std::string& source, std::vector<std::string> options = {}) {
+        options.insert(options.begin(), {"pack", source, Out});
+        const ProgramResult result = RunCommandLineTool(options);
+        EXPECT_EQ(result.ExitStatus, 0);
+        EXPECT_EQ(result.Output, "");
+        EXPECT_EQ(result.Errors, "");
+        return ReadZip(Out);
     }
 
-    ProgramResult Pack(std::vector<std::string> arguments) const {
+    // Packing fails with this message and leaves the archive that was there.
+    void ExpectFailure(std::vector<std::string> arguments, const std::string& message) {
+        Folder.Write("out.qorvix", "old");
         arguments.insert(arguments.begin(), "pack");
-        return RunCommandLineTool(arguments);
+        const ProgramResult result = RunCommandLineTool(arguments);
+        EXPECT_EQ(result.ExitStatus, 1);
+        EXPECT_EQ(result.Output, "");
+        EXPECT_EQ(result.Errors, "qorvix-cli: " + message + "\n");
+        EXPECT_EQ(FileContent(Out), "old");
     }
 
-    std::string Exported(const std::string& archive) const {
-        return RunCommandLineTool({"export", archive, "--format", "csv", "--use-archive-filters"}).Output;
-    }
-
+    const std::string Log = Lines({Header("BERR:    a"), Header("RESET:"), Header("BERR:    K\xFChlung")});
+    const std::string AllFilters = "[Filters]\r\nI|0||||1\r\n";
     TemporaryFolder Folder;
-    std::string Out = Folder / "out.qorvix";
+    const std::string Out = Folder / "out.qorvix";
 };
 
 } // namespace
 
-TEST_F(PackCommand, ArchiveHoldsLogbookFiltersAndComments) {
-    const std::string filters = Folder.Write("x.fil", "[Filters]\r\nI|8|0-1|||1\r\nH|8|1|||1\r\n");
-    const std::string comments = Folder.Write("x.cmt", "[Comments]\r\n 1 \"gepr\xFC"
-                                                       "ft, gut\"\r\n");
-    const ProgramResult result = Pack({Logbook(), Out, "--filters", filters, "--comments", comments});
-    EXPECT_EQ(result.ExitStatus, 0) << result.Errors;
-    EXPECT_EQ(result.Output + result.Errors, "");
-    EXPECT_EQ(Exported(Out), "index,type,event,data,sender,name,time,icon,highlighted,comment\r\n"
-                             "0,4,Fatal,a,,,04.01.2010 12:34:56.789,4,false,\r\n"
-                             "1,4,Fatal,b,,,04.01.2010 12:34:56.789,18,true,\"geprüft, gut\"\r\n");
-
-    // An own archive passes on what it has.
-    EXPECT_EQ(Pack({Out, Folder / "again.qorvix"}).ExitStatus, 0);
-    EXPECT_EQ(Exported(Folder / "again.qorvix"), Exported(Out));
+TEST_F(PackCommand, EverySourceGivesItsLogbook) {
+    WriteZip(Folder / "older.zip", {{"logbook/lb_act.log", Log}});
+    WriteZip(Folder / "inner.zip", {{"runtime/operation.log", Log}});
+    WriteZip(Folder / "newer.zip", {{"sysroot.zip", FileContent(Folder / "inner.zip")}});
+    WriteZip(Folder / "own.qorvix", {{"own.log", Log}});
+    const Members expected{{"out.log", Log}, {"out.fil", AllFilters}, {"out.cmt", "[Comments]\r\n"}};
+    for (const std::string& source :
+         {Folder.Write("a.log", Log), Folder / "older.zip", Folder / "newer.zip", Folder / "own.qorvix"})
+        EXPECT_EQ(Pack(source), expected) << source;
 }
 
-TEST_F(PackCommand, ServiceArchivesArePackedToo) {
-    WriteZip(Folder / "service1.zip",
-             {{"logbook\\lb_act.log", Lines({Header("BERR:    x"), Header("RESET:")})}});
-    EXPECT_EQ(Pack({Folder / "service1.zip", Out}).ExitStatus, 0);
-    EXPECT_THAT(Exported(Out), HasSubstr("0,4,Fatal,x,"));
+TEST_F(PackCommand, FiltersAndCommentsOfAnOwnArchiveAreTakenOver) {
+    const std::string filters = "[Filters]\r\nI|7||||1\r\n";
+    const std::string comments = "[Comments]\r\n 1 \"oil, K\xFChlung\"\r\n";
+    WriteZip(Folder / "own.qorvix", {{"own.log", Log}, {"own.fil", filters}, {"own.cmt", comments}});
+    EXPECT_EQ(Pack(Folder / "own.qorvix"),
+              (Members{{"out.log", Log}, {"out.fil", filters}, {"out.cmt", comments}}));
+    const std::string otherFilters = "[Filters]\r\nX|4||||0\r\n";
+    EXPECT_EQ(
+        Pack(Folder / "own.qorvix", {"--filters", Folder.Write("a.fil", otherFilters), "--comments",
+                                     Folder.Write("a.cmt", "[Comments]\n2,other\n9,none\n")}),
+        (Members{{"out.log", Log}, {"out.fil", otherFilters}, {"out.cmt", "[Comments]\r\n 2 other\r\n"}}));
 }
 
-TEST_F(PackCommand, FailuresAreTold) {
-    const std::string damaged = Folder.Write("bad.cmt", "no header\r\n");
+TEST_F(PackCommand, ArchiveMayReplaceItsSource) {
+    WriteZip(Out, {{"old name.log", Log}, {"old name.cmt", "[Comments]\r\n 0 a\r\n"}});
+    EXPECT_EQ(Pack(Out),
+              (Members{{"out.log", Log}, {"out.fil", AllFilters}, {"out.cmt", "[Comments]\r\n 0 a\r\n"}}));
+}
 
-    EXPECT_EQ(Pack({Folder / "missing.log", Out}).ExitStatus, 1);
-    EXPECT_THAT(Pack({Logbook(), Out, "--comments", damaged}).Errors,
-                HasSubstr("File includes no comment information!"));
-    EXPECT_THAT(Pack({Logbook(), Out, "--comments", Folder / "none.cmt", "--language", "de"}).Errors,
-                HasSubstr("Fehler beim Zugriff auf das Logbuch"));
-    EXPECT_THAT(Pack({Logbook(), Out, "--filters", damaged}).Errors,
-                HasSubstr("File includes no filter informaion!"));
-    EXPECT_THAT(Pack({Logbook(), Folder / "none/out.qorvix"}).Errors,
-                HasSubstr("The archive could not be written"));
+TEST_F(PackCommand, ExportPrintsTheCommentsOfAnArchive) {
+    Pack(Folder.Write("a.log", Log),
+         {"--comments", Folder.Write("a.cmt", "[Comments]\r\n 0 \"oil, K\xFChlung\"\r\n")});
+    const ProgramResult result = RunCommandLineTool({"export", Out, "--format", "csv"});
+    EXPECT_EQ(result.Output, "index,type,event,data,sender,name,time,icon,highlighted,comment\r\n"
+                             "0,4,Fatal,a,,,04.01.2010 12:34:56.789,4,false,\"oil, Kühlung\"\r\n"
+                             "1,7,Restart,,,,04.01.2010 12:34:56.789,8,false,\r\n"
+                             "2,4,Fatal,Kühlung,,,04.01.2010 12:34:56.789,4,false,\r\n");
+    EXPECT_THAT(RunCommandLineTool({"export", Out}).Output, HasSubstr(R"("comment":"oil, Kühlung"})"));
+}
+
+TEST_F(PackCommand, DamagedCommentsOfAnArchiveAreToldAndTheListIsPrinted) {
+    WriteZip(Folder / "own.qorvix", {{"own.log", Log}, {"own.cmt", "no comments"}});
+    const ProgramResult result = RunCommandLineTool({"export", Folder / "own.qorvix"});
+    EXPECT_EQ(result.ExitStatus, 0);
+    EXPECT_THAT(result.Errors, HasSubstr("own.cmt: File includes no comment information!\n"));
+    EXPECT_EQ(result.Output, RunCommandLineTool({"export", Folder.Write("a.log", Log)}).Output);
+    // An archive without them would lose them.
+    const ProgramResult pack = RunCommandLineTool({"pack", Folder / "own.qorvix", Out});
+    EXPECT_EQ(pack.ExitStatus, 1);
+    EXPECT_THAT(pack.Errors, HasSubstr("own.cmt: File includes no comment information!\n"));
     EXPECT_FALSE(std::filesystem::exists(Out));
-    EXPECT_EQ(Pack({Logbook()}).ExitStatus, 2);
+}
+
+TEST_F(PackCommand, WhatFailsLeavesTheArchive) {
+    const std::string log = Folder.Write("a.log", Log);
+    const std::string missing = Folder / "missing";
+    ExpectFailure({missing + ".log", Out}, "Error opening logbook file: " + missing + ".log");
+    ExpectFailure({Folder.Write("empty.log", ""), Out},
+                  "Error opening logbook file: " + (Folder / "empty.log"));
+    ExpectFailure({missing + ".log", Out, "--language", "de"},
+                  "Fehler beim Zugriff auf das Logbuch: " + missing + ".log");
+    ExpectFailure({log, Out, "--filters", missing},
+                  "Cannot read filter file  \"" + missing + "\" (No such file or directory)");
+    ExpectFailure({log, Out, "--comments", missing},
+                  "Cannot read comments file (" + missing + ": No such file or directory)");
+    ExpectFailure({log, Out, "--comments", log}, log + ": File includes no comment information!");
+    ExpectFailure({log, Folder / "missing/a.qorvix"}, "The archive could not be saved (" +
+                                                          (Folder / "missing/a.qorvix") +
+                                                          ": No such file or directory)");
+    WriteZip(Folder / "none.zip", {{"readme", "x"}});
+    ExpectFailure({Folder / "none.zip", Out},
+                  "The archive contains no logbook file (" + (Folder / "none.zip") + ")");
+}
+
+TEST_F(PackCommand, WrongUsageIsStatusTwo) {
+    const std::vector<std::string> wrong[] = {{"pack"},
+                                              {"pack", "a.log"},
+                                              {"pack", "a.log", "a.zip"},
+                                              {"pack", "a.log", "qorvix"},
+                                              {"pack", "a.log", "a.qorvix", "b"},
+                                              {"pack", "a.log", "a.qorvix", "--filters", ""},
+                                              {"pack", "a.log", "a.qorvix", "--comments", ""},
+                                              {"pack", "a.log", "a.qorvix", "--language", "fr"}};
+    for (const std::vector<std::string>& arguments : wrong)
+        EXPECT_EQ(RunCommandLineTool(arguments).ExitStatus, 2);
+    EXPECT_THAT(RunCommandLineTool({"pack", "--help"}).Output, HasSubstr("--comments"));
 }

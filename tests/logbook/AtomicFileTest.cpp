@@ -35,6 +35,19 @@ TEST(AtomicFile, WithoutCommitNothingChanges) {
     EXPECT_EQ(FilesIn(folder), 1);
 }
 
+TEST(AtomicFile, MayBeWrittenByItsPath) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a.txt", "old");
+    AtomicFile file(path);
+    // As a library does that replaces the file itself.
+    folder.Write("other", "new");
+    std::filesystem::rename(folder / "other", file.Path());
+    EXPECT_FALSE(file.Commit());
+    EXPECT_EQ(FileContent(path), "new");
+    EXPECT_EQ(FilesIn(folder), 1);
+    EXPECT_TRUE(AtomicFile(folder / "no/such/folder.txt").Path().empty());
+}
+
 TEST(AtomicFile, FailureIsToldWithItsReason) {
     const TemporaryFolder folder;
     AtomicFile file(folder / "no/such/folder.txt");

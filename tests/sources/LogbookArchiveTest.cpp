@@ -2,215 +2,313 @@
 #include "sources/LogbookArchive.h"
 
 #include "filter/FilterText.h"
-#include "settings/Registry.h"
+#include "sources/Comments.h"
 #include "sources/LogbookSource.h"
-#include "support/MemorySettings.h"
-#include "support/ReadText.h"
+#include "support/EntriesFrom.h"
+#include "support/OrdinaryUser.h"
 #include "support/ScriptedUser.h"
+#include "support/SmallFiles.h"
 #include "support/TemporaryFolder.h"
+#include "support/ZipReader.h"
 #include "support/ZipWriter.h"
 
 #include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
-#include <csignal>
-#include <cstdlib>
-#include <filesystem>
-#include <sys/resource.h>
+#include <algorithm>
+#include <random>
+
+using testing::HasSubstr;
 
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::StartsWith;
+using Members = std::vector<std::pair<std::string, std::string>>;
+namespace fs = std::filesystem;
+
+// Bytes that do not pack.
+std::string Noise(std::size_t size) {
+    std::mt19937 random(1);
+    std::string noise(size, '\0');
+    std::generate(noise.begin(), noise.end(), [&] { return static_cast<char>(random()); });
+    return noise;
+}
+
+std::vector<std::string> FilesIn(const fs::path& folder) {
+    std::vector<std::string> names;
+    for (const auto& item : fs::directory_iterator(folder))
+        names.push_back(item.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
+}
 
 class LogbookArchiveTest : public testing::Test {
   protected:
     LogbookArchiveTest() {
-        ReadText(Lines({Header("BERR:    a"), Header("BERR:    b")}), Result);
-        FilterDefinition filter;
-        ParseFilter("I|0||||1", filter);
-        Filters.push_back(filter);
+        FillTable(Entries, std::vector<TestEntry>(20, {EventTypes::Info, "a", "", ""}));
+        Entries.SetComment(3, "oil, filter");
+        Filters.resize(2);
+        EXPECT_TRUE(ParseFilter("I|0||||1", Filters[0]));
+        EXPECT_TRUE(ParseFilter("H|4|pump|||0", Filters[1]));
+        fs::create_directory(Folder / "logs");
+        fs::create_directory(Folder / "out");
+        fs::create_directory(Folder / "tmp");
+        Content.LogbookFile = Folder.Write("logs/a.log", "the logbook\r\n");
     }
 
-    std::string Log(const std::string& bytes = "the logbook's bytes \xFC\x00\r\n") {
-        return Folder.Write("source.a", bytes);
+    std::string Save(const std::string& path) {
+        Content.Filters = Filters;
+        return SaveLogbookArchive(path, Content, Temp, Language{Language::English}, Progress);
     }
 
-    bool Zip(const std::string& logbook) {
-        return ZipLogbook({logbook, Result.Book.Entries, Filters, Encoding, InitZipArchiveDir}, Settings,
-                          User, {});
-    }
-
-    // The files of a folder, by name.
-    std::vector<std::string> FilesIn(const std::filesystem::path& folder) const {
-        std::vector<std::string> names;
-        for (const auto& item : std::filesystem::directory_iterator(folder))
-            names.push_back(item.path().filename().string());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
-
-    std::filesystem::path MakeFolder(const std::string& name) const {
-        const std::filesystem::path folder = std::filesystem::path(Folder.Path()) / name;
-        std::filesystem::create_directories(folder);
-        return folder;
+    // Saving fails for this reason, and leaves the archive of that name and nothing else.
+    void ExpectFailure(const std::string& reason) {
+        const std::string path = Folder.Write("out/old.qorvix", "old");
+        const fs::file_time_type written = fs::last_write_time(path);
+        EXPECT_THAT(Save(path), HasSubstr(reason));
+        EXPECT_EQ(FileContent(path), "old");
+        EXPECT_EQ(fs::last_write_time(path), written);
+        EXPECT_EQ(FilesIn(Folder / "out"), std::vector<std::string>{"old.qorvix"});
+        EXPECT_EQ(FilesIn(Temp.Path()), std::vector<std::string>{});
     }
 
     TemporaryFolder Folder;
-    TempFolder Temp{Folder.Path()};
-    ReadResult Result;
+    TempFolder Temp{fs::path(Folder.Path())};
+    EntryTable Entries;
+    CodePage Code;
     std::vector<FilterDefinition> Filters;
-    CodePage Encoding;
-    std::string InitZipArchiveDir = "/begin/";
-    MemorySettings Store;
-    Registry Settings{Store};
-    ScriptedUser User;
+    ArchiveContent Content{.LogbookFile = "",
+                           .LogbookStamp = std::nullopt,
+                           .Filters = {},
+                           .Entries = Entries,
+                           .FileCodePage = Code};
+    PackingProgress Progress;
 };
 
-TEST_F(LogbookArchiveTest, NothingHappensWithoutALogbook) {
-    EXPECT_FALSE(Zip(""));
-    EXPECT_THAT(User.Requests, IsEmpty());
+} // namespace
+
+TEST_F(LogbookArchiveTest, HoldsThreeMembersOfItsOwnBaseName) {
+    const std::string bytes = Noise(100000) + std::string(100000, ' ') + std::string("\r\n\0\x1A\xFF", 5);
+    Folder.Write("logs/a.log", bytes);
+    EXPECT_EQ(Save(Folder / "out/case 7.v2.qorvix"), "");
+    const Members members = ReadZip(Folder / "out/case 7.v2.qorvix");
+    ASSERT_EQ(members.size(), 3U);
+    EXPECT_EQ(members[0].first, "case 7.v2.log");
+    EXPECT_TRUE(members[0].second == bytes);
+    EXPECT_EQ(members[1],
+              (Members::value_type{"case 7.v2.fil", "[Filters]\r\nI|0||||1\r\nH|4|pump|||0\r\n"}));
+    EXPECT_EQ(members[2], (Members::value_type{"case 7.v2.cmt", "[Comments]\r\n 3 \"oil, filter\"\r\n"}));
+    EXPECT_EQ(FileContent(Folder / "logs/a.log"), bytes);
+    EXPECT_EQ(FilesIn(Folder / "out"), std::vector<std::string>{"case 7.v2.qorvix"});
+    EXPECT_EQ(FilesIn(Temp.Path()), std::vector<std::string>{});
 }
 
-TEST_F(LogbookArchiveTest, DialogProposesTheLogbooksNameInTheLastFolder) {
-    EXPECT_FALSE(Zip(Log()));
-    ASSERT_EQ(User.Requests.size(), 1U);
-    const FileRequest& request = User.Requests[0];
-    EXPECT_EQ(Text(request.Title, {}), "Save Archive");
-    EXPECT_EQ(Text(request.Title, {Language::German}), "Archiv speichern");
-    EXPECT_EQ(Text(request.Filter, {}), "Logbook archive (*.qorvix)|*.qorvix");
-    EXPECT_EQ(request.Folder, "/begin/");
-    EXPECT_EQ(request.FileName, "source.qorvix");
-    EXPECT_EQ(request.DefaultExtension, "qorvix");
-    EXPECT_THAT(User.Messages, IsEmpty());
-    EXPECT_EQ(Store.Writes, 0);
-}
-
-TEST_F(LogbookArchiveTest, ArchiveHoldsLogbookFiltersAndComments) {
-    const std::string bytes("one\r\ntwo \xFC\0three", 16);
-    Result.Book.Entries.SetComment(1, "seen, \"twice\"");
-    const std::filesystem::path folder = MakeFolder("archives");
-    User.Files = {(folder / "my machine.v2.qorvix").string()};
-    EXPECT_TRUE(Zip(Log(bytes)));
-    EXPECT_THAT(FilesIn(folder), ElementsAre("my machine.v2.qorvix"));
-    EXPECT_THAT(User.Statuses, ElementsAre(TextId::StatusZipping));
-    EXPECT_EQ(User.OpenStatuses, 0);
-    EXPECT_EQ(InitZipArchiveDir, folder.string() + "/");
-    EXPECT_EQ(Settings.ReadLogbookSettingString("InitZipArchiveDir", ""), folder.string() + "/");
-
-    User.Answers = {UserInterface::Answer::Yes};
-    const auto source = ResolveSource((folder / "my machine.v2.qorvix").string(), Temp, User, {});
-    ASSERT_TRUE(source);
-    EXPECT_EQ(FileContent(source->LogbookFile), bytes);
-    EXPECT_EQ(FileContent(source->CommentsFile), "[Comments]\r\n 1 \"seen, \"\"twice\"\"\"\r\n");
-    EXPECT_EQ(FileContent(source->FilterFile), "[Filters]\r\nI|0||||1\r\n");
-}
-
-TEST_F(LogbookArchiveTest, OtherProgramsOpenTheArchive) {
-    const std::filesystem::path folder = MakeFolder("other");
-    User.Files = {(folder / "größe.qorvix").string()};
-    ASSERT_TRUE(Zip(Log("bytes of the logbook")));
-    const std::string archive = (folder / "größe.qorvix").string();
-    ASSERT_EQ(std::system(("unzip -q -t '" + archive + "' > /dev/null").c_str()), 0);
-    ASSERT_EQ(std::system(("unzip -q '" + archive + "' -d '" + folder.string() + "/out'").c_str()), 0);
-    EXPECT_EQ(FileContent(folder / "out" / "größe.log"), "bytes of the logbook");
-    EXPECT_THAT(FilesIn(folder / "out"), ElementsAre("größe.cmt", "größe.fil", "größe.log"));
-}
-
-TEST_F(LogbookArchiveTest, ArchiveOfAnotherProgramIsOpened) {
-    const std::filesystem::path folder = MakeFolder("made");
-    Folder.Write("made/X.LOG", "log");
-    Folder.Write("made/x.log", "lower");
-    ASSERT_EQ(std::system(("cd '" + folder.string() +
-                           "' && zip -q -0 stored.qorvix x.log && zip -q -9 packed.qorvix x.log")
-                              .c_str()),
-              0);
-    for (const char* name : {"stored.qorvix", "packed.qorvix"}) {
-        const auto source = ResolveSource((folder / name).string(), Temp, User, {});
-        ASSERT_TRUE(source);
-        EXPECT_EQ(FileContent(source->LogbookFile), "lower") << name;
+TEST_F(LogbookArchiveTest, OpensAgainAsItWasSaved) {
+    for (const std::string base : {"a", "case.v2", "K\xC3\xBChlung \xE6\x97\xA5", "", "no extension"}) {
+        const std::string path = Folder / ("out/" + base + ".qorvix");
+        EXPECT_EQ(Save(path), "");
+        ScriptedUser user;
+        user.Answers = {UserInterface::Answer::Yes};
+        const auto source = ResolveSource(path, Temp, user, {});
+        ASSERT_TRUE(source.has_value());
+        EXPECT_EQ(source->Name, base.substr(0, base.find('.')));
+        EXPECT_EQ(FileContent(source->LogbookFile), "the logbook\r\n") << base;
+        EXPECT_EQ(FileContent(source->FilterFile), "[Filters]\r\nI|0||||1\r\nH|4|pump|||0\r\n");
+        EntryTable again;
+        FillTable(again, std::vector<TestEntry>(20, {EventTypes::Info, "a", "", ""}));
+        CommentLogbook(source->CommentsFile, again, Code);
+        EXPECT_EQ(again.Comments(), Entries.Comments());
     }
 }
 
-TEST_F(LogbookArchiveTest, LogbookMayComeFromTheArchiveThatIsReplaced) {
-    const std::string path = Folder / "own.qorvix";
-    WriteZip(path, {{"own.log", "bytes of the logbook"}});
-    const auto source = ResolveSource(path, Temp, User, {});
-    ASSERT_TRUE(source);
-    User.Files = {path};
-    EXPECT_TRUE(Zip(source->LogbookFile));
-    const auto again = ResolveSource(path, Temp, User, {});
-    ASSERT_FALSE(again); // it has filters now, and the question about them was cancelled
-    User.Answers = {UserInterface::Answer::No};
-    EXPECT_EQ(FileContent(ResolveSource(path, Temp, User, {})->LogbookFile), "bytes of the logbook");
+TEST_F(LogbookArchiveTest, EmptyLogbookWithoutCommentsAndFilters) {
+    Folder.Write("logs/a.log", "");
+    Entries.SetComment(3, "");
+    Filters.clear();
+    EXPECT_EQ(Save(Folder / "out/a.qorvix"), "");
+    EXPECT_EQ(ReadZip(Folder / "out/a.qorvix"),
+              (Members{{"a.log", ""}, {"a.fil", "[Filters]\r\n"}, {"a.cmt", "[Comments]\r\n"}}));
 }
 
-TEST_F(LogbookArchiveTest, FailuresLeaveTheOldArchiveAndAreTold) {
-    const std::filesystem::path folder = MakeFolder("failing");
-    const std::string old = Folder.Write("failing/old.qorvix", "old archive");
-    MakeFolder("failing/folder.qorvix");
-    User.Files = {old, (folder / "folder.qorvix").string(), (folder / "none/x.qorvix").string()};
-    EXPECT_FALSE(Zip(Folder / "gone.log"));
-    EXPECT_FALSE(Zip(Log()));
-    EXPECT_FALSE(Zip(Log()));
-    ASSERT_EQ(User.Messages.size(), 3U);
-    EXPECT_EQ(User.Messages[0], "The archive could not be written (" + old + "): " + (Folder / "gone.log") +
-                                    ": No such file or directory");
-    EXPECT_THAT(User.Messages[1],
-                StartsWith("The archive could not be written (" + folder.string() + "/folder.qorvix): "));
-    EXPECT_THAT(User.Messages[2], HasSubstr("No such file or directory"));
-    EXPECT_EQ(FileContent(old), "old archive");
-    EXPECT_THAT(FilesIn(folder), ElementsAre("folder.qorvix", "old.qorvix"));
-    EXPECT_EQ(InitZipArchiveDir, "/begin/");
-    EXPECT_EQ(User.OpenStatuses, 0);
+TEST_F(LogbookArchiveTest, ReplacesTheArchiveThatTheLogbookCameFrom) {
+    const std::string path = Folder / "out/own.qorvix";
+    const std::string log = Noise(50000);
+    WriteZip(path, {{"own.log", log}, {"own.cmt", "[Comments]\r\n 1 old\r\n"}});
+    ScriptedUser user;
+    const auto source = ResolveSource(path, Temp, user, {});
+    Content.LogbookFile = source->LogbookFile;
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(Save(path), "");
+        const Members members = ReadZip(path);
+        ASSERT_EQ(members.size(), 3U);
+        EXPECT_TRUE(members[0].second == log);
+        EXPECT_EQ(members[2].second, "[Comments]\r\n 3 \"oil, filter\"\r\n");
+    }
+    // The files of the logbook that is shown are as they were.
+    EXPECT_EQ(FilesIn(Temp.Path()), (std::vector<std::string>{"own.cmt", "own.log"}));
+    EXPECT_EQ(FileContent(Temp.Path() / "own.cmt"), "[Comments]\r\n 1 old\r\n");
 }
 
-TEST_F(LogbookArchiveTest, FullDiskLeavesTheOldArchive) {
-    const std::filesystem::path folder = MakeFolder("full");
-    const std::string old = Folder.Write("full/old.qorvix", "old archive");
-    std::string bytes(1 << 20, ' ');
-    for (std::size_t i = 0; i < bytes.size(); ++i)
-        bytes[i] = static_cast<char>(i * i % 251); // hardly packed
-    const std::string log = Log(bytes);
-    User.Files = {old};
-    // A limit of this process stands for a disk that fills while the archive is written.
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit full{400, before.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &full), 0);
-    const bool saved = Zip(log);
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
-    EXPECT_FALSE(saved);
-    ASSERT_EQ(User.Messages.size(), 1U);
-    EXPECT_THAT(User.Messages[0], HasSubstr("): File too large"));
-    EXPECT_EQ(FileContent(old), "old archive");
-    EXPECT_THAT(FilesIn(folder), ElementsAre("old.qorvix"));
+TEST_F(LogbookArchiveTest, LogbookThatIsGoneFails) {
+    fs::remove(Content.LogbookFile);
+    ExpectFailure(Content.LogbookFile + ": No such file or directory");
+    Content.LogbookFile = Folder / "logs";
+    ExpectFailure(Content.LogbookFile + ": Is a directory");
 }
 
-TEST_F(LogbookArchiveTest, LostCharactersAreToldFirst) {
-    const std::filesystem::path folder = MakeFolder("lost");
-    Result.Book.Entries.SetComment(1, "снег");
-    Filters[0].StringFilter = "лёд";
-    const std::string path = (folder / "x.qorvix").string();
-    User.Files = {path, path};
-    User.Answers = {UserInterface::Answer::No, UserInterface::Answer::Yes};
-    EXPECT_FALSE(Zip(Log()));
-    EXPECT_THAT(FilesIn(folder), IsEmpty());
-    EXPECT_THAT(User.Confirmed,
-                ElementsAre("Some characters cannot be stored in the archive and would become \"?\":\n"
-                            "Comments of the entries 1\nFilters 1\n\nSave the archive all the same?"));
-    EXPECT_TRUE(Zip(Log()));
-    EXPECT_THAT(FilesIn(folder), ElementsAre("x.qorvix"));
+TEST_F(LogbookArchiveTest, LogbookThatIsNotAsItWasReadFails) {
+    std::error_code error;
+    Content.LogbookStamp = StampOf(Content.LogbookFile, error);
+    EXPECT_EQ(Save(Folder / "out/a.qorvix"), "");
+    fs::remove(Folder / "out/a.qorvix");
+    Folder.Write("logs/a.log", "the logbook\r\nand more\r\n");
+    ExpectFailure("the logbook file was changed meanwhile");
+    Folder.Write("logs/a.log", "THE LOGBOOK\r\n");
+    fs::last_write_time(Content.LogbookFile, Content.LogbookStamp->Written + std::chrono::seconds(1));
+    ExpectFailure("the logbook file was changed meanwhile");
 }
 
-TEST(QuestionAboutLosses, NamesTenPlacesAtMost) {
-    EXPECT_EQ(QuestionAboutLosses({}, {}, {}), "");
-    EXPECT_EQ(QuestionAboutLosses({0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10}, {}, {Language::German}),
-              "Einige Zeichen lassen sich nicht im Archiv speichern und würden zu \"?\":\n"
-              "Kommentare der Einträge 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, ...\n\nArchiv trotzdem speichern?");
+TEST_F(LogbookArchiveTest, LogbookThatChangesWhileItIsPackedFails) {
+    Folder.Write("logs/a.log", Noise(3000000));
+    Progress = [&](double percent) {
+        if (percent > 20)
+            fs::resize_file(Content.LogbookFile, 3000001);
+    };
+    ExpectFailure("the logbook file was changed meanwhile");
+    Progress = [&](double percent) {
+        if (percent > 20)
+            fs::remove(Content.LogbookFile);
+    };
+    ExpectFailure("the logbook file was changed meanwhile");
 }
 
-} // namespace
+TEST_F(LogbookArchiveTest, LogbookThatIsCutShortWhileItIsPackedFails) {
+    Folder.Write("logs/a.log", Noise(3000000));
+    Progress = [&](double percent) {
+        if (percent > 20)
+            fs::resize_file(Content.LogbookFile, 1000);
+    };
+    ExpectFailure("the logbook file was changed meanwhile");
+}
+
+TEST_F(LogbookArchiveTest, FullDiskFailsWithTheSystemsReason) {
+    Folder.Write("logs/a.log", Noise(1000000));
+    const SmallFiles limit(300000);
+    ExpectFailure("File too large");
+}
+
+TEST_F(LogbookArchiveTest, FullTemporaryFolderFailsWithTheSystemsReason) {
+    Entries.SetComment(5, Noise(200000));
+    const SmallFiles limit(100000);
+    ExpectFailure("File too large");
+}
+
+TEST_F(LogbookArchiveTest, ArchiveThatCannotBePutInItsPlaceFails) {
+    fs::create_directory(Folder / "out/folder.qorvix");
+    EXPECT_EQ(Save(Folder / "out/folder.qorvix"), "Is a directory");
+    EXPECT_EQ(Save(Folder / "out/missing/a.qorvix"), "No such file or directory");
+    EXPECT_EQ(Save(Content.LogbookFile + "/a.qorvix"), "Not a directory");
+    EXPECT_EQ(FilesIn(Folder / "out"), std::vector<std::string>{"folder.qorvix"});
+}
+
+TEST(LogbookArchivePermissions, FolderWithoutWritePermissionFails) {
+    const OrdinaryUser user;
+    if (!user.IsOrdinary())
+        GTEST_SKIP() << "permissions do not hold for this user";
+    const TemporaryFolder folder;
+    const TempFolder temp{fs::path(folder.Path())};
+    EntryTable entries;
+    const CodePage code;
+    fs::create_directory(folder / "out");
+    const std::string path = folder.Write("out/old.qorvix", "old");
+    fs::permissions(folder / "out", fs::perms(0555));
+    const ArchiveContent content{.LogbookFile = folder.Write("a.log", "text"),
+                                 .LogbookStamp = std::nullopt,
+                                 .Filters = {},
+                                 .Entries = entries,
+                                 .FileCodePage = code};
+    EXPECT_EQ(SaveLogbookArchive(path, content, temp, {}), "Permission denied");
+    EXPECT_EQ(FileContent(path), "old");
+    fs::permissions(folder / "a.log", fs::perms(0));
+    EXPECT_EQ(SaveLogbookArchive(folder / "b.qorvix", content, temp, {}),
+              folder / "a.log" + ": Permission denied");
+    fs::permissions(folder / "out", fs::perms(0755));
+    EXPECT_EQ(FilesIn(folder / "out"), std::vector<std::string>{"old.qorvix"});
+}
+
+TEST_F(LogbookArchiveTest, NeverReplacesTheLogbookItself) {
+    fs::create_symlink("../logs/a.log", Folder / "out/link.qorvix");
+    fs::create_hard_link(Content.LogbookFile, Folder / "out/same.qorvix");
+    for (const std::string& path : {Content.LogbookFile, Folder / "logs/../logs/a.log",
+                                    Folder / "out/link.qorvix", Folder / "out/same.qorvix"})
+        EXPECT_EQ(Save(path), "the archive would replace the logbook file itself") << path;
+    EXPECT_EQ(FileContent(Content.LogbookFile), "the logbook\r\n");
+}
+
+TEST_F(LogbookArchiveTest, NeverLiesInTheTemporaryFolder) {
+    fs::create_symlink(Temp.Path(), Folder / "link");
+    for (const std::string& path : {(Temp.Path() / "a.qorvix").string(), Folder / "link/a.qorvix"})
+        EXPECT_EQ(Save(path), "what lies in this folder is deleted when the program ends") << path;
+    EXPECT_EQ(FilesIn(Temp.Path()), std::vector<std::string>{});
+}
+
+TEST_F(LogbookArchiveTest, WithoutATemporaryFolderNothingIsSaved) {
+    const TempFolder none(fs::path(Folder.Path()) / "missing");
+    EXPECT_EQ(SaveLogbookArchive(Folder / "out/a.qorvix", Content, none, {Language::German}),
+              "es gibt keinen temporären Ordner");
+    EXPECT_EQ(FilesIn(Folder / "out"), std::vector<std::string>{});
+}
+
+TEST_F(LogbookArchiveTest, LinkIsFollowedAndPermissionsStay) {
+    const std::string path = Folder.Write("out/a.qorvix", "old");
+    fs::permissions(path, fs::perms(0640));
+    fs::create_symlink("a.qorvix", Folder / "out/link.qorvix");
+    EXPECT_EQ(Save(Folder / "out/link.qorvix"), "");
+    EXPECT_TRUE(fs::is_symlink(Folder / "out/link.qorvix"));
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms(0640));
+    ASSERT_EQ(ReadZip(path).size(), 3U);
+    EXPECT_EQ(ReadZip(path)[0].first, "link.log");
+}
+
+TEST_F(LogbookArchiveTest, NewArchiveHasThePermissionsOfAnyNewFile) {
+    EXPECT_EQ(Save(Folder / "out/a.qorvix"), "");
+    EXPECT_EQ(fs::status(Folder / "out/a.qorvix").permissions(),
+              fs::status(Content.LogbookFile).permissions());
+}
+
+TEST_F(LogbookArchiveTest, WhatWouldNotOpenAgainIsNotSaved) {
+    fs::resize_file(Content.LogbookFile, (std::uintmax_t{4} << 30U) + 1);
+    ExpectFailure("a member is larger than 4 GiB");
+    fs::resize_file(Content.LogbookFile, 70U << 20U);
+    ExpectFailure("a member claims more than a thousand times its packed size");
+}
+
+TEST_F(LogbookArchiveTest, TellsItsProgress) {
+    Folder.Write("logs/a.log", Noise(3000000));
+    std::vector<double> told;
+    Progress = [&](double percent) { told.push_back(percent); };
+    EXPECT_EQ(Save(Folder / "out/a.qorvix"), "");
+    ASSERT_GT(told.size(), 20U);
+    EXPECT_EQ(told.front(), 0);
+    EXPECT_EQ(told.back(), 0);
+    told.pop_back();
+    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
+    EXPECT_EQ(told.back(), 100);
+}
+
+TEST_F(LogbookArchiveTest, LossesAreNamedBeforehand) {
+    Content.Filters = Filters;
+    EXPECT_EQ(TextsThatLose(Content, {}), "");
+    Entries.SetComment(7, "\xE6\x97\xA5");
+    EXPECT_EQ(TextsThatLose(Content, {}),
+              "Entries whose comments have characters that the archive cannot hold: 7");
+    Filters[1].StringFilter = "\xE6\x97\xA5";
+    Entries.SetComment(12, "\xC5\x99");
+    EXPECT_EQ(TextsThatLose(Content, {Language::German}),
+              "Einträge mit Zeichen im Kommentar, die das Archiv nicht aufnehmen kann: 7, 12\r\n"
+              "Filter mit Zeichen, die das Archiv nicht aufnehmen kann: 2");
+    for (EntryNumber number = 5; number < 15; ++number)
+        Entries.SetComment(number, "\xC5\x99");
+    EXPECT_THAT(TextsThatLose(Content, {}), HasSubstr(": 5, 6, 7, 8, 9, 10, 11, 12, 13, 14\r\n"));
+    Entries.SetComment(19, "\xC5\x99");
+    EXPECT_THAT(TextsThatLose(Content, {}), HasSubstr(": 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, …\r\n"));
+}

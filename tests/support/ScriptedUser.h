@@ -4,11 +4,11 @@
 #include "sources/UserInterface.h"
 
 #include <deque>
+#include <optional>
 #include <string>
 #include <vector>
 
-// A person whose answers are written down beforehand. Remembers what was said; without an answer left,
-// cancels.
+// Answers from a list, and remembers what was asked and said.
 class ScriptedUser : public UserInterface {
   public:
     void ShowMessage(std::string_view text, MessageIcon icon) override {
@@ -17,44 +17,41 @@ class ScriptedUser : public UserInterface {
     }
     Answer Ask(TextId question) override {
         Questions.push_back(question);
-        return Next(Answers, Answer::Cancel);
+        if (Answers.empty())
+            return Answer::Cancel;
+        const Answer answer = Answers.front();
+        Answers.pop_front();
+        return answer;
     }
     bool Confirm(std::string_view question) override {
-        Confirmed.emplace_back(question);
-        return Next(Answers, Answer::Cancel) == Answer::Yes;
+        Confirmations.emplace_back(question);
+        return Agrees;
     }
-    std::optional<std::string> AskFileToOpen(const FileRequest& request) override {
-        Requests.push_back(request);
-        return Next(Files, std::optional<std::string>());
+    std::optional<std::string> AskFileToOpen(const FileQuestion& question) override {
+        FilesToOpen.push_back(question);
+        return File;
     }
-    std::optional<std::string> AskFileToSave(const FileRequest& request) override {
-        return AskFileToOpen(request);
+    std::optional<std::string> AskFileToSave(const FileQuestion& question) override {
+        FilesToSave.push_back(question);
+        return File;
     }
     void ShowStatus(TextId status) override {
         Statuses.push_back(status);
-        ++OpenStatuses;
+        ++StatusDepth;
     }
-    void RestoreStatus() override { --OpenStatuses; }
-    void ShowProgress(double percent) override { Progress.push_back(percent); }
+    void RestoreStatus() override { --StatusDepth; }
 
+    // The answers: to Ask in their order, then Cancel; to Confirm; to a question for a file.
     std::deque<Answer> Answers;
-    std::deque<std::optional<std::string>> Files;
+    bool Agrees = false;
+    std::optional<std::string> File;
+
     std::vector<std::string> Messages;
     std::vector<MessageIcon> Icons;
     std::vector<TextId> Questions;
-    std::vector<std::string> Confirmed;
-    std::vector<FileRequest> Requests;
+    std::vector<std::string> Confirmations;
+    std::vector<FileQuestion> FilesToOpen;
+    std::vector<FileQuestion> FilesToSave;
     std::vector<TextId> Statuses;
-    int OpenStatuses = 0; // shown and not yet restored
-    std::vector<double> Progress;
-
-  private:
-    template <typename Value>
-    static Value Next(std::deque<Value>& values, Value otherwise) {
-        if (values.empty())
-            return otherwise;
-        const Value value = values.front();
-        values.pop_front();
-        return value;
-    }
+    int StatusDepth = 0; // 0 when every status was taken back
 };

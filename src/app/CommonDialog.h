@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "sources/UserInterface.h"
+
+#include <QFileDialog>
+
+// The filters of a file dialog, "label|patterns|label|patterns" with the patterns separated by ";", in the
+// form that Qt wants.
+QStringList NameFilters(const QString& filters);
+
+// Asks for one file to open or to save, in the dialog `dlgCommonDialog`. A file to save need not exist;
+// before one that does is replaced, the dialog asks. Nothing when it was cancelled.
+std::optional<std::string> RunCommonDialog(const FileQuestion& question, QFileDialog::AcceptMode mode,
+                                           Language language, QWidget* parent);

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "cli/ReadSource.h"
+
+#include "cli/ExportCommand.h"
+#include "cli/TerminalProgress.h"
+#include "filter/FilterFile.h"
+#include "logbook/Mod_FileHandling.h"
+#include "settings/Texts.h"
+#include "sources/Comments.h"
+
+#include <iostream>
+
+int Fail(const std::string& message) {
+    std::cerr << "qorvix-cli: " << message << std::endl;
+    return ExitStatus::Failed;
+}
+
+bool ReadSource(const std::string& file, SourceLogbook& logbook, const TempFolder& tempFolder,
+                TerminalUser& user, Language language, const CodePage& codePage) {
+    std::optional<LogbookSource> source = ResolveSource(file, tempFolder, user, language);
+    if (!source || user.MessageShown())
+        return false;
+    logbook.Source = std::move(*source);
+    std::error_code ignored;
+    logbook.Stamp = StampOf(logbook.Source.LogbookFile, ignored);
+    std::string title;
+    TerminalProgress progress;
+    if (ReadLogbook(logbook.Source.LogbookFile, logbook.Book, title, progress, codePage))
+        return true;
+    const bool reading = logbook.Book.LoadState == LoadStates::Reading;
+    Fail(std::string(Text(reading ? TextId::ReadFailed : TextId::OpenFailed, language)) + ": " + file);
+    return false;
+}
+
+bool ReadComments(const std::string& file, SourceLogbook& logbook, Language language,
+                  const CodePage& codePage) {
+    const CommentsFileResult result = CommentLogbook(file, logbook.Book.Entries, codePage);
+    if (result.Result == CommentsFileResult::Outcome::Read)
+        return true;
+    std::string message = CommentsFileMessage(file, result, language);
+    if (result.Result == CommentsFileResult::Outcome::NoHeader)
+        message.insert(0, file + ": ");
+    Fail(message);
+    return false;
+}
+
+bool ReadFilters(const std::string& file, std::vector<FilterDefinition>& filters, Language language,
+                 const CodePage& codePage) {
+    FilterFileContent content = ImportFilterFile(file, codePage);
+    if (content.Result != FilterFileContent::Outcome::Read) {
+        Fail(FilterFileMessage(file, content, language));
+        return false;
+    }
+    filters = std::move(content.Filters);
+    return true;
+}

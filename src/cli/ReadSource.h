@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/TerminalUser.h"
+#include "filter/FilterDefinition.h"
+#include "logbook/Logbook.h"
+#include "settings/Language.h"
+#include "sources/FileStamp.h"
+#include "sources/LogbookSource.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+// Tells a message on standard error; the exit status of a command that failed.
+int Fail(const std::string& message);
+
+// A source that a command works on, and the logbook in it.
+struct SourceLogbook {
+    LogbookSource Source;
+    std::optional<FileStamp> Stamp; // of the logbook file before it was read
+    Logbook Book;
+};
+
+// Finds the logbook of a source and reads it. False when that failed, which has then been told. Files of an
+// archive lie in the temporary folder.
+bool ReadSource(const std::string& file, SourceLogbook& logbook, const TempFolder& tempFolder,
+                TerminalUser& user, Language language, const CodePage& codePage);
+
+// Reads a comments file, and a filter file, of the logbook. False when that failed, which has then been told.
+bool ReadComments(const std::string& file, SourceLogbook& logbook, Language language,
+                  const CodePage& codePage);
+bool ReadFilters(const std::string& file, std::vector<FilterDefinition>& filters, Language language,
+                 const CodePage& codePage);

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "sources/ZipBuilder.h"
+
+#include <zip.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <system_error>
+
+namespace {
+
+struct Discard {
+    void operator()(zip_t* archive) const { zip_discard(archive); }
+};
+using Archive = std::unique_ptr<zip_t, Discard>;
+
+constexpr double ProgressStep = 0.01; // of the whole
+
+std::string ErrorOf(int code) {
+    zip_error_t error;
+    zip_error_init_with_code(&error, code);
+    std::string text = zip_error_strerror(&error);
+    zip_error_fini(&error);
+    return text;
+}
+
+std::string AddFile(zip_t* archive, const FileToPack& file) {
+    errno = 0;
+    // The source keeps the file open and closes it.
+    std::FILE* const handle = std::fopen(file.File.string().c_str(), "rb");
+    if (handle == nullptr)
+        return file.File.string() + ": " + std::generic_category().message(errno);
+    zip_source_t* const source = zip_source_filep(archive, handle, 0, -1);
+    if (source == nullptr) {
+        std::fclose(handle);
+        return zip_strerror(archive);
+    }
+    const zip_int64_t index = zip_file_add(archive, file.Name.c_str(), source, ZIP_FL_ENC_GUESS);
+    if (index < 0) {
+        zip_source_free(source);
+        return zip_strerror(archive);
+    }
+    if (zip_set_file_compression(archive, static_cast<zip_uint64_t>(index), ZIP_CM_DEFLATE, 0) != 0)
+        return zip_strerror(archive);
+    return {};
+}
+
+void TellProgress(zip_t*, double part, void* progress) {
+    (*static_cast<const PackingProgress*>(progress))(part * 100.0);
+}
+
+} // namespace
+
+std::string BuildZip(const std::filesystem::path& archive, std::span<const FileToPack> files,
+                     const PackingProgress& progress) {
+    int code = 0;
+    Archive zip(zip_open(archive.string().c_str(), ZIP_CREATE | ZIP_TRUNCATE, &code));
+    if (!zip)
+        return ErrorOf(code);
+    for (const FileToPack& file : files)
+        if (std::string reason = AddFile(zip.get(), file); !reason.empty())
+            return reason;
+    PackingProgress tell = progress;
+    if (tell)
+        zip_register_progress_callback_with_state(zip.get(), ProgressStep, TellProgress, nullptr, &tell);
+    if (zip_close(zip.get()) != 0)
+        return zip_strerror(zip.get());
+    zip.release();
+    if (tell)
+        tell(0);
+    return {};
+}

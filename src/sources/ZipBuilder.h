@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <span>
+#include <string>
+
+// A file that goes into a zip archive, and the name (UTF-8) that it has there.
+struct FileToPack {
+    std::string Name;
+    std::filesystem::path File;
+};
+
+// What packing tells its surroundings: a percentage from 0 to 100; 0 at its begin and end.
+using PackingProgress = std::function<void(double percent)>;
+
+// Builds a zip archive of files, all deflated, in the place of what `archive` was. Names that are not ASCII
+// are marked as UTF-8. The files go through in pieces, so memory does not grow with them.
+//
+// Returns why that failed, "" when it did not. After a failure the archive is of no use.
+std::string BuildZip(const std::filesystem::path& archive, std::span<const FileToPack> files,
+                     const PackingProgress& progress = {});

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "sources/ZipLogbook.h"
+
+#include "logbook/modUtil.h"
+
+namespace {
+
+constexpr std::string_view ArchiveExtension = ".qorvix";
+
+// The archive that the user names. The name that is proposed has no folder: that of the logbook may be the
+// temporary one.
+std::optional<std::string> AskForArchive(const LogbookState& state, UserInterface& user) {
+    std::string folder;
+    std::string fileName;
+    SplitPath(state.CurrentLogbookFile, folder, fileName);
+    return user.AskFileToSave({.Title = TextId::SaveArchiveTitle,
+                               .Filters = TextId::SaveArchiveFilter,
+                               .DefaultExtension = std::string(ArchiveExtension.substr(1)),
+                               .Folder = state.InitZipArchiveDir,
+                               .Name = ChangeExtension(fileName, ArchiveExtension)});
+}
+
+// True when nothing is lost, or the user wants the archive all the same.
+bool AgreesToLosses(const ArchiveContent& content, UserInterface& user, Language language) {
+    const std::string losses = TextsThatLose(content, language);
+    return losses.empty() ||
+           user.Confirm(losses + "\r\n\r\n" + std::string(Text(TextId::AskArchiveAll, language)));
+}
+
+// True when the logbook file is as it was read, or the user wants it as it is now, which the content then
+// says. That it is gone is found out by saving.
+bool AgreesToLogbook(ArchiveContent& content, UserInterface& user, Language language) {
+    std::error_code ignored;
+    const std::optional<FileStamp> now = StampOf(content.LogbookFile, ignored);
+    if (!now || !content.LogbookStamp || *now == *content.LogbookStamp)
+        return true;
+    content.LogbookStamp = now;
+    return user.Confirm(Text(TextId::AskArchiveChangedLogbook, language));
+}
+
+} // namespace
+
+ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, UserInterface& user,
+                      Language language, const PackingProgress& progress) {
+    if (state.CurrentLogbookFile.empty())
+        return ZipOutcome::Cancelled;
+    const std::optional<std::string> path = AskForArchive(state, user);
+    if (!path || path->empty())
+        return ZipOutcome::Cancelled;
+    ArchiveContent content{.LogbookFile = state.CurrentLogbookFile,
+                           .LogbookStamp = state.CurrentFileStamp,
+                           .Filters = parts.Filters,
+                           .Entries = parts.Entries,
+                           .FileCodePage = parts.FileCodePage};
+    if (!AgreesToLosses(content, user, language) || !AgreesToLogbook(content, user, language))
+        return ZipOutcome::Cancelled;
+
+    user.ShowStatus(TextId::StatusZipping);
+    const std::string reason = SaveLogbookArchive(*path, content, parts.Temp, language, progress);
+    user.RestoreStatus();
+    if (!reason.empty()) {
+        user.ShowMessage(std::string(Text(TextId::ArchiveNotSaved, language)) + " (" + *path + ": " + reason +
+                             ")",
+                         UserInterface::MessageIcon::Exclamation);
+        return ZipOutcome::Failed;
+    }
+    std::string fileName;
+    SplitPath(*path, state.InitZipArchiveDir, fileName);
+    parts.Settings.WriteLogbookSetting("InitZipArchiveDir", state.InitZipArchiveDir, SettingType::Text);
+    state.CommentsEdited = false;
+    return ZipOutcome::Saved;
+}

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "settings/Registry.h"
+#include "sources/LogbookArchive.h"
+#include "sources/LogbookState.h"
+#include "sources/UserInterface.h"
+
+#include <cstdint>
+#include <span>
+
+enum class ZipOutcome : std::uint8_t { Saved, Cancelled, Failed };
+
+// What saves the logbook that is shown, besides its state.
+struct ZipLogbookParts {
+    const EntryTable& Entries;
+    std::span<const FilterDefinition> Filters; // the active ones
+    const CodePage& FileCodePage;
+    const TempFolder& Temp;
+    Registry& Settings;
+};
+
+// Saves the logbook that is shown, with its comments and the active filters, as an archive that the user
+// names. Before texts lose characters, and before a logbook file that has been changed since it was read goes
+// in, the user is asked. A failure is told with its reason; an archive of that name is then as it was.
+//
+// Saved: no comments are edited any more, and the archive's folder is stored. Without a logbook nothing
+// happens: Cancelled.
+ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, UserInterface& user,
+                      Language language, const PackingProgress& progress = {});

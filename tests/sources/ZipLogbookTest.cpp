@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include "sources/ZipLogbook.h"
+
+#include "support/EntriesFrom.h"
+#include "support/MemorySettings.h"
+#include "support/ScriptedUser.h"
+#include "support/TemporaryFolder.h"
+#include "support/ZipReader.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class ZipLogbookTest : public testing::Test {
+  protected:
+    ZipLogbookTest() {
+        FillTable(Entries, std::vector<TestEntry>(20, {EventTypes::Info, "a", "", ""}));
+        Entries.SetComment(3, "pump");
+        fs::create_directory(Folder / "out");
+        State.CurrentLogbookFile = Folder.Write("lb.act.log", "text");
+        std::error_code error;
+        State.CurrentFileStamp = StampOf(State.CurrentLogbookFile, error);
+        State.CommentsEdited = true;
+        State.InitZipArchiveDir = "/first/";
+        User.File = Folder / "out/a.qorvix";
+    }
+
+    ZipOutcome Zip(Language language = {}) {
+        const ZipOutcome outcome = ZipLogbook(State,
+                                              {.Entries = Entries,
+                                               .Filters = Filters,
+                                               .FileCodePage = Code,
+                                               .Temp = Temp,
+                                               .Settings = Settings},
+                                              User, language);
+        EXPECT_EQ(User.StatusDepth, 0);
+        return outcome;
+    }
+
+    // Nothing was written, stored or forgotten.
+    void ExpectNothingSaved() {
+        EXPECT_TRUE(fs::is_empty(Folder / "out"));
+        EXPECT_TRUE(Store.Values.empty());
+        EXPECT_TRUE(State.CommentsEdited);
+        EXPECT_EQ(State.InitZipArchiveDir, "/first/");
+    }
+
+    TemporaryFolder Folder;
+    TempFolder Temp{fs::path(Folder.Path())};
+    MemorySettings Store;
+    Registry Settings{Store};
+    EntryTable Entries;
+    CodePage Code;
+    std::vector<FilterDefinition> Filters{DefaultFilters()};
+    LogbookState State;
+    ScriptedUser User;
+};
+
+} // namespace
+
+TEST_F(ZipLogbookTest, WithoutALogbookNothingHappens) {
+    State.CurrentLogbookFile.clear();
+    EXPECT_EQ(Zip(), ZipOutcome::Cancelled);
+    EXPECT_TRUE(User.FilesToSave.empty());
+    ExpectNothingSaved();
+}
+
+TEST_F(ZipLogbookTest, SavesUnderTheNameThatTheUserChooses) {
+    EXPECT_EQ(Zip(), ZipOutcome::Saved);
+    ASSERT_EQ(User.FilesToSave.size(), 1U);
+    const FileQuestion& question = User.FilesToSave[0];
+    EXPECT_EQ(question.Title, TextId::SaveArchiveTitle);
+    EXPECT_EQ(question.Filters, TextId::SaveArchiveFilter);
+    EXPECT_EQ(question.DefaultExtension, "qorvix");
+    EXPECT_EQ(question.Folder, "/first/");
+    EXPECT_EQ(question.Name, "lb.act.qorvix");
+
+    using Members = std::vector<std::pair<std::string, std::string>>;
+    EXPECT_EQ(ReadZip(Folder / "out/a.qorvix"), (Members{{"a.log", "text"},
+                                                         {"a.fil", "[Filters]\r\nI|0||||1\r\n"},
+                                                         {"a.cmt", "[Comments]\r\n 3 pump\r\n"}}));
+    EXPECT_EQ(User.Statuses, std::vector<TextId>{TextId::StatusZipping});
+    EXPECT_TRUE(User.Messages.empty());
+    EXPECT_TRUE(User.Confirmations.empty());
+    EXPECT_FALSE(State.CommentsEdited);
+    EXPECT_EQ(State.CurrentLogbookFile, Folder / "lb.act.log");
+}
+
+TEST_F(ZipLogbookTest, FolderOfTheArchiveIsStoredForTheNext) {
+    EXPECT_EQ(Zip(), ZipOutcome::Saved);
+    EXPECT_EQ(Settings.ReadLogbookSettingString("InitZipArchiveDir", ""), Folder / "out/");
+    EXPECT_EQ(State.InitZipArchiveDir, Folder / "out/");
+    EXPECT_EQ(Zip(), ZipOutcome::Saved);
+    EXPECT_EQ(User.FilesToSave[1].Folder, Folder / "out/");
+}
+
+TEST_F(ZipLogbookTest, CancelAndAnEmptyNameSaveNothing) {
+    for (const std::optional<std::string>& file :
+         {std::optional<std::string>(), std::optional<std::string>("")}) {
+        User.File = file;
+        EXPECT_EQ(Zip(), ZipOutcome::Cancelled);
+        ExpectNothingSaved();
+    }
+    EXPECT_TRUE(User.Messages.empty());
+}
+
+TEST_F(ZipLogbookTest, FailureIsToldWithItsReason) {
+    User.File = Folder / "out/missing/a.qorvix";
+    EXPECT_EQ(Zip(), ZipOutcome::Failed);
+    EXPECT_EQ(Zip({Language::German}), ZipOutcome::Failed);
+    const std::string why = " (" + *User.File + ": No such file or directory)";
+    EXPECT_EQ(User.Messages, (std::vector<std::string>{"The archive could not be saved" + why,
+                                                       "Das Archiv konnte nicht gespeichert werden" + why}));
+    EXPECT_EQ(User.Icons[0], UserInterface::MessageIcon::Exclamation);
+    ExpectNothingSaved();
+}
+
+TEST_F(ZipLogbookTest, LogbookThatIsGoneIsAFailure) {
+    fs::remove(State.CurrentLogbookFile);
+    EXPECT_EQ(Zip(), ZipOutcome::Failed);
+    EXPECT_EQ(User.Messages,
+              (std::vector<std::string>{"The archive could not be saved (" + *User.File + ": " +
+                                        State.CurrentLogbookFile + ": No such file or directory)"}));
+    ExpectNothingSaved();
+}
+
+TEST_F(ZipLogbookTest, NothingIsLostWithoutTheUsersConsent) {
+    Entries.SetComment(12, "\xE6\x97\xA5");
+    EXPECT_EQ(Zip(), ZipOutcome::Cancelled);
+    EXPECT_EQ(Zip({Language::German}), ZipOutcome::Cancelled);
+    EXPECT_EQ(User.Confirmations,
+              (std::vector<std::string>{
+                  "Entries whose comments have characters that the archive cannot hold: 12\r\n\r\n"
+                  "Each of these characters becomes \"?\" in the archive. Save all the same?",
+                  "Einträge mit Zeichen im Kommentar, die das Archiv nicht aufnehmen kann: 12\r\n\r\n"
+                  "Jedes dieser Zeichen wird im Archiv zu \"?\". Trotzdem speichern?"}));
+    ExpectNothingSaved();
+    User.Agrees = true;
+    EXPECT_EQ(Zip(), ZipOutcome::Saved);
+    EXPECT_EQ(ReadZip(*User.File)[2].second, "[Comments]\r\n 3 pump\r\n 12 ?\r\n");
+    EXPECT_EQ(Entries.Comment(12), "\xE6\x97\xA5");
+}
+
+TEST_F(ZipLogbookTest, LogbookThatHasBeenChangedIsAskedAbout) {
+    Folder.Write("lb.act.log", "text and more");
+    EXPECT_EQ(Zip(), ZipOutcome::Cancelled);
+    EXPECT_EQ(User.Confirmations, (std::vector<std::string>{
+                                      "The logbook file has been changed since it was read. In the archive, "
+                                      "comments may belong to other entries. Save all the same?"}));
+    ExpectNothingSaved();
+    User.Agrees = true;
+    EXPECT_EQ(Zip({Language::German}), ZipOutcome::Saved);
+    EXPECT_EQ(
+        User.Confirmations[1],
+        "Die Logbuchdatei wurde geändert, seit sie gelesen wurde. Im Archiv können Kommentare zu anderen "
+        "Einträgen gehören. Trotzdem speichern?");
+    EXPECT_EQ(ReadZip(*User.File)[0].second, "text and more");
+}
