@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <variant>
 
@@ -52,6 +53,15 @@ void WriteList(Registry& registry, std::string_view name, std::string_view count
     registry.WriteFilterSetting(countName, static_cast<std::int32_t>(texts.size()), SettingType::Integer);
 }
 
+StorageObstacle ObstacleOf(std::initializer_list<std::string_view> texts, std::string_view textForm) {
+    const auto holdsSeparator = [](std::string_view text) {
+        return text.find('|') != std::string_view::npos;
+    };
+    if (std::any_of(texts.begin(), texts.end(), holdsSeparator))
+        return StorageObstacle::Separator;
+    return Registry::IsReadBack(textForm) ? StorageObstacle::None : StorageObstacle::TooLong;
+}
+
 } // namespace
 
 StoredFilters LoadFilterList(const Registry& registry) {
@@ -72,7 +82,7 @@ StoredFilters LoadFilterList(const Registry& registry) {
 
 void WriteFilter(Registry& registry, std::size_t place, const FilterDefinition& filter) {
     const std::string text = FormatFilter(filter);
-    if (Registry::CharacterCount(text) <= Registry::LongestText)
+    if (Registry::IsReadBack(text))
         registry.WriteFilterSetting(Numbered(FilterName, place + 1), text, SettingType::Text);
 }
 
@@ -84,6 +94,14 @@ std::size_t RoomForText(FilterDefinition filter) {
     filter.StringFilter.clear();
     const std::size_t others = Registry::CharacterCount(FormatFilter(filter));
     return Registry::LongestText - std::min(others, Registry::LongestText);
+}
+
+StorageObstacle ObstacleOf(const FilterDefinition& filter) {
+    return ObstacleOf({filter.StringFilter, filter.Name, filter.Emitter}, FormatFilter(filter));
+}
+
+StorageObstacle ObstacleOf(const StringFilter& filter) {
+    return ObstacleOf({filter.FilterString, filter.Comment}, FormatStringFilter(filter));
 }
 
 FilterLists LoadFilters(const Registry& registry, Language language) {

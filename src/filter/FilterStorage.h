@@ -4,10 +4,23 @@
 #include "filter/FilterDefinition.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
 class Registry;
+
+// Why a filter does not come back from the settings as it was. With one such filter in it, the whole filter
+// list comes back as the default list; a string filter comes back cut, or empty. Whoever lets a person write
+// one says so before it is stored.
+enum class StorageObstacle : std::uint8_t {
+    None,
+    Separator, // a text holds "|", which separates the fields
+    TooLong,   // the text form is longer than a text of the settings may be
+};
+
+StorageObstacle ObstacleOf(const FilterDefinition& filter);
+StorageObstacle ObstacleOf(const StringFilter& filter);
 
 // The filter lists as the settings hold them. A list that is missing, or in which a filter cannot be parsed,
 // is replaced by the default list as a whole. The stored string filters come back with one more, empty,

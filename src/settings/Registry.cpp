@@ -38,6 +38,8 @@ std::size_t Registry::CharacterCount(std::string_view utf8) {
         utf8.begin(), utf8.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
 }
 
+bool Registry::IsReadBack(std::string_view text) { return CharacterCount(text) <= LongestText; }
+
 void Registry::WriteRegistryValue(std::string_view keyPath, std::string_view valueName,
                                   const SettingValue& value, SettingType type) {
     SettingsChange change{SettingsChange::Kind::CreateKey, std::string(keyPath), std::string(valueName), {}};
@@ -61,7 +63,7 @@ SettingValue Registry::ReadRegistryValue(std::string_view keyPath, std::string_v
     if (type == SettingType::Integer)
         return std::holds_alternative<std::int32_t>(*value) ? *value : defaultValue;
     const auto* const text = std::get_if<std::string>(&*value);
-    if (type != SettingType::Text || text == nullptr || CharacterCount(*text) > LongestText)
+    if (type != SettingType::Text || text == nullptr || !IsReadBack(*text))
         return defaultValue;
     return text->substr(0, text->find('\0'));
 }

@@ -35,6 +35,9 @@ class Registry {
     static constexpr std::size_t LongestText = 1023;
     static std::size_t CharacterCount(std::string_view utf8);
 
+    // False when a text (UTF-8) would be stored and then not be read back as it is: it is too long.
+    static bool IsReadBack(std::string_view text);
+
     void WriteRegistryValue(std::string_view keyPath, std::string_view valueName, const SettingValue& value,
                             SettingType type);
     SettingValue ReadRegistryValue(std::string_view keyPath, std::string_view valueName,

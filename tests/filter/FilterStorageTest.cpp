@@ -113,3 +113,38 @@ TEST_F(FilterStorage, MissingStringFiltersReadAsEmpty) {
     StoreNumber("SpecialFilterCount", 2147483647);
     EXPECT_EQ(LoadFilters(Settings, {}).StringFilters.size(), 1001U);
 }
+
+TEST_F(FilterStorage, SeparatorInATextIsAnObstacle) {
+    EXPECT_EQ(ObstacleOf(NoN938), StorageObstacle::None);
+    for (const FilterDefinition& filter :
+         {FilterDefinition{1, 3, "a|b", "", "", true}, FilterDefinition{1, 3, "", "a|", "", true},
+          FilterDefinition{1, 3, "", "", "|", true}}) {
+        EXPECT_EQ(ObstacleOf(filter), StorageObstacle::Separator);
+        SaveFilters(Settings, {{Errors, filter}, {}}, "");
+        EXPECT_EQ(LoadFilters(Settings, {}).Filters, DefaultFilters());
+    }
+}
+
+TEST_F(FilterStorage, TextFormBeyondALongTextIsAnObstacle) {
+    const std::size_t others = std::string("I|3||||1").size();
+    FilterDefinition filter{FilterActions::Include, 3, "", "", "", true};
+    for (std::size_t i = others; i < Registry::LongestText; ++i)
+        filter.StringFilter += "ä";
+    EXPECT_EQ(ObstacleOf(filter), StorageObstacle::None);
+    SaveFilters(Settings, {{filter}, {}}, "");
+    EXPECT_EQ(LoadFilters(Settings, {}).Filters, std::vector{filter});
+
+    filter.StringFilter += "a";
+    EXPECT_EQ(ObstacleOf(filter), StorageObstacle::TooLong);
+    SaveFilters(Settings, {{filter}, {}}, "");
+    EXPECT_EQ(LoadFilters(Settings, {}).Filters, DefaultFilters());
+}
+
+TEST_F(FilterStorage, StringFiltersHaveTheSameObstacles) {
+    EXPECT_EQ(ObstacleOf(StringFilter{"N938", "keys"}), StorageObstacle::None);
+    EXPECT_EQ(ObstacleOf(StringFilter{"N|938", "keys"}), StorageObstacle::Separator);
+    EXPECT_EQ(ObstacleOf(StringFilter{"N938", "keys|"}), StorageObstacle::Separator);
+    const std::string longest(Registry::LongestText - std::string("|keys|1").size(), 'a');
+    EXPECT_EQ(ObstacleOf(StringFilter{longest, "keys"}), StorageObstacle::None);
+    EXPECT_EQ(ObstacleOf(StringFilter{longest + "a", "keys"}), StorageObstacle::TooLong);
+}

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "dialogs/DialogList.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+
+#include <algorithm>
+
+DialogList::DialogList(int columns, QWidget* parent) : QTreeWidget(parent) {
+    setColumnCount(columns);
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setHorizontalScrollMode(ScrollPerPixel);
+    header()->setStretchLastSection(false);
+    header()->setSectionsMovable(false);
+}
+
+QTreeWidgetItem* DialogList::SelectedRow() const {
+    if (currentItem() != nullptr && currentItem()->isSelected())
+        return currentItem();
+    for (int row = 0; row < topLevelItemCount(); ++row)
+        if (topLevelItem(row)->isSelected())
+            return topLevelItem(row);
+    return nullptr;
+}
+
+void DialogList::SelectAndShow(QTreeWidgetItem* row) {
+    setCurrentItem(row, 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollToItem(row);
+}
+
+void DialogList::RemoveSelectedRows() {
+    int next = -1;
+    for (int row = topLevelItemCount() - 1; row >= 0; --row)
+        if (topLevelItem(row)->isSelected()) {
+            delete takeTopLevelItem(row);
+            next = next < 0 ? row : next - 1;
+        }
+    if (next >= 0 && topLevelItemCount() > 0)
+        setCurrentItem(topLevelItem(std::min(next, topLevelItemCount() - 1)), 0,
+                       QItemSelectionModel::NoUpdate);
+}
+
+void DialogList::Reorder(std::span<const std::uint32_t> rows) {
+    QTreeWidgetItem* const current = currentItem();
+    const QList<QTreeWidgetItem*> selected = selectedItems();
+    QList<QTreeWidgetItem*> before;
+    while (topLevelItemCount() > 0)
+        before.append(takeTopLevelItem(0));
+    for (const std::uint32_t row : rows)
+        addTopLevelItem(before[static_cast<qsizetype>(row)]);
+    setCurrentItem(current, 0, QItemSelectionModel::NoUpdate);
+    for (QTreeWidgetItem* const row : selected)
+        row->setSelected(true);
+    if (current != nullptr)
+        scrollToItem(current);
+}
+
+void DialogList::keyPressEvent(QKeyEvent* event) {
+    const bool shiftF10 = event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier;
+    if (event->key() == Qt::Key_Delete)
+        emit RemoveWanted();
+    else if (event->key() == Qt::Key_Menu || shiftF10)
+        emit PopupWanted(PopupPosition());
+    else
+        return QTreeWidget::keyPressEvent(event);
+    event->accept();
+}
+
+void DialogList::mouseReleaseEvent(QMouseEvent* event) {
+    QTreeWidget::mouseReleaseEvent(event);
+    if (event->button() == Qt::RightButton)
+        emit PopupWanted(event->globalPosition().toPoint());
+}
+
+void DialogList::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTreeWidget::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton)
+        emit EditWanted();
+}
+
+void DialogList::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
+
+QPoint DialogList::PopupPosition() const {
+    const QRect row = visualItemRect(currentItem()) & viewport()->rect();
+    return viewport()->mapToGlobal(row.isEmpty() ? QPoint() : QPoint(row.left(), row.bottom()));
+}

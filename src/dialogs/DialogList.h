@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTreeWidget>
+
+#include <cstdint>
+#include <span>
+
+// The list of a dialog: a few rows in columns, of which several can be selected. What the person wants done
+// comes out as a signal; the popup menu comes with the mouse-up of the right button and with its keys.
+class DialogList : public QTreeWidget {
+    Q_OBJECT
+
+  public:
+    explicit DialogList(int columns, QWidget* parent);
+
+    // The row that an action on one row is for: the current one where it is selected, else the first selected
+    // one; nullptr when none is selected.
+    QTreeWidgetItem* SelectedRow() const;
+
+    // Selects this row alone and shows it.
+    void SelectAndShow(QTreeWidgetItem* row);
+
+    // The others keep their order; the one behind the last removed becomes current, not selected.
+    void RemoveSelectedRows();
+
+    // Puts the rows into the order of these numbers, each row's own once. The same rows stay selected.
+    void Reorder(std::span<const std::uint32_t> rows);
+
+  signals:
+    void PopupWanted(const QPoint& position);
+    void EditWanted();
+    void RemoveWanted();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+  private:
+    QPoint PopupPosition() const;
+};

@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFileDialog>
+
+// Gives a file dialog its types of files from a text of the form "description|patterns|description|patterns",
+// several patterns separated by ";". The dialog shows the descriptions as they stand; "*.*" means every file.
+void SetFileTypes(QFileDialog& dialog, const QString& types);

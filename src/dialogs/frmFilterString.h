@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "filter/FilterDefinition.h"
+
+#include <QDialog>
+
+class FieldNote;
+class QLabel;
+class QLineEdit;
+
+// Edits one predefined string and its comment.
+class frmFilterString : public QDialog {
+    Q_OBJECT
+
+  public:
+    frmFilterString(Language language, const StringFilter& filter, QWidget* parent = nullptr);
+
+    // "OK" after OK with both texts filled; "CANCEL" after OK with an empty one, and after Cancel.
+    QString ResultText() const { return resultText_; }
+
+    // The texts as they stand in the boxes.
+    StringFilter Filter() const;
+
+    void accept() override;
+
+  private:
+    void LoadLanguage();
+    void ShowNote();
+
+    Language language_;
+    QLabel* lblString;
+    QLineEdit* tbString;
+    QLabel* lblComment;
+    QLineEdit* tbComment;
+    FieldNote* lblNote;
+    QString resultText_ = "CANCEL";
+};

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "dialogs/FilterDialogContext.h"
+#include "dialogs/FilterRows.h"
+
+#include <QDialog>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class DialogList;
+class FieldNote;
+class QLabel;
+class QPushButton;
+class QTimer;
+class QTreeWidgetItem;
+
+// Edits the active filter list. The rows are a working copy: the settings change with OK and Apply alone.
+class frmLogbookSettings : public QDialog {
+    Q_OBJECT
+
+  public:
+    // Shows the stored filters. `apply` filters the loaded logbook anew; it is called by Apply, when the
+    // filters are stored.
+    frmLogbookSettings(const FilterDialogContext& context, std::function<void()> apply,
+                       QWidget* parent = nullptr);
+
+    // "OK" or "CANCEL" once the dialog is closed. After "OK" the caller filters anew.
+    QString ResultText() const { return resultText_; }
+
+    // Stores the rows, the predefined strings and the folder of filter files. An empty list is stored as the
+    // default list.
+    void SaveFilter();
+
+    // Writes what SaveFilter would store of the filters to a filter file. False when the file was not
+    // written, which the person has then been told, or has decided.
+    bool SaveFilterInFile(const std::string& path);
+
+    // Reads a filter file into the rows. A file that is none, or that cannot be opened, is told and leaves
+    // the rows as they were; one that breaks off gives the rows up to there.
+    void GetFilterFromFile(const std::string& path);
+
+    void accept() override;
+    void reject() override;
+    void done(int result) override;
+
+  private:
+    enum class Command { None, Add, Edit };
+
+    void MakeControls();
+    void LoadLanguage();
+    void Start(Command command);
+    void RunCommand();
+    void AddFilter();
+    void EditFilter();
+    void RemoveFilters();
+    void WriteFilterToListItem(const FilterDefinition& filter, QTreeWidgetItem& row);
+    void Apply();
+    void Export();
+    void Import();
+    bool ConfirmEmptyList();
+    bool ConfirmLoss(const std::vector<FilterDefinition>& filters);
+    void ShowRows(const std::vector<FilterDefinition>& filters);
+    std::vector<FilterDefinition> Rows() const;
+    std::vector<FilterDefinition> FiltersToStore() const;
+    void ShowNote(const QString& aboutFile = {});
+
+    FilterDialogContext context_;
+    std::function<void()> apply_;
+    FilterRows rows_;
+    FilterLists lists_;
+    std::string initFilterDir_;
+    QLabel* lblFilter;
+    DialogList* lvFilter;
+    FieldNote* lblNote;
+    QPushButton* cmdExport;
+    QPushButton* cmdImport;
+    QPushButton* cmdApply;
+    QTimer* Timer1;
+    Command command_ = Command::None;
+    QString resultText_;
+};

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "filter/FilterDefinition.h"
+
+#include <QDialog>
+
+#include <cstdint>
+#include <vector>
+
+class DialogList;
+class QLabel;
+class Registry;
+
+// The list of predefined strings: the person edits it and picks one.
+class frmStringSettings : public QDialog {
+    Q_OBJECT
+
+  public:
+    // Shows the string filters that have a string. Each change of the rows makes `stringFilters` exactly
+    // them, in their order; it reaches the settings with the filter list, and is not taken back by Cancel.
+    frmStringSettings(Registry& registry, Language language, std::vector<StringFilter>& stringFilters,
+                      QWidget* parent = nullptr);
+
+    // The string of the row that was selected when OK was pressed; "" when there was none, and after Cancel.
+    QString ResultText() const { return resultText_; }
+
+    void accept() override;
+    void done(int result) override;
+
+  private:
+    void LoadLanguage();
+    void Add();
+    void Edit();
+    void Remove();
+    void SortByColumn(int column);
+    void RowsChanged();
+    std::vector<StringFilter> Rows() const;
+
+    Registry& registry_;
+    Language language_;
+    std::vector<StringFilter>& stringFilters_;
+    QLabel* lblFilterStrings;
+    DialogList* lvFilterStrings;
+    int lastSortColumn_ = 0;
+    bool descending_ = false;
+    QString resultText_;
+};
