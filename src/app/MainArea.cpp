@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainArea.h"
 
+#include "list/TagViewer.h"
 #include "list/Twips.h"
 
 #include <QMouseEvent>
@@ -8,12 +9,11 @@
 namespace {
 constexpr int TagViewerWidth = 300; // twips
 constexpr int ContentHeight = 2400; // twips, until it is dragged
-constexpr int HeaderHeight = 300;   // twips; the tag viewer begins below the column headers
 } // namespace
 
-MainArea::MainArea(QWidget* list, QWidget* tagViewer, QWidget* content, QWidget* parent)
+MainArea::MainArea(QWidget* list, TagViewer* tagViewer, QWidget* content, QWidget* parent)
     : QWidget(parent), list_(list), tagViewer_(tagViewer), content_(content) {
-    for (QWidget* child : {list, tagViewer, content}) {
+    for (QWidget* child : {list, static_cast<QWidget*>(tagViewer), content}) {
         child->setParent(this);
         // Otherwise they would show the sizing pointer of the gap.
         child->setCursor(Qt::ArrowCursor);
@@ -38,8 +38,7 @@ void MainArea::RecalculateLayout() {
     }
     if (listHeight > 0)
         list_->resize(list_->width(), listHeight);
-    tagViewer_->setGeometry(list_->width(), PixelsOf(HeaderHeight), tagViewer_->width(),
-                            std::max(0, list_->height() - PixelsOf(HeaderHeight)));
+    tagViewer_->ResizeTagViewer();
     emit LayoutChanged();
 }
 

@@ -5,6 +5,8 @@
 
 #include <optional>
 
+class TagViewer;
+
 // The inner area of the main window, between tool bar and status bar: the list, the tag viewer at its right
 // edge, and below them the content pane while it is shown. Between list and content pane lies a gap that can
 // be dragged. Only the list grows and shrinks with the window; the content pane keeps the height that it was
@@ -14,7 +16,7 @@ class MainArea : public QWidget {
 
   public:
     // Takes the three as its children. The content pane begins hidden.
-    MainArea(QWidget* list, QWidget* tagViewer, QWidget* content, QWidget* parent);
+    MainArea(QWidget* list, TagViewer* tagViewer, QWidget* content, QWidget* parent);
 
     // The gap between list and content pane, and the height that dragging leaves to the list. In twips.
     static constexpr int Gap = 80;
@@ -41,7 +43,7 @@ class MainArea : public QWidget {
     bool IsInGap(int y) const;
 
     QWidget* list_;
-    QWidget* tagViewer_;
+    TagViewer* tagViewer_;
     QWidget* content_;
     int SplitStartY = 0; // twips; 0 = no drag
 };

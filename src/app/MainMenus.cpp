@@ -41,13 +41,12 @@ const MenuRow Rows[] = {
     {"mnuViewBar0", {}, {}},
     {"mnuViewRefresh", TextId::mnuViewRefresh, Command::Refresh, Qt::Key_F5},
     {"mnuExtras", TextId::mnuExtras, {}},
-    {"mnuExtrasSearch", TextId::mnuExtrasSearch, Command::Find, Qt::CTRL | Qt::Key_F, MenuRow::Plain,
-     Disabled},
+    {"mnuExtrasSearch", TextId::mnuExtrasSearch, Command::Find, Qt::CTRL | Qt::Key_F},
     {"mnuExtrasFindNext", TextId::mnuExtrasFindNext, Command::FindNext, Qt::Key_F3, MenuRow::Plain, Disabled},
     {"mnuExtrasFindPrev", TextId::mnuExtrasFindPrev, Command::FindPrevious, Qt::SHIFT | Qt::Key_F3,
      MenuRow::Plain, Disabled},
     {"mnnuExtrasSep1", {}, {}},
-    {"mnuExtrasFilters", TextId::mnuExtrasFilters, Command::Filters, NoKey, MenuRow::Plain, Disabled},
+    {"mnuExtrasFilters", TextId::mnuExtrasFilters, Command::Filters},
     {"mnnuExtrasSep2", {}, {}},
     {"mnuExtrasDialogLanguage", TextId::mnuExtrasDialogLanguage, Command::DialogLanguage},
     {"mnuHelp", TextId::mnuHelp, {}},
@@ -60,7 +59,7 @@ const MenuRow Rows[] = {
     {"mnuPopupRemove", TextId::mnuPopupRemove, Command::RemoveFromList},
     {"mnuPopupProperties", TextId::mnuPopupProperties, Command::Properties},
     {"mnuPopupSep", {}, {}},
-    {"mnuPopupEditFilter", TextId::mnuPopupEditFilter, Command::EditFilters, NoKey, MenuRow::Plain, Disabled},
+    {"mnuPopupEditFilter", TextId::mnuPopupEditFilter, Command::EditFilters},
 };
 
 } // namespace

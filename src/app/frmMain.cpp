@@ -5,17 +5,22 @@
 #include "app/MainArea.h"
 #include "app/MainStatusBar.h"
 #include "app/MainToolBar.h"
+#include "app/WaitPointer.h"
 #include "app/WindowPlacement.h"
+#include "app/WindowSearch.h"
 #include "dialogs/frmLanguageDialog.h"
+#include "dialogs/frmLogbookSettings.h"
 #include "eventinfo/ProgramFolder.h"
 #include "filter/Filter.h"
 #include "filter/FilterFile.h"
 #include "filter/FilterStorage.h"
+#include "list/ContentText.h"
 #include "list/EntryActions.h"
 #include "list/LogbookModel.h"
 #include "list/LogbookView.h"
 #include "list/QtText.h"
 #include "list/RowsAsText.h"
+#include "list/TagViewer.h"
 #include "logbook/Mod_FileHandling.h"
 #include "sources/CommandLine.h"
 #include "sources/Comments.h"
@@ -34,17 +39,9 @@
 #include <QTimer>
 
 #include <optional>
+#include <utility>
 
 namespace {
-
-// The hourglass, for as long as this lives.
-class WaitPointer {
-  public:
-    WaitPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitPointer() { QApplication::restoreOverrideCursor(); }
-    WaitPointer(const WaitPointer&) = delete;
-    WaitPointer& operator=(const WaitPointer&) = delete;
-};
 
 QPlainTextEdit* MakeContentPane(QWidget* parent) {
     auto* pane = new QPlainTextEdit(parent);
@@ -67,24 +64,23 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFol
       tempFolder_(tempFolder),
       codePage_(std::move(codePage)),
       BaseCaption("Qorvix"),
-      state_{.InitZipArchiveDir =
-                 registry.ReadLogbookSettingString("InitZipArchiveDir", ProgramFolder() + '/')},
       ViewContents(registry.ReadLogbookSettingLong("MainViewContents", 0) == 1),
       model_(new LogbookModel(logbook.Entries, this)),
       lvLogbook(new LogbookView(this)),
-      pbTagViewer(new QWidget(this)),
+      pbTagViewer(new TagViewer(*lvLogbook, logbook.Entries, this)),
       txContent(MakeContentPane(this)),
       area_(new MainArea(lvLogbook, pbTagViewer, txContent, this)),
       tbToolBar(new MainToolBar(this)),
       sbStatusBar(new MainStatusBar(this)),
       menus_(*this, [this](Command command) { Run(command); }),
       progress_(this, sbStatusBar->Progress()),
-      user_(this, sbStatusBar->StatusText()) {
+      user_(this, sbStatusBar->StatusText()),
+      tmExtrasFilters(new QTimer(this)),
+      search_(new WindowSearch(*lvLogbook, logbook.Entries, user_, *this)) {
     setObjectName("frmMain");
     state_.InitZipArchiveDir = registry_.ReadLogbookSettingString("InitZipArchiveDir", ProgramFolder() + '/');
     setWindowTitle(BaseCaption);
     setContextMenuPolicy(Qt::PreventContextMenu);
-    pbTagViewer->setObjectName("pbTagViewer");
     addToolBar(Qt::TopToolBarArea, tbToolBar);
     connect(tbToolBar, &MainToolBar::ButtonClick, this, &frmMain::ToolBarButtonClick);
     for (const Command command : {Command::Open, Command::ZipLogbook, Command::Filters, Command::Refresh})
@@ -93,6 +89,11 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFol
     connect(area_, &MainArea::LayoutChanged, sbStatusBar, &MainStatusBar::HideProgressBar);
     setStatusBar(sbStatusBar);
     MakeList();
+    // The popup menu closes before the dialog opens.
+    tmExtrasFilters->setObjectName("tmExtrasFilters");
+    tmExtrasFilters->setSingleShot(true);
+    tmExtrasFilters->setInterval(200);
+    connect(tmExtrasFilters, &QTimer::timeout, this, [this] { Run(Command::Filters); });
     LoadPlacement(registry_, *this);
     LoadColumnWidths(registry_, *lvLogbook->horizontalHeader());
     LoadLanguage();
@@ -112,6 +113,26 @@ void frmMain::MakeList() {
     connect(
         lvLogbook, &LogbookView::FileDropped, this,
         [this](const QString& path) { OpenLogbook(path.toStdString()); }, Qt::QueuedConnection);
+    connect(lvLogbook, &LogbookView::RowClicked, this, [this] {
+        ItemClicked = true;
+        pbTagViewer->RefreshTagViewerDelayed();
+    });
+    connect(lvLogbook, &LogbookView::MouseUp, this, [this] {
+        if (std::exchange(ItemClicked, false))
+            ShowSelectedContent();
+    });
+    connect(lvLogbook, &LogbookView::KeyUp, this, [this] {
+        pbTagViewer->RefreshTagViewerDelayed();
+        ShowSelectedContent();
+    });
+    connect(search_, &WindowSearch::RowFound, this, [this](int row) {
+        RefreshContentText(row);
+        pbTagViewer->RefreshTagViewerDelayed();
+    });
+    // Rows that are read, filtered, sorted, taken out or highlighted.
+    connect(model_, &LogbookModel::modelReset, pbTagViewer, &TagViewer::RefreshTagViewerDelayed);
+    connect(model_, &LogbookModel::layoutChanged, pbTagViewer, &TagViewer::RefreshTagViewerDelayed);
+    connect(model_, &LogbookModel::dataChanged, pbTagViewer, &TagViewer::RefreshTagViewerDelayed);
     auto* copy = new QAction(lvLogbook);
     copy->setShortcut(QKeySequence::Copy);
     copy->setShortcutContext(Qt::WidgetShortcut);
@@ -123,6 +144,8 @@ void frmMain::LoadLanguage() {
     language_ = ReadLanguage(registry_);
     qtCatalogue_.SetLanguage(language_);
     user_.SetLanguage(language_);
+    filterTypeLabels_.SetLanguage(language_);
+    search_->SetLanguage(language_);
     menus_.LoadLanguage(language_);
     tbToolBar->LoadLanguage(language_);
     sbStatusBar->LoadLanguage(language_);
@@ -157,6 +180,23 @@ void frmMain::Run(Command command) {
     case Command::Refresh:
         Refresh();
         break;
+    case Command::Find:
+        search_->Find();
+        for (const Command again : {Command::FindNext, Command::FindPrevious})
+            menus_.Item(again).setEnabled(search_->HasText());
+        break;
+    case Command::FindNext:
+        search_->FindNext();
+        break;
+    case Command::FindPrevious:
+        search_->FindPrevious();
+        break;
+    case Command::Filters:
+        EditFilters();
+        break;
+    case Command::EditFilters:
+        tmExtrasFilters->start();
+        break;
     case Command::DialogLanguage:
         ChooseLanguage();
         break;
@@ -182,6 +222,18 @@ void frmMain::ToolBarButtonClick(const QString& key) {
 void frmMain::ShowContentPane(bool shown) {
     txContent->setVisible(shown);
     RecalculateLayout();
+}
+
+// The pane is filled even while it is hidden.
+void frmMain::RefreshContentText(int row) {
+    const EntryNumber number = model_->Rows()[static_cast<std::size_t>(row)].Entry;
+    txContent->setPlainText(
+        ToQString(ContentText(logbook_.Entries.Data(number), logbook_.Entries.Comment(number))));
+}
+
+void frmMain::ShowSelectedContent() {
+    if (const std::optional<int> row = lvLogbook->SelectedRow())
+        RefreshContentText(*row);
 }
 
 void frmMain::RecalculateLayout() { area_->RecalculateLayout(); }
@@ -382,8 +434,21 @@ void frmMain::CopySelectedRows() {
 void frmMain::ShowEntryProperties() {
     ShowEntryDialogs(
         lvLogbook->SelectedRanges(), logbook_, *model_, language_, this,
-        {.CommentChanged = [this](int) { state_.CommentsEdited = true; },
+        {.CommentChanged =
+             [this](int row) {
+                 state_.CommentsEdited = true;
+                 RefreshContentText(row);
+             },
          .StatusMessage = [this](const QString& text) { sbStatusBar->StatusText()->setText(text); }});
+}
+
+void frmMain::EditFilters() {
+    frmLogbookSettings dialog(
+        {registry_, codePage_, language_, filterTypeLabels_, NamesInLogbook(logbook_.Entries.Kinds())},
+        [this] { ApplyFilter(); }, this);
+    dialog.exec();
+    if (dialog.ResultText() == "OK")
+        ApplyFilter();
 }
 
 void frmMain::RemoveSelectedEntries() {

@@ -6,6 +6,7 @@
 #include "app/QtCatalogue.h"
 #include "app/WindowProgress.h"
 #include "app/WindowUser.h"
+#include "filter/FilterDefinition.h"
 #include "logbook/CodePage.h"
 #include "logbook/Logbook.h"
 #include "settings/Registry.h"
@@ -25,6 +26,9 @@ class MainArea;
 class MainStatusBar;
 class MainToolBar;
 class QPlainTextEdit;
+class QTimer;
+class TagViewer;
+class WindowSearch;
 
 // The program's only top-level window: every order of the person enters here. It shows one logbook as a list.
 class frmMain : public QMainWindow {
@@ -66,6 +70,9 @@ class frmMain : public QMainWindow {
     // Sorts the list by a column, counted from 0; the selected row stays in view.
     void SortByColumn(int column);
 
+    // Shows the data and the comment of a row, counted from 0, in the content pane.
+    void RefreshContentText(int row);
+
     void RecalculateLayout();
 
   protected:
@@ -89,8 +96,10 @@ class frmMain : public QMainWindow {
     void ChooseLanguage();
     void CopySelectedRows();
     void ShowEntryProperties();
+    void EditFilters();
     void RemoveSelectedEntries();
     void ToggleSelectedEntries();
+    void ShowSelectedContent();
     void AddNameToTitle(const std::string& name);
 
     Logbook& logbook_;
@@ -98,13 +107,14 @@ class frmMain : public QMainWindow {
     const TempFolder& tempFolder_;
     CodePage codePage_;
     Language language_;
+    FilterTypeLabels filterTypeLabels_;
     QtCatalogue qtCatalogue_;
     QString BaseCaption;
     LogbookState state_;
     bool ViewContents;
     LogbookModel* model_;
     LogbookView* lvLogbook;
-    QWidget* pbTagViewer;
+    TagViewer* pbTagViewer;
     QPlainTextEdit* txContent;
     MainArea* area_;
     MainToolBar* tbToolBar;
@@ -112,4 +122,7 @@ class frmMain : public QMainWindow {
     MainMenus menus_;
     WindowProgress progress_;
     WindowUser user_;
+    QTimer* tmExtrasFilters;
+    WindowSearch* search_;
+    bool ItemClicked = false; // a row was clicked, and the mouse button is not up yet
 };

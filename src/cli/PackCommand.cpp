@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PackCommand.h"
 
-#include "cli/ExportCommand.h"
+#include "cli/ExitStatus.h"
 #include "cli/ReadSource.h"
 #include "logbook/AsciiCase.h"
 #include "settings/Texts.h"

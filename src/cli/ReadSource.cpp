@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ReadSource.h"
 
-#include "cli/ExportCommand.h"
+#include "cli/ExitStatus.h"
 #include "cli/TerminalProgress.h"
 #include "filter/FilterFile.h"
 #include "logbook/Mod_FileHandling.h"

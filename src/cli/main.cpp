@@ -1,11 +1,71 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ExportCommand.h"
+#include "cli/FindCommand.h"
 #include "cli/LookupCommand.h"
 #include "cli/PackCommand.h"
+#include "logbook/UnicodeCase.h"
 
 #include <CLI/CLI.hpp>
 
 #include <iostream>
+
+namespace {
+
+// What the commands that print rows have in common.
+void AddListOptions(CLI::App& command, ListOptions& options) {
+    const CLI::Validator notEmpty(
+        [](const std::string& text) { return std::string(text.empty() ? "the name is empty" : ""); }, "", "");
+    command
+        .add_option("FILE", options.File,
+                    "The logbook, a service archive (*.zip), or an own archive (*.qorvix)")
+        ->required();
+    command.add_option("--format", options.Format, "jsonl (JSON Lines) or csv (RFC 4180)")
+        ->check(CLI::IsMember({"jsonl", "csv"}))
+        ->capture_default_str();
+    command.add_option("--output", options.Output, "Write to this file instead of standard output")
+        ->check(notEmpty);
+    command.add_flag("--raw", options.Raw,
+                     "CSV: leave text that a spreadsheet would take for a formula as it is");
+
+    CLI::Option* filters =
+        command.add_option("--filters", options.Filters, "Only what this filter file lets through")
+            ->check(notEmpty);
+    CLI::Option* storedFilters = command
+                                     .add_flag("--stored-filters", options.StoredFilters,
+                                               "Only what the program's own filters let through")
+                                     ->excludes(filters);
+    command
+        .add_flag("--use-archive-filters", options.ArchiveFilters,
+                  "Only what the filters in the program's own archive let through, if it has some")
+        ->excludes(filters)
+        ->excludes(storedFilters);
+    command
+        .add_option_function<std::string>(
+            "--language",
+            [&options](const std::string& code) {
+                options.MessageLanguage.Number = code == "de" ? Language::German : Language::English;
+            },
+            "Of messages: en or de")
+        ->check(CLI::IsMember({"en", "de"}));
+}
+
+void AddSearchOptions(CLI::App& command, SearchState& search) {
+    const CLI::Validator utf8(
+        [](const std::string& text) { return std::string(IsUtf8(text) ? "" : "the text is no UTF-8"); }, "",
+        "");
+    command
+        .add_option("TEXT", search.SearchText,
+                    "What to find in the event type, the data and the comment of a row")
+        ->required()
+        ->check(utf8);
+    command.add_flag_callback(
+        "--whole-word", [&search] { search.SearchWholeWord = 1; },
+        "Only whole words, as the program finds them");
+    command.add_flag_callback(
+        "--case-sensitive", [&search] { search.SearchCaseSensitive = 1; }, "The text exactly as it is");
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
@@ -14,44 +74,13 @@ int main(int argc, char** argv) {
     app.set_version_flag("--version", "qorvix-cli " QORVIX_VERSION);
     app.require_subcommand(1);
 
-    const CLI::Validator notEmpty(
-        [](const std::string& text) { return std::string(text.empty() ? "the name is empty" : ""); }, "", "");
-    ExportOptions exportOptions;
-    CLI::App* exportCommand = app.add_subcommand("export", "Print the list of a logbook, a row a line");
-    exportCommand
-        ->add_option("FILE", exportOptions.File,
-                     "The logbook, a service archive (*.zip), or an own archive (*.qorvix)")
-        ->required();
-    exportCommand->add_option("--format", exportOptions.Format, "jsonl (JSON Lines) or csv (RFC 4180)")
-        ->check(CLI::IsMember({"jsonl", "csv"}))
-        ->capture_default_str();
-    exportCommand
-        ->add_option("--output", exportOptions.Output, "Write to this file instead of standard output")
-        ->check(notEmpty);
-    exportCommand->add_flag("--raw", exportOptions.Raw,
-                            "CSV: leave text that a spreadsheet would take for a formula as it is");
-
-    CLI::Option* filters =
-        exportCommand
-            ->add_option("--filters", exportOptions.Filters, "Only what this filter file lets through")
-            ->check(notEmpty);
-    CLI::Option* storedFilters = exportCommand
-                                     ->add_flag("--stored-filters", exportOptions.StoredFilters,
-                                                "Only what the program's own filters let through")
-                                     ->excludes(filters);
-    exportCommand
-        ->add_flag("--use-archive-filters", exportOptions.ArchiveFilters,
-                   "Only what the filters in the program's own archive let through, if it has some")
-        ->excludes(filters)
-        ->excludes(storedFilters);
-    exportCommand
-        ->add_option_function<std::string>(
-            "--language",
-            [&](const std::string& code) {
-                exportOptions.MessageLanguage.Number = code == "de" ? Language::German : Language::English;
-            },
-            "Of messages: en or de")
-        ->check(CLI::IsMember({"en", "de"}));
+    ListOptions options;
+    AddListOptions(*app.add_subcommand("export", "Print the list of a logbook, a row a line"), options);
+    CLI::App* const find = app.add_subcommand(
+        "find", "Print the rows of the list that hold a text; the exit status is 1 when none does");
+    SearchState search;
+    AddListOptions(*find, options);
+    AddSearchOptions(*find, search);
 
     LookupOptions lookupOptions;
     const CLI::App* const lookupCommand = AddLookupCommand(app, lookupOptions);
@@ -65,5 +94,7 @@ int main(int argc, char** argv) {
     }
     if (packCommand->parsed())
         return RunPack(packOptions);
-    return lookupCommand->parsed() ? RunLookup(lookupOptions) : RunExport(exportOptions);
+    if (lookupCommand->parsed())
+        return RunLookup(lookupOptions);
+    return find->parsed() ? RunFind(options, search) : RunExport(options);
 }

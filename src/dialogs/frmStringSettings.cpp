@@ -5,8 +5,8 @@
 #include "dialogs/DialogColumns.h"
 #include "dialogs/DialogList.h"
 #include "dialogs/ListPopup.h"
-#include "dialogs/TextOrder.h"
 #include "dialogs/frmFilterString.h"
+#include "list/ListSorting.h"
 #include "list/QtText.h"
 #include "settings/Registry.h"
 
@@ -132,7 +132,7 @@ void frmStringSettings::SortByColumn(int column) {
     cells.reserve(static_cast<std::size_t>(lvFilterStrings->topLevelItemCount()));
     for (int row = 0; row < lvFilterStrings->topLevelItemCount(); ++row)
         cells.push_back(lvFilterStrings->topLevelItem(row)->text(column).toStdString());
-    lvFilterStrings->Reorder(TextOrder(cells, descending_));
+    lvFilterStrings->Reorder(SortedOrder(cells, SortRule::Text, descending_));
     lvFilterStrings->header()->setSortIndicatorShown(true);
     lvFilterStrings->header()->setSortIndicator(column,
                                                 descending_ ? Qt::DescendingOrder : Qt::AscendingOrder);

@@ -152,11 +152,11 @@ void LogbookView::keyReleaseEvent(QKeyEvent* event) {
 
 void LogbookView::mouseReleaseEvent(QMouseEvent* event) {
     QTableView::mouseReleaseEvent(event);
-    if (event->button() == Qt::RightButton) {
-        emit PopupWanted(event->globalPosition().toPoint());
-    } else if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid()) {
+    const bool right = event->button() == Qt::RightButton;
+    if ((right || event->button() == Qt::LeftButton) && indexAt(event->position().toPoint()).isValid())
         emit RowClicked();
-    }
+    if (right)
+        emit PopupWanted(event->globalPosition().toPoint());
     emit MouseUp();
 }
 

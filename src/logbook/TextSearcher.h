@@ -5,10 +5,15 @@
 #include <string>
 #include <string_view>
 
-// Finds a text, exactly as it is, in much larger ones: prepared once, at about the speed of memory.
+// Finds a text in much larger ones: prepared once, at about the speed of memory.
 class TextSearcher {
   public:
+    // Finds the text exactly as it is.
     explicit TextSearcher(std::string text);
+
+    // Finds the text and all that differ from it only in the bits that are set in `ignoredBits`, which has as
+    // many bytes as the text.
+    TextSearcher(std::string text, std::string_view ignoredBits);
 
     static constexpr std::size_t NotFound = std::string_view::npos;
 
@@ -19,7 +24,13 @@ class TextSearcher {
     const std::string& Text() const { return text_; }
 
   private:
-    std::string text_;
+    template <bool Exact>
+    std::size_t FindForm(std::string_view in, std::size_t from) const;
+    bool FitsAt(const char* place) const;
+
+    std::string text_; // with all ignored bits set
+    std::string ignoredBits_;
+    bool exact_ = true;
     // Places in the text of its two bytes that are likely to be the rarest: where both fit, the whole is
     // compared.
     std::size_t rare_ = 0;

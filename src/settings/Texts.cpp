@@ -218,6 +218,16 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::ReasonLabel, "Reason:", "Ursache:"},
     {TextId::FixLabel, "Fix:", "Behebung:"},
     {TextId::ReactionLabel, "Reaction:", "Reaktion:"},
+    // The find dialog; its Cancel is ButtonCancel
+    {TextId::SearchTitle, "Search", "Suchen"},
+    {TextId::lblSearchString, "Find &string:", "Suchen &nach:", Group::SearchDialog},
+    {TextId::checkboxWholeWord, "Match &whole words only", "Nur ganze &Wörter suchen", Group::SearchDialog},
+    {TextId::checkboxCaseSensitive, "&Case sensitive", "Groß-/&Kleinschreibung beachten",
+     Group::SearchDialog},
+    {TextId::frameDirection, "Direction", "Richtung"},
+    {TextId::obAscending, "&Up", "A&ufwärts", Group::SearchDialog},
+    {TextId::obDescending, "&Down", "A&bwärts", Group::SearchDialog},
+    {TextId::ButtonFind, "&Find", "&Suchen", Group::SearchDialog},
     // The language dialog
     {TextId::LanguageTitle, "Change Language", "Sprache auswählen"},
     {TextId::LanguageLabel, "&Dialog language:", "&Dialogsprache:", Group::LanguageDialog},

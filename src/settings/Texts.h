@@ -175,6 +175,15 @@ enum class TextId : std::uint16_t {
     ReasonLabel,
     FixLabel,
     ReactionLabel,
+    // The find dialog; its Cancel is ButtonCancel
+    SearchTitle,
+    lblSearchString,
+    checkboxWholeWord,
+    checkboxCaseSensitive,
+    frameDirection,
+    obAscending,
+    obDescending,
+    ButtonFind,
     // The language dialog
     LanguageTitle,
     LanguageLabel,
@@ -205,6 +214,7 @@ enum class AccessKeyGroup : std::uint8_t {
     HelpMenu,
     PopupMenu,
     EventEntryDialog,
+    SearchDialog,
     LanguageDialog,
     FilterListDialog,
     FilterPopupMenu, // of both lists of the filter dialogs

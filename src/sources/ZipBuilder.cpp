@@ -15,6 +15,8 @@ struct Discard {
 };
 using Archive = std::unique_ptr<zip_t, Discard>;
 
+// Of 1 to 9: half the time of the usual 6 on a logbook, for an archive that is a twelfth larger.
+constexpr zip_uint32_t DeflateLevel = 4;
 constexpr double ProgressStep = 0.01; // of the whole
 
 std::string ErrorOf(int code) {
@@ -41,7 +43,8 @@ std::string AddFile(zip_t* archive, const FileToPack& file) {
         zip_source_free(source);
         return zip_strerror(archive);
     }
-    if (zip_set_file_compression(archive, static_cast<zip_uint64_t>(index), ZIP_CM_DEFLATE, 0) != 0)
+    if (zip_set_file_compression(archive, static_cast<zip_uint64_t>(index), ZIP_CM_DEFLATE, DeflateLevel) !=
+        0)
         return zip_strerror(archive);
     return {};
 }

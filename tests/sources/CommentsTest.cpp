@@ -42,12 +42,16 @@ TEST_F(CommentsTest, FileHasALineForEachComment) {
     Entries.SetComment(0, "first");
     Entries.SetComment(12, "pump \"A\"");
     Entries.SetComment(99, "K\xC3\xBChlung");
+    Entries.SetComment(50, "ends with a blank ");
+    Entries.SetComment(51, " begins with one");
     Entries.SetComment(3, "removed");
     Entries.SetComment(3, "");
     EXPECT_EQ(Saved(), "[Comments]\r\n"
                        " 0 first\r\n"
                        " 12 \"pump \"\"A\"\"\"\r\n"
                        " 40 \"oil, filter\"\r\n"
+                       " 50 \"ends with a blank \"\r\n"
+                       " 51 \" begins with one\"\r\n"
                        " 99 K\xFChlung\r\n");
 }
 

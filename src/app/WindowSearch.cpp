@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "app/WindowSearch.h"
+
+#include "app/WaitPointer.h"
+#include "dialogs/frmSearchForString.h"
+#include "list/ListSearch.h"
+#include "list/LogbookModel.h"
+#include "list/LogbookView.h"
+#include "settings/Texts.h"
+#include "sources/UserInterface.h"
+
+#include <QScrollBar>
+
+#include <algorithm>
+
+WindowSearch::WindowSearch(LogbookView& list, const EntryTable& entries, UserInterface& user, QWidget& window)
+    : QObject(&window), list_(list), entries_(entries), user_(user), window_(window) {}
+
+void WindowSearch::Find() {
+    frmSearchForString dialog(search_, language_, &window_);
+    dialog.exec();
+    const std::optional<SearchState> search = dialog.Search();
+    if (!search)
+        return;
+    search_ = *search;
+    FindFromSelection(search_.SearchUp);
+}
+
+void WindowSearch::FindNext() {
+    if (HasText())
+        FindFromSelection(search_.SearchUp);
+}
+
+void WindowSearch::FindPrevious() {
+    if (HasText())
+        FindFromSelection(!search_.SearchUp);
+}
+
+void WindowSearch::FindFromSelection(bool up) {
+    const std::optional<int> selected = list_.SelectedRow();
+    {
+        const WaitPointer wait;
+        FoundRow = FindInList(entries_, list_.Logbook()->Rows(), selected ? *selected + 1 : 0, search_, up);
+    }
+    if (FoundRow < 0) {
+        user_.ShowMessage(Text(up ? TextId::BeginReached : TextId::EndReached, language_),
+                          UserInterface::MessageIcon::None);
+        return;
+    }
+    const int row = FoundRow - 1;
+    // The list scrolls to cells, and so also to their column; the person stays where the text is.
+    const int left = list_.horizontalScrollBar()->value();
+    list_.SelectRanges({{static_cast<std::size_t>(row), static_cast<std::size_t>(row)}}, row);
+    EnsureVisible(FoundRow, up);
+    list_.horizontalScrollBar()->setValue(left);
+    emit RowFound(row);
+}
+
+void WindowSearch::EnsureVisible(std::int32_t row, bool up) {
+    constexpr std::int32_t Context = 3;
+    const std::int32_t target =
+        up ? std::max(row - Context, 1) : std::min(row + Context, list_.model()->rowCount());
+    for (const std::int32_t shown : {target, row})
+        list_.scrollTo(list_.model()->index(shown - 1, 0));
+}

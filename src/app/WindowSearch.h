@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "list/RowMatches.h"
+#include "settings/Language.h"
+
+#include <QObject>
+
+#include <cstdint>
+
+class LogbookView;
+class QWidget;
+class UserInterface;
+
+// Find, find next and find previous in the logbook list. What was searched for last is kept as long as this
+// lives.
+//
+// A search begins beside the selected row and ends at the end of the list, which is then told. A hit is
+// selected alone and scrolled into view with three rows beyond it; without a hit the selection stays.
+class WindowSearch : public QObject {
+    Q_OBJECT
+
+  public:
+    // The list, the entries and the user outlive the search; the window owns the dialog.
+    WindowSearch(LogbookView& list, const EntryTable& entries, UserInterface& user, QWidget& window);
+
+    void SetLanguage(Language language) { language_ = language; }
+
+    // Asks what to find, and finds it.
+    void Find();
+
+    // Finds the same again, in the direction of the dialog or against it; nothing without a text.
+    void FindNext();
+    void FindPrevious();
+
+    // True when there is something to find again.
+    bool HasText() const { return !search_.SearchText.empty(); }
+
+    // Scrolls so that the third row beyond a row is seen, counted from 1 and upwards when `up` is set, and
+    // the row itself.
+    void EnsureVisible(std::int32_t row, bool up);
+
+  signals:
+    // A hit has been selected and is in view. Counted from 0.
+    void RowFound(int row);
+
+  private:
+    void FindFromSelection(bool up);
+
+    LogbookView& list_;
+    const EntryTable& entries_;
+    UserInterface& user_;
+    QWidget& window_;
+    Language language_;
+    SearchState search_;
+    std::int32_t FoundRow = -1; // of the last search, counted from 1; -1 = none
+};

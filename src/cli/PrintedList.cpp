@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "cli/PrintedList.h"
+
+#include "cli/ReadSource.h"
+#include "cli/RowWriter.h"
+#include "filter/Filter.h"
+#include "filter/FilterStorage.h"
+#include "logbook/AtomicFile.h"
+#include "logbook/modUtil.h"
+#include "settings/Registry.h"
+#include "settings/Texts.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+
+namespace {
+
+void WriteRows(const EntryTable& entries, const LogbookRows& rows, const ListOptions& options,
+               std::ostream& stream) {
+    const auto writer = MakeRowWriter(options.Format, options.Raw);
+    writer->WriteHeader(stream);
+    for (const LogbookRow& row : rows) {
+        writer->WriteRow(entries, row, stream);
+        if (!stream)
+            return;
+    }
+    stream.flush();
+}
+
+// A pipe or a device cannot be replaced by a file, so it is written to.
+bool IsDevice(const std::string& path) {
+    std::error_code ignored;
+    const auto status = std::filesystem::status(ToPath(path), ignored);
+    return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status) &&
+           !std::filesystem::is_directory(status);
+}
+
+// The filters that the options name; false when that failed, which has then been told.
+bool ChooseFilters(const ListOptions& options, const std::string& archiveFilters, const CodePage& codePage,
+                   std::vector<FilterDefinition>& filters) {
+    const std::string& file = archiveFilters.empty() ? options.Filters : archiveFilters;
+    if (!file.empty())
+        return ReadFilters(file, filters, options.MessageLanguage, codePage);
+    if (options.StoredFilters) {
+        const auto settings = MakeUserSettings();
+        filters = LoadFilters(Registry(*settings), options.MessageLanguage).Filters;
+    }
+    return true;
+}
+
+} // namespace
+
+bool ReadList(const ListOptions& options, SourceLogbook& logbook, LogbookRows& rows) {
+    using Answer = UserInterface::Answer;
+    const CodePage codePage = CodePage::OfUser();
+    const TempFolder tempFolder;
+    TerminalUser user(options.ArchiveFilters ? Answer::Yes : Answer::No);
+    std::vector<FilterDefinition> filters = DefaultFilters();
+    if (!ReadSource(options.File, logbook, tempFolder, user, options.MessageLanguage, codePage) ||
+        !ChooseFilters(options, logbook.Source.FilterFile, codePage, filters))
+        return false;
+    // Comments that cannot be read are told; the list is printed without them, as the window shows it.
+    if (!logbook.Source.CommentsFile.empty())
+        ReadComments(logbook.Source.CommentsFile, logbook, options.MessageLanguage, codePage);
+    if (ApplyFilters(logbook.Book.Entries, filters, rows))
+        return true;
+    Fail(std::string(Text(TextId::FilterFailed, options.MessageLanguage)));
+    return false;
+}
+
+int PrintRows(const ListOptions& options, const EntryTable& entries, const LogbookRows& rows) {
+    const auto text = [&](TextId id) { return std::string(Text(id, options.MessageLanguage)); };
+    if (options.Output.empty()) {
+        WriteRows(entries, rows, options, std::cout);
+        return std::cout ? ExitStatus::Done : Fail(text(TextId::ListNotWritten));
+    }
+    if (IsDevice(options.Output)) {
+        std::ofstream stream(ToPath(options.Output), std::ios::binary);
+        WriteRows(entries, rows, options, stream);
+        return stream ? ExitStatus::Done : Fail(options.Output + text(TextId::FileNotWritten));
+    }
+    AtomicFile file(options.Output);
+    WriteRows(entries, rows, options, file.Stream());
+    if (const std::error_code error = file.Commit())
+        return Fail(options.Output + ": " + error.message());
+    return ExitStatus::Done;
+}

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "list/RowMatches.h"
+#include "settings/Language.h"
+
+#include <QDialog>
+
+#include <optional>
+
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+// Asks what to search the list for. All of the text is selected whenever its box gets the focus.
+class frmSearchForString : public QDialog {
+    Q_OBJECT
+
+  public:
+    // Shows the search that was made last.
+    frmSearchForString(const SearchState& last, Language language, QWidget* parent = nullptr);
+
+    // The search to make, after Find; nothing after Cancel.
+    std::optional<SearchState> Search() const;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void NameControls();
+    void LayControlsOut();
+    void LoadLanguage(Language language);
+    void ShowSearch(const SearchState& search);
+
+    QLabel* lblSearchString;
+    QLineEdit* tbSearchString;
+    QCheckBox* checkboxWholeWord;
+    QCheckBox* checkboxCaseSensitive;
+    QGroupBox* frameDirection;
+    QRadioButton* obAscending;
+    QRadioButton* obDescending;
+    QPushButton* cmdOK;
+    QPushButton* cmdCancel;
+};

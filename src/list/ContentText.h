@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// What the content pane shows of a row, from its data and comment cells: the lines of the data, then the
+// lines of the comment, each line but the last ended by CR LF. In a cell the lines stand on one line,
+// separated by " | ".
+std::string ContentText(std::string_view data, std::string_view comment);

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#include "list/ContentText.h"
+
+#include <gtest/gtest.h>
+
+TEST(ContentText, DataWithoutSeparatorIsOneLineAndThenTheComment) {
+    EXPECT_EQ(ContentText("axis X", "seen"), "axis X\r\nseen");
+    EXPECT_EQ(ContentText("axis X", ""), "axis X\r\n");
+    EXPECT_EQ(ContentText("", ""), "\r\n");
+}
+
+TEST(ContentText, SeparatorsAreLineEnds) {
+    EXPECT_EQ(ContentText("a | b | c", "d | e"), "a\r\nb\r\nc\r\nd\r\ne");
+    EXPECT_EQ(ContentText(" | ", " | "), "\r\n\r\n\r\n");
+    EXPECT_EQ(ContentText("a | | b", ""), "a\r\n| b\r\n");
+    EXPECT_EQ(ContentText("a|b |c| d", ""), "a|b |c| d\r\n");
+}
