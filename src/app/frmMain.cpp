@@ -2,18 +2,21 @@
 #include "app/frmMain.h"
 
 #include "app/EntryProperties.h"
+#include "app/LibraryVersions.h"
 #include "app/MainArea.h"
 #include "app/MainStatusBar.h"
 #include "app/MainToolBar.h"
 #include "app/WaitPointer.h"
 #include "app/WindowPlacement.h"
 #include "app/WindowSearch.h"
+#include "dialogs/frmAbout.h"
 #include "dialogs/frmLanguageDialog.h"
 #include "dialogs/frmLogbookSettings.h"
 #include "eventinfo/ProgramFolder.h"
 #include "filter/Filter.h"
 #include "filter/FilterFile.h"
 #include "filter/FilterStorage.h"
+#include "helpbook/HelpFile.h"
 #include "list/ContentText.h"
 #include "list/EntryActions.h"
 #include "list/LogbookModel.h"
@@ -146,6 +149,7 @@ void frmMain::LoadLanguage() {
     user_.SetLanguage(language_);
     filterTypeLabels_.SetLanguage(language_);
     search_->SetLanguage(language_);
+    help_.CloseAll();
     menus_.LoadLanguage(language_);
     tbToolBar->LoadLanguage(language_);
     sbStatusBar->LoadLanguage(language_);
@@ -194,6 +198,15 @@ void frmMain::Run(Command command) {
     case Command::Filters:
         EditFilters();
         break;
+    case Command::HelpContents:
+        ShowHelp(help_.DisplayToc(HelpFile(ProgramFolder(), language_), language_));
+        break;
+    case Command::HelpSearch:
+        ShowHelp(help_.DisplaySearch(HelpFile(ProgramFolder(), language_), language_));
+        break;
+    case Command::About:
+        frmAbout(language_, QApplication::applicationVersion().toStdString(), LibraryVersions(), this).exec();
+        break;
     case Command::EditFilters:
         tmExtrasFilters->start();
         break;
@@ -209,9 +222,13 @@ void frmMain::Run(Command command) {
     case Command::Properties:
         ShowEntryProperties();
         break;
-    default:
-        break;
     }
+}
+
+// Tells when there was no help to show.
+void frmMain::ShowHelp(bool shown) {
+    if (!shown)
+        user_.ShowMessage(Text(TextId::NoHelpFile, language_), UserInterface::MessageIcon::Exclamation);
 }
 
 void frmMain::ToolBarButtonClick(const QString& key) {

@@ -6,6 +6,7 @@
 #include "app/QtCatalogue.h"
 #include "app/WindowProgress.h"
 #include "app/WindowUser.h"
+#include "dialogs/HTMLHelp.h"
 #include "filter/FilterDefinition.h"
 #include "logbook/CodePage.h"
 #include "logbook/Logbook.h"
@@ -100,6 +101,7 @@ class frmMain : public QMainWindow {
     void RemoveSelectedEntries();
     void ToggleSelectedEntries();
     void ShowSelectedContent();
+    void ShowHelp(bool shown);
     void AddNameToTitle(const std::string& name);
 
     Logbook& logbook_;
@@ -124,5 +126,6 @@ class frmMain : public QMainWindow {
     WindowUser user_;
     QTimer* tmExtrasFilters;
     WindowSearch* search_;
+    HtmlHelp help_{this};
     bool ItemClicked = false; // a row was clicked, and the mouse button is not up yet
 };

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "list/RowIcons.h"
 
-#include <algorithm>
-
 RowIcons::RowIcons() {
     // The linker drops a static library's resources unless somebody asks for them.
     Q_INIT_RESOURCE(rowicons);
-    std::transform(RowIconPaths.begin(), RowIconPaths.end(), icons_.begin(),
-                   [](const char* path) { return QIcon(path); });
+    for (std::size_t i = 0; i < RowIconPaths.size(); ++i) {
+        icons_[i].addFile(RowIconPaths[i]);
+        // Without a picture of their own, selected rows would get one in shades of the selection.
+        icons_[i].addFile(RowIconPaths[i], {}, QIcon::Selected);
+    }
 }
 
 QIcon RowIcons::Icon(int image) const {

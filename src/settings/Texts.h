@@ -184,6 +184,28 @@ enum class TextId : std::uint16_t {
     obAscending,
     obDescending,
     ButtonFind,
+    // The help window
+    HelpTitle,
+    HelpContentsTab,
+    HelpSearchTab,
+    HelpBack,
+    HelpForward,
+    HelpLargerText,
+    HelpSmallerText,
+    HelpSearchLabel,
+    HelpSearchButton,
+    HelpHits,
+    HelpPagesFound,
+    HelpNothingFound,
+    HelpPage,
+    HelpPageUnreadable,
+    // The about box
+    AboutTitle,
+    AboutDesignation,
+    AboutVersion,
+    AboutLicence,
+    AboutLibraries,
+    AboutLicenceText,
     // The language dialog
     LanguageTitle,
     LanguageLabel,
@@ -221,6 +243,7 @@ enum class AccessKeyGroup : std::uint8_t {
     FilterDefinitionDialog,
     StringListDialog,
     StringDialog,
+    HelpWindow,
 };
 
 struct TextRow {

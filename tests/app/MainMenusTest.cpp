@@ -5,6 +5,7 @@
 #include "list/QtText.h"
 
 #include <QMenuBar>
+#include <QPushButton>
 #include <QToolButton>
 
 #include <set>
@@ -134,6 +135,69 @@ class MainMenusTest : public MainWindowTest {
                                         }),
                           Qt::LeftButton);
         QCOMPARE(Counts(), QString("1 / 1 Items"));
+    }
+
+    void EveryItemIsJoined() {
+        QStringList disabled;
+        for (const QAction* item : Window->findChildren<QAction*>())
+            if (item->objectName().startsWith("mnu") && !item->isEnabled())
+                disabled << item->objectName();
+        QCOMPARE(disabled, QStringList({"mnuExtrasFindNext", "mnuExtrasFindPrev"}));
+        for (const QAction* button : Find<MainToolBar>("tbToolBar")->actions())
+            QVERIFY(button->isEnabled());
+    }
+
+    void FiltersAreEditedFromMenuButtonAndPopup() {
+        Window->OpenLogbook(FileOfErrors(3));
+        int shown = 0;
+        const auto answer = [&](const char* button) {
+            QTimer::singleShot(0, Person.get(), [&, button] {
+                QWidget* const dialog = QApplication::activeModalWidget();
+                QCOMPARE(dialog->objectName(), QString("frmLogbookSettings"));
+                ++shown;
+                QTest::mouseClick(dialog->findChild<QPushButton*>(button), Qt::LeftButton);
+            });
+        };
+        answer("cmdCancel");
+        Item("mnuExtrasFilters")->trigger();
+        answer("cmdOK");
+        Window->ToolBarButtonClick("Filter");
+        QCOMPARE(shown, 2);
+
+        // From the popup menu only after it has closed.
+        Item("mnuPopupEditFilter")->trigger();
+        auto* const timer = Find<QTimer>("tmExtrasFilters");
+        QVERIFY(timer->isActive() && timer->isSingleShot());
+        QCOMPARE(timer->interval(), 200);
+        QVERIFY(QApplication::activeModalWidget() == nullptr);
+        QTimer::singleShot(timer->remainingTime() + 1, Person.get(), [&] { answer("cmdCancel"); });
+        QTRY_COMPARE(shown, 3);
+        QVERIFY(!timer->isActive());
+    }
+
+    void MissingHelpIsTold() {
+        AnswerMessages(2);
+        Item("mnuHelpContents")->trigger();
+        Item("mnuHelpSearch")->trigger();
+        QCOMPARE(MessageTexts, QStringList(2, "This application has no help file."));
+        WriteLanguage(*Settings, {1});
+        OpenWindow();
+        AnswerMessages(1);
+        Press(Qt::Key_F1);
+        QCOMPARE(MessageTexts,
+                 QStringList({"Hilfeinhalt konnte nicht angezeigt werden. Dieser Anwendung ist keine "
+                              "Hilfedatei zugeordnet."}));
+    }
+
+    void AboutBoxIsShown() {
+        QString designation;
+        QTimer::singleShot(0, Person.get(), [&] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            designation = dialog->objectName();
+            dialog->close();
+        });
+        Item("mnuHelpAbout")->trigger();
+        QCOMPARE(designation, QString("frmAbout"));
     }
 
     void ExitClosesTheWindow() {

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "dialogs/frmAbout.h"
+
+#include <vector>
+
+// The libraries that the program runs with, in the order of the about box; versions as the running libraries
+// tell them.
+std::vector<LibraryVersion> LibraryVersions();

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+// The help on Windows: calls of the system's viewer.
+#include "dialogs/HTMLHelp.h"
+
+#include <QWidget>
+
+#include <windows.h>
+
+#include <htmlhelp.h>
+
+struct HtmlHelp::Window {};
+
+HtmlHelp::HtmlHelp(QWidget* owner) : owner_(owner) {}
+HtmlHelp::~HtmlHelp() { CloseAll(); }
+
+bool HtmlHelp::DisplayToc(const std::filesystem::path& file, Language language) {
+    return Display(file, language, Page::Contents);
+}
+
+bool HtmlHelp::DisplaySearch(const std::filesystem::path& file, Language language) {
+    return Display(file, language, Page::Search);
+}
+
+void HtmlHelp::CloseAll() { HtmlHelpA(nullptr, "", HH_CLOSE_ALL, 0); }
+
+bool HtmlHelp::Display(const std::filesystem::path& file, Language, Page page) {
+    const auto window = reinterpret_cast<HWND>(owner_->winId());
+    if (page == Page::Contents)
+        return HtmlHelpA(window, file.string().c_str(), HH_DISPLAY_TOC, 0) != nullptr;
+    HH_FTS_QUERYA query{};
+    query.cbStruct = sizeof query;
+    query.fUniCodeStrings = FALSE;
+    query.pszSearchQuery = "";
+    query.iProximity = 0;
+    query.fStemmedSearch = FALSE;
+    query.fTitleOnly = FALSE;
+    query.fExecute = FALSE;
+    query.pszWindow = "";
+    return HtmlHelpA(window, file.string().c_str(), HH_DISPLAY_SEARCH, reinterpret_cast<DWORD_PTR>(&query)) !=
+           nullptr;
+}

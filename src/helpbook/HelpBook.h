@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "helpbook/ChmFile.h"
+#include "helpbook/HelpContents.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// A help file that has been read.
+struct HelpBook {
+    std::string Title;
+    std::string FirstPage; // the page to begin with; it is there
+    std::vector<HelpTopic> Contents;
+    HelpMembers Members;
+};
+
+// Reads a help file. Nothing when it is missing, damaged, or without contents or pages.
+std::optional<HelpBook> OpenHelpBook(const std::filesystem::path& file);
+
+// The same over members that have been read.
+std::optional<HelpBook> MakeHelpBook(HelpMembers members);
+
+// The bytes of a member, nothing when it is missing or could not be read.
+std::optional<std::string_view> MemberOf(const HelpBook& book, std::string_view path);
+
+// The paths of all pages in the order of the contents, each once, and behind them the pages that the contents
+// do not name.
+std::vector<std::string> PagesOf(const HelpBook& book);
+
+// What the contents call a page, or else the page itself.
+std::string TitleOf(const HelpBook& book, std::string_view page);

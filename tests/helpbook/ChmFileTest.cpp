@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "helpbook/ChmFile.h"
+
+#include "helpbook/HelpBook.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace {
+
+const std::filesystem::path EnglishHelp = QORVIX_PROGRAM_FOLDER "/language/en/Qorvix.chm";
+const std::filesystem::path SourceFolder = QORVIX_SOURCE_FOLDER "/help";
+
+// Opens and walks through the whole book, whatever is in it.
+void ReadAll(const std::string& file) {
+    const std::optional<HelpBook> book = OpenHelpBook(file);
+    if (!book)
+        return;
+    EXPECT_TRUE(MemberOf(*book, book->FirstPage));
+    for (const std::string& page : PagesOf(*book))
+        EXPECT_FALSE(TitleOf(*book, page).empty());
+}
+
+} // namespace
+
+TEST(ChmFile, HoldsEverythingAsItWasCompiled) {
+    for (const std::string code : {"en", "de"}) {
+        const auto members = ReadChmFile(QORVIX_PROGRAM_FOLDER "/language/" + code + "/Qorvix.chm");
+        ASSERT_TRUE(members);
+        int pages = 0;
+        for (const auto& item : std::filesystem::recursive_directory_iterator(SourceFolder / code)) {
+            const std::string name = '/' + item.path().lexically_relative(SourceFolder / code).string();
+            if (!item.is_regular_file() || name.starts_with("/Qorvix."))
+                continue;
+            ASSERT_TRUE(members->contains(name)) << name;
+            EXPECT_EQ(members->at(name), FileContent(item.path())) << name;
+            ++pages;
+        }
+        EXPECT_GT(pages, 20);
+    }
+}
+
+TEST(ChmFile, MissingFileIsNone) {
+    const TemporaryFolder folder;
+    EXPECT_FALSE(ReadChmFile(folder / "Qorvix.chm"));
+    EXPECT_FALSE(ReadChmFile(folder.Path()));
+    EXPECT_FALSE(ReadChmFile(""));
+}
+
+TEST(ChmFile, FileOfAnotherKindIsNone) {
+    const TemporaryFolder folder;
+    EXPECT_FALSE(ReadChmFile(folder.Write("empty.chm", "")));
+    EXPECT_FALSE(ReadChmFile(folder.Write("text.chm", "This is no help file.")));
+    EXPECT_FALSE(ReadChmFile(folder.Write("head.chm", "ITSF")));
+    EXPECT_FALSE(ReadChmFile(folder.Write("zeros.chm", std::string(10'000, '\0'))));
+}
+
+TEST(ChmFile, TruncatedFileNeverHarms) {
+    const TemporaryFolder folder;
+    const std::string whole = FileContent(EnglishHelp);
+    ASSERT_GT(whole.size(), 10'000U);
+    for (std::size_t size = 0; size < whole.size(); size += whole.size() / 60)
+        ReadAll(folder.Write("cut.chm", whole.substr(0, size)));
+    EXPECT_FALSE(OpenHelpBook(folder.Write("half.chm", whole.substr(0, 2'000))));
+}
+
+TEST(ChmFile, RandomBytesNeverHarm) {
+    const TemporaryFolder folder;
+    std::mt19937 random(20100104);
+    for (int i = 0; i < 40; ++i) {
+        std::string bytes = "ITSF";
+        for (auto n = random() % 5'000; n > 0; --n)
+            bytes += static_cast<char>(random());
+        ReadAll(folder.Write("random.chm", bytes));
+    }
+}
+
+TEST(ChmFile, DamagedBytesNeverHarm) {
+    const TemporaryFolder folder;
+    const std::string whole = FileContent(EnglishHelp);
+    std::mt19937 random(975);
+    for (int i = 0; i < 150; ++i) {
+        std::string bytes = whole;
+        for (auto n = 1 + random() % 20; n > 0; --n)
+            bytes[random() % std::min<std::size_t>(bytes.size(), i % 2 == 0 ? 10'000 : bytes.size())] =
+                static_cast<char>(random() % 4 == 0 ? 0xFF : random());
+        ReadAll(folder.Write("damaged.chm", bytes));
+    }
+}
+
+// A window of no size makes libchm divide by zero; one that is too large, write beyond its memory.
+TEST(ChmFile, DamagedControlDataIsNone) {
+    const TemporaryFolder folder;
+    const std::string whole = FileContent(EnglishHelp);
+    const std::size_t control = whole.find("LZXC");
+    ASSERT_NE(control, std::string::npos);
+    for (const std::size_t place : {control + 8, control + 12, control + 16})
+        for (const char byte : {'\0', '\1', '\x7F', '\xFF'})
+            for (std::size_t i = 0; i < 4; ++i) {
+                std::string bytes = whole;
+                bytes[place + i] = byte;
+                ReadAll(folder.Write("control.chm", bytes));
+            }
+    std::string bytes = whole;
+    bytes.replace(control + 8, 12, 12, '\0');
+    EXPECT_FALSE(OpenHelpBook(folder.Write("control.chm", bytes)));
+}
