@@ -2,28 +2,10 @@
 #include "helpbook/HelpSearch.h"
 
 #include "helpbook/HtmlText.h"
-
-#include <utf8proc.h>
+#include "logbook/CaseFolding.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <memory>
 #include <sstream>
-
-namespace {
-
-std::string FoldCase(std::string_view text) {
-    utf8proc_uint8_t* folded = nullptr;
-    const utf8proc_ssize_t length = utf8proc_map(
-        reinterpret_cast<const utf8proc_uint8_t*>(text.data()), static_cast<utf8proc_ssize_t>(text.size()),
-        &folded, static_cast<utf8proc_option_t>(UTF8PROC_STABLE | UTF8PROC_COMPOSE | UTF8PROC_CASEFOLD));
-    const std::unique_ptr<utf8proc_uint8_t, decltype(&std::free)> owner(folded, &std::free);
-    if (length < 0)
-        return std::string(text);
-    return {reinterpret_cast<const char*>(folded), static_cast<std::size_t>(length)};
-}
-
-} // namespace
 
 std::vector<HelpHit> SearchHelp(const HelpBook& book, std::string_view words) {
     std::vector<std::string> wanted;

@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: MIT
+// Opening, reading, filtering and saving the logbook; the window around it is in frmMain.cpp.
+#include "app/MainStatusBar.h"
+#include "app/MainToolBar.h"
+#include "app/WaitPointer.h"
+#include "app/frmMain.h"
+#include "eventinfo/ProgramFolder.h"
+#include "filter/Filter.h"
+#include "filter/FilterFile.h"
+#include "filter/FilterStorage.h"
+#include "list/LogbookModel.h"
+#include "list/LogbookView.h"
+#include "list/QtText.h"
+#include "logbook/Mod_FileHandling.h"
+#include "sources/CommandLine.h"
+#include "sources/Comments.h"
+#include "sources/LogbookSource.h"
+#include "sources/ZipLogbook.h"
+
+#include <QPlainTextEdit>
+
+#include <optional>
+
+void frmMain::RunCommandLine(const std::vector<std::string>& arguments) {
+    const CommandLine commandLine = ParseCommandLine(JoinArguments(arguments), IsSlashFile);
+    for (const std::string& source : commandLine.Sources) {
+        std::string name = source;
+        if (!progress_.StopWanted() && ExecuteLogbook(name))
+            AddNameToTitle(name);
+    }
+    if (commandLine.ShowUsage && !progress_.StopWanted())
+        user_.ShowMessage(UsageText(language_), UserInterface::MessageIcon::None);
+}
+
+bool frmMain::OpenLogbook(std::string name) {
+    if (logbook_.Busy)
+        return false;
+    const OpeningSteps steps{
+        .ZipLogbook = [this] { return ZipLogbook(); },
+        .ExecuteLogbook = [this](std::string& source) { return ExecuteLogbook(source); }};
+    if (!::OpenLogbook(name, state_, registry_, user_, ProgramFolder() + '/', steps))
+        return false;
+    AddNameToTitle(name);
+    return true;
+}
+
+CommentsOutcome frmMain::AskToSaveComments() {
+    return ::AskToSaveComments(state_, user_, [this] { return ZipLogbook(); });
+}
+
+bool frmMain::ZipLogbook() {
+    const FilterLists lists = LoadFilters(registry_, language_);
+    const ZipLogbookParts parts{logbook_.Entries, lists.Filters, codePage_, tempFolder_, registry_};
+    sbStatusBar->ShowProgressBar();
+    const ZipOutcome outcome = ::ZipLogbook(state_, parts, user_, language_,
+                                            [this](double percent) { progress_.PaintValue(percent); });
+    sbStatusBar->HideProgressBar();
+    return outcome == ZipOutcome::Saved;
+}
+
+// Opens one source; the name becomes that of the logbook.
+bool frmMain::ExecuteLogbook(std::string& name) {
+    const std::optional<LogbookSource> source = ResolveSource(name, tempFolder_, user_, language_);
+    if (!source)
+        return false;
+    if (!source->FilterFile.empty())
+        ReplaceFilters(source->FilterFile);
+    name = source->Name;
+    const bool read = ReadAndShowLogbook(source->LogbookFile, source->CommentsFile);
+    state_.CurrentLogbookFile = read ? source->LogbookFile : "";
+    return read;
+}
+
+// The filters of an archive become the active ones. A damaged filter file is told, and the active ones stay.
+void frmMain::ReplaceFilters(const std::string& filterFile) {
+    FilterFileContent content = ImportFilterFile(filterFile, codePage_);
+    if (content.Result != FilterFileContent::Outcome::Read) {
+        user_.ShowMessage(FilterFileMessage(filterFile, content, language_),
+                          UserInterface::MessageIcon::Exclamation);
+        return;
+    }
+    FilterLists lists = LoadFilters(registry_, language_);
+    lists.Filters = std::move(content.Filters);
+    SaveFilters(registry_, lists, registry_.ReadFilterSettingString("InitFilterDir", ""));
+}
+
+void frmMain::Refresh() {
+    tbToolBar->repaint();
+    // The comments go with this, so that they are asked about as they are before another logbook.
+    const CommentsOutcome outcome = AskToSaveComments();
+    if (outcome != CommentsOutcome::NotSaved && outcome != CommentsOutcome::Stay)
+        ReadAndShowLogbook(state_.CurrentLogbookFile, "");
+}
+
+bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& commentsFile) {
+    if (logbook_.Busy)
+        return false;
+    logbook_.Busy = true;
+    state_.CommentsEdited = false;
+    std::error_code noFile;
+    state_.CurrentFileStamp = StampOf(file, noFile);
+    model_->ClearRows();
+    lvLogbook->ShowSortIndicator();
+    txContent->clear();
+    sbStatusBar->ClearCounts();
+    sbStatusBar->ShowProgressBar();
+    {
+        const WaitPointer wait;
+        user_.ShowStatus(TextId::StatusReading);
+        std::string title;
+        const bool read = ReadLogbook(file, logbook_, title, progress_, codePage_);
+        user_.RestoreStatus();
+        if (read && !commentsFile.empty())
+            ReadComments(commentsFile);
+        if (read && !FillList())
+            user_.ShowMessage(Text(TextId::FilterFailed, language_), UserInterface::MessageIcon::Exclamation);
+    }
+    sbStatusBar->HideProgressBar();
+    ShowLogbookStatus();
+    logbook_.Busy = false;
+    if (progress_.StopWanted()) {
+        // The window was closed while it was reading.
+        close();
+        return false;
+    }
+    if (logbook_.LoadState == LoadStates::Done)
+        return true;
+    ShowLogbookError(logbook_.LoadState);
+    return false;
+}
+
+void frmMain::ReadComments(const std::string& commentsFile) {
+    user_.ShowStatus(TextId::StatusCommenting);
+    const CommentsFileResult result = CommentLogbook(commentsFile, logbook_.Entries, codePage_);
+    user_.RestoreStatus();
+    if (result.Result != CommentsFileResult::Outcome::Read)
+        user_.ShowMessage(CommentsFileMessage(commentsFile, result, language_),
+                          UserInterface::MessageIcon::None);
+}
+
+void frmMain::ApplyFilter() {
+    if (logbook_.Busy)
+        return;
+    sbStatusBar->ShowProgressBar();
+    bool filled = false;
+    {
+        const WaitPointer wait;
+        filled = FillList();
+    }
+    sbStatusBar->HideProgressBar();
+    if (!filled)
+        user_.ShowMessage(Text(TextId::FilterFailed, language_), UserInterface::MessageIcon::Exclamation);
+    ShowLogbookStatus();
+}
+
+// Makes the rows anew from the stored filters. False when that failed; the rows made until then are shown.
+bool frmMain::FillList() {
+    user_.ShowStatus(TextId::StatusFiltering);
+    const std::optional<int> selected = lvLogbook->SelectedRow();
+    const EntryNumber before =
+        selected ? model_->Rows()[static_cast<std::size_t>(*selected)].Entry : MostEntries;
+
+    logbook_.LoadState = LoadStates::Filtering;
+    LogbookRows rows;
+    const FilterLists lists = LoadFilters(registry_, language_);
+    const bool filled = ApplyFilters(logbook_.Entries, lists.Filters, rows,
+                                     [this](double percent) { progress_.PaintValue(percent); });
+    model_->SetRows(std::move(rows));
+    lvLogbook->ShowSortIndicator();
+    if (filled) {
+        logbook_.LoadState = LoadStates::Done;
+        if (selected)
+            if (const std::optional<std::size_t> row = RowForEntry(model_->Rows(), before))
+                lvLogbook->SelectAndShow(static_cast<int>(*row));
+    }
+    user_.RestoreStatus();
+    return filled;
+}
+
+void frmMain::ShowLogbookStatus() {
+    sbStatusBar->ShowLogbookStatus(model_->rowCount(), logbook_.EntryCount, language_);
+}
+
+void frmMain::ShowLogbookError(std::int16_t code) {
+    struct Row {
+        std::int16_t Code;
+        TextId Message;
+        UserInterface::MessageIcon Icon;
+    };
+    static constexpr Row Messages[] = {
+        {LoadStates::Corrupt, TextId::LogbookCorrupt, UserInterface::MessageIcon::Exclamation},
+        {LoadStates::Opening, TextId::OpenFailed, UserInterface::MessageIcon::None},
+        {LoadStates::Reading, TextId::ReadFailed, UserInterface::MessageIcon::None},
+        {LoadStates::Filtering, TextId::FilterError, UserInterface::MessageIcon::None},
+    };
+    for (const Row& row : Messages)
+        if (row.Code == code)
+            user_.ShowMessage(Text(row.Message, language_), row.Icon);
+}
+
+void frmMain::AddNameToTitle(const std::string& name) {
+    setWindowTitle(ToQString(name) + " - " + BaseCaption);
+}
