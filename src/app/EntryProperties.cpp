@@ -36,15 +36,16 @@ void ShowEntryDialogs(const RowRanges& rows, Logbook& logbook, LogbookModel& mod
         parent);
     for (const RowRange& range : rows) {
         for (std::size_t row = range.First; row <= range.Last; ++row) {
+            const EntryNumber entry = model.Rows()[row].Entry;
             dialog.ShowEntry(IdentOf(model, static_cast<int>(row)));
             if (dialog.WasClosed())
                 return;
             const QString& comment = dialog.Comment();
             if (comment.isEmpty())
                 continue;
-            logbook.Entries.SetComment(model.Rows()[row].Entry, comment == frmLogbookIdent::ClearMark
-                                                                    ? std::string()
-                                                                    : OnOneLine(comment).toStdString());
+            logbook.Entries.SetComment(entry, comment == frmLogbookIdent::ClearMark
+                                                  ? std::string()
+                                                  : OnOneLine(comment).toStdString());
             model.ShowComment(static_cast<int>(row));
             events.CommentChanged(static_cast<int>(row));
         }

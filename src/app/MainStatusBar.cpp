@@ -49,6 +49,8 @@ void MainStatusBar::ShowProgressBar() {
 
 void MainStatusBar::HideProgressBar() { ProgressBar->hide(); }
 
+void MainStatusBar::ShowDescription(const QString& description) { statusCounts_->setText(description); }
+
 void MainStatusBar::ShowLogbookStatus(std::int64_t shown, std::int64_t total, Language language) {
     statusCounts_->setText(QString("%1 %2 %3 %4")
                                .arg(shown)

@@ -27,6 +27,9 @@ class MainStatusBar : public QStatusBar {
     void ShowProgressBar();
     void HideProgressBar();
 
+    // What was read, in the second panel, until the counts are known.
+    void ShowDescription(const QString& description);
+
     // "shown / total Items" in the second panel; ClearCounts empties it.
     void ShowLogbookStatus(std::int64_t shown, std::int64_t total, Language language);
     void ClearCounts();

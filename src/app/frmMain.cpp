@@ -88,7 +88,13 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFol
     tmExtrasFilters->setObjectName("tmExtrasFilters");
     tmExtrasFilters->setSingleShot(true);
     tmExtrasFilters->setInterval(200);
-    connect(tmExtrasFilters, &QTimer::timeout, this, [this] { Run(Command::Filters); });
+    connect(tmExtrasFilters, &QTimer::timeout, this, [this] {
+        // As from the menu, which cannot be reached while another dialog is open or a logbook is read.
+        if (logbook_.Busy || QApplication::activeModalWidget() != nullptr)
+            tmExtrasFilters->start();
+        else
+            Run(Command::Filters);
+    });
     LoadPlacement(registry_, *this);
     LoadColumnWidths(registry_, *lvLogbook->horizontalHeader());
     LoadLanguage();
@@ -124,6 +130,8 @@ void frmMain::MakeList() {
         RefreshContentText(row);
         pbTagViewer->RefreshTagViewerDelayed();
     });
+    connect(lvLogbook->selectionModel(), &QItemSelectionModel::selectionChanged, pbTagViewer,
+            &TagViewer::RefreshTagViewerDelayed);
     // Rows that are read, filtered, sorted, taken out or highlighted.
     connect(model_, &LogbookModel::modelReset, pbTagViewer, &TagViewer::RefreshTagViewerDelayed);
     connect(model_, &LogbookModel::layoutChanged, pbTagViewer, &TagViewer::RefreshTagViewerDelayed);
@@ -262,8 +270,9 @@ void frmMain::ChooseLanguage() {
 
 void frmMain::FirstActivation(const std::vector<std::string>& arguments) {
     RunCommandLine(arguments);
-    if (ViewContents)
+    if (ViewContents && !progress_.StopWanted())
         menus_.Item(Command::ViewContent).trigger();
+    Activated = true;
 }
 
 void frmMain::SortByColumn(int column) {
@@ -307,6 +316,8 @@ void frmMain::EditFilters() {
 void frmMain::RemoveSelectedEntries() {
     const WaitPointer wait;
     lvLogbook->RemoveRows(RemoveFromList(registry_, model_->Rows(), lvLogbook->SelectedRanges()));
+    if (sbStatusBar->HasCounts())
+        ShowLogbookStatus();
 }
 
 void frmMain::ToggleSelectedEntries() {
@@ -336,8 +347,9 @@ void frmMain::Unload() {
             (*window)->close();
     const Registry::Transaction transaction(registry_);
     registry_.WriteLogbookSetting("MainIsMaximized", isMaximized() ? 1 : 0, SettingType::Integer);
-    registry_.WriteLogbookSetting("MainViewContents", menus_.Item(Command::ViewContent).isChecked() ? 1 : 0,
-                                  SettingType::Integer);
+    // Before the first activation has come to its end, the pane is as it was left the last time.
+    const bool viewed = menus_.Item(Command::ViewContent).isChecked() || (ViewContents && !Activated);
+    registry_.WriteLogbookSetting("MainViewContents", viewed ? 1 : 0, SettingType::Integer);
     SavePlacement(registry_, *this);
     SaveColumnWidths(registry_, *lvLogbook->horizontalHeader());
     registry_.WriteLogbookSetting("InitZipArchiveDir", state_.InitZipArchiveDir, SettingType::Text);

@@ -87,7 +87,7 @@ class frmMain : public QMainWindow {
     bool ExecuteLogbook(std::string& name);
     void ReplaceFilters(const std::string& filterFile);
     void Refresh();
-    void ReadComments(const std::string& commentsFile);
+    std::string ReadComments(const std::string& commentsFile);
     bool ZipLogbook();
     CommentsOutcome AskToSaveComments();
     bool FillList();
@@ -114,6 +114,7 @@ class frmMain : public QMainWindow {
     QString BaseCaption;
     LogbookState state_;
     bool ViewContents;
+    bool Activated = false;
     LogbookModel* model_;
     LogbookView* lvLogbook;
     TagViewer* pbTagViewer;

@@ -104,20 +104,28 @@ bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& com
     txContent->clear();
     sbStatusBar->ClearCounts();
     sbStatusBar->ShowProgressBar();
+    std::string aboutComments;
+    bool filled = true;
     {
         const WaitPointer wait;
         user_.ShowStatus(TextId::StatusReading);
         std::string title;
         const bool read = ReadLogbook(file, logbook_, title, progress_, codePage_);
         user_.RestoreStatus();
+        if (read)
+            sbStatusBar->ShowDescription(ToQString(title));
         if (read && !commentsFile.empty())
-            ReadComments(commentsFile);
-        if (read && !FillList())
-            user_.ShowMessage(Text(TextId::FilterFailed, language_), UserInterface::MessageIcon::Exclamation);
+            aboutComments = ReadComments(commentsFile);
+        if (read)
+            filled = FillList();
     }
     sbStatusBar->HideProgressBar();
     ShowLogbookStatus();
     logbook_.Busy = false;
+    if (!aboutComments.empty())
+        user_.ShowMessage(aboutComments, UserInterface::MessageIcon::None);
+    if (!filled)
+        user_.ShowMessage(Text(TextId::FilterFailed, language_), UserInterface::MessageIcon::Exclamation);
     if (progress_.StopWanted()) {
         // The window was closed while it was reading.
         close();
@@ -129,13 +137,14 @@ bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& com
     return false;
 }
 
-void frmMain::ReadComments(const std::string& commentsFile) {
+// The message for a comments file that could not be read; "" when it was.
+std::string frmMain::ReadComments(const std::string& commentsFile) {
     user_.ShowStatus(TextId::StatusCommenting);
     const CommentsFileResult result = CommentLogbook(commentsFile, logbook_.Entries, codePage_);
     user_.RestoreStatus();
-    if (result.Result != CommentsFileResult::Outcome::Read)
-        user_.ShowMessage(CommentsFileMessage(commentsFile, result, language_),
-                          UserInterface::MessageIcon::None);
+    return result.Result == CommentsFileResult::Outcome::Read
+               ? ""
+               : CommentsFileMessage(commentsFile, result, language_);
 }
 
 void frmMain::ApplyFilter() {

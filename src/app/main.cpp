@@ -5,12 +5,17 @@
 #include <QApplication>
 #include <QTimer>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
+    // All words are logbooks or options of this program, as bytes: none is for Qt, and a file's name need not
+    // be UTF-8.
+    const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
+    int noArguments = std::min(argc, 1);
+    QApplication application(noArguments, argv);
     QApplication::setApplicationName("Qorvix");
     QApplication::setApplicationVersion(QORVIX_VERSION);
     QApplication::setWindowIcon(MakeAppIcon(AppIcon::Program));
@@ -21,9 +26,6 @@ int main(int argc, char** argv) {
     Logbook logbook;
     frmMain window(logbook, registry, tempFolder, CodePage::OfUser());
     window.show();
-    std::vector<std::string> arguments;
-    for (const QString& argument : QApplication::arguments().mid(1))
-        arguments.push_back(argument.toStdString());
     QTimer::singleShot(0, &window, [&] { window.FirstActivation(arguments); });
     return QApplication::exec();
 }

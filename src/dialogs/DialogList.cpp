@@ -78,9 +78,15 @@ void DialogList::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void DialogList::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTreeWidgetItem* const row = itemAt(event->position().toPoint());
+    // A second click on a check box is one more click on it: the row is not edited.
+    const Qt::CheckState before = row == nullptr ? Qt::Unchecked : row->checkState(0);
     QTreeWidget::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton)
-        emit EditWanted();
+    if (event->button() != Qt::LeftButton || (row != nullptr && row->checkState(0) != before))
+        return;
+    if (row != nullptr && !row->isSelected())
+        setCurrentItem(row, 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    emit EditWanted();
 }
 
 void DialogList::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }

@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <limits>
 
 namespace {
 
@@ -30,6 +31,8 @@ QComboBox* MakeTextBox(const char* name, QWidget* parent) {
     box->setObjectName(name);
     box->setEditable(true);
     box->setCompleter(nullptr);
+    // A filter file may hold longer lists than a field takes by itself.
+    box->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
     box->setInsertPolicy(QComboBox::NoInsert);
     // Otherwise a typed text that is in the list, too, would count as picked from it.
     QObject::disconnect(box->lineEdit(), &QLineEdit::editingFinished, nullptr, nullptr);

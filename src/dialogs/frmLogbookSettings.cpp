@@ -204,15 +204,21 @@ void frmLogbookSettings::Import() {
         GetFilterFromFile(*path);
 }
 
+// As plain text: a path may look like markup.
+void frmLogbookSettings::Warn(const QString& text) {
+    QMessageBox box(QMessageBox::Warning, windowTitle(), text, QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
 bool frmLogbookSettings::SaveFilterInFile(const std::string& path) {
     const std::vector<FilterDefinition> filters = FiltersToStore();
     if (!ConfirmLoss(filters))
         return false;
     const std::error_code error = ExportFilterFile(path, filters, context_.FileCodePage);
     if (error)
-        QMessageBox::warning(this, windowTitle(),
-                             ToQString(path) + QtText(TextId::FileNotWritten, context_.DialogLanguage) +
-                                 " (" + ToQString(error.message()) + ")");
+        Warn(ToQString(path) + QtText(TextId::FileNotWritten, context_.DialogLanguage) + " (" +
+             ToQString(error.message()) + ")");
     return !error;
 }
 
@@ -228,8 +234,7 @@ void frmLogbookSettings::GetFilterFromFile(const std::string& path) {
     if (headerWasRead)
         ShowRows(content.Filters);
     if (content.Result == Outcome::CannotRead) {
-        QMessageBox::warning(this, windowTitle(),
-                             ToQString(FilterFileMessage(path, content, context_.DialogLanguage)));
+        Warn(ToQString(FilterFileMessage(path, content, context_.DialogLanguage)));
         return;
     }
     // A note has no room for long paths.

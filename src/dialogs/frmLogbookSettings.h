@@ -60,6 +60,7 @@ class frmLogbookSettings : public QDialog {
     void Apply();
     void Export();
     void Import();
+    void Warn(const QString& text);
     bool ConfirmEmptyList();
     bool ConfirmLoss(const std::vector<FilterDefinition>& filters);
     void ShowRows(const std::vector<FilterDefinition>& filters);

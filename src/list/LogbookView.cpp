@@ -63,9 +63,12 @@ RowRanges LogbookView::SelectedRanges() const {
 
 std::optional<int> LogbookView::SelectedRow() const {
     const QModelIndex current = currentIndex();
-    if (!current.isValid() || !selectionModel()->isSelected(current))
-        return std::nullopt;
-    return current.row();
+    if (current.isValid() && selectionModel()->isSelected(current))
+        return current.row();
+    std::optional<int> first;
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        first = std::min(range.top(), first.value_or(range.top()));
+    return first;
 }
 
 void LogbookView::SelectRanges(const RowRanges& ranges, std::optional<int> current) {
@@ -176,17 +179,22 @@ QPoint LogbookView::PopupPosition() const {
                                                   : QPoint(viewport()->rect().left(), seen.bottom()));
 }
 
-void LogbookView::dragEnterEvent(QDragEnterEvent* event) {
-    event->setAccepted(DroppedFile(*event->mimeData()).has_value());
+// Whatever the other program proposes, its file stays where it is.
+void LogbookView::TakeCopy(QDropEvent* event) {
+    const bool taken = (event->possibleActions() & (Qt::CopyAction | Qt::LinkAction)) != 0 &&
+                       DroppedFile(*event->mimeData()).has_value();
+    if (taken)
+        event->setDropAction(event->possibleActions().testFlag(Qt::CopyAction) ? Qt::CopyAction
+                                                                               : Qt::LinkAction);
+    event->setAccepted(taken);
 }
 
-void LogbookView::dragMoveEvent(QDragMoveEvent* event) {
-    event->setAccepted(DroppedFile(*event->mimeData()).has_value());
-}
+void LogbookView::dragEnterEvent(QDragEnterEvent* event) { TakeCopy(event); }
+
+void LogbookView::dragMoveEvent(QDragMoveEvent* event) { TakeCopy(event); }
 
 void LogbookView::dropEvent(QDropEvent* event) {
-    const std::optional<QString> path = DroppedFile(*event->mimeData());
-    event->setAccepted(path.has_value());
-    if (path)
-        emit FileDropped(*path);
+    TakeCopy(event);
+    if (event->isAccepted())
+        emit FileDropped(*DroppedFile(*event->mimeData()));
 }

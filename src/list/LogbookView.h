@@ -23,7 +23,7 @@ class LogbookView : public QTableView {
     // The selected rows.
     RowRanges SelectedRanges() const;
 
-    // The selected row, where one is meant: the current row when it is selected.
+    // The selected row, where one is meant: the current row when it is selected, otherwise the first that is.
     std::optional<int> SelectedRow() const;
 
     // Selects exactly these rows and makes one of them, or none, the current row. Does not scroll.
@@ -69,6 +69,7 @@ class LogbookView : public QTableView {
 
   private:
     QPoint PopupPosition() const;
+    static void TakeCopy(QDropEvent* event);
 
     LogbookModel* model_ = nullptr;
 };

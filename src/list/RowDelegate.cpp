@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QHelpEvent>
+#include <QPainter>
 #include <QToolTip>
 
 void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
@@ -19,6 +20,26 @@ void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInde
     option->features |= QStyleOptionViewItem::HasDecoration;
     option->decorationSize = {RowIconSize, RowIconSize};
     option->icon = icons_.Icon(image.toInt());
+}
+
+void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+    QStyledItemDelegate::paint(painter, option, index);
+    if (!option.state.testFlag(QStyle::State_Selected))
+        return;
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    if (cell.icon.isNull())
+        return;
+    const QStyle* const style = cell.widget != nullptr ? cell.widget->style() : QApplication::style();
+    const QRect place = style->subElementRect(QStyle::SE_ItemViewItemDecoration, &cell, cell.widget);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(cell.palette.base());
+    painter->drawRoundedRect(place.adjusted(-1, -1, 1, 1), 3, 3);
+    cell.icon.paint(painter, place);
+    painter->restore();
 }
 
 bool RowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,

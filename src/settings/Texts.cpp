@@ -111,6 +111,15 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::FilterFileNoFilters, "File includes no filter informaion!",
      "Datei enthält keine Filterinformationen!"},
     {TextId::FilterFileLine, "invalid filter in line ", "ungültiger Filter in Zeile "},
+    // Why an archive is not opened
+    {TextId::ZipNoArchive, "not a zip archive", "kein ZIP-Archiv"},
+    {TextId::ZipDamaged, "the archive is damaged", "das Archiv ist beschädigt"},
+    {TextId::ZipEncrypted, "the archive is encrypted", "das Archiv ist verschlüsselt"},
+    {TextId::ZipTooLarge, "a member is larger than 4 GiB", "eine Datei darin ist größer als 4 GiB"},
+    {TextId::ZipTooDense, "a member claims more than a thousand times its packed size",
+     "eine Datei darin gibt mehr als das Tausendfache ihrer gepackten Größe an"},
+    {TextId::ZipNotUnpacked, "the temporary folder cannot be written to",
+     "in den temporären Ordner kann nicht geschrieben werden"},
     // Comments files
     {TextId::CommentsFileNoComments, "File includes no comment information!",
      "File includes no comment information!"},

@@ -97,6 +97,13 @@ enum class TextId : std::uint16_t {
     FilterFileUnreadableAfter,
     FilterFileNoFilters,
     FilterFileLine,
+    // Why an archive is not opened
+    ZipNoArchive,
+    ZipDamaged,
+    ZipEncrypted,
+    ZipTooLarge,
+    ZipTooDense,
+    ZipNotUnpacked,
     // Comments files
     CommentsFileNoComments,
     CommentsFileUnreadable,

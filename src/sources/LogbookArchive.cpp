@@ -52,11 +52,11 @@ bool LiesIn(const std::filesystem::path& file, const std::filesystem::path& fold
 }
 
 // Why the program would not unpack the archive that was built; "" when it would.
-std::string RefusalOf(const std::filesystem::path& file) {
-    const ZipArchive archive(file);
+std::string RefusalOf(const std::filesystem::path& file, Language language) {
+    const ZipArchive archive(file, language);
     for (const ZipMember& member : archive.Members())
-        if (!member.Refusal().empty())
-            return std::string(member.Refusal());
+        if (const std::string_view refusal = member.Refusal(language); !refusal.empty())
+            return std::string(refusal);
     return archive.Error();
 }
 
@@ -89,8 +89,8 @@ class Saving {
             return Say(TextId::ArchiveInPlaceOfLogbook);
         if (LiesIn(ToPath(path_), tempFolder_.Path()))
             return Say(TextId::ArchiveInTemporaryFolder);
-        if (const ZipMember logbook{"", stamp.Size, stamp.Size}; !logbook.Refusal().empty())
-            return std::string(logbook.Refusal());
+        if (const ZipMember logbook{"", stamp.Size, stamp.Size}; !logbook.Refusal(language_).empty())
+            return std::string(logbook.Refusal(language_));
 
         AtomicFile archive(path_);
         if (archive.Path().empty())
@@ -123,7 +123,7 @@ class Saving {
                                     {base + ".fil", filters},
                                     {base + ".cmt", comments}};
         std::string reason = BuildZip(archive, files, progress);
-        return reason.empty() ? RefusalOf(archive) : reason;
+        return reason.empty() ? RefusalOf(archive, language_) : reason;
     }
 
     const std::string& path_;

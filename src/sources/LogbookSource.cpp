@@ -32,8 +32,8 @@ std::string FileNameOf(const std::string& path) {
 // Unpacks the logbook of an archive, with what belongs to it, into a folder that is empty before.
 class Extraction {
   public:
-    Extraction(const std::filesystem::path& archive, std::filesystem::path folder)
-        : archive_(archive), folder_(std::move(folder)) {}
+    Extraction(const std::filesystem::path& archive, std::filesystem::path folder, Language language)
+        : language_(language), archive_(archive, language), folder_(std::move(folder)) {}
 
     // The base name of the logbook, which then lies in the folder with the extension ".log"; nothing when the
     // archive has none or it could not be unpacked whole.
@@ -41,7 +41,7 @@ class Extraction {
         if (folder_.empty()) {
             // Without a folder of its own nothing is unpacked: a bare file name would mean the current
             // folder.
-            reason_ = "there is no temporary folder";
+            reason_ = Text(TextId::NoTemporaryFolder, language_);
             return std::nullopt;
         }
         const auto system =
@@ -75,7 +75,7 @@ class Extraction {
     bool ExtractOperationLog(std::size_t systemArchive) {
         if (!Unpack(archive_, systemArchive, SystemArchive))
             return false;
-        ZipArchive inner(folder_ / SystemArchive);
+        ZipArchive inner(folder_ / SystemArchive, language_);
         const std::optional<std::size_t> member = inner.FindMember(OperationLog);
         if (!member) {
             reason_ = inner.Error();
@@ -105,6 +105,7 @@ class Extraction {
         return base;
     }
 
+    Language language_;
     ZipArchive archive_;
     std::filesystem::path folder_;
     std::string reason_;
@@ -127,7 +128,7 @@ std::optional<LogbookSource> ResolveArchive(const std::string& path, const TempF
     // replaces it.
     const std::filesystem::path unpacked = tempFolder.MakeSubfolder();
     user.ShowStatus(TextId::StatusExtracting);
-    Extraction extraction(ToPath(path), unpacked);
+    Extraction extraction(ToPath(path), unpacked, language);
     const std::optional<std::string> base = extraction.Extract();
     user.RestoreStatus();
 

@@ -17,6 +17,25 @@ struct CloseMember {
     void operator()(zip_file_t* member) const { zip_fclose(member); }
 };
 
+// In the library's or the system's words only where they tell more than that the archive is no good.
+std::string ReasonOf(zip_error_t& error, Language language) {
+    switch (zip_error_code_zip(&error)) {
+    case ZIP_ER_NOZIP:
+        return std::string(Text(TextId::ZipNoArchive, language));
+    case ZIP_ER_CRC:
+    case ZIP_ER_ZLIB:
+    case ZIP_ER_INCONS:
+    case ZIP_ER_EOF:
+        return std::string(Text(TextId::ZipDamaged, language));
+    case ZIP_ER_ENCRNOTSUPP:
+    case ZIP_ER_NOPASSWD:
+    case ZIP_ER_WRONGPASSWD:
+        return std::string(Text(TextId::ZipEncrypted, language));
+    default:
+        return zip_error_strerror(&error);
+    }
+}
+
 } // namespace
 
 std::string_view ZipMember::FileName() const {
@@ -24,23 +43,23 @@ std::string_view ZipMember::FileName() const {
     return std::string_view(Name).substr(separator == std::string::npos ? 0 : separator + 1);
 }
 
-std::string_view ZipMember::Refusal() const {
+std::string_view ZipMember::Refusal(Language language) const {
     if (Size > MostUnpacked)
-        return "a member is larger than 4 GiB";
-    if (Size > AlwaysUnpacked && Size / MostExpansion > PackedSize)
-        return "a member claims more than a thousand times its packed size";
+        return Text(TextId::ZipTooLarge, language);
+    if (Size > AlwaysUnpacked && (Size - 1) / MostExpansion >= PackedSize)
+        return Text(TextId::ZipTooDense, language);
     return {};
 }
 
 void ZipArchive::Close::operator()(zip* archive) const { zip_discard(archive); }
 
-ZipArchive::ZipArchive(const std::filesystem::path& file) {
+ZipArchive::ZipArchive(const std::filesystem::path& file, Language language) : language_(language) {
     int code = 0;
     archive_.reset(zip_open(file.string().c_str(), ZIP_RDONLY, &code));
     if (!archive_) {
         zip_error_t error;
         zip_error_init_with_code(&error, code);
-        error_ = zip_error_strerror(&error);
+        error_ = ReasonOf(error, language_);
         zip_error_fini(&error);
         return;
     }
@@ -69,14 +88,14 @@ std::optional<std::size_t> ZipArchive::FindMember(std::string_view name) const {
     return static_cast<std::size_t>(found - members_.begin());
 }
 
-bool ZipArchive::Fail(std::string reason) {
-    error_ = std::move(reason);
+bool ZipArchive::Fail(std::string_view reason) {
+    error_ = reason;
     return false;
 }
 
 bool ZipArchive::Unpack(std::size_t member, const std::filesystem::path& target) {
-    if (const std::string_view refusal = members_[member].Refusal(); !refusal.empty())
-        return Fail(std::string(refusal));
+    if (const std::string_view refusal = members_[member].Refusal(language_); !refusal.empty())
+        return Fail(refusal);
     if (WriteMember(member, target))
         return true;
     std::error_code ignored;
@@ -87,24 +106,24 @@ bool ZipArchive::Unpack(std::size_t member, const std::filesystem::path& target)
 bool ZipArchive::WriteMember(std::size_t member, const std::filesystem::path& target) {
     const std::unique_ptr<zip_file_t, CloseMember> source(zip_fopen_index(archive_.get(), member, 0));
     if (!source)
-        return Fail(zip_strerror(archive_.get()));
+        return Fail(ReasonOf(*zip_get_error(archive_.get()), language_));
     std::ofstream stream(target, std::ios::binary | std::ios::trunc);
     std::array<char, 65536> buffer;
     std::uint64_t written = 0;
     for (;;) {
         const zip_int64_t count = zip_fread(source.get(), buffer.data(), buffer.size());
         if (count < 0)
-            return Fail(zip_file_strerror(source.get()));
+            return Fail(ReasonOf(*zip_file_get_error(source.get()), language_));
         if (count == 0)
             break;
         written += static_cast<std::uint64_t>(count);
         // The claim bounds what is unpacked, whatever the packed data says.
         if (written > members_[member].Size)
-            return Fail("a member is larger than it claims");
+            return Fail(TextId::ZipDamaged);
         stream.write(buffer.data(), static_cast<std::streamsize>(count));
     }
     stream.close();
     if (!stream)
-        return Fail("the temporary folder cannot be written to");
-    return written == members_[member].Size || Fail("a member is smaller than it claims");
+        return Fail(TextId::ZipNotUnpacked);
+    return written == members_[member].Size || Fail(TextId::ZipDamaged);
 }

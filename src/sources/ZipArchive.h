@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "settings/Texts.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -23,13 +25,14 @@ struct ZipMember {
 
     // Why the member is not unpacked, as it claims to be too large: more than 4 GiB, or more than 64 MiB and
     // over a thousand times its packed size. "" when it is.
-    std::string_view Refusal() const;
+    std::string_view Refusal(Language language) const;
 };
 
 // Reading a zip archive.
 class ZipArchive {
   public:
-    explicit ZipArchive(const std::filesystem::path& file);
+    // What fails is told in this language.
+    ZipArchive(const std::filesystem::path& file, Language language);
 
     // Why the archive could not be listed, or a member not be unpacked; "" when nothing failed.
     const std::string& Error() const { return error_; }
@@ -47,9 +50,11 @@ class ZipArchive {
         void operator()(zip* archive) const;
     };
 
-    bool Fail(std::string reason);
+    bool Fail(std::string_view reason);
+    bool Fail(TextId reason) { return Fail(Text(reason, language_)); }
     bool WriteMember(std::size_t member, const std::filesystem::path& target);
 
+    Language language_;
     std::unique_ptr<zip, Close> archive_;
     std::vector<ZipMember> members_;
     std::string error_;

@@ -72,13 +72,15 @@ class MainWindowListTest : public MainWindowTest {
         QCOMPARE(List()->SelectedRanges(), RowRanges({{0, 499}}));
     }
 
-    void CurrentRowThatIsNotSelectedIsNoSelectedRow() {
+    void SelectedRowIsTheCurrentOneOrTheFirstThatIsSelected() {
         Window->OpenLogbook(FileOfErrors(3));
         QVERIFY(!List()->SelectedRow());
         List()->selectRow(1);
         QCOMPARE(List()->SelectedRow(), std::optional(1));
         List()->selectionModel()->setCurrentIndex(List()->model()->index(2, 0),
                                                   QItemSelectionModel::NoUpdate);
+        QCOMPARE(List()->SelectedRow(), std::optional(1));
+        List()->clearSelection();
         QVERIFY(!List()->SelectedRow());
     }
 
@@ -141,7 +143,7 @@ class MainWindowListTest : public MainWindowTest {
         List()->SelectRanges({{1, 2}, {4, 4}}, 4);
         QTest::keyClick(List(), Qt::Key_Delete);
         QCOMPARE(Column(1), QStringList({"0", "3", "5"}));
-        QCOMPARE(Counts(), QString("6 / 6 Items")); // of the last filter run
+        QCOMPARE(Counts(), QString("3 / 6 Items"));
         QCOMPARE(LoadFilters(*Settings, {}).Filters.back(), Filter("X|8|1-2,4|||1"));
         Window->ApplyFilter();
         QCOMPARE(Column(1), QStringList({"0", "3", "5"}));
@@ -245,9 +247,11 @@ class MainWindowListTest : public MainWindowTest {
             urls << QUrl::fromLocalFile(QString::fromStdString(path));
         data.setUrls(urls);
         const QPoint place(20, 20);
-        QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QDragEnterEvent enter(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(List()->viewport(), &enter);
         QCOMPARE(enter.isAccepted(), paths.size() == 1 && paths.front().ends_with(".log"));
+        if (enter.isAccepted())
+            QCOMPARE(enter.dropAction(), Qt::CopyAction); // the file stays where it is
         QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(List()->viewport(), &drop);
     }
