@@ -29,8 +29,7 @@ void ShowEntryDialogs(const RowRanges& rows, Logbook& logbook, LogbookModel& mod
         [&](const QString& data) {
             const ProposedComment proposed =
                 AutoFillComment(data.toStdString(), language, GetErrorInfoPath());
-            if (!proposed.StatusMessage.empty())
-                events.StatusMessage(ToQString(proposed.StatusMessage));
+            events.StatusMessage(ToQString(proposed.StatusMessage));
             return ToQString(proposed.Text.value_or(""));
         },
         parent);

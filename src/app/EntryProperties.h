@@ -15,7 +15,7 @@ struct Logbook;
 // What the event entry dialog tells the window.
 struct EntryPropertiesEvents {
     std::function<void(int row)> CommentChanged;
-    std::function<void(const QString& text)> StatusMessage; // of the lookup of error texts
+    std::function<void(const QString& text)> StatusMessage; // of each lookup of error texts; may be empty
 };
 
 // Shows the event entry dialog for each of these rows, from the first to the last, and writes a changed

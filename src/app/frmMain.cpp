@@ -294,14 +294,22 @@ void frmMain::CopySelectedRows() {
 }
 
 void frmMain::ShowEntryProperties() {
-    ShowEntryDialogs(
-        lvLogbook->SelectedRanges(), logbook_, *model_, language_, this,
-        {.CommentChanged =
-             [this](int row) {
-                 state_.CommentsEdited = true;
-                 RefreshContentText(row);
-             },
-         .StatusMessage = [this](const QString& text) { sbStatusBar->StatusText()->setText(text); }});
+    ShowEntryDialogs(lvLogbook->SelectedRanges(), logbook_, *model_, language_, this,
+                     {.CommentChanged =
+                          [this](int row) {
+                              state_.CommentsEdited = true;
+                              RefreshContentText(row);
+                          },
+                      .StatusMessage = [this](const QString& text) { ShowLookupMessage(text); }});
+}
+
+// A mistake in the language files is told until a lookup finds none.
+void frmMain::ShowLookupMessage(const QString& text) {
+    if (!text.isEmpty())
+        sbStatusBar->StatusText()->setText(text);
+    else if (!lookupMessage_.isEmpty())
+        sbStatusBar->StatusText()->setText(QtText(TextId::StatusReady, language_));
+    lookupMessage_ = text;
 }
 
 void frmMain::EditFilters() {

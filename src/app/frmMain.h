@@ -97,6 +97,7 @@ class frmMain : public QMainWindow {
     void ChooseLanguage();
     void CopySelectedRows();
     void ShowEntryProperties();
+    void ShowLookupMessage(const QString& text);
     void EditFilters();
     void RemoveSelectedEntries();
     void ToggleSelectedEntries();
@@ -113,6 +114,7 @@ class frmMain : public QMainWindow {
     QtCatalogue qtCatalogue_;
     QString BaseCaption;
     LogbookState state_;
+    QString lookupMessage_; // in the status bar
     bool ViewContents;
     bool Activated = false;
     LogbookModel* model_;

@@ -51,9 +51,10 @@ CommentsOutcome frmMain::AskToSaveComments() {
 bool frmMain::ZipLogbook() {
     const FilterLists lists = LoadFilters(registry_, language_);
     const ZipLogbookParts parts{logbook_.Entries, lists.Filters, codePage_, tempFolder_, registry_};
-    sbStatusBar->ShowProgressBar();
-    const ZipOutcome outcome = ::ZipLogbook(state_, parts, user_, language_,
-                                            [this](double percent) { progress_.PaintValue(percent); });
+    const ZipOutcome outcome = ::ZipLogbook(state_, parts, user_, language_, [this](double percent) {
+        sbStatusBar->ShowProgressBar();
+        progress_.PaintValue(percent);
+    });
     sbStatusBar->HideProgressBar();
     return outcome == ZipOutcome::Saved;
 }

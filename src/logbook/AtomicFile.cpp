@@ -61,9 +61,12 @@ std::filesystem::path FollowLinks(std::filesystem::path path, std::error_code& e
 // A new, empty file beside `target`.
 std::filesystem::path MakeTemporary(const std::filesystem::path& target, std::error_code& error) {
     constexpr int Attempts = 100;
+    constexpr std::size_t LongestStem = 200;
     std::random_device random;
     for (int i = 0; i < Attempts; ++i) {
-        std::filesystem::path temporary = target;
+        // The longest names leave no room behind them.
+        std::filesystem::path temporary =
+            target.parent_path() / target.filename().native().substr(0, LongestStem);
         temporary += ToPath("." + std::to_string(random()) + ".part");
         errno = 0;
         if (std::FILE* file = std::fopen(temporary.string().c_str(), "wbx"); file != nullptr) {

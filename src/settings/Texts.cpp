@@ -132,6 +132,7 @@ constexpr auto Table = std::to_array<TextRow>({
      "Filter mit Zeichen, die das Archiv nicht aufnehmen kann: "},
     {TextId::AskArchiveAll, "Each of these characters becomes \"?\" in the archive. Save all the same?",
      "Jedes dieser Zeichen wird im Archiv zu \"?\". Trotzdem speichern?"},
+    {TextId::AskReplaceFile, " already exists. Replace it?", " existiert bereits. Ersetzen?"},
     {TextId::AskArchiveChangedLogbook,
      "The logbook file has been changed since it was read. In the archive, comments may belong to other "
      "entries. Save all the same?",

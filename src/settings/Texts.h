@@ -112,6 +112,7 @@ enum class TextId : std::uint16_t {
     ArchiveCommentsLose,
     ArchiveFiltersLose,
     AskArchiveAll,
+    AskReplaceFile,
     AskArchiveChangedLogbook,
     LogbookChangedMeanwhile,
     ArchiveInPlaceOfLogbook,

@@ -76,12 +76,14 @@ class Extraction {
         if (!Unpack(archive_, systemArchive, SystemArchive))
             return false;
         ZipArchive inner(folder_ / SystemArchive, language_);
-        const std::optional<std::size_t> member = inner.FindMember(OperationLog);
-        if (!member) {
+        const auto member =
+            std::find_if(inner.Members().begin(), inner.Members().end(),
+                         [](const ZipMember& m) { return IsSameWithoutCase(m.Name, OperationLog); });
+        if (member == inner.Members().end()) {
             reason_ = inner.Error();
             return false;
         }
-        return Unpack(inner, *member, "operation.log");
+        return Unpack(inner, static_cast<std::size_t>(member - inner.Members().begin()), "operation.log");
     }
 
     std::optional<std::string> ExtractOwn() {
@@ -95,9 +97,16 @@ class Extraction {
         }
         const std::string base(log->FileName().substr(0, log->FileName().size() - LogExtension.size()));
         for (const std::string_view extension : {LogExtension, FilterExtension, CommentsExtension}) {
-            const auto part = std::find_if(members.begin(), members.end(), [&](const ZipMember& member) {
-                return IsSameWithoutCase(member.FileName(), std::string(base).append(extension));
+            const std::string name = std::string(base).append(extension);
+            const std::string folder = log->Name.substr(0, log->Name.size() - log->FileName().size());
+            // What belongs to the logbook lies beside it; only an archive that keeps it elsewhere gives that.
+            auto part = std::find_if(members.begin(), members.end(), [&](const ZipMember& member) {
+                return IsSameWithoutCase(member.Name, folder + name);
             });
+            if (part == members.end())
+                part = std::find_if(members.begin(), members.end(), [&](const ZipMember& member) {
+                    return IsSameWithoutCase(member.FileName(), name);
+                });
             if (part != members.end() && !Unpack(archive_, static_cast<std::size_t>(part - members.begin()),
                                                  std::string(base).append(extension)))
                 return std::nullopt;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/ZipLogbook.h"
 
+#include "logbook/AsciiCase.h"
 #include "logbook/modUtil.h"
 
 namespace {
@@ -9,15 +10,25 @@ constexpr std::string_view ArchiveExtension = ".qorvix";
 
 // The archive that the user names. The name that is proposed has no folder: that of the logbook may be the
 // temporary one.
-std::optional<std::string> AskForArchive(const LogbookState& state, UserInterface& user) {
+std::optional<std::string> AskForArchive(const LogbookState& state, UserInterface& user, Language language) {
     std::string folder;
     std::string fileName;
     SplitPath(state.CurrentLogbookFile, folder, fileName);
-    return user.AskFileToSave({.Title = TextId::SaveArchiveTitle,
-                               .Filters = TextId::SaveArchiveFilter,
-                               .DefaultExtension = std::string(ArchiveExtension.substr(1)),
-                               .Folder = state.InitZipArchiveDir,
-                               .Name = ChangeExtension(fileName, ArchiveExtension)});
+    std::optional<std::string> path =
+        user.AskFileToSave({.Title = TextId::SaveArchiveTitle,
+                            .Filters = TextId::SaveArchiveFilter,
+                            .DefaultExtension = std::string(ArchiveExtension.substr(1)),
+                            .Folder = state.InitZipArchiveDir,
+                            .Name = ChangeExtension(fileName, ArchiveExtension)});
+    if (!path || path->empty())
+        return std::nullopt;
+    // An archive is known by its extension; a dialog leaves a name with any "." in it as it was typed.
+    if (LowerCase(*path).ends_with(ArchiveExtension))
+        return path;
+    path->append(ArchiveExtension);
+    if (FileExists(*path) && !user.Confirm(*path + std::string(Text(TextId::AskReplaceFile, language))))
+        return std::nullopt;
+    return path;
 }
 
 // True when nothing is lost, or the user wants the archive all the same.
@@ -44,8 +55,8 @@ ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, UserInt
                       Language language, const PackingProgress& progress) {
     if (state.CurrentLogbookFile.empty())
         return ZipOutcome::Cancelled;
-    const std::optional<std::string> path = AskForArchive(state, user);
-    if (!path || path->empty())
+    const std::optional<std::string> path = AskForArchive(state, user, language);
+    if (!path)
         return ZipOutcome::Cancelled;
     ArchiveContent content{.LogbookFile = state.CurrentLogbookFile,
                            .LogbookStamp = state.CurrentFileStamp,

@@ -74,6 +74,23 @@ class ArchiveTest : public MainWindowTest {
         QCOMPARE(Column(6), QStringList({"", "", ""}));
     }
 
+    void NameWithADotGetsTheExtensionToo() {
+        Window->OpenLogbook(FileOfErrors(2));
+        AnswerFileDialog(QString::fromStdString(Folder / "Machine 1.2"));
+        Item("mnuFileZipLogbook")->trigger();
+        QVERIFY(std::filesystem::exists(Folder / "Machine 1.2.qorvix"));
+        QVERIFY(!std::filesystem::exists(Folder / "Machine 1.2"));
+
+        // The dialog could not see that this replaces a file.
+        const std::string before = FileContent(Folder / "Machine 1.2.qorvix");
+        Book->Entries.SetComment(0, "new");
+        AnswerFileDialog(QString::fromStdString(Folder / "Machine 1.2"));
+        QTimer::singleShot(50, Person.get(), [this] { AnswerQuestion(QMessageBox::No); });
+        Item("mnuFileZipLogbook")->trigger();
+        QVERIFY(MessageTexts.back().endsWith("Machine 1.2.qorvix already exists. Replace it?"));
+        QCOMPARE(FileContent(Folder / "Machine 1.2.qorvix"), before);
+    }
+
     void CommentsFileWithoutItsHeaderIsTold() {
         WriteZip(Folder / "bad.qorvix",
                  {{"x.log", Lines({Header("BERR:    a")})}, {"x.cmt", "nonsense\r\n"}});

@@ -6,6 +6,7 @@
 
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QToolButton>
 
 #include <set>
@@ -173,6 +174,21 @@ class MainMenusTest : public MainWindowTest {
         QTimer::singleShot(timer->remainingTime() + 1, Person.get(), [&] { answer("cmdCancel"); });
         QTRY_COMPARE(shown, 3);
         QVERIFY(!timer->isActive());
+    }
+
+    void FiltersOfThePopupWaitUntilAnotherDialogIsClosed() {
+        Window->OpenLogbook(FileOfErrors(1));
+        auto* const timer = Find<QTimer>("tmExtrasFilters");
+        QMessageBox other(Window.get());
+        other.open();
+        QTRY_VERIFY(QApplication::activeModalWidget() == &other);
+        Item("mnuPopupEditFilter")->trigger();
+        QSignalSpy fired(timer, &QTimer::timeout);
+        QVERIFY(fired.wait());
+        QVERIFY(QApplication::activeModalWidget() == &other);
+        QVERIFY(timer->isActive());
+        timer->stop();
+        other.close();
     }
 
     void MissingHelpIsTold() {

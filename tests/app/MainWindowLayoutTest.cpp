@@ -52,6 +52,13 @@ class MainWindowLayoutTest : public MainWindowTest {
         QVERIFY(Item("mnuVContent")->isChecked());
     }
 
+    void ContentPaneIsKeptWhenTheProgramEndsBeforeItIsShown() {
+        StoreNumber("MainViewContents", 1);
+        OpenWindow();
+        Window->close();
+        QCOMPARE(Stored("MainViewContents"), 1);
+    }
+
     void UntouchedLengthsKeepTheirTwips() {
         Window->close();
         QCOMPARE(Stored("Main.Left"), 100);

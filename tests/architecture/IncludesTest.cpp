@@ -14,10 +14,10 @@
 namespace {
 
 // In order of dependency: a folder includes files of its own and of folders before it.
-constexpr std::array<std::string_view, 10> Folders{"logbook", "settings", "filter",  "sources", "eventinfo",
-                                                   "helpbook",    "list",     "dialogs", "app",     "cli"};
-constexpr std::array<std::string_view, 7> FoldersWithoutQt{
-    "logbook", "settings", "filter", "sources", "eventinfo", "helpbook", "cli"};
+constexpr std::array<std::string_view, 10> Folders{"logbook",  "settings", "filter",  "sources", "eventinfo",
+                                                   "helpbook", "list",     "dialogs", "app",     "cli"};
+constexpr std::array<std::string_view, 7> FoldersWithoutQt{"logbook",   "settings", "filter", "sources",
+                                                           "eventinfo", "helpbook", "cli"};
 
 template <typename Table>
 bool Contains(const Table& table, std::string_view name) {

@@ -216,3 +216,23 @@ TEST_F(LogbookSourceTest, NothingIsLeftBesideTheLogbook) {
         names.push_back(item.path().filename().string());
     EXPECT_EQ(names, std::vector<std::string>{"base.log"});
 }
+
+TEST_F(LogbookSourceTest, MemberOfTheSystemArchiveIsFoundInAnyCase) {
+    WriteZip(Folder / "SYSROOT.ZIP", {{"RUNTIME/OPERATION.LOG", "log"}});
+    const std::string inner = FileContent(Folder / "SYSROOT.ZIP");
+    EXPECT_EQ(Logbook(Resolve(Zip("service9.zip", {{"SYSROOT.ZIP", inner}}))), "log");
+}
+
+TEST_F(LogbookSourceTest, WhatLiesBesideTheLogbookBelongsToIt) {
+    const auto source =
+        Resolve(Zip("own9.qorvix", {{"a.log", "log"}, {"B/a.cmt", "other folder"}, {"a.cmt", "right"}}));
+    ASSERT_TRUE(source);
+    EXPECT_EQ(FileContent(source->CommentsFile), "right");
+}
+
+TEST_F(LogbookSourceTest, ReasonsAreGermanToo) {
+    const std::string path = Folder.Write("text.zip", "no archive at all, but long enough to be read as one");
+    EXPECT_TRUE(ResolveSource(path, Temp, User, Language{Language::German}));
+    EXPECT_EQ(User.Messages, (std::vector<std::string>{"Das Archiv enthält keine Logbuchdatei (" + path +
+                                                       ": kein ZIP-Archiv)"}));
+}
