@@ -78,15 +78,25 @@ void DialogList::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void DialogList::mouseDoubleClickEvent(QMouseEvent* event) {
-    QTreeWidgetItem* const row = itemAt(event->position().toPoint());
-    // A second click on a check box is one more click on it: the row is not edited.
-    const Qt::CheckState before = row == nullptr ? Qt::Unchecked : row->checkState(0);
+    const QPoint place = event->position().toPoint();
     QTreeWidget::mouseDoubleClickEvent(event);
-    if (event->button() != Qt::LeftButton || (row != nullptr && row->checkState(0) != before))
+    // On a check box it is two clicks, which turn it on and off: nothing is edited.
+    if (event->button() != Qt::LeftButton || IsOnCheckBox(place))
         return;
-    if (row != nullptr && !row->isSelected())
+    if (QTreeWidgetItem* const row = itemAt(place); row != nullptr && !row->isSelected())
         setCurrentItem(row, 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     emit EditWanted();
+}
+
+bool DialogList::IsOnCheckBox(QPoint place) const {
+    const QModelIndex cell = indexAt(place);
+    if (!cell.data(Qt::CheckStateRole).isValid())
+        return false;
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    option.rect = visualRect(cell);
+    option.features |= QStyleOptionViewItem::HasCheckIndicator;
+    return style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, this).contains(place);
 }
 
 void DialogList::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }

@@ -40,4 +40,5 @@ class DialogList : public QTreeWidget {
 
   private:
     QPoint PopupPosition() const;
+    bool IsOnCheckBox(QPoint place) const;
 };

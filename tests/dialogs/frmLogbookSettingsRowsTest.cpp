@@ -19,6 +19,28 @@ class frmLogbookSettingsRowsTest : public LogbookSettingsTest {
         QCOMPARE(Checks(), QList<bool>({false}));
     }
 
+    void DoubleClickOnACheckBoxEditsNothing() {
+        StoreFilters({"I|0||||1", "X|3||||0"});
+        Open();
+        Select(List(), {0});
+        const QRect row = List().visualItemRect(List().topLevelItem(1));
+        QStyleOptionViewItem option;
+        option.initFrom(&List());
+        option.rect = row;
+        option.features = QStyleOptionViewItem::HasCheckIndicator;
+        const QPoint box =
+            List().style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, &List()).center();
+        QTest::mouseDClick(List().viewport(), Qt::LeftButton, {}, box);
+        QVERIFY(!Find<QTimer>(*Dialog, "Timer1")->isActive());
+        QCOMPARE(Checks().first(), true);
+
+        // Beside the box it edits the row that was clicked.
+        QTest::mouseDClick(List().viewport(), Qt::LeftButton, {}, RowPoint(List(), 1));
+        QVERIFY(List().topLevelItem(1)->isSelected());
+        QVERIFY(Find<QTimer>(*Dialog, "Timer1")->isActive());
+        Find<QTimer>(*Dialog, "Timer1")->stop();
+    }
+
     void PopupComesWithTheMouseUpOfTheRightButton() {
         Open();
         const auto* const popup = Find<QMenu>(*Dialog, "mnuPopup");
