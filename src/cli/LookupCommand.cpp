@@ -3,6 +3,7 @@
 
 #include "cli/ExitStatus.h"
 #include "eventinfo/iZEKEventInfo.h"
+#include "list/ContentText.h"
 
 #include <CLI/CLI.hpp>
 
@@ -29,10 +30,7 @@ CLI::App* AddLookupCommand(CLI::App& app, LookupOptions& options) {
 int RunLookup(const LookupOptions& options) {
     const std::string folder = options.Folder.empty() ? GetErrorInfoPath() : options.Folder;
     // As the entry's dialog has it: the lines below each other.
-    std::string data = options.Data;
-    for (std::size_t at = data.find(" | "); at != std::string::npos; at = data.find(" | ", at))
-        data.replace(at, 3, "\r\n");
-    ProposedComment proposed = AutoFillComment(data, options.TextLanguage, folder);
+    ProposedComment proposed = AutoFillComment(WithLineBreaks(options.Data), options.TextLanguage, folder);
     if (!proposed.StatusMessage.empty())
         std::cerr << "qorvix-cli: " << proposed.StatusMessage << std::endl;
     if (!proposed.Text)

@@ -16,6 +16,12 @@ void AppendLines(std::string& text, std::string_view cell) {
 
 } // namespace
 
+std::string WithLineBreaks(std::string_view cell) {
+    std::string text;
+    AppendLines(text, cell);
+    return text;
+}
+
 std::string ContentText(std::string_view data, std::string_view comment) {
     std::string text;
     AppendLines(text, data);

@@ -4,6 +4,10 @@
 #include <string>
 #include <string_view>
 
+// The lines of a cell below each other, separated by CR LF. In the list they stand on one line, separated by
+// " | ".
+std::string WithLineBreaks(std::string_view cell);
+
 // What the content pane shows of a row, from its data and comment cells: the lines of the data, then the
 // lines of the comment, each line but the last ended by CR LF. In a cell the lines stand on one line,
 // separated by " | ".

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "list/ContentText.h"
+#include "list/QtText.h"
+#include "logbook/EventLines.h"
+
 #include <QString>
 
 // The list shows a text of several lines on one line. Elsewhere its lines stand below each other.
-inline constexpr const char* LineSeparatorOfCells = " | ";
-inline constexpr const char* LineBreak = "\r\n";
-
-inline QString WithLineBreaks(QString cell) { return cell.replace(LineSeparatorOfCells, LineBreak); }
-inline QString OnOneLine(QString text) { return text.replace(LineBreak, LineSeparatorOfCells); }
+inline QString WithLineBreaks(const QString& cell) { return ToQString(WithLineBreaks(cell.toStdString())); }
+inline QString OnOneLine(QString text) { return text.replace("\r\n", ToQString(LineSeparator)); }

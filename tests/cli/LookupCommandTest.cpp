@@ -53,6 +53,14 @@ TEST_F(LookupCommand, FolderMayBeGiven) {
     EXPECT_EQ(LookUp({"N938 x", "--language", "de"}).ExitStatus, 1);
 }
 
+TEST_F(LookupCommand, LinesOfTheDataAreThoseOfTheDialog) {
+    std::filesystem::create_directory(Folder / "ENGLISH");
+    Folder.Write("ENGLISH/qx_error_help.txt", "104\nM\n\nCorrective action:\nF\n");
+    EXPECT_EQ(LookUp({"N104 axis | X"}).ExitStatus, 0);
+    // The number has no blank behind it in its line.
+    EXPECT_EQ(LookUp({"N104 | axis"}).ExitStatus, 1);
+}
+
 TEST_F(LookupCommand, NothingIsPrintedWithoutAText) {
     for (const char* data : {"N938 x", "P1 x", "Event: 232-5", "anything", ""}) {
         const ProgramResult result = LookUp({data});

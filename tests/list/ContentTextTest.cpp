@@ -3,6 +3,11 @@
 
 #include <gtest/gtest.h>
 
+TEST(ContentText, LinesOfACellStandBelowEachOther) {
+    EXPECT_EQ(WithLineBreaks("a | b |c | "), "a\r\nb |c\r\n");
+    EXPECT_EQ(WithLineBreaks(""), "");
+}
+
 TEST(ContentText, DataWithoutSeparatorIsOneLineAndThenTheComment) {
     EXPECT_EQ(ContentText("axis X", "seen"), "axis X\r\nseen");
     EXPECT_EQ(ContentText("axis X", ""), "axis X\r\n");
