@@ -6,16 +6,14 @@
 #include "logbook/modUtil.h"
 #include "settings/FileLock.h"
 #include "settings/Registry.h"
+#include "settings/UserFolders.h"
 
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <fstream>
 #include <limits>
 
-#include <pwd.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -104,22 +102,9 @@ bool Parse(const std::string& text, Json& root) {
     return !tooDeep && root.is_object();
 }
 
-std::filesystem::path ConfigurationFolder() {
-    const char* const xdg = std::getenv("XDG_CONFIG_HOME");
-    if (xdg != nullptr && *xdg == '/')
-        return xdg;
-    const char* home = std::getenv("HOME");
-    if (home == nullptr || *home == '\0')
-        if (const passwd* user = getpwuid(getuid()); user != nullptr)
-            home = user->pw_dir;
-    return std::filesystem::path(home == nullptr ? "" : home) / ".config";
-}
-
 } // namespace
 
-std::string JsonSettings::UserFile() {
-    return (ConfigurationFolder() / "VELTRANDOR" / "Qorvix.json").string();
-}
+std::string JsonSettings::UserFile() { return (ConfigurationFolder() / "Qorvix.json").string(); }
 
 JsonSettings::FileState JsonSettings::StateOfFile() const {
     struct stat status {};

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <cstdlib>
 
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -47,19 +46,6 @@ TEST_F(JsonSettingsTest, ObjectsAreKeys) {
                                    "    }\n"
                                    "  }\n"
                                    "}\n");
-}
-
-TEST_F(JsonSettingsTest, UserFileFollowsTheEnvironment) {
-    const char* const home = std::getenv("HOME");
-    const std::string savedHome = home == nullptr ? "" : home;
-    ::setenv("XDG_CONFIG_HOME", "/somewhere/config", 1);
-    EXPECT_EQ(JsonSettings::UserFile(), "/somewhere/config/VELTRANDOR/Qorvix.json");
-    ::setenv("HOME", "/home/user", 1);
-    ::setenv("XDG_CONFIG_HOME", "relative", 1);
-    EXPECT_EQ(JsonSettings::UserFile(), "/home/user/.config/VELTRANDOR/Qorvix.json");
-    ::unsetenv("XDG_CONFIG_HOME");
-    EXPECT_EQ(JsonSettings::UserFile(), "/home/user/.config/VELTRANDOR/Qorvix.json");
-    ::setenv("HOME", savedHome.c_str(), 1);
 }
 
 TEST_F(JsonSettingsTest, FoldersAreMade) {
