@@ -100,7 +100,8 @@ int main(int argc, char** argv) {
     const TempFolder tempFolder;
     Logbook logbook;
     ReadOnce(argv[1], logbook);
-    frmMain window(logbook, registry, tempFolder, CodePage());
+    CommentJournal journal(tempFolder.Path());
+    frmMain window(logbook, registry, tempFolder, journal, CodePage());
     window.show();
     QApplication::processEvents();
     auto* const list = window.findChild<LogbookView*>("lvLogbook");

@@ -37,7 +37,8 @@ int main(int argc, char** argv) {
     Registry registry(*settings);
     const TempFolder tempFolder;
     Logbook logbook;
-    frmMain window(logbook, registry, tempFolder, CodePage());
+    CommentJournal journal(tempFolder.Path());
+    frmMain window(logbook, registry, tempFolder, journal, CodePage());
     window.show();
     QApplication::processEvents();
     auto* const list = window.findChild<QTableView*>("lvLogbook");

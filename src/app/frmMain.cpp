@@ -53,10 +53,12 @@ QPlainTextEdit* MakeContentPane(QWidget* parent) {
 
 } // namespace
 
-frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFolder, CodePage codePage)
+frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFolder, CommentJournal& journal,
+                 CodePage codePage)
     : logbook_(logbook),
       registry_(registry),
       tempFolder_(tempFolder),
+      journal_(journal),
       codePage_(std::move(codePage)),
       BaseCaption("Qorvix"),
       ViewContents(registry.ReadLogbookSettingLong("MainViewContents", 0) == 1),
@@ -298,6 +300,7 @@ void frmMain::ShowEntryProperties() {
                      {.CommentChanged =
                           [this](int row) {
                               state_.CommentsEdited = true;
+                              NoteComment(model_->Rows()[static_cast<std::size_t>(row)].Entry);
                               RefreshContentText(row);
                           },
                       .StatusMessage = [this](const QString& text) { ShowLookupMessage(text); }});
@@ -339,11 +342,14 @@ void frmMain::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    // Where saving did not succeed the window closes all the same.
-    if (AskToSaveComments() == CommentsOutcome::Stay) {
+    // Where saving did not succeed the window closes all the same; the comments then stay in the journal.
+    const CommentsOutcome outcome = AskToSaveComments();
+    if (outcome == CommentsOutcome::Stay) {
         event->ignore();
         return;
     }
+    if (outcome != CommentsOutcome::NotSaved)
+        journal_.Remove();
     Unload();
     QMainWindow::closeEvent(event);
 }

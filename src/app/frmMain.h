@@ -12,6 +12,7 @@
 #include "logbook/Logbook.h"
 #include "settings/Registry.h"
 #include "settings/Texts.h"
+#include "sources/CommentJournal.h"
 #include "sources/LogbookState.h"
 #include "sources/OpenLogbook.h"
 #include "sources/TempFolder.h"
@@ -36,9 +37,10 @@ class frmMain : public QMainWindow {
     Q_OBJECT
 
   public:
-    // Places the window as the settings have it. The logbook, the settings and the temporary folder must
-    // outlive the window.
-    frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFolder, CodePage codePage);
+    // Places the window as the settings have it. The logbook, the settings, the temporary folder and the
+    // journal must outlive the window.
+    frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFolder, CommentJournal& journal,
+            CodePage codePage);
 
     // What happens once, when the window is on the screen: the command line is run, and the content pane is
     // shown where it was shown when the program ended.
@@ -90,6 +92,8 @@ class frmMain : public QMainWindow {
     std::string ReadComments(const std::string& commentsFile);
     bool ZipLogbook();
     CommentsOutcome AskToSaveComments();
+    void OfferLostComments();
+    void NoteComment(EntryNumber number);
     bool FillList();
     void ShowLogbookStatus();
     void ShowLogbookError(std::int16_t code);
@@ -108,6 +112,7 @@ class frmMain : public QMainWindow {
     Logbook& logbook_;
     Registry& registry_;
     const TempFolder& tempFolder_;
+    CommentJournal& journal_;
     CodePage codePage_;
     Language language_;
     FilterTypeLabels filterTypeLabels_;

@@ -15,6 +15,7 @@
 #include "sources/CommandLine.h"
 #include "sources/Comments.h"
 #include "sources/LogbookSource.h"
+#include "sources/LostComments.h"
 #include "sources/ZipLogbook.h"
 
 #include <QPlainTextEdit>
@@ -23,11 +24,17 @@
 
 void frmMain::RunCommandLine(const std::vector<std::string>& arguments) {
     const CommandLine commandLine = ParseCommandLine(JoinArguments(arguments), IsSlashFile);
+    bool opened = false;
     for (const std::string& source : commandLine.Sources) {
         std::string name = source;
-        if (!progress_.StopWanted() && ExecuteLogbook(name))
+        if (!progress_.StopWanted() && ExecuteLogbook(name)) {
             AddNameToTitle(name);
+            opened = true;
+        }
     }
+    // For the logbook that stays.
+    if (opened)
+        OfferLostComments();
     if (commandLine.ShowUsage && !progress_.StopWanted())
         user_.ShowMessage(UsageText(language_), UserInterface::MessageIcon::None);
 }
@@ -41,7 +48,20 @@ bool frmMain::OpenLogbook(std::string name) {
     if (!::OpenLogbook(name, state_, registry_, user_, ProgramFolder() + '/', steps))
         return false;
     AddNameToTitle(name);
+    OfferLostComments();
     return true;
+}
+
+void frmMain::OfferLostComments() {
+    if (logbook_.LoadState != LoadStates::Done || progress_.StopWanted())
+        return;
+    if (::OfferLostComments(logbook_.Entries, state_, journal_, user_))
+        model_->ShowComments();
+}
+
+void frmMain::NoteComment(EntryNumber number) {
+    if (const std::error_code error = journal_.Note(logbook_.Entries, std::span(&number, 1)))
+        ShowLookupMessage(QtText(TextId::CommentNotNoted, language_) + ToQString(error.message()));
 }
 
 CommentsOutcome frmMain::AskToSaveComments() {
@@ -56,6 +76,8 @@ bool frmMain::ZipLogbook() {
         progress_.PaintValue(percent);
     });
     sbStatusBar->HideProgressBar();
+    if (outcome == ZipOutcome::Saved)
+        journal_.Remove();
     return outcome == ZipOutcome::Saved;
 }
 
@@ -98,6 +120,7 @@ bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& com
         return false;
     logbook_.Busy = true;
     state_.CommentsEdited = false;
+    journal_.Remove();
     std::error_code noFile;
     state_.CurrentFileStamp = StampOf(file, noFile);
     model_->ClearRows();

@@ -23,8 +23,9 @@ int main(int argc, char** argv) {
     const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
     Registry registry(*settings);
     const TempFolder tempFolder;
+    CommentJournal journal;
     Logbook logbook;
-    frmMain window(logbook, registry, tempFolder, CodePage::OfUser());
+    frmMain window(logbook, registry, tempFolder, journal, CodePage::OfUser());
     window.show();
     QTimer::singleShot(0, &window, [&] { window.FirstActivation(arguments); });
     return QApplication::exec();

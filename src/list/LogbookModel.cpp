@@ -54,6 +54,12 @@ void LogbookModel::ShowComment(int row) {
     emit dataChanged(cell, cell);
 }
 
+void LogbookModel::ShowComments() {
+    const int column = static_cast<int>(LogbookColumn::Comment);
+    if (rowCount() > 0)
+        emit dataChanged(index(0, column), index(rowCount() - 1, column));
+}
+
 void LogbookModel::TakeOutRows(const RowRanges& ranges) {
     beginResetModel();
     RemoveRows(rows_, ranges);

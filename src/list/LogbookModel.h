@@ -35,8 +35,9 @@ class LogbookModel : public QAbstractTableModel {
     // The tag of a row, as ListSorting.h says.
     std::string Tag(int row) const;
 
-    // The comment of the row's entry has changed.
+    // The comment of the row's entry has changed; those of any entries have.
     void ShowComment(int row);
+    void ShowComments();
 
     void TakeOutRows(const RowRanges& ranges);
 

@@ -61,6 +61,8 @@ enum class TextId : std::uint16_t {
     EndReached,
     BeginReached,
     AskSaveComments,
+    AskRestoreComments,
+    CommentNotNoted,
     ArchiveWithoutLogbook,
     AskReplaceFilters,
     NoHelpFile,

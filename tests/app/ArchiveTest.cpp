@@ -3,11 +3,6 @@
 
 #include "support/ZipWriter.h"
 
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-
 // Opening and saving with the common file dialog, and the question about edited comments.
 class ArchiveTest : public MainWindowTest {
     Q_OBJECT
@@ -161,32 +156,7 @@ class ArchiveTest : public MainWindowTest {
   private:
     void EditAComment() {
         QVERIFY(Window->OpenLogbook(FileOfErrors(2)));
-        List()->selectRow(0);
-        QTimer::singleShot(0, Person.get(), [] {
-            QWidget* const dialog = QApplication::activeModalWidget();
-            dialog->findChild<QPlainTextEdit*>("tbComment")->setPlainText("edited");
-            QTest::mouseClick(dialog->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
-        });
-        QTest::keyClick(List(), Qt::Key_Return);
-        QCOMPARE(Cell(0, 6), QString("edited"));
-    }
-
-    // Chooses a path in the next file dialog, or cancels it.
-    void AnswerFileDialog(const QString& path, QString* title = nullptr, QStringList* filters = nullptr) {
-        QTimer::singleShot(0, Person.get(), [=, this] {
-            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr)
-                return AnswerFileDialog(path, title, filters);
-            if (title != nullptr)
-                *title = dialog->windowTitle();
-            if (filters != nullptr)
-                *filters = dialog->nameFilters();
-            QCOMPARE(dialog->objectName(), QString("dlgCommonDialog"));
-            if (path.isEmpty())
-                return dialog->reject();
-            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
-            QMetaObject::invokeMethod(dialog, "accept");
-        });
+        EnterComment(0, "edited");
     }
 };
 

@@ -13,10 +13,14 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -28,7 +32,8 @@ class MainWindowTest : public QObject {
     void OpenWindow() {
         Window.reset();
         Book = std::make_unique<Logbook>();
-        Window = std::make_unique<frmMain>(*Book, *Settings, Temp, CodePage());
+        Journal = std::make_unique<CommentJournal>(Folder.Path() / "state");
+        Window = std::make_unique<frmMain>(*Book, *Settings, Temp, *Journal, CodePage());
         Window->show();
         QVERIFY(QTest::qWaitForWindowExposed(Window.get()));
         MessageTexts.clear();
@@ -39,6 +44,7 @@ class MainWindowTest : public QObject {
         Person = std::make_unique<QObject>(); // whom the test before left waiting is gone
         Store = std::make_unique<MemorySettings>();
         Settings = std::make_unique<Registry>(*Store);
+        std::filesystem::remove_all(Folder.Path() / "state");
         OpenWindow();
     }
 
@@ -117,6 +123,36 @@ class MainWindowTest : public QObject {
         });
     }
 
+    // Chooses a path in the next file dialog, or cancels it.
+    void AnswerFileDialog(const QString& path, QString* title = nullptr, QStringList* filters = nullptr) {
+        QTimer::singleShot(0, Person.get(), [=, this] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr)
+                return AnswerFileDialog(path, title, filters);
+            if (title != nullptr)
+                *title = dialog->windowTitle();
+            if (filters != nullptr)
+                *filters = dialog->nameFilters();
+            QCOMPARE(dialog->objectName(), QString("dlgCommonDialog"));
+            if (path.isEmpty())
+                return dialog->reject();
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+    }
+
+    // Enters a comment in the event entry dialog of a row.
+    void EnterComment(int row, const QString& comment) {
+        List()->selectRow(row);
+        QTimer::singleShot(0, Person.get(), [comment] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            dialog->findChild<QPlainTextEdit*>("tbComment")->setPlainText(comment);
+            QTest::mouseClick(dialog->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+        });
+        QTest::keyClick(List(), Qt::Key_Return);
+        QCOMPARE(Cell(row, 6), comment);
+    }
+
     // A key in the window, which a dialog that was closed may have left inactive.
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {
         QApplication::setActiveWindow(Window.get());
@@ -129,6 +165,7 @@ class MainWindowTest : public QObject {
     std::unique_ptr<Logbook> Book;
     std::unique_ptr<MemorySettings> Store;
     std::unique_ptr<Registry> Settings;
+    std::unique_ptr<CommentJournal> Journal;
     std::unique_ptr<frmMain> Window;
     QStringList MessageTexts;
 };

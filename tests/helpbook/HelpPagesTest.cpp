@@ -113,6 +113,8 @@ bool MustBeExplained(const TextRow& row) {
                                    TextId::EndReached,
                                    TextId::BeginReached,
                                    TextId::AskSaveComments,
+                                   TextId::AskRestoreComments,
+                                   TextId::CommentNotNoted,
                                    TextId::ArchiveWithoutLogbook,
                                    TextId::AskReplaceFilters,
                                    TextId::NoHelpFile,

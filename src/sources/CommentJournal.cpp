@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "sources/CommentJournal.h"
+
+#include "sources/LogbookChecksum.h"
+
+#include <nlohmann/json.hpp>
+
+#include <cerrno>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+std::error_code LastError() { return {errno != 0 ? errno : EIO, std::generic_category()}; }
+
+std::string Line(const nlohmann::json& value) {
+    return value.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace) + '\n';
+}
+
+bool WriteAll(int handle, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(handle, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+} // namespace
+
+CommentJournal::CommentJournal(std::filesystem::path folder) : folder_(std::move(folder)) {}
+
+CommentJournal::~CommentJournal() { Close(); }
+
+void CommentJournal::Close() {
+    if (handle_ >= 0)
+        ::close(handle_);
+    handle_ = -1;
+}
+
+std::error_code CommentJournal::Note(const EntryTable& entries, std::span<const EntryNumber> numbers) {
+    if (handle_ < 0)
+        if (const std::error_code error = Begin(entries))
+            return error;
+    std::string lines;
+    for (const EntryNumber number : numbers)
+        lines += Line({{"entry", number}, {"comment", entries.Comment(number)}});
+    return Append(lines);
+}
+
+void CommentJournal::Remove() {
+    if (handle_ < 0)
+        return;
+    std::error_code ignored;
+    std::filesystem::remove(file_, ignored);
+    Close();
+}
+
+std::error_code CommentJournal::Begin(const EntryTable& entries) {
+    std::error_code error;
+    std::filesystem::create_directories(folder_, error);
+    if (error)
+        return error;
+    std::string name = (folder_ / "comments-XXXXXX").string();
+    errno = 0;
+    handle_ = ::mkostemp(name.data(), O_APPEND | O_CLOEXEC);
+    if (handle_ < 0)
+        return LastError();
+    file_ = name;
+    // A file system without locks: another copy could take the file for one that a crash left.
+    if (::flock(handle_, LOCK_EX | LOCK_NB) != 0)
+        error = LastError();
+    else
+        error = Append(Line({{"logbook", LogbookChecksum(entries)}, {"entries", entries.Count()}}));
+    if (error)
+        Remove();
+    return error;
+}
+
+// All of the lines or nothing: half a line would spoil the next one, too.
+std::error_code CommentJournal::Append(std::string_view lines) {
+    struct stat before {};
+    errno = 0;
+    if (::fstat(handle_, &before) != 0)
+        return LastError();
+    if (WriteAll(handle_, lines) && ::fsync(handle_) == 0)
+        return {};
+    const std::error_code error = LastError();
+    (void)!::ftruncate(handle_, before.st_size);
+    return error;
+}

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "sources/LostComments.h"
+
+#include "sources/LogbookChecksum.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <fstream>
+#include <optional>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace {
+
+using Json = nlohmann::json;
+
+std::optional<EntryNumber> NumberIn(const Json& line, const char* name) {
+    const auto member = line.find(name);
+    if (member == line.end() || !member->is_number_unsigned() || member->get<std::uint64_t>() > MostEntries)
+        return std::nullopt;
+    return static_cast<EntryNumber>(member->get<std::uint64_t>());
+}
+
+std::optional<std::string> TextIn(const Json& line, const char* name) {
+    const auto member = line.find(name);
+    return member != line.end() && member->is_string() ? std::optional(member->get<std::string>())
+                                                       : std::nullopt;
+}
+
+// The next line that is whole; a discarded value at the end of the file.
+Json NextLine(std::istream& stream) {
+    std::string text;
+    if (!std::getline(stream, text) || stream.eof())
+        return Json(Json::value_t::discarded);
+    Json line = Json::parse(text, nullptr, false);
+    return line.is_object() ? line : Json::object();
+}
+
+// The checksum of this logbook, for which it is looked at when the first journal asks.
+class ChecksumOnDemand {
+  public:
+    explicit ChecksumOnDemand(const EntryTable& entries) : entries_(entries) {}
+
+    const std::string& operator()() {
+        if (sum_.empty())
+            sum_ = LogbookChecksum(entries_);
+        return sum_;
+    }
+
+  private:
+    const EntryTable& entries_;
+    std::string sum_;
+};
+
+// The files of a folder, the one written last behind the others: of two comments of an entry, it counts.
+std::vector<std::filesystem::path> FilesByAge(const std::filesystem::path& folder) {
+    std::error_code error;
+    std::vector<std::pair<std::filesystem::file_time_type, std::filesystem::path>> files;
+    for (std::filesystem::directory_iterator item(folder, error), end; !error && item != end;
+         item.increment(error)) {
+        std::error_code noFile;
+        if (item->is_regular_file(noFile) && !noFile)
+            files.emplace_back(item->last_write_time(noFile), item->path());
+    }
+    std::sort(files.begin(), files.end());
+    std::vector<std::filesystem::path> paths;
+    for (const auto& [time, path] : files)
+        paths.push_back(path);
+    return paths;
+}
+
+} // namespace
+
+LostComments::LostComments(const std::filesystem::path& folder, const EntryTable& entries) {
+    ChecksumOnDemand checksum(entries);
+    for (const std::filesystem::path& path : FilesByAge(folder)) {
+        const int handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW);
+        if (handle < 0)
+            continue;
+        std::ifstream stream(path, std::ios::binary);
+        if (::flock(handle, LOCK_EX | LOCK_NB) != 0) {
+            ::close(handle);
+            continue;
+        }
+        const Json header = NextLine(stream);
+        if (!header.is_object() || NumberIn(header, "entries") != entries.Count() ||
+            TextIn(header, "logbook") != checksum()) {
+            ::close(handle);
+            continue;
+        }
+        journals_.push_back({path, handle});
+        for (Json line = NextLine(stream); !line.is_discarded(); line = NextLine(stream)) {
+            const std::optional<EntryNumber> number = NumberIn(line, "entry");
+            std::optional<std::string> comment = TextIn(line, "comment");
+            if (number && *number < entries.Count() && comment)
+                comments_[*number] = std::move(*comment);
+        }
+    }
+    std::erase_if(comments_,
+                  [&](const auto& comment) { return entries.Comment(comment.first) == comment.second; });
+}
+
+LostComments::~LostComments() {
+    for (const Journal& journal : journals_)
+        ::close(journal.Handle);
+}
+
+void LostComments::Remove() {
+    std::error_code ignored;
+    for (const Journal& journal : journals_)
+        std::filesystem::remove(journal.File, ignored);
+}
+
+namespace {
+
+// Sets the comments and notes them anew. The journals that held them go when none of them needs one any more.
+void Restore(LostComments& lost, EntryTable& entries, CommentJournal& journal) {
+    std::vector<EntryNumber> numbers;
+    for (const auto& [number, comment] : lost.Comments()) {
+        entries.SetComment(number, comment);
+        numbers.push_back(number);
+    }
+    if (!journal.Note(entries, numbers))
+        lost.Remove();
+}
+
+} // namespace
+
+bool OfferLostComments(EntryTable& entries, LogbookState& state, CommentJournal& journal,
+                       UserInterface& user) {
+    LostComments lost(journal.Folder(), entries);
+    if (lost.Comments().empty()) {
+        lost.Remove();
+        return false;
+    }
+    switch (user.Ask(TextId::AskRestoreComments)) {
+    case UserInterface::Answer::Yes:
+        Restore(lost, entries, journal);
+        state.CommentsEdited = true;
+        return true;
+    case UserInterface::Answer::No:
+        lost.Remove();
+        break;
+    case UserInterface::Answer::Cancel:
+        break;
+    }
+    return false;
+}

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "app/MainWindowTest.h"
+
+#include <filesystem>
+
+// Comments that were entered in the window and not saved when the program crashed.
+class LostCommentsTest : public MainWindowTest {
+    Q_OBJECT
+
+  private slots:
+    void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    void init() { StartAfresh(); }
+    void cleanup() { Window.reset(); }
+
+    void AreOfferedWhenTheSameLogbookIsOpenedNext() {
+        const std::string file = FileOfErrors(3);
+        Comment(file, 1, "pump replaced");
+        Crash();
+        QVERIFY(Window->OpenLogbook(File("other.log", {Header("BERR:    x")})));
+        QVERIFY(MessageTexts.isEmpty());
+        AnswerQuestion(QMessageBox::Yes);
+        QVERIFY(Window->OpenLogbook(file));
+        QCOMPARE(MessageTexts,
+                 QStringList({"Comments on this logbook were not saved the last time. Restore them?"}));
+        QCOMPARE(Column(6), QStringList({"", "pump replaced", ""}));
+
+        // They are edited comments like others.
+        AnswerQuestion(QMessageBox::No);
+        QVERIFY(Window->close());
+        QCOMPARE(MessageTexts.back(), QString("Comments edited. Save into logbook archive?"));
+        QCOMPARE(Journals(), 0);
+        OpenWindow();
+        QVERIFY(Window->OpenLogbook(file));
+        QVERIFY(MessageTexts.isEmpty());
+    }
+
+    void AreOfferedForTheCommandLineToo() {
+        const std::string file = FileOfErrors(2);
+        Comment(file, 0, "lost");
+        Crash();
+        WriteLanguage(*Settings, {1});
+        OpenWindow();
+        AnswerQuestion(QMessageBox::Yes);
+        Window->RunCommandLine({File("other.log", {Header("BERR:    x")}), file});
+        QCOMPARE(MessageTexts, QStringList({"Kommentare zu diesem Logbuch wurden beim letzten Mal nicht "
+                                            "gespeichert. Wiederherstellen?"}));
+        QCOMPARE(Column(6), QStringList({"lost", ""}));
+    }
+
+    void AreDroppedWhenDeclined() {
+        const std::string file = FileOfErrors(2);
+        Comment(file, 0, "unwanted");
+        Crash();
+        AnswerQuestion(QMessageBox::No);
+        QVERIFY(Window->OpenLogbook(file));
+        QCOMPARE(Column(6), QStringList({"", ""}));
+        QCOMPARE(Journals(), 0);
+        QVERIFY(Window->close());
+        QCOMPARE(MessageTexts.size(), 1);
+    }
+
+    void NobodyIsAskedWithoutACrash() {
+        const std::string file = FileOfErrors(2);
+        Comment(file, 0, "declined");
+        AnswerQuestion(QMessageBox::No);
+        QVERIFY(Window->close());
+        QCOMPARE(Journals(), 0);
+
+        OpenWindow();
+        Comment(file, 0, "saved");
+        QCOMPARE(Journals(), 1);
+        Save("saved.qorvix");
+        QCOMPARE(Journals(), 0);
+        Crash();
+        QVERIFY(Window->OpenLogbook(file));
+        QVERIFY(MessageTexts.isEmpty());
+
+        Comment(file, 0, "dropped");
+        AnswerQuestion(QMessageBox::No);
+        QVERIFY(Window->OpenLogbook(File("other.log", {Header("BERR:    x")})));
+        QCOMPARE(Journals(), 0);
+    }
+
+    void StayWhereTheWindowClosesWithoutSavingThem() {
+        const std::string file = FileOfErrors(2);
+        Comment(file, 0, "kept");
+        AnswerQuestion(QMessageBox::Yes);
+        QTimer::singleShot(50, Person.get(), [this] { AnswerFileDialog(""); });
+        QVERIFY(Window->close());
+        QCOMPARE(Journals(), 1);
+        OpenWindow();
+        AnswerQuestion(QMessageBox::Yes);
+        QVERIFY(Window->OpenLogbook(file));
+        QCOMPARE(Column(6), QStringList({"kept", ""}));
+    }
+
+    void ArchiveThatHasThemIsNotAskedAbout() {
+        const std::string file = FileOfErrors(2);
+        Comment(file, 0, "a");
+        // The program crashes when the archive stands in its place and before the journal has gone.
+        std::filesystem::copy(Folder.Path() / "state", Folder.Path() / "kept");
+        Save("crash.qorvix");
+        Crash();
+        std::filesystem::remove_all(Folder.Path() / "state");
+        std::filesystem::rename(Folder.Path() / "kept", Folder.Path() / "state");
+        AnswerQuestion(QMessageBox::No); // Replace active filter list?
+        QVERIFY(Window->OpenLogbook(Folder / "crash.qorvix"));
+        QCOMPARE(MessageTexts, QStringList({"Replace active filter list?"}));
+        QCOMPARE(Column(6), QStringList({"a", ""}));
+        QCOMPARE(Journals(), 0);
+    }
+
+    void StateFolderThatCannotBeWrittenIsToldInTheStatusBar() {
+        Folder.Write("state", "a file");
+        Comment(FileOfErrors(2), 0, "a");
+        QVERIFY(Find<QLabel>("statusText")->text().startsWith("Comments are not secured against a crash: "));
+        QCOMPARE(Cell(0, 6), QString("a"));
+    }
+
+  private:
+    int Journals() const {
+        std::error_code none;
+        return static_cast<int>(
+            std::distance(std::filesystem::directory_iterator(Folder.Path() / "state", none), {}));
+    }
+
+    // The program ends without having been closed, and is started again.
+    void Crash() { OpenWindow(); }
+
+    void Comment(const std::string& file, int row, const QString& comment) {
+        QVERIFY(Window->OpenLogbook(file));
+        EnterComment(row, comment);
+    }
+
+    void Save(const char* name) {
+        AnswerFileDialog(QString::fromStdString(Folder / name));
+        Item("mnuFileZipLogbook")->trigger();
+        QVERIFY(std::filesystem::exists(Folder / name));
+    }
+};
+
+QTEST_MAIN(LostCommentsTest)
+#include "LostCommentsTest.moc"

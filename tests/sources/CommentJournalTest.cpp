@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: MIT
+#include "sources/LostComments.h"
+
+#include "sources/LogbookChecksum.h"
+#include "support/EntriesFrom.h"
+#include "support/ScriptedUser.h"
+#include "support/SmallFiles.h"
+#include "support/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <memory>
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pair;
+
+std::vector<TestEntry> Entries(int count) {
+    std::vector<TestEntry> entries;
+    for (int i = 0; i < count; ++i)
+        entries.push_back({EventTypes::Info, "data " + std::to_string(i), "NC", "name"});
+    return entries;
+}
+
+class CommentJournalTest : public testing::Test {
+  protected:
+    CommentJournalTest() { FillTable(Book, Entries(5)); }
+
+    std::error_code Enter(CommentJournal& journal, EntryNumber number, std::string_view comment) {
+        Book.SetComment(number, comment);
+        return journal.Note(Book, std::span(&number, 1));
+    }
+
+    // What a crash leaves of these comments; the logbook is then as it was read.
+    void Crash(const std::vector<std::pair<EntryNumber, std::string>>& comments) {
+        CommentJournal journal(State);
+        for (const auto& [number, comment] : comments)
+            EXPECT_FALSE(Enter(journal, number, comment));
+        FillTable(Book, Entries(5));
+    }
+
+    std::vector<fs::path> Files() const {
+        std::vector<fs::path> files;
+        std::error_code none;
+        for (const auto& item : fs::directory_iterator(State, none))
+            files.push_back(item.path());
+        return files;
+    }
+
+    bool Offer(std::deque<UserInterface::Answer> answers = {}) {
+        User.Answers = std::move(answers);
+        return OfferLostComments(Book, Known, Journal, User);
+    }
+
+    TemporaryFolder Folder;
+    fs::path State = Folder.Path() / "state" / "Qorvix";
+    EntryTable Book;
+    LogbookState Known;
+    ScriptedUser User;
+    CommentJournal Journal{State};
+};
+
+TEST_F(CommentJournalTest, NothingIsWrittenWithoutAComment) {
+    EXPECT_FALSE(Offer());
+    EXPECT_FALSE(fs::exists(State));
+}
+
+TEST_F(CommentJournalTest, EachCommentIsALineBehindTheLogbook) {
+    EXPECT_FALSE(Enter(Journal, 3, "pump \"A\"\nreplaced, grün"));
+    EXPECT_FALSE(Enter(Journal, 3, ""));
+    ASSERT_EQ(Files().size(), 1U);
+    EXPECT_EQ(FileContent(Files().front()),
+              "{\"entries\":5,\"logbook\":\"" + LogbookChecksum(Book) +
+                  "\"}\n"
+                  "{\"comment\":\"pump \\\"A\\\"\\nreplaced, grün\",\"entry\":3}\n"
+                  "{\"comment\":\"\",\"entry\":3}\n");
+    EXPECT_EQ(fs::status(Files().front()).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(CommentJournalTest, GoesWhenItsCommentsAreSavedOrDeclined) {
+    EXPECT_FALSE(Enter(Journal, 0, "a"));
+    Journal.Remove();
+    EXPECT_THAT(Files(), IsEmpty());
+    EXPECT_FALSE(Enter(Journal, 0, "b"));
+    EXPECT_EQ(Files().size(), 1U);
+}
+
+TEST_F(CommentJournalTest, CommentsComeBackAfterACrash) {
+    Crash({{1, "first"}, {4, "x"}, {1, "second"}});
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    EXPECT_THAT(User.Questions, ElementsAre(TextId::AskRestoreComments));
+    EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "second"), Pair(4, "x")));
+    EXPECT_TRUE(Known.CommentsEdited);
+    // They are as safe as before, in one file.
+    EXPECT_EQ(Files().size(), 1U);
+    EXPECT_THAT(LostComments(State, Book).Comments(), IsEmpty());
+    Journal.Remove();
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
+TEST_F(CommentJournalTest, SurviveASecondCrash) {
+    Crash({{1, "kept"}});
+    {
+        CommentJournal second(State);
+        User.Answers = {UserInterface::Answer::Yes};
+        EXPECT_TRUE(OfferLostComments(Book, Known, second, User));
+        EXPECT_FALSE(Enter(second, 2, "more"));
+    }
+    FillTable(Book, Entries(5));
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "kept"), Pair(2, "more")));
+}
+
+TEST_F(CommentJournalTest, DeclinedCommentsGo) {
+    Crash({{1, "a"}});
+    EXPECT_FALSE(Offer({UserInterface::Answer::No}));
+    EXPECT_THAT(Book.Comments(), IsEmpty());
+    EXPECT_FALSE(Known.CommentsEdited);
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
+TEST_F(CommentJournalTest, CancelOffersThemAgainTheNextTime) {
+    Crash({{1, "a"}});
+    EXPECT_FALSE(Offer({UserInterface::Answer::Cancel}));
+    EXPECT_THAT(Book.Comments(), IsEmpty());
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "a")));
+}
+
+TEST_F(CommentJournalTest, RemovedCommentIsRemovedAgain) {
+    Book.SetComment(2, "of the archive");
+    {
+        CommentJournal journal(State);
+        EXPECT_FALSE(Enter(journal, 2, ""));
+    }
+    Book.SetComment(2, "of the archive");
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    EXPECT_THAT(Book.Comments(), IsEmpty());
+}
+
+TEST_F(CommentJournalTest, CommentsThatTheLogbookHasAreNotOffered) {
+    Crash({{1, "a"}, {2, ""}});
+    Book.SetComment(1, "a");
+    EXPECT_FALSE(Offer());
+    EXPECT_THAT(User.Questions, IsEmpty());
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
+TEST_F(CommentJournalTest, OtherLogbooksAreNotConcerned) {
+    Crash({{1, "a"}});
+    FillTable(Book, Entries(6));
+    EXPECT_FALSE(Offer());
+    std::vector<TestEntry> other = Entries(5);
+    other[4].Data += '!';
+    FillTable(Book, other);
+    EXPECT_FALSE(Offer());
+    EXPECT_THAT(User.Questions, IsEmpty());
+    EXPECT_EQ(Files().size(), 1U);
+}
+
+TEST_F(CommentJournalTest, CopyThatRunsKeepsItsCommentsToItself) {
+    CommentJournal running(State);
+    EXPECT_FALSE(Enter(running, 1, "a"));
+    FillTable(Book, Entries(5));
+    EXPECT_FALSE(Offer());
+    EXPECT_THAT(User.Questions, IsEmpty());
+    EXPECT_EQ(Files().size(), 1U);
+}
+
+TEST_F(CommentJournalTest, WhoIsAskedHoldsTheCommentsAgainstOthers) {
+    Crash({{1, "a"}});
+    const LostComments asked(State, Book);
+    EXPECT_EQ(asked.Comments().size(), 1U);
+    EXPECT_FALSE(Offer());
+    EXPECT_THAT(User.Questions, IsEmpty());
+}
+
+TEST_F(CommentJournalTest, OfTwoCrashesTheLaterCounts) {
+    Crash({{1, "early"}, {2, "kept"}});
+    const fs::path early = Files().front();
+    Crash({{1, "late"}});
+    fs::last_write_time(early, fs::last_write_time(early) - std::chrono::hours(1));
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "late"), Pair(2, "kept")));
+    EXPECT_EQ(Files().size(), 1U);
+}
+
+TEST_F(CommentJournalTest, EveryCutOffFileGivesItsWholeLines) {
+    Crash({{1, "first"}, {2, "second"}});
+    const fs::path file = Files().front();
+    const std::string whole = FileContent(file);
+    const std::size_t firstEnd = whole.find('\n', whole.find('\n') + 1) + 1;
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        fs::resize_file(file, length);
+        const LostComments lost(State, Book);
+        if (length < firstEnd)
+            EXPECT_THAT(lost.Comments(), IsEmpty()) << length;
+        else
+            EXPECT_THAT(lost.Comments(), ElementsAre(Pair(1, "first"))) << length;
+        std::ofstream(file, std::ios::binary | std::ios::trunc) << whole;
+    }
+}
+
+TEST_F(CommentJournalTest, StrangeLinesAndFilesArePassedOver) {
+    Crash({{1, "a"}});
+    std::ofstream(Files().front(), std::ios::app) << "nonsense\n[1]\n{\"entry\":5,\"comment\":\"behind\"}\n"
+                                                     "{\"entry\":-1,\"comment\":\"before\"}\n"
+                                                     "{\"entry\":2}\n{\"entry\":2,\"comment\":7}\n"
+                                                     "{\"entry\":3,\"comment\":\"b\"}\n";
+    std::ofstream(State / "empty");
+    std::ofstream(State / "other") << "{\"entries\":5,\"logbook\":5}\n";
+    fs::create_directory(State / "folder");
+    fs::create_symlink("nowhere", State / "link");
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "a"), Pair(3, "b")));
+    EXPECT_EQ(Files().size(), 5U);
+}
+
+TEST_F(CommentJournalTest, FullDiskIsToldAndLeavesNoHalfLine) {
+    EXPECT_FALSE(Enter(Journal, 1, "a"));
+    const fs::path file = Files().front();
+    const std::string before = FileContent(file);
+    {
+        const SmallFiles full(before.size() + 10);
+        EXPECT_EQ(Enter(Journal, 2, "no room"), std::errc::file_too_large);
+    }
+    EXPECT_EQ(FileContent(file), before);
+    EXPECT_FALSE(Enter(Journal, 3, "room again"));
+    EXPECT_EQ(FileContent(file), before + "{\"comment\":\"room again\",\"entry\":3}\n");
+}
+
+TEST_F(CommentJournalTest, FolderThatCannotBeMadeIsTold) {
+    fs::create_directories(State.parent_path());
+    std::ofstream(State) << "a file";
+    EXPECT_EQ(Enter(Journal, 1, "a"), std::errc::not_a_directory);
+    EXPECT_FALSE(Offer());
+}
+
+TEST_F(CommentJournalTest, LostCommentsStayInTheirFileWhereNoNewOneCanBeWritten) {
+    Crash({{1, "a"}});
+    {
+        const SmallFiles full(10);
+        EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    }
+    EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "a")));
+    EXPECT_EQ(Files().size(), 1U);
+    FillTable(Book, Entries(5));
+    EXPECT_EQ(LostComments(State, Book).Comments().size(), 1U);
+}
+
+TEST(LogbookChecksumTest, TellsEveryFieldOfEveryEntry) {
+    const std::vector<TestEntry> plain = Entries(3);
+    const auto sumOf = [](const std::vector<TestEntry>& entries) {
+        EntryTable table;
+        FillTable(table, entries);
+        return LogbookChecksum(table);
+    };
+    const std::string sum = sumOf(plain);
+    EXPECT_EQ(sum.size(), 32U);
+    EXPECT_EQ(sumOf(plain), sum);
+    for (std::size_t i = 0; i < plain.size(); ++i) {
+        std::vector<std::vector<TestEntry>> others(6, plain);
+        others[0][i].Data = "Data";
+        others[1][i].Sender = "PLC";
+        others[2][i].Name = "nam";
+        others[3][i].Time = "04.01.2010 12:34:57";
+        others[4][i].EventType = EventTypes::Error;
+        others[5][i].Time = "no clock";
+        for (const auto& other : others)
+            EXPECT_NE(sumOf(other), sum);
+    }
+    EXPECT_NE(sumOf({plain[1], plain[0], plain[2]}), sum);
+}
+
+TEST(LogbookChecksumTest, CommentsDoNotCount) {
+    EntryTable table;
+    FillTable(table, Entries(3));
+    const std::string sum = LogbookChecksum(table);
+    table.SetComment(1, "a");
+    EXPECT_EQ(LogbookChecksum(table), sum);
+}
+
+} // namespace
