@@ -32,7 +32,7 @@ class Reading {
             Kind = Generation::Separated;
             // The event below the first separator line is read with it and is not stored.
             ParsedEntry unused;
-            ParseSeparatedLine(line, unused, File, SeparatorDate);
+            ParseSeparatedLine(line, unused, File, Date);
         } else if (line.starts_with(OperationHeading)) {
             Kind = Generation::Operation;
             const std::string_view version = Right(line, SupportedVersion.size());
@@ -66,7 +66,7 @@ class Reading {
             ParseClassicLine(line, entry, File, Progress);
             break;
         case Generation::Separated:
-            ParseSeparatedLine(line, entry, File, SeparatorDate);
+            ParseSeparatedLine(line, entry, File, Date);
             break;
         case Generation::Operation:
             ParseOperationLine(line, entry, File);
@@ -100,7 +100,7 @@ class Reading {
     ReadingProgress& Progress;
     const CodePage& Code;
     Generation Kind = Generation::Classic;
-    std::string SeparatorDate;
+    SeparatorDate Date;
     std::int64_t LastShown = 0;
 };
 

@@ -2,19 +2,19 @@
 #pragma once
 
 #include "logbook/LogbookEntry.h"
+#include "logbook/modUtil.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <string>
 #include <string_view>
-#include <utility>
 
 // The entry that a line parser fills. Its texts still have one byte a character, as the logbook file has,
 // because every column rule counts characters; they are converted when the entry table stores the entry.
 //
 // The texts point into the lines that they were cut from, which stay valid until the file's lines are
-// released, or into texts that live longer, or into what SetData and Keep made the entry's own.
+// released, or into texts that live longer, or into what SetData, TimeRoom and Keep made the entry's own.
 class ParsedEntry {
   public:
     std::int16_t EventType = EventTypes::None;
@@ -59,11 +59,8 @@ class ParsedEntry {
         Data = OwnedData;
     }
 
-    // Makes a text the time, as the entry's own.
-    void SetTime(std::string text) {
-        OwnedTime = std::move(text);
-        Time = OwnedTime;
-    }
+    // Room for a time that is the entry's own.
+    StampRoom& TimeRoom() { return OwnedTime; }
 
     // Makes all texts the entry's own, so that the lines may be released.
     void Keep() {
@@ -85,7 +82,7 @@ class ParsedEntry {
     }
 
     std::string OwnedData;
-    std::string OwnedTime;
+    StampRoom OwnedTime{};
     std::string OwnedFields;
     std::string JoinedParts;
 };

@@ -4,6 +4,10 @@
 #include "logbook/EventLines.h"
 #include "logbook/KeywordTable.h"
 
+#include <algorithm>
+#include <array>
+#include <cstring>
+
 namespace {
 
 using ReadFields = void (*)(std::string_view line, ParsedEntry& entry, clsFile& file);
@@ -18,11 +22,40 @@ struct KeywordRow {
 // A bare clock time is shorter than this; a longer one brings its own date.
 constexpr std::size_t DatedStampLength = 9;
 
-std::string SeparatedTime(std::string_view line, std::string_view separatorDate) {
+// A separator line carries its date in 15 characters.
+constexpr std::int64_t SeparatorDateColumn = 10;
+constexpr std::int64_t SeparatorDateLength = 15;
+
+// The stamp of a clock that has no date with it, as NormaliseStamp makes it of both.
+std::string_view StampOn(std::string_view date, std::string_view clock, StampRoom& room) {
+    std::array<char, DatedStampLength + SeparatorDateLength> dated;
+    char* end = std::copy(clock.begin(), clock.end(), dated.data());
+    *end++ = Blank;
+    end = std::copy(date.begin(), date.end(), end);
+    return NormaliseStamp({dated.data(), static_cast<std::size_t>(end - dated.data())}, room);
+}
+
+void TakeDate(std::string_view line, SeparatorDate& date) {
+    constexpr std::string_view AnyClock = "12:34:56";
+    date.Text = Mid(line, SeparatorDateColumn, SeparatorDateLength);
+    StampRoom room;
+    date.Day = StampOn(date.Text, AnyClock, room);
+    date.Day.resize(date.Day.size() - AnyClock.size());
+}
+
+std::string_view SeparatedTime(std::string_view line, const SeparatorDate& date, StampRoom& room) {
+    constexpr std::size_t ClockLength = 8;
+    constexpr std::size_t DayLength = 11;
     const std::string_view clock = line.size() > 44 ? Trim(Mid(line, 44)) : std::string_view{};
     if (clock.size() >= DatedStampLength)
-        return NormaliseStamp(clock);
-    return NormaliseStamp(std::string(clock).append(1, Blank).append(separatorDate));
+        return NormaliseStamp(clock, room);
+    // Nearly every line: sizes that the compiler knows make this two moves.
+    if (clock.size() == ClockLength && date.Day.size() == DayLength) {
+        std::memcpy(room.data(), date.Day.data(), DayLength);
+        std::memcpy(room.data() + DayLength, clock.data(), ClockLength);
+        return {room.data(), DayLength + ClockLength};
+    }
+    return StampOn(date.Text, clock, room);
 }
 
 // The text behind the keyword's colon; a further colon belongs to the clock, whose two digits before it go
@@ -83,10 +116,9 @@ constexpr KeywordTable<KeywordRow, 10> Keywords({{
 
 } // namespace
 
-void ParseSeparatedLine(std::string_view line, ParsedEntry& entry, clsFile& file,
-                        std::string& separatorDate) {
+void ParseSeparatedLine(std::string_view line, ParsedEntry& entry, clsFile& file, SeparatorDate& date) {
     if (line.starts_with("___")) {
-        separatorDate = Mid(line, 10, 15);
+        TakeDate(line, date);
         file.ReadLine(line);
     }
     const KeywordRow* const keyword = Keywords.Find(line);
@@ -94,6 +126,6 @@ void ParseSeparatedLine(std::string_view line, ParsedEntry& entry, clsFile& file
         return;
     entry.EventType = keyword->EventType;
     entry.Image = keyword->Image;
-    entry.SetTime(SeparatedTime(line, separatorDate));
+    entry.Time = SeparatedTime(line, date, entry.TimeRoom());
     keyword->Read(line, entry, file);
 }

@@ -7,10 +7,15 @@
 #include <string>
 #include <string_view>
 
+// The date of the last separator line.
+struct SeparatorDate {
+    std::string Text; // as the line has it: "Mon Jan 04 2010"
+    std::string Day;  // in a stamp, with the blank before the clock: "04.01.2010 "
+};
+
 // In this generation a separator line, which begins with "___", carries the date, and the events below it
 // only the clock time.
 //
-// Fills `entry` as ParseClassicLine does. `separatorDate` keeps the date of the last separator line between
-// calls; a separator line is followed at once by the line after it. Throws RunTimeError for a key line whose
-// clock stands before its text.
-void ParseSeparatedLine(std::string_view line, ParsedEntry& entry, clsFile& file, std::string& separatorDate);
+// Fills `entry` as ParseClassicLine does. `date` is kept between calls; a separator line is followed at
+// once by the line after it. Throws RunTimeError for a key line whose clock stands before its text.
+void ParseSeparatedLine(std::string_view line, ParsedEntry& entry, clsFile& file, SeparatorDate& date);

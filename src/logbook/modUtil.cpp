@@ -6,39 +6,51 @@
 #include <array>
 #include <fstream>
 #include <limits>
-#include <utility>
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 12> Months{{
-    {"JAN", ".01."},
-    {"FEB", ".02."},
-    {"MAR", ".03."},
-    {"APR", ".04."},
-    {"MAY", ".05."},
-    {"JUN", ".06."},
-    {"JUL", ".07."},
-    {"AUG", ".08."},
-    {"SEP", ".09."},
-    {"OCT", ".10."},
-    {"NOV", ".11."},
-    {"DEC", ".12."},
+struct Month {
+    std::uint32_t Name; // its letters as one number, as LettersOf gives them
+    std::string_view Text;
+};
+
+// Three letters as one number, whatever their case.
+constexpr std::uint32_t LettersOf(std::string_view name) {
+    std::uint32_t letters = 0;
+    for (const char c : name)
+        letters = letters << 8U | static_cast<unsigned char>(UpperCase(c));
+    return letters;
+}
+
+constexpr std::array<Month, 12> Months{{
+    {LettersOf("JAN"), ".01."},
+    {LettersOf("FEB"), ".02."},
+    {LettersOf("MAR"), ".03."},
+    {LettersOf("APR"), ".04."},
+    {LettersOf("MAY"), ".05."},
+    {LettersOf("JUN"), ".06."},
+    {LettersOf("JUL"), ".07."},
+    {LettersOf("AUG"), ".08."},
+    {LettersOf("SEP"), ".09."},
+    {LettersOf("OCT"), ".10."},
+    {LettersOf("NOV"), ".11."},
+    {LettersOf("DEC"), ".12."},
 }};
 
 constexpr std::string_view PathSeparators = "\\/";
 
 // The month's number between its dots; "" for an unknown name.
 std::string_view MonthText(std::string_view name) {
-    const auto isSame = [](char a, char b) { return UpperCase(a) == b; };
-    for (const auto& [known, text] : Months)
-        if (std::equal(name.begin(), name.end(), known.begin(), known.end(), isSame))
-            return text;
+    if (name.size() == 3)
+        for (const Month& month : Months)
+            if (month.Name == LettersOf(name))
+                return month.Text;
     return {};
 }
 
 } // namespace
 
-std::string NormaliseStamp(std::string_view text) {
+std::string_view NormaliseStamp(std::string_view text, StampRoom& room) {
     const std::string_view ninth = Mid(text, 9, 1);
     const bool milliseconds = ninth == "." || ninth == ":";
     const std::int64_t clockLength = milliseconds ? 12 : 8;
@@ -47,10 +59,11 @@ std::string NormaliseStamp(std::string_view text) {
     const std::string_view day = Mid(text, clockLength + 10, 2);
     const std::string_view year = Mid(text, clockLength + 13, 4);
 
-    std::string stamp;
-    stamp.reserve(24);
-    stamp.append(day).append(MonthText(month)).append(year).append(1, Blank).append(Left(text, clockLength));
-    return stamp;
+    char* end = room.data();
+    for (const std::string_view part :
+         {day, MonthText(month), year, std::string_view(" "), Left(text, clockLength)})
+        end = std::copy(part.begin(), part.end(), end);
+    return {room.data(), static_cast<std::size_t>(end - room.data())};
 }
 
 std::string HexToChar(std::string_view text) {

@@ -5,6 +5,7 @@
 #include "logbook/RunTimeError.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -36,10 +37,13 @@ inline std::string_view Right(std::string_view text, std::size_t length) {
     return text.substr(text.size() - std::min(length, text.size()));
 }
 
+// Room for a stamp: two digits of the day, the month between its dots, the year, a blank and the clock.
+using StampRoom = std::array<char, 2 + 4 + 4 + 1 + 12>;
+
 // Turns "clock weekday month day year" with single blanks between, English month names, into the day-first
 // stamp: "12:34:56 Mon Jan 04 2010" gives "04.01.2010 12:34:56". The clock may carry milliseconds. An unknown
-// month leaves day and year with nothing between. At most 23 characters.
-std::string NormaliseStamp(std::string_view text);
+// month leaves day and year with nothing between. The stamp lies in `room`.
+std::string_view NormaliseStamp(std::string_view text, StampRoom& room);
 
 // The printable ASCII character of a hexadecimal key code such as "0x0041", or "". Digits are upper case; any
 // other character counts as -1. A value that does not fit 64 bits gives "".

@@ -5,6 +5,11 @@
 
 #include <gtest/gtest.h>
 
+static std::string Normalised(std::string_view text) {
+    StampRoom room;
+    return std::string(NormaliseStamp(text, room));
+}
+
 TEST(Trim, RemovesBlanksOnly) {
     EXPECT_EQ(Trim("  a b  "), "a b");
     EXPECT_EQ(Trim("\ta\t"), "\ta\t");
@@ -40,9 +45,9 @@ TEST(Right, GivesTheWholeTextWhenItIsShorter) {
 }
 
 TEST(NormaliseStamp, TurnsEnglishDatesRound) {
-    EXPECT_EQ(NormaliseStamp("12:34:56 Mon Jan 04 2010"), "04.01.2010 12:34:56");
-    EXPECT_EQ(NormaliseStamp("12:34:56.789 Tue Feb 16 2010"), "16.02.2010 12:34:56.789");
-    EXPECT_EQ(NormaliseStamp("12:34:56:789 Tue Feb 16 2010"), "16.02.2010 12:34:56:789");
+    EXPECT_EQ(Normalised("12:34:56 Mon Jan 04 2010"), "04.01.2010 12:34:56");
+    EXPECT_EQ(Normalised("12:34:56.789 Tue Feb 16 2010"), "16.02.2010 12:34:56.789");
+    EXPECT_EQ(Normalised("12:34:56:789 Tue Feb 16 2010"), "16.02.2010 12:34:56:789");
 }
 
 TEST(NormaliseStamp, KnowsAllMonthsInAnyCase) {
@@ -50,18 +55,18 @@ TEST(NormaliseStamp, KnowsAllMonthsInAnyCase) {
         {"Jan", "01"}, {"FEB", "02"}, {"mar", "03"}, {"aPr", "04"}, {"May", "05"}, {"Jun", "06"},
         {"Jul", "07"}, {"Aug", "08"}, {"Sep", "09"}, {"Oct", "10"}, {"Nov", "11"}, {"Dec", "12"}};
     for (const auto& [name, number] : months)
-        EXPECT_EQ(NormaliseStamp(std::string("01:02:03 Mon ") + name + " 31 2010"),
+        EXPECT_EQ(Normalised(std::string("01:02:03 Mon ") + name + " 31 2010"),
                   std::string("31.") + number + ".2010 01:02:03");
 }
 
 TEST(NormaliseStamp, UnknownMonthLeavesDayAndYearRunTogether) {
-    EXPECT_EQ(NormaliseStamp("12:34:56 Mon Foo 04 2010"), "042010 12:34:56");
+    EXPECT_EQ(Normalised("12:34:56 Mon Foo 04 2010"), "042010 12:34:56");
 }
 
 TEST(NormaliseStamp, ShortTextGivesWhatThereIs) {
-    EXPECT_EQ(NormaliseStamp(""), " ");
-    EXPECT_EQ(NormaliseStamp("12:34:56"), " 12:34:56");
-    EXPECT_EQ(NormaliseStamp("12:34:56.789"), " 12:34:56.789");
+    EXPECT_EQ(Normalised(""), " ");
+    EXPECT_EQ(Normalised("12:34:56"), " 12:34:56");
+    EXPECT_EQ(Normalised("12:34:56.789"), " 12:34:56.789");
 }
 
 TEST(HexToChar, GivesThePrintableCharacter) {
