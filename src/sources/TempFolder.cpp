@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/TempFolder.h"
 
+#include <cerrno>
 #include <system_error>
 
 #include <fcntl.h>
@@ -8,49 +9,80 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace {
+
+// True while the name leads to the folder that the handle was opened for.
+bool IsFolderOf(int handle, const std::filesystem::path& name) {
+    struct stat opened {};
+    struct stat named {};
+    return ::fstat(handle, &opened) == 0 && ::lstat(name.c_str(), &named) == 0 &&
+           opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
+}
+
+} // namespace
+
 std::filesystem::path TempFolder::SystemFolder() {
     std::error_code error;
     const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
     return error ? std::filesystem::path() : folder;
 }
 
-TempFolder::TempFolder(const std::filesystem::path& parent) {
-    if (parent.empty())
+TempFolder::TempFolder(const std::filesystem::path& parent) : parent_(parent) { Make(); }
+
+void TempFolder::Make() const {
+    Release();
+    if (parent_.empty())
         return;
-    const std::filesystem::path shared = parent / "Qorvix";
-    ::mkdir(shared.c_str(), S_IRWXU);
-    if (Take(shared)) {
-        Empty();
-        return;
+    // A copy that ends may remove the folder between its making and its taking.
+    constexpr int Attempts = 100;
+    const std::filesystem::path shared = parent_ / "Qorvix";
+    for (int i = 0; i < Attempts; ++i) {
+        ::mkdir(shared.c_str(), S_IRWXU);
+        const Taking taking = Take(shared);
+        if (taking == Taking::Held)
+            return Empty();
+        if (taking == Taking::Refused)
+            break;
     }
-    std::string own = (parent / "Qorvix-XXXXXX").string();
+    std::string own = (parent_ / "Qorvix-XXXXXX").string();
     if (::mkdtemp(own.data()) != nullptr)
         Take(own);
 }
 
 // Holds the folder when it is this user's, no link, and free.
-bool TempFolder::Take(const std::filesystem::path& folder) {
+TempFolder::Taking TempFolder::Take(const std::filesystem::path& folder) const {
     const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
     if (handle < 0)
-        return false;
+        return errno == ENOENT ? Taking::Gone : Taking::Refused;
     struct stat status {};
-    if (::fstat(handle, &status) != 0 || status.st_uid != ::geteuid() ||
-        ::flock(handle, LOCK_EX | LOCK_NB) != 0 || ::fchmod(handle, S_IRWXU) != 0) {
-        ::close(handle);
-        return false;
+    const bool held = ::fstat(handle, &status) == 0 && status.st_uid == ::geteuid() &&
+                      ::flock(handle, LOCK_EX | LOCK_NB) == 0 && ::fchmod(handle, S_IRWXU) == 0;
+    if (held && IsFolderOf(handle, folder)) {
+        path_ = folder;
+        lock_ = handle;
+        return Taking::Held;
     }
-    path_ = folder;
-    lock_ = handle;
-    return true;
+    ::close(handle);
+    return held ? Taking::Gone : Taking::Refused;
+}
+
+bool TempFolder::IsHeld() const { return lock_ >= 0 && IsFolderOf(lock_, path_); }
+
+void TempFolder::Release() const {
+    if (lock_ >= 0)
+        ::close(lock_);
+    lock_ = -1;
+    path_.clear();
 }
 
 TempFolder::~TempFolder() {
-    if (lock_ < 0)
-        return;
-    Empty();
-    std::error_code ignored;
-    std::filesystem::remove(path_, ignored);
-    ::close(lock_);
+    // Another copy may have made a folder of that name since this one's was removed.
+    if (IsHeld()) {
+        Empty();
+        std::error_code ignored;
+        std::filesystem::remove(path_, ignored);
+    }
+    Release();
 }
 
 void TempFolder::Empty() const {
@@ -60,6 +92,8 @@ void TempFolder::Empty() const {
 }
 
 std::filesystem::path TempFolder::MakeSubfolder() const {
+    if (!IsHeld())
+        Make();
     if (path_.empty())
         return {};
     std::string folder = (path_ / "new-XXXXXX").string();

@@ -8,7 +8,8 @@
 // a crashed copy of the program left is emptied and used. Where a running copy holds it, or it is a link or
 // somebody else's, this copy takes a folder of its own beside it, "Qorvix-" and six random characters.
 //
-// The object holds the folder; its end empties and removes it, and no other. Failures of that are ignored.
+// The object holds the folder; its end empties and removes it, and no other. Failures of that are ignored. A
+// folder that somebody else removed meanwhile is made anew when it is needed again, perhaps by another name.
 class TempFolder {
   public:
     // `parent` is the system's temporary folder, or what stands for it in a test.
@@ -20,16 +21,23 @@ class TempFolder {
     // Empty when no folder could be made.
     const std::filesystem::path& Path() const { return path_; }
 
-    // A new folder in it, for what is not yet decided upon; empty when it could not be made.
+    // A new folder in it, for what is not yet decided upon; empty when it could not be made. Where the folder
+    // itself had to be made anew, Path has its new name.
     std::filesystem::path MakeSubfolder() const;
 
     // The system's temporary folder; empty when there is none.
     static std::filesystem::path SystemFolder();
 
   private:
-    bool Take(const std::filesystem::path& folder);
-    void Empty() const;
+    enum class Taking { Held, Refused, Gone };
 
-    std::filesystem::path path_;
-    int lock_ = -1;
+    void Make() const;
+    Taking Take(const std::filesystem::path& folder) const;
+    bool IsHeld() const;
+    void Empty() const;
+    void Release() const;
+
+    std::filesystem::path parent_;
+    mutable std::filesystem::path path_;
+    mutable int lock_ = -1;
 };

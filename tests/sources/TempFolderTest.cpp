@@ -7,6 +7,9 @@
 
 #include <memory>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 namespace {
 namespace fs = std::filesystem;
 }
@@ -81,4 +84,74 @@ TEST(TempFolder, MissingParentGivesNoFolder) {
     const TempFolder folder(parent.Path() / "missing");
     EXPECT_TRUE(folder.Path().empty());
     EXPECT_TRUE(folder.MakeSubfolder().empty());
+}
+
+TEST(TempFolder, RemovedFolderIsMadeAnew) {
+    const TemporaryFolder parent;
+    {
+        const TempFolder folder(parent.Path());
+        fs::remove(folder.Path());
+        EXPECT_TRUE(fs::is_directory(folder.MakeSubfolder()));
+        EXPECT_EQ(folder.Path(), parent.Path() / "Qorvix");
+        // Held as the first was.
+        EXPECT_NE(TempFolder(parent.Path()).Path(), folder.Path());
+    }
+    EXPECT_FALSE(fs::exists(parent.Path() / "Qorvix"));
+}
+
+TEST(TempFolder, FolderOfAnotherCopyIsNotTakenForTheRemovedOne) {
+    const TemporaryFolder parent;
+    auto first = std::make_unique<TempFolder>(parent.Path());
+    fs::remove(first->Path());
+    const TempFolder second(parent.Path());
+    parent.Write("Qorvix/a.log", "x");
+    EXPECT_EQ(second.Path(), parent.Path() / "Qorvix");
+    const fs::path made = first->MakeSubfolder();
+    EXPECT_TRUE(fs::is_directory(made));
+    EXPECT_EQ(made.parent_path(), first->Path());
+    EXPECT_NE(first->Path(), second.Path());
+    first.reset();
+    EXPECT_FALSE(fs::exists(made.parent_path()));
+    EXPECT_EQ(FileContent(parent.Path() / "Qorvix/a.log"), "x");
+}
+
+TEST(TempFolder, EndLeavesTheFolderOfAnotherCopyAlone) {
+    const TemporaryFolder parent;
+    auto first = std::make_unique<TempFolder>(parent.Path());
+    fs::remove(first->Path());
+    const TempFolder second(parent.Path());
+    parent.Write("Qorvix/a.log", "x");
+    first.reset();
+    EXPECT_EQ(FileContent(parent.Path() / "Qorvix/a.log"), "x");
+}
+
+TEST(TempFolder, ParentThatComesBackGivesAFolder) {
+    const TemporaryFolder parent;
+    const TempFolder folder(parent.Path() / "missing");
+    fs::create_directory(parent.Path() / "missing");
+    EXPECT_TRUE(fs::is_directory(folder.MakeSubfolder()));
+}
+
+TEST(TempFolder, CopiesThatComeAndGoAlwaysHaveAFolder) {
+    constexpr int Copies = 3;
+    constexpr int Rounds = 2000;
+    const TemporaryFolder parent;
+    pid_t copies[Copies] = {};
+    for (pid_t& copy : copies) {
+        copy = fork();
+        if (copy != 0)
+            continue;
+        int without = 0;
+        for (int i = 0; i < Rounds; ++i) {
+            const TempFolder folder(parent.Path());
+            without += !fs::is_directory(folder.Path());
+        }
+        _exit(without == 0 ? 0 : 1);
+    }
+    for (const pid_t copy : copies) {
+        int status = 0;
+        waitpid(copy, &status, 0);
+        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+    }
+    EXPECT_TRUE(fs::is_empty(parent.Path()));
 }
