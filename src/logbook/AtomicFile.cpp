@@ -4,8 +4,6 @@
 #include "logbook/modUtil.h"
 
 #include <cerrno>
-#include <cstdio>
-#include <random>
 
 #if defined(__unix__) || defined(__APPLE__)
 #include <fcntl.h>
@@ -58,35 +56,14 @@ std::filesystem::path FollowLinks(std::filesystem::path path, std::error_code& e
     return path;
 }
 
-// A new, empty file beside `target`.
-std::filesystem::path MakeTemporary(const std::filesystem::path& target, std::error_code& error) {
-    constexpr int Attempts = 100;
-    constexpr std::size_t LongestStem = 200;
-    std::random_device random;
-    for (int i = 0; i < Attempts; ++i) {
-        // The longest names leave no room behind them.
-        std::filesystem::path temporary =
-            target.parent_path() / target.filename().native().substr(0, LongestStem);
-        temporary += ToPath("." + std::to_string(random()) + ".part");
-        errno = 0;
-        if (std::FILE* file = std::fopen(temporary.string().c_str(), "wbx"); file != nullptr) {
-            std::fclose(file);
-            return temporary;
-        }
-        error = LastError();
-        if (error != std::errc::file_exists)
-            return {};
-    }
-    return {};
-}
-
 } // namespace
 
 AtomicFile::AtomicFile(const std::string& path) : target_(FollowLinks(ToPath(path), error_)) {
     if (error_)
         return;
+    inUse_.emplace(target_);
     std::error_code ignored;
-    temporary_ = MakeTemporary(target_, error_);
+    temporary_ = MakePartFile(target_, error_);
     if (temporary_.empty())
         return;
     error_.clear();

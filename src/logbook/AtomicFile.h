@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/PartFiles.h"
+
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <system_error>
 
 // A file that is written beside its place and put there when it is whole, so that whoever looks there finds
-// the old file or the new one and nothing between. Without Commit nothing changes.
+// the old file or the new one and nothing between. Without Commit nothing changes. What a killed program left
+// beside the place is removed by the next that writes there.
 class AtomicFile {
   public:
     // A link is followed: the file that it names is replaced, not the link.
@@ -31,6 +35,7 @@ class AtomicFile {
   private:
     std::error_code error_;
     std::filesystem::path target_;
+    std::optional<PartFilesInUse> inUse_;
     std::filesystem::path temporary_;
     std::ofstream stream_;
 };

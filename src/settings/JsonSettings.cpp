@@ -184,17 +184,6 @@ bool JsonSettings::Change(const std::vector<SettingsChange>& changes) {
     return Store(root, before) && all;
 }
 
-// What a killed writer left; the lock is held, so nobody is writing.
-void JsonSettings::RemoveLeftovers() const {
-    const std::filesystem::path file = ToPath(file_);
-    std::error_code error;
-    for (const auto& item : std::filesystem::directory_iterator(file.parent_path(), error)) {
-        const std::string name = item.path().filename().string();
-        if (name.starts_with(file.filename().string() + ".") && name.ends_with(".part"))
-            std::filesystem::remove(item.path(), error);
-    }
-}
-
 bool JsonSettings::KeepDamaged() const {
     constexpr int MostKept = 1000;
     std::error_code error;
@@ -205,7 +194,6 @@ bool JsonSettings::KeepDamaged() const {
 }
 
 bool JsonSettings::Store(const Json& root, Content before) {
-    RemoveLeftovers();
     AtomicFile file(file_);
     file.Stream() << root.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
     if (before == Content::Damaged && !KeepDamaged())

@@ -50,7 +50,6 @@ class JsonSettings : public SettingsStore {
     FileState StateOfFile() const;
     Content Load(Json& root) const;
     const Json& Current() const;
-    void RemoveLeftovers() const;
     bool KeepDamaged() const;
     bool Store(const Json& root, Content before);
 

@@ -48,6 +48,35 @@ TEST(AtomicFile, MayBeWrittenByItsPath) {
     EXPECT_TRUE(AtomicFile(folder / "no/such/folder.txt").Path().empty());
 }
 
+TEST(AtomicFile, WhatAKilledProgramLeftIsRemoved) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a.txt", "old");
+    for (const char* left : {"a.txt.1234.part", "a.txt.5.part.Xy12Zz"})
+        folder.Write(left, "half");
+    const auto others = {"a.txt.part",     "a.txt.12.party", "a.txt.12a.part", "b.txt.12.part",
+                         "a.txt.12.part1", "xa.txt.12.part", "a.txt..part"};
+    for (const char* other : others)
+        folder.Write(other, "precious");
+    EXPECT_FALSE(AtomicFile(path).Commit());
+    EXPECT_EQ(FilesIn(folder), 1 + std::ssize(others));
+    for (const char* other : others)
+        EXPECT_EQ(FileContent(folder / other), "precious") << other;
+}
+
+TEST(AtomicFile, WhatAnotherIsWritingStays) {
+    const TemporaryFolder folder;
+    const std::string path = folder / "a.txt";
+    AtomicFile first(path);
+    first.Stream() << "first";
+    AtomicFile second(path);
+    second.Stream() << "second";
+    folder.Write("a.txt.1234.part", "half");
+    { const AtomicFile third(path); }
+    EXPECT_FALSE(second.Commit());
+    EXPECT_FALSE(first.Commit());
+    EXPECT_EQ(FileContent(path), "first");
+}
+
 TEST(AtomicFile, FailureIsToldWithItsReason) {
     const TemporaryFolder folder;
     AtomicFile file(folder / "no/such/folder.txt");
