@@ -71,11 +71,15 @@ CommentsOutcome frmMain::AskToSaveComments() {
 bool frmMain::ZipLogbook() {
     const FilterLists lists = LoadFilters(registry_, language_);
     const ZipLogbookParts parts{logbook_.Entries, lists.Filters, codePage_, tempFolder_, registry_};
-    const ZipOutcome outcome = ::ZipLogbook(state_, parts, user_, language_, [this](double percent) {
-        sbStatusBar->ShowProgressBar();
+    // The bar is gone before a failure is told.
+    const auto showProgress = [this](double percent) {
+        if (percent == 0)
+            sbStatusBar->HideProgressBar();
+        else
+            sbStatusBar->ShowProgressBar();
         progress_.PaintValue(percent);
-    });
-    sbStatusBar->HideProgressBar();
+    };
+    const ZipOutcome outcome = ::ZipLogbook(state_, parts, user_, language_, showProgress);
     if (outcome == ZipOutcome::Saved)
         journal_.Remove();
     return outcome == ZipOutcome::Saved;
@@ -83,9 +87,13 @@ bool frmMain::ZipLogbook() {
 
 // Opens one source; the name becomes that of the logbook.
 bool frmMain::ExecuteLogbook(std::string& name) {
+    std::error_code noFile;
+    const std::optional<FileStamp> stamp = StampOf(name, noFile);
     const std::optional<LogbookSource> source = ResolveSource(name, tempFolder_, user_, language_);
     if (!source)
         return false;
+    state_.CurrentArchive = IsArchive(name) ? name : "";
+    state_.CurrentArchiveStamp = stamp;
     if (!source->FilterFile.empty())
         ReplaceFilters(source->FilterFile);
     name = source->Name;

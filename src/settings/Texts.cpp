@@ -144,6 +144,13 @@ constexpr auto Table = std::to_array<TextRow>({
      "Einträgen gehören. Trotzdem speichern?"},
     {TextId::LogbookChangedMeanwhile, "the logbook file was changed meanwhile",
      "die Logbuchdatei wurde inzwischen geändert"},
+    {TextId::AskReplaceChangedArchive,
+     "The archive has been changed since you opened or saved it, perhaps in another window. Its comments and "
+     "filters would be replaced. Save all the same?",
+     "Das Archiv wurde geändert, seit Sie es geöffnet oder gespeichert haben, vielleicht in einem anderen "
+     "Fenster. Seine Kommentare und Filter würden ersetzt. Trotzdem speichern?"},
+    {TextId::ArchiveChangedMeanwhile, "the archive was changed meanwhile",
+     "das Archiv wurde inzwischen geändert"},
     {TextId::ArchiveInPlaceOfLogbook, "the archive would replace the logbook file itself",
      "das Archiv würde die Logbuchdatei selbst ersetzen"},
     {TextId::ArchiveInTemporaryFolder, "what lies in this folder is deleted when the program ends",

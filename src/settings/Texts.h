@@ -117,6 +117,8 @@ enum class TextId : std::uint16_t {
     AskReplaceFile,
     AskArchiveChangedLogbook,
     LogbookChangedMeanwhile,
+    AskReplaceChangedArchive,
+    ArchiveChangedMeanwhile,
     ArchiveInPlaceOfLogbook,
     ArchiveInTemporaryFolder,
     NoTemporaryFolder,

@@ -92,6 +92,7 @@ class Saving {
         if (const ZipMember logbook{"", stamp.Size, stamp.Size}; !logbook.Refusal(language_).empty())
             return std::string(logbook.Refusal(language_));
 
+        const std::optional<FileStamp> replaced = StampOf(path_, error);
         AtomicFile archive(path_);
         if (archive.Path().empty())
             return archive.Commit().message();
@@ -99,6 +100,8 @@ class Saving {
             return reason;
         if (StampOf(content_.LogbookFile, error) != stamp)
             return Say(TextId::LogbookChangedMeanwhile);
+        if (StampOf(path_, error) != replaced)
+            return Say(TextId::ArchiveChangedMeanwhile);
         error = archive.Commit();
         return error ? error.message() : std::string();
     }

@@ -33,8 +33,9 @@ std::string TextsThatLose(const ArchiveContent& content, Language language);
 // leaves an archive of that name as it was. The logbook may come out of that same archive.
 //
 // Returns why it failed, in words for the user, "" when it did not. It fails also when the logbook file is
-// gone or does not stay as it was; where the archive would replace the logbook file or be deleted with the
-// temporary folder; and when the program would not open it again, as of a logbook above 4 GiB.
+// gone or does not stay as it was; where another program changes the archive that is replaced meanwhile;
+// where the archive would replace the logbook file or be deleted with the temporary folder; and when the
+// program would not open it again, as of a logbook above 4 GiB.
 //
 // Costs the time of deflating the logbook; its size in memory does not matter.
 std::string SaveLogbookArchive(const std::string& path, const ArchiveContent& content,

@@ -6,10 +6,13 @@
 #include <optional>
 #include <string>
 
-// What the program knows of the logbook that is shown. Whoever reads entries sets all but the folder anew.
+// What the program knows of the logbook that is shown. Whoever reads entries sets all but the folder anew;
+// what is read again from its plain file keeps its archive.
 struct LogbookState {
-    std::string CurrentLogbookFile;            // the logbook text file; "" = none
-    std::optional<FileStamp> CurrentFileStamp; // of that file before it was read; nothing = not known
-    bool CommentsEdited = false;               // since it was read or last saved
-    std::string InitZipArchiveDir;             // where an archive was saved last, with its trailing separator
+    std::string CurrentLogbookFile;               // the logbook text file; "" = none
+    std::optional<FileStamp> CurrentFileStamp;    // of that file before it was read; nothing = not known
+    std::string CurrentArchive;                   // that it came from or was saved as last; "" = none
+    std::optional<FileStamp> CurrentArchiveStamp; // of that archive before it was read, or after the saving
+    bool CommentsEdited = false;                  // since it was read or last saved
+    std::string InitZipArchiveDir; // where an archive was saved last, with its trailing separator
 };

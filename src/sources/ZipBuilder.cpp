@@ -67,10 +67,11 @@ std::string BuildZip(const std::filesystem::path& archive, std::span<const FileT
     PackingProgress tell = progress;
     if (tell)
         zip_register_progress_callback_with_state(zip.get(), ProgressStep, TellProgress, nullptr, &tell);
-    if (zip_close(zip.get()) != 0)
-        return zip_strerror(zip.get());
-    zip.release();
+    const bool closed = zip_close(zip.get()) == 0;
     if (tell)
         tell(0);
+    if (!closed)
+        return zip_strerror(zip.get());
+    zip.release();
     return {};
 }

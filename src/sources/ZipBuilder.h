@@ -12,7 +12,8 @@ struct FileToPack {
     std::filesystem::path File;
 };
 
-// What packing tells its surroundings: a percentage from 0 to 100; 0 at its begin and end.
+// What packing tells its surroundings: a percentage from 0 to 100; 0 at its begin and end, also where it
+// fails.
 using PackingProgress = std::function<void(double percent)>;
 
 // Builds a zip archive of files, all deflated, in the place of what `archive` was. Names that are not ASCII

@@ -49,6 +49,19 @@ bool AgreesToLogbook(ArchiveContent& content, UserInterface& user, Language lang
     return user.Confirm(Text(TextId::AskArchiveChangedLogbook, language));
 }
 
+// True when what is replaced is the archive as this user knows it, or the user wants it replaced all the
+// same: another running copy of the program may have saved comments into it.
+bool AgreesToArchive(const LogbookState& state, const std::string& path, UserInterface& user,
+                     Language language) {
+    std::error_code ignored;
+    if (!state.CurrentArchiveStamp ||
+        !std::filesystem::equivalent(ToPath(path), ToPath(state.CurrentArchive), ignored))
+        return true;
+    const std::optional<FileStamp> now = StampOf(path, ignored);
+    return !now || *now == *state.CurrentArchiveStamp ||
+           user.Confirm(Text(TextId::AskReplaceChangedArchive, language));
+}
+
 } // namespace
 
 ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, UserInterface& user,
@@ -63,7 +76,8 @@ ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, UserInt
                            .Filters = parts.Filters,
                            .Entries = parts.Entries,
                            .FileCodePage = parts.FileCodePage};
-    if (!AgreesToLosses(content, user, language) || !AgreesToLogbook(content, user, language))
+    if (!AgreesToArchive(state, *path, user, language) || !AgreesToLosses(content, user, language) ||
+        !AgreesToLogbook(content, user, language))
         return ZipOutcome::Cancelled;
 
     user.ShowStatus(TextId::StatusZipping);
@@ -78,6 +92,9 @@ ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, UserInt
     std::string fileName;
     SplitPath(*path, state.InitZipArchiveDir, fileName);
     parts.Settings.WriteLogbookSetting("InitZipArchiveDir", state.InitZipArchiveDir, SettingType::Text);
+    std::error_code ignored;
+    state.CurrentArchive = *path;
+    state.CurrentArchiveStamp = StampOf(*path, ignored);
     state.CommentsEdited = false;
     return ZipOutcome::Saved;
 }

@@ -21,8 +21,9 @@ struct ZipLogbookParts {
 };
 
 // Saves the logbook that is shown, with its comments and the active filters, as an archive that the user
-// names. Before texts lose characters, and before a logbook file that has been changed since it was read goes
-// in, the user is asked. A failure is told with its reason; an archive of that name is then as it was.
+// names. Before texts lose characters, before a logbook file that has been changed since it was read goes in,
+// and before the archive that it came from is replaced though somebody else has changed it, the user is
+// asked. A failure is told with its reason; an archive of that name is then as it was.
 //
 // Saved: no comments are edited any more, and the archive's folder is stored. Without a logbook nothing
 // happens: Cancelled.

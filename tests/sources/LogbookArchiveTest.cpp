@@ -190,10 +190,32 @@ TEST_F(LogbookArchiveTest, LogbookThatIsCutShortWhileItIsPackedFails) {
     ExpectFailure("the logbook file was changed meanwhile");
 }
 
+TEST_F(LogbookArchiveTest, ArchiveThatChangesWhileItIsPackedIsNotReplaced) {
+    Folder.Write("logs/a.log", Noise(3000000));
+    const std::string path = Folder / "out/a.qorvix";
+    Progress = [&](double percent) {
+        if (percent > 20)
+            Folder.Write("out/a.qorvix", "of another copy");
+    };
+    for (int already = 0; already < 2; ++already) {
+        if (already != 0)
+            Folder.Write("out/a.qorvix", "old");
+        EXPECT_EQ(Save(path), "the archive was changed meanwhile");
+        EXPECT_EQ(FileContent(path), "of another copy");
+        EXPECT_EQ(FilesIn(Folder / "out"), std::vector<std::string>{"a.qorvix"});
+        fs::remove(path);
+    }
+    EXPECT_EQ(SaveLogbookArchive(path, Content, Temp, Language{Language::German}, Progress),
+              "das Archiv wurde inzwischen geändert");
+}
+
 TEST_F(LogbookArchiveTest, FullDiskFailsWithTheSystemsReason) {
     Folder.Write("logs/a.log", Noise(1000000));
     const SmallFiles limit(300000);
+    double last = 100;
+    Progress = [&](double percent) { last = percent; };
     ExpectFailure("File too large");
+    EXPECT_EQ(last, 0);
 }
 
 TEST_F(LogbookArchiveTest, FullTemporaryFolderFailsWithTheSystemsReason) {

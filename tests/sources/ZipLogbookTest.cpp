@@ -158,3 +158,38 @@ TEST_F(ZipLogbookTest, LogbookThatHasBeenChangedIsAskedAbout) {
         "Einträgen gehören. Trotzdem speichern?");
     EXPECT_EQ(ReadZip(*User.File)[0].second, "text and more");
 }
+
+TEST_F(ZipLogbookTest, ArchiveThatSomebodyElseChangedIsAskedAbout) {
+    const auto archive = [&](const char* content) {
+        State.CurrentArchive = Folder.Write("out/a.qorvix", content);
+        return State.CurrentArchive;
+    };
+    std::error_code error;
+    State.CurrentArchiveStamp = StampOf(archive("as it was opened"), error);
+    archive("with comments of another copy");
+    EXPECT_EQ(Zip(), ZipOutcome::Cancelled);
+    EXPECT_EQ(Zip({Language::German}), ZipOutcome::Cancelled);
+    EXPECT_EQ(User.Confirmations,
+              (std::vector<std::string>{
+                  "The archive has been changed since you opened or saved it, perhaps in another window. Its "
+                  "comments and filters would be replaced. Save all the same?",
+                  "Das Archiv wurde geändert, seit Sie es geöffnet oder gespeichert haben, vielleicht in "
+                  "einem anderen Fenster. Seine Kommentare und Filter würden ersetzt. Trotzdem speichern?"}));
+    EXPECT_EQ(FileContent(*User.File), "with comments of another copy");
+    EXPECT_TRUE(State.CommentsEdited);
+    User.Agrees = true;
+    EXPECT_EQ(Zip(), ZipOutcome::Saved);
+    EXPECT_EQ(User.Confirmations.size(), 3U);
+    // It is this copy's now.
+    User.Agrees = false;
+    EXPECT_EQ(Zip(), ZipOutcome::Saved);
+    archive("changed again");
+    EXPECT_EQ(Zip(), ZipOutcome::Cancelled);
+    // Gone is nothing that could be lost, and another archive is the file dialog's question.
+    fs::remove(*User.File);
+    EXPECT_EQ(Zip(), ZipOutcome::Saved);
+    archive("changed once more");
+    User.File = Folder / "out/b.qorvix";
+    EXPECT_EQ(Zip(), ZipOutcome::Saved);
+    EXPECT_EQ(User.Confirmations.size(), 4U);
+}
