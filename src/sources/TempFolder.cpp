@@ -11,6 +11,8 @@
 
 namespace {
 
+constexpr const char* OwnPrefix = "Qorvix-temp-";
+
 // True while the name leads to the folder that the handle was opened for.
 bool IsFolderOf(int handle, const std::filesystem::path& name) {
     struct stat opened {};
@@ -33,6 +35,7 @@ void TempFolder::Make() const {
     Release();
     if (parent_.empty())
         return;
+    RemoveLeft();
     // A copy that ends may remove the folder between its making and its taking.
     constexpr int Attempts = 100;
     const std::filesystem::path shared = parent_ / "Qorvix";
@@ -44,9 +47,21 @@ void TempFolder::Make() const {
         if (taking == Taking::Refused)
             break;
     }
-    std::string own = (parent_ / "Qorvix-XXXXXX").string();
-    if (::mkdtemp(own.data()) != nullptr)
-        Take(own);
+    // Another copy that begins may take a new folder for a left one.
+    for (int i = 0; i < Attempts && lock_ < 0; ++i) {
+        std::string own = (parent_ / OwnPrefix).string() + "XXXXXX";
+        if (::mkdtemp(own.data()) == nullptr)
+            break;
+        if (Take(own) != Taking::Held)
+            ::rmdir(own.c_str());
+    }
+}
+
+void TempFolder::RemoveLeft() const {
+    std::error_code ignored;
+    for (const auto& item : std::filesystem::directory_iterator(parent_, ignored))
+        if (item.path().filename().string().starts_with(OwnPrefix) && Take(item.path()) == Taking::Held)
+            Remove();
 }
 
 // Holds the folder when it is this user's, no link, and free.
@@ -77,11 +92,15 @@ void TempFolder::Release() const {
 
 TempFolder::~TempFolder() {
     // Another copy may have made a folder of that name since this one's was removed.
-    if (IsHeld()) {
-        Empty();
-        std::error_code ignored;
-        std::filesystem::remove(path_, ignored);
-    }
+    if (IsHeld())
+        Remove();
+    Release();
+}
+
+void TempFolder::Remove() const {
+    Empty();
+    std::error_code ignored;
+    std::filesystem::remove(path_, ignored);
     Release();
 }
 

@@ -6,7 +6,8 @@
 
 // The program's scratch folder: "Qorvix" in the system's temporary folder, for its owner only. A folder that
 // a crashed copy of the program left is emptied and used. Where a running copy holds it, or it is a link or
-// somebody else's, this copy takes a folder of its own beside it, "Qorvix-" and six random characters.
+// somebody else's, this copy takes a folder of its own beside it, "Qorvix-temp-" and six random characters.
+// Such folders that crashed copies left are removed.
 //
 // The object holds the folder; its end empties and removes it, and no other. Failures of that are ignored. A
 // folder that somebody else removed meanwhile is made anew when it is needed again, perhaps by another name.
@@ -34,7 +35,9 @@ class TempFolder {
     void Make() const;
     Taking Take(const std::filesystem::path& folder) const;
     bool IsHeld() const;
+    void RemoveLeft() const;
     void Empty() const;
+    void Remove() const;
     void Release() const;
 
     std::filesystem::path parent_;

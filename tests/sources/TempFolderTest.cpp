@@ -44,12 +44,29 @@ TEST(TempFolder, RunningCopyKeepsItsFolder) {
         const TempFolder second(parent.Path());
         own = second.Path();
         EXPECT_NE(own, first.Path());
-        EXPECT_EQ(own.filename().string().size(), std::string("Qorvix-XXXXXX").size());
-        EXPECT_TRUE(own.filename().string().starts_with("Qorvix-"));
+        EXPECT_EQ(own.filename().string().size(), std::string("Qorvix-temp-XXXXXX").size());
+        EXPECT_TRUE(own.filename().string().starts_with("Qorvix-temp-"));
         EXPECT_EQ(fs::status(own).permissions(), fs::perms::owner_all);
     }
     EXPECT_FALSE(fs::exists(own));
     EXPECT_EQ(FileContent(parent.Path() / "Qorvix/a.log"), "x");
+}
+
+TEST(TempFolder, WhatCopiesLeftThatCrashedBesideOthersIsRemoved) {
+    const TemporaryFolder parent;
+    const TempFolder first(parent.Path());
+    const TempFolder second(parent.Path());
+    for (const char* left : {"Qorvix-temp-AbCdEf", "Qorvix-backup"}) {
+        fs::create_directory(parent.Path() / left);
+        parent.Write(std::string(left) + "/a.log", "x");
+    }
+    parent.Write("Qorvix-temp-file", "x");
+    const TempFolder third(parent.Path());
+    EXPECT_FALSE(fs::exists(parent.Path() / "Qorvix-temp-AbCdEf"));
+    EXPECT_TRUE(fs::exists(parent.Path() / "Qorvix-backup/a.log"));
+    EXPECT_TRUE(fs::exists(parent.Path() / "Qorvix-temp-file"));
+    for (const TempFolder* running : {&first, &second, &third})
+        EXPECT_TRUE(fs::is_directory(running->MakeSubfolder()));
 }
 
 TEST(TempFolder, LinkIsNotFollowed) {
@@ -59,7 +76,7 @@ TEST(TempFolder, LinkIsNotFollowed) {
     fs::create_symlink("elsewhere", parent.Path() / "Qorvix");
     {
         const TempFolder folder(parent.Path());
-        EXPECT_TRUE(folder.Path().filename().string().starts_with("Qorvix-"));
+        EXPECT_TRUE(folder.Path().filename().string().starts_with("Qorvix-temp-"));
     }
     EXPECT_EQ(FileContent(parent.Path() / "elsewhere/precious"), "x");
     EXPECT_TRUE(fs::is_symlink(parent.Path() / "Qorvix"));
@@ -69,7 +86,7 @@ TEST(TempFolder, FileInItsPlaceIsLeftAlone) {
     const TemporaryFolder parent;
     parent.Write("Qorvix", "x");
     const TempFolder folder(parent.Path());
-    EXPECT_TRUE(folder.Path().filename().string().starts_with("Qorvix-"));
+    EXPECT_TRUE(folder.Path().filename().string().starts_with("Qorvix-temp-"));
     EXPECT_EQ(FileContent(parent.Path() / "Qorvix"), "x");
 }
 
