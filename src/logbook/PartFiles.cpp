@@ -64,9 +64,9 @@ std::filesystem::path FolderOf(const std::filesystem::path& target) {
 
 void RemovePartFiles(const std::filesystem::path& target) {
     std::error_code ignored;
-    for (const auto& item : std::filesystem::directory_iterator(FolderOf(target), ignored))
-        if (IsPartFile(item.path().filename().native(), StemOf(target)))
-            std::filesystem::remove(item.path(), ignored);
+    for (const std::filesystem::path& item : ItemsIn(FolderOf(target)))
+        if (IsPartFile(item.filename().native(), StemOf(target)))
+            std::filesystem::remove(item, ignored);
 }
 
 } // namespace

@@ -99,6 +99,16 @@ bool FileExists(const std::string& path) {
     return std::ifstream(ToPath(path), std::ios::binary).is_open();
 }
 
+std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder) {
+    std::vector<std::filesystem::path> items;
+    std::error_code error;
+    const std::filesystem::directory_iterator end;
+    for (std::filesystem::directory_iterator item(folder, error); !error && item != end;
+         item.increment(error))
+        items.push_back(item->path());
+    return items;
+}
+
 std::string ChangeExtension(std::string_view fileName, std::string_view newExtension) {
     const std::size_t dot = fileName.rfind('.');
     const std::size_t separator = fileName.find_last_of(PathSeparators);

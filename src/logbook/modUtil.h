@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // Text cutting by columns. A text here has one byte a character; columns count from 1. The results point into
 // the text that was given.
@@ -57,6 +58,9 @@ void SplitPath(std::string_view path, std::string& folder, std::string& fileName
 
 // True when the file can be opened for reading at this moment. A folder cannot.
 bool FileExists(const std::string& path);
+
+// The paths of what lies in a folder, as far as the system lists it; a failing disk raises nothing here.
+std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder);
 
 // The name with everything from its last "." on replaced by `newExtension`, which is appended when there is
 // no ".". A "." in the folder part of a path does not count.

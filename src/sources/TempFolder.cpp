@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "sources/TempFolder.h"
 
+#include "logbook/modUtil.h"
+
 #include <cerrno>
 #include <system_error>
 
@@ -58,9 +60,8 @@ void TempFolder::Make() const {
 }
 
 void TempFolder::RemoveLeft() const {
-    std::error_code ignored;
-    for (const auto& item : std::filesystem::directory_iterator(parent_, ignored))
-        if (item.path().filename().string().starts_with(OwnPrefix) && Take(item.path()) == Taking::Held)
+    for (const std::filesystem::path& item : ItemsIn(parent_))
+        if (item.filename().string().starts_with(OwnPrefix) && Take(item) == Taking::Held)
             Remove();
 }
 
@@ -106,8 +107,8 @@ void TempFolder::Remove() const {
 
 void TempFolder::Empty() const {
     std::error_code ignored;
-    for (const auto& item : std::filesystem::directory_iterator(path_, ignored))
-        std::filesystem::remove_all(item.path(), ignored);
+    for (const std::filesystem::path& item : ItemsIn(path_))
+        std::filesystem::remove_all(item, ignored);
 }
 
 std::filesystem::path TempFolder::MakeSubfolder() const {

@@ -111,6 +111,17 @@ TEST(SplitPath, KnowsBothSeparators) {
     EXPECT_EQ(split(""), "|");
 }
 
+TEST(ItemsIn, AreWhatLiesInAFolder) {
+    const TemporaryFolder folder;
+    folder.Write("b.log", "x");
+    std::filesystem::create_directory(folder / "a");
+    std::vector<std::filesystem::path> items = ItemsIn(folder.Path());
+    std::sort(items.begin(), items.end());
+    EXPECT_EQ(items, (std::vector<std::filesystem::path>{folder / "a", folder / "b.log"}));
+    EXPECT_TRUE(ItemsIn(folder / "missing").empty());
+    EXPECT_TRUE(ItemsIn(folder / "b.log").empty());
+}
+
 TEST(FileExists, MeansThatItCanBeRead) {
     const TemporaryFolder folder;
     EXPECT_TRUE(FileExists(folder.Write("a.log", "x")));
