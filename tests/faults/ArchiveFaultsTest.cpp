@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+// Saving on a disk that fills or fails: a message with the reason, the archive of that name as it was, and
+// the comments still in the list.
+#include "faults/FaultTest.h"
+#include "faults/ProgramWindow.h"
+#include "support/ZipReader.h"
+
+#include <cerrno>
+#include <cstring>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class ArchiveFaults : public FaultTest {
+  protected:
+    ArchiveFaults() {
+        fs::create_directory(Out);
+        Folder.Write("out/a.qorvix", "old");
+    }
+
+    void ExpectTheOldArchive(const std::string& when) const {
+        EXPECT_EQ(FileContent(Archive), "old") << when;
+        EXPECT_EQ(NamesIn(Out), std::vector<std::string>{"a.qorvix"}) << when;
+    }
+
+    // Saves in the window, replacing the old archive.
+    static void Save(ProgramWindow& window, const std::string& archive) {
+        window.SaveAs(archive);
+        if (const std::string question = window.Message();
+            question.find("already exists") != std::string::npos)
+            window.Press("Yes");
+    }
+
+    std::string NotSaved(const std::string& reason) const {
+        return "The archive could not be saved (" + Archive + ": " + reason + ")";
+    }
+
+    const std::string LogFile = Folder.Write("work/a.log", LogbookOf(2000));
+    const std::string Out = Folder / "out";
+    const std::string Archive = Out + "/a.qorvix";
+};
+
+} // namespace
+
+TEST_F(ArchiveFaults, DiskThatFillsIsToldAndNothingIsLost) {
+    for (const char* bytes : {"0", "1", "5000"}) {
+        Folder.Write("out/a.qorvix", "old");
+        Fault fault = FullDisk(Out);
+        fault.Calls = "w";
+        fault.Bytes = bytes;
+        fault.While = Folder.Write("filling", "");
+        ProgramWindow window({LogFile}, Variables(fault));
+        window.UntilShown();
+        window.Comment(1, "pump");
+        Save(window, Archive);
+        const Sight sight = window.Until(
+            [](const Sight& seen) { return seen.Text.starts_with("The archive could"); }, "the message");
+        EXPECT_EQ(sight.Text, NotSaved("Write error: No space left on device")) << bytes;
+        EXPECT_FALSE(sight.Progress);
+        EXPECT_EQ(sight.Status, "Ready");
+        ExpectTheOldArchive(bytes);
+        window.Press("OK");
+        EXPECT_EQ(window.UntilIdle().Cells[1][6], "pump");
+
+        // The disk has room again.
+        fs::remove(fault.While);
+        Save(window, Archive);
+        window.UntilIdle();
+        ASSERT_EQ(ReadZip(Archive).size(), 3U) << bytes;
+        EXPECT_EQ(ReadZip(Archive)[0].second, LogbookOf(2000));
+        EXPECT_EQ(ReadZip(Archive)[2].second, "[Comments]\r\n 1 pump\r\n");
+        EXPECT_EQ(NamesIn(Out), std::vector<std::string>{"a.qorvix"});
+        // Saved comments are not asked about.
+        window.Close();
+        EXPECT_EQ(window.Program().WaitForEnd(), GoodEnd);
+        EXPECT_EQ(NamesIn(Temp), std::vector<std::string>());
+    }
+}
+
+TEST_F(ArchiveFaults, ReadOnlyFolderIsToldAtTheClosingToo) {
+    ProgramWindow window({LogFile}, Variables(ReadOnlyDisk(Out)));
+    window.UntilShown();
+    window.Comment(1, "pump");
+    Save(window, Archive);
+    window.Until([](const Sight& sight) { return sight.Text.starts_with("The archive could"); },
+                 "the message");
+    EXPECT_EQ(window.Message(), NotSaved("Read-only file system"));
+    window.Press("OK");
+    window.UntilIdle();
+    ExpectTheOldArchive("read-only");
+
+    // Another folder takes it.
+    window.Close();
+    EXPECT_EQ(window.Message(), "Comments edited. Save into logbook archive?");
+    window.Press("Yes");
+    window.ChooseFile(Work + "/b.qorvix");
+    EXPECT_EQ(window.Program().WaitForEnd(), GoodEnd);
+    EXPECT_EQ(ReadZip(Work + "/b.qorvix")[2].second, "[Comments]\r\n 1 pump\r\n");
+}
+
+TEST_F(ArchiveFaults, EveryFailingCallIsToldOrHarmless) {
+    for (const int error : {EIO, ENOSPC, EDQUOT}) {
+        int failed = 0;
+        for (ProgramEnd end{1, 0}; end != GoodEnd; ++failed) {
+            std::string errors;
+            end = RunTool({"pack", LogFile, Archive}, {Out, "cowr", error, failed}, errors);
+            if (end == GoodEnd)
+                break;
+            const std::string when = "call " + std::to_string(failed) + ": " + errors;
+            EXPECT_EQ(end, (ProgramEnd{1, 0})) << when;
+            EXPECT_TRUE(errors.starts_with("qorvix-cli: The archive could not be saved (" + Archive + ": "))
+                << when;
+            EXPECT_TRUE(errors.ends_with(std::string(std::strerror(error)) + ")\n")) << when;
+            // Where the disk does not even remove files, the parts stay.
+            EXPECT_EQ(FileContent(Archive), "old") << when;
+            ASSERT_LT(failed, 500);
+        }
+        EXPECT_GT(failed, 5);
+        EXPECT_EQ(ReadZip(Archive)[0].second, LogbookOf(2000));
+        Folder.Write("out/a.qorvix", "old");
+    }
+    // What stayed goes with the next that is saved.
+    std::string errors;
+    EXPECT_EQ(RunTool({"pack", LogFile, Archive}, {}, errors), GoodEnd);
+    EXPECT_EQ(NamesIn(Out), std::vector<std::string>{"a.qorvix"});
+}
+
+TEST_F(ArchiveFaults, ListOnADiskThatFillsLeavesTheOldOne) {
+    for (const char* command : {"export", "find"}) {
+        std::vector<std::string> arguments{command, LogFile, "--output", Archive};
+        if (std::string(command) == "find")
+            arguments.insert(arguments.begin() + 2, "1");
+        for (const char* bytes : {"0", "100000"}) {
+            Fault fault = FullDisk(Out);
+            fault.Calls = "w";
+            fault.Bytes = bytes;
+            std::string errors;
+            EXPECT_EQ(RunTool(arguments, fault, errors), (ProgramEnd{1, 0}));
+            EXPECT_EQ(errors, "qorvix-cli: " + Archive + ": No space left on device\n") << bytes;
+            ExpectTheOldArchive(bytes);
+        }
+    }
+}

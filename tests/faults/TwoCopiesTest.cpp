@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+// Two running copies of the program on one archive.
+#include "faults/FaultTest.h"
+#include "faults/ProgramWindow.h"
+#include "support/ZipReader.h"
+#include "support/ZipWriter.h"
+
+#include <nlohmann/json.hpp>
+
+namespace {
+
+constexpr const char* ChangedQuestion =
+    "The archive has been changed since you opened or saved it, perhaps in another window. Its comments and "
+    "filters would be replaced. Save all the same?";
+
+class TwoCopies : public FaultTest {
+  protected:
+    TwoCopies() { WriteZip(Archive, {{"a.log", LogbookOf(3)}, {"a.cmt", "[Comments]\r\n 0 pump\r\n"}}); }
+
+    // Both show the archive; one after the other writes a comment.
+    struct Copies {
+        explicit Copies(const TwoCopies& test)
+            : First({test.Archive}, test.Variables()), Second({test.Archive}, test.Variables()) {
+            First.UntilRows(3);
+            Second.UntilRows(3);
+            First.Comment(1, "first");
+            Second.Comment(2, "second");
+        }
+        ProgramWindow First;
+        ProgramWindow Second;
+    };
+
+    // Saves as the archive, which the file dialog asks about as ever.
+    void Save(ProgramWindow& window) const {
+        window.SaveAs(Archive);
+        EXPECT_NE(window.Message().find("already exists"), std::string::npos);
+        window.Press("Yes");
+    }
+
+    std::string Comments() const {
+        const auto members = ReadZip(Archive);
+        return members.size() == 3 ? members[2].second : "no archive";
+    }
+
+    void ExpectToClose(ProgramWindow& window) const {
+        window.Close();
+        EXPECT_EQ(window.Program().WaitForEnd(), GoodEnd);
+    }
+
+    const std::string Archive = Work + "/a.qorvix";
+    const std::string OfFirst = "[Comments]\r\n 0 pump\r\n 1 first\r\n";
+    const std::string OfSecond = "[Comments]\r\n 0 pump\r\n 2 second\r\n";
+};
+
+} // namespace
+
+TEST_F(TwoCopies, SecondSavingAsksBeforeItReplacesTheFirst) {
+    Copies copies(*this);
+    Save(copies.First);
+    copies.First.UntilIdle();
+    EXPECT_EQ(Comments(), OfFirst);
+
+    Save(copies.Second);
+    copies.Second.Until([](const Sight& sight) { return sight.Text == ChangedQuestion; }, "the question");
+    copies.Second.Press("No");
+    copies.Second.UntilIdle();
+    EXPECT_EQ(Comments(), OfFirst);
+
+    // The comments are still there, to be saved elsewhere or here.
+    copies.Second.Close();
+    EXPECT_EQ(copies.Second.Message(), "Comments edited. Save into logbook archive?");
+    copies.Second.Press("Yes");
+    copies.Second.ChooseFile(Work + "/second.qorvix");
+    EXPECT_EQ(copies.Second.Program().WaitForEnd(), GoodEnd);
+    EXPECT_EQ(ReadZip(Work + "/second.qorvix")[2].second, OfSecond);
+    EXPECT_EQ(Comments(), OfFirst);
+
+    // What the first saved is its own: no question.
+    copies.First.Comment(2, "more");
+    Save(copies.First);
+    copies.First.UntilIdle();
+    EXPECT_EQ(Comments(), OfFirst + " 2 more\r\n");
+    ExpectToClose(copies.First);
+    EXPECT_EQ(NamesIn(Temp), std::vector<std::string>());
+}
+
+TEST_F(TwoCopies, YesReplaces) {
+    Copies copies(*this);
+    Save(copies.First);
+    copies.First.UntilIdle();
+    Save(copies.Second);
+    copies.Second.Until([](const Sight& sight) { return sight.Text == ChangedQuestion; }, "the question");
+    copies.Second.Press("Yes");
+    copies.Second.UntilIdle();
+    EXPECT_EQ(Comments(), OfSecond);
+    ExpectToClose(copies.First);
+    ExpectToClose(copies.Second);
+    EXPECT_EQ(NamesIn(Temp), std::vector<std::string>());
+    EXPECT_EQ(NamesIn(Work), std::vector<std::string>{"a.qorvix"});
+}
+
+TEST_F(TwoCopies, KilledOneLeavesTheOtherItsFiles) {
+    Copies copies(*this);
+    copies.First.Program().Kill();
+    EXPECT_EQ(copies.First.Program().WaitForEnd(), KilledEnd);
+    {
+        // A third empties and uses what the killed one left.
+        ProgramWindow third({Archive}, Variables());
+        third.UntilRows(3);
+        ExpectToClose(third);
+    }
+    Save(copies.Second);
+    copies.Second.UntilIdle();
+    EXPECT_EQ(Comments(), OfSecond);
+    ExpectToClose(copies.Second);
+    EXPECT_EQ(NamesIn(Temp), std::vector<std::string>());
+}
+
+TEST_F(TwoCopies, BothKeepTheSettingsWhole) {
+    Copies copies(*this);
+    for (ProgramWindow* window : {&copies.First, &copies.Second}) {
+        window->Close();
+        EXPECT_EQ(window->Message(), "Comments edited. Save into logbook archive?");
+        window->Press("No");
+    }
+    EXPECT_EQ(copies.First.Program().WaitForEnd(), GoodEnd);
+    EXPECT_EQ(copies.Second.Program().WaitForEnd(), GoodEnd);
+    EXPECT_EQ(nlohmann::json::parse(FileContent(SettingsFile()))["Logbook"]["MainIsMaximized"], 0);
+    EXPECT_EQ(NamesIn(Config + "/VELTRANDOR"), (std::vector<std::string>{"Qorvix.json", "Qorvix.json.lock"}));
+}
+
+TEST_F(TwoCopies, ManyAtOnceLeaveAWholeArchive) {
+    constexpr int Rounds = 10;
+    const std::string log = Folder.Write("work/a.log", LogbookOf(500));
+    std::vector<std::string> comments;
+    for (const char* name : {"one", "two"})
+        comments.push_back(Folder.Write(std::string("work/") + name + ".cmt",
+                                        std::string("[Comments]\r\n 1 ") + name + "\r\n"));
+    for (int round = 0; round < Rounds; ++round) {
+        RunningProgram one(Tool, {"pack", log, Archive, "--comments", comments[0]}, Variables());
+        RunningProgram two(Tool, {"pack", log, Archive, "--comments", comments[1]}, Variables());
+        const ProgramEnd ends[] = {one.WaitForEnd(), two.WaitForEnd()};
+        // One of them is there; the other came before it, or was told that it came too late.
+        EXPECT_TRUE(Comments() == FileContent(comments[0]) || Comments() == FileContent(comments[1]));
+        for (const RunningProgram* program : {&one, &two})
+            EXPECT_TRUE(program->Errors().empty() ||
+                        program->Errors() == "qorvix-cli: The archive could not be saved (" + Archive +
+                                                 ": the archive was changed meanwhile)\n")
+                << program->Errors();
+        EXPECT_TRUE(ends[0] == GoodEnd || ends[1] == GoodEnd);
+        EXPECT_EQ(NamesIn(Work), (std::vector<std::string>{"a.log", "a.qorvix", "one.cmt", "two.cmt"}));
+    }
+}
