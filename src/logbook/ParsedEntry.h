@@ -2,7 +2,7 @@
 #pragma once
 
 #include "logbook/LogbookEntry.h"
-#include "logbook/modUtil.h"
+#include "logbook/StampRoom.h"
 
 #include <cstddef>
 #include <cstdint>

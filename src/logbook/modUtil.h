@@ -3,9 +3,9 @@
 
 #include "logbook/Blanks.h"
 #include "logbook/RunTimeError.h"
+#include "logbook/StampRoom.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -37,9 +37,6 @@ inline std::string_view Left(std::string_view text, std::int64_t length) { retur
 inline std::string_view Right(std::string_view text, std::size_t length) {
     return text.substr(text.size() - std::min(length, text.size()));
 }
-
-// Room for a stamp: two digits of the day, the month between its dots, the year, a blank and the clock.
-using StampRoom = std::array<char, 2 + 4 + 4 + 1 + 12>;
 
 // Turns "clock weekday month day year" with single blanks between, English month names, into the day-first
 // stamp: "12:34:56 Mon Jan 04 2010" gives "04.01.2010 12:34:56". The clock may carry milliseconds. An unknown

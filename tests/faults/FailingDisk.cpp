@@ -143,6 +143,7 @@ FILE* fopen64(const char* path, const char* mode) {
     return FailsToOpen(path, FlagsOf(mode)) ? nullptr : NEXT(fopen64)(path, mode);
 }
 int mkstemp(char* path) { return Fails(Creates, path) ? -1 : NEXT(mkstemp)(path); }
+int mkostemp(char* path, int flags) { return Fails(Creates, path) ? -1 : NEXT(mkostemp)(path, flags); }
 int mkstemp64(char* path) { return Fails(Creates, path) ? -1 : NEXT(mkstemp64)(path); }
 char* mkdtemp(char* path) noexcept { return Fails(Creates, path) ? nullptr : NEXT(mkdtemp)(path); }
 int mkdir(const char* path, mode_t mode) noexcept {

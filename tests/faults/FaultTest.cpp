@@ -5,20 +5,23 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <filesystem>
 
 Environment Fault::Variables() const {
     if (Folder.empty())
         return {};
-    return {{"LD_PRELOAD", QORVIX_FAILING_DISK},
-            {"FAILING_FOLDER", Folder},
-            {"FAILING_CALLS", Calls},
-            {"FAILING_WITH", std::to_string(Error)},
-            {"FAILING_AFTER", std::to_string(After)},
-            {"FAILING_BYTES", Bytes},
-            {"FAILING_WHILE", While},
-            // The sanitizers' own library is content to come second.
-            {"ASAN_OPTIONS", "verify_asan_link_order=0"}};
+    // The sanitizers' own library is content to come second.
+    const char* const sanitizers = std::getenv("ASAN_OPTIONS");
+    return {
+        {"LD_PRELOAD", QORVIX_FAILING_DISK},
+        {"FAILING_FOLDER", Folder},
+        {"FAILING_CALLS", Calls},
+        {"FAILING_WITH", std::to_string(Error)},
+        {"FAILING_AFTER", std::to_string(After)},
+        {"FAILING_BYTES", Bytes},
+        {"FAILING_WHILE", While},
+        {"ASAN_OPTIONS", std::string(sanitizers == nullptr ? "" : sanitizers) + ":verify_asan_link_order=0"}};
 }
 
 Fault FullDisk(const std::string& folder) { return {folder, "cw", ENOSPC}; }
@@ -26,7 +29,7 @@ Fault ReadOnlyDisk(const std::string& folder) { return {folder, "cowrp", EROFS};
 Fault KilledAt(const std::string& folder, int call) { return {folder, "cowrp", 0, call}; }
 
 FaultTest::FaultTest() {
-    for (const std::string& folder : {Config, Temp, Work, Runtime})
+    for (const std::string& folder : {Config, State, Temp, Work, Runtime})
         std::filesystem::create_directory(folder);
     std::filesystem::permissions(Runtime, std::filesystem::perms::owner_all);
 }
@@ -36,6 +39,7 @@ Environment FaultTest::Variables(const Fault& fault) const {
     variables.insert({{"LC_ALL", "C.UTF-8"},
                       {"HOME", Folder.Path().string()},
                       {"XDG_CONFIG_HOME", Config},
+                      {"XDG_STATE_HOME", State},
                       {"XDG_RUNTIME_DIR", Runtime},
                       {"TMPDIR", Temp}});
     return variables;

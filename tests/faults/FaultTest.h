@@ -27,7 +27,8 @@ Fault FullDisk(const std::string& folder);
 Fault ReadOnlyDisk(const std::string& folder);
 Fault KilledAt(const std::string& folder, int call);
 
-// What tests of the real programs share: a user with a home, a temporary folder and a folder for logbooks and
+// What tests of the real programs share: a user with a home, folders for
+// settings and state, a temporary folder and a folder for logbooks and
 // archives, all empty at first.
 class FaultTest : public testing::Test {
   protected:
@@ -52,6 +53,7 @@ class FaultTest : public testing::Test {
 
     TemporaryFolder Folder;
     const std::string Config = Folder / "config";
+    const std::string State = Folder / "state";
     const std::string Temp = Folder / "temp";
     const std::string Work = Folder / "work";
 

@@ -86,6 +86,7 @@ TEST_F(KilledProgram, WindowAtEveryCall) {
     int killed = 0;
     for (bool wasKilled = true; wasKilled; ++killed) {
         PutOld();
+        fs::remove_all(State); // the killed window before has left its comment there
         ProgramWindow window({LogFile}, Variables(KilledAt(Out, killed)));
         window.UntilShown();
         window.Comment(1, "new");

@@ -107,12 +107,16 @@ void ProgramWindow::SaveAs(const std::string& path) {
     ChooseFile(path);
 }
 
-void ProgramWindow::Comment(int row, const std::string& text) {
+void ProgramWindow::EnterComment(int row, const std::string& text) {
     Select(row);
     Tell({{"do", "open entry"}});
     Until([](const Sight& sight) { return sight.Front == "frmLogbookIdent"; }, "the entry's dialog");
     Tell({{"do", "type"}, {"name", "tbComment"}, {"text", text}});
     Press("cmdOK");
+}
+
+void ProgramWindow::Comment(int row, const std::string& text) {
+    EnterComment(row, text);
     UntilIdle();
 }
 

@@ -62,7 +62,8 @@ class ProgramWindow {
     void Open(const std::string& path);
     void SaveAs(const std::string& path);
 
-    // Writes a comment to the entry of a row.
+    // Writes a comment to the entry of a row; the second waits until that is done.
+    void EnterComment(int row, const std::string& text);
     void Comment(int row, const std::string& text);
 
     // Asks the window to close.
