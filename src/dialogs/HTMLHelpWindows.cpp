@@ -8,6 +8,12 @@
 
 #include <htmlhelp.h>
 
+// The header's name for HtmlHelpA or HtmlHelpW is that of the class here.
+#undef HtmlHelp
+
+// As the size of its structure the viewer expects that of the program's own word length.
+static_assert(sizeof(HH_FTS_QUERY) == (sizeof(void*) == 4 ? 32 : 40));
+
 struct HtmlHelp::Window {};
 
 HtmlHelp::HtmlHelp(QWidget* owner) : owner_(owner) {}
@@ -27,15 +33,16 @@ bool HtmlHelp::Display(const std::filesystem::path& file, Language, Page page) {
     const auto window = reinterpret_cast<HWND>(owner_->winId());
     if (page == Page::Contents)
         return HtmlHelpA(window, file.string().c_str(), HH_DISPLAY_TOC, 0) != nullptr;
-    HH_FTS_QUERYA query{};
+    // Its texts are plain, as the flag says, also where UNICODE makes the header declare them as wide ones.
+    HH_FTS_QUERY query{};
     query.cbStruct = sizeof query;
     query.fUniCodeStrings = FALSE;
-    query.pszSearchQuery = "";
+    query.pszSearchQuery = reinterpret_cast<LPCTSTR>("");
     query.iProximity = 0;
     query.fStemmedSearch = FALSE;
     query.fTitleOnly = FALSE;
     query.fExecute = FALSE;
-    query.pszWindow = "";
+    query.pszWindow = reinterpret_cast<LPCTSTR>("");
     return HtmlHelpA(window, file.string().c_str(), HH_DISPLAY_SEARCH, reinterpret_cast<DWORD_PTR>(&query)) !=
            nullptr;
 }
