@@ -15,6 +15,7 @@ std::optional<std::string> RunCommonDialog(const FileQuestion& question, QFileDi
                                            Language language, QWidget* parent) {
     QFileDialog dialog(parent, QtText(question.Title, language), ToQString(question.Folder));
     dialog.setObjectName("dlgCommonDialog");
+    dialog.setWindowModality(Qt::WindowModal); // also where it is the desktop's own; the help stays usable
     dialog.setAcceptMode(mode);
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     // The labels name the patterns themselves where the user needs them.

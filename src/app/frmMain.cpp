@@ -2,6 +2,7 @@
 #include "app/frmMain.h"
 
 #include "app/EntryProperties.h"
+#include "app/HelpBesideDialogs.h"
 #include "app/LibraryVersions.h"
 #include "app/MainArea.h"
 #include "app/MainStatusBar.h"
@@ -86,6 +87,8 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFol
     connect(area_, &MainArea::LayoutChanged, sbStatusBar, &MainStatusBar::HideProgressBar);
     setStatusBar(sbStatusBar);
     MakeList();
+    connect(new HelpBesideDialogs(this), &HelpBesideDialogs::HelpWanted, this,
+            [this] { Run(Command::HelpContents); });
     // The popup menu closes before the dialog opens.
     tmExtrasFilters->setObjectName("tmExtrasFilters");
     tmExtrasFilters->setSingleShot(true);

@@ -11,6 +11,7 @@ namespace {
 
 std::optional<std::string> Choose(QFileDialog& dialog, std::string& folder, const QString& types) {
     dialog.setObjectName("dlgCommonDialog");
+    dialog.setWindowModality(Qt::WindowModal); // also where it is the desktop's own; the help stays usable
     dialog.setDirectory(ToQString(folder));
     SetFileTypes(dialog, types);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
