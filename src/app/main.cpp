@@ -18,6 +18,9 @@ int main(int argc, char** argv) {
     QApplication application(noArguments, argv);
     QApplication::setApplicationName("Qorvix");
     QApplication::setApplicationVersion(QORVIX_VERSION);
+    // By this name a desktop finds the program's icon and menu entry, also where windows have no icon of
+    // their own.
+    QApplication::setDesktopFileName("com.veltrandor.Qorvix");
     QApplication::setWindowIcon(MakeAppIcon(AppIcon::Program));
 
     const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
