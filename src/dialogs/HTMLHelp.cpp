@@ -4,13 +4,21 @@
 #include "dialogs/frmHelp.h"
 
 #include <QIcon>
+#include <QScreen>
 
 struct HtmlHelp::Window {
-    frmHelp Form;
-    std::filesystem::path File; // the one that is shown
+    std::unique_ptr<frmHelp> Form; // null when none was opened
+    std::filesystem::path File;    // the one that is shown
+    HelpWindowLook Look;           // of the one that was closed
+
+    void Close() {
+        if (Form)
+            Look = Form->Look();
+        Form.reset();
+    }
 };
 
-HtmlHelp::HtmlHelp(QWidget* owner) : owner_(owner) {}
+HtmlHelp::HtmlHelp(QWidget* owner) : owner_(owner), window_(std::make_unique<Window>()) {}
 HtmlHelp::~HtmlHelp() = default;
 
 bool HtmlHelp::DisplayToc(const std::filesystem::path& file, Language language) {
@@ -21,17 +29,20 @@ bool HtmlHelp::DisplaySearch(const std::filesystem::path& file, Language languag
     return Display(file, language, Page::Search);
 }
 
-void HtmlHelp::CloseAll() { window_.reset(); }
+void HtmlHelp::CloseAll() { window_->Close(); }
 
 bool HtmlHelp::Display(const std::filesystem::path& file, Language language, Page page) {
     std::optional<HelpBook> book = OpenHelpBook(file);
     if (!book)
         return false;
-    if (!window_ || !window_->Form.isVisible() || file != window_->File) {
-        window_.reset(new Window{{std::move(*book), language}, file});
-        window_->Form.setWindowIcon(owner_->windowIcon());
+    if (!window_->Form || !window_->Form->isVisible() || file != window_->File) {
+        window_->Close();
+        window_->Form = std::make_unique<frmHelp>(std::move(*book), language);
+        window_->File = file;
+        window_->Form->SetLook(window_->Look, *owner_->screen());
+        window_->Form->setWindowIcon(owner_->windowIcon());
     }
-    frmHelp& form = window_->Form;
+    frmHelp& form = *window_->Form;
     if (page == Page::Contents)
         form.ShowContents();
     else

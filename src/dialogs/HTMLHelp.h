@@ -9,7 +9,7 @@
 class QWidget;
 
 // Shows help files. There is one help window at most; it is no modal window and stands on its own, but is
-// closed with this object.
+// closed with this object. The next one has the place, the sizes and the size of the text of the one before.
 //
 // On Windows the system's viewer of compiled HTML help shows them (HTMLHelpWindows.cpp), elsewhere frmHelp.
 class HtmlHelp {
@@ -36,5 +36,5 @@ class HtmlHelp {
     struct Window;
 
     QWidget* owner_;
-    std::unique_ptr<Window> window_; // null when none was opened, and on Windows
+    std::unique_ptr<Window> window_; // what is known of the help window; null on Windows
 };

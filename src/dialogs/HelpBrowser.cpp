@@ -7,6 +7,7 @@
 #include <QDesktopServices>
 #include <QImage>
 #include <QTextBlock>
+#include <QWheelEvent>
 
 namespace {
 
@@ -40,6 +41,8 @@ HelpBrowser::HelpBrowser(const HelpBook& book, QString unreadable, QWidget* pare
     document()->setDocumentMargin(PageMargin);
     document()->setDefaultStyleSheet(PageStyle);
     connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::FollowLink);
+    // Marks belong to the page that they were made on.
+    connect(this, &QTextBrowser::sourceChanged, this, [this] { setExtraSelections({}); });
 }
 
 void HelpBrowser::ShowPage(const std::string& page) { setSource(UrlOf(page), QTextDocument::HtmlResource); }
@@ -74,11 +77,23 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
     return picture;
 }
 
-void HelpBrowser::MarkWords(const QString& words) {
+// Qt would change the size of the text by itself, without a limit.
+void HelpBrowser::wheelEvent(QWheelEvent* event) {
+    if (!event->modifiers().testFlag(Qt::ControlModifier))
+        return QTextBrowser::wheelEvent(event);
+    turned_ += event->angleDelta().y();
+    if (const int steps = turned_ / QWheelEvent::DefaultDeltasPerStep; steps != 0) {
+        turned_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+        emit TextSizeWanted(steps);
+    }
+    event->accept();
+}
+
+void HelpBrowser::MarkTerms(const std::vector<std::string>& terms) {
     QList<QTextEdit::ExtraSelection> marks;
-    for (const QString& word : words.split(' ', Qt::SkipEmptyParts)) {
+    for (const std::string& term : terms) {
         QTextCursor cursor(document());
-        while (!(cursor = document()->find(word, cursor)).isNull()) {
+        while (!(cursor = document()->find(ToQString(term), cursor)).isNull()) {
             QTextEdit::ExtraSelection mark;
             mark.cursor = cursor;
             mark.format.setBackground(Qt::yellow);

@@ -20,10 +20,15 @@ class HelpBrowser : public QTextBrowser {
     // The path of the page that is shown.
     std::string Page() const;
 
-    // Marks all places of these words on the page and scrolls to the first one.
-    void MarkWords(const QString& words);
+    // Marks all places of these words and phrases on the page and scrolls to the first one.
+    void MarkTerms(const std::vector<std::string>& terms);
+
+  signals:
+    // The wheel was turned with the Ctrl key: so many steps larger, or smaller when they are below 0.
+    void TextSizeWanted(int steps);
 
   protected:
+    void wheelEvent(QWheelEvent* event) override;
     QVariant loadResource(int type, const QUrl& name) override;
 
   private:
@@ -31,4 +36,5 @@ class HelpBrowser : public QTextBrowser {
 
     const HelpBook& book_;
     QString unreadable_;
+    int turned_ = 0; // of the wheel with Ctrl, what is no whole step yet
 };

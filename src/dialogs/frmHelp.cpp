@@ -2,6 +2,7 @@
 #include "dialogs/frmHelp.h"
 
 #include "dialogs/HelpBrowser.h"
+#include "dialogs/ScreenRoom.h"
 #include "helpbook/HelpSearch.h"
 #include "list/QtText.h"
 
@@ -25,6 +26,8 @@
 namespace {
 
 constexpr int PageRole = Qt::UserRole; // of a topic and of a hit: the page's path
+constexpr QSize WindowSize(1080, 720);
+constexpr int ContentsWidth = 290;
 constexpr int SmallestText = -4;
 constexpr int LargestText = 12;
 
@@ -59,6 +62,8 @@ frmHelp::frmHelp(HelpBook book, Language language, QWidget* parent)
       actForward(new QAction(this)),
       actLargerText(new QAction(this)),
       actSmallerText(new QAction(this)),
+      actNormalText(new QAction(this)),
+      splitter_(new QSplitter(this)),
       tabPages(new QTabWidget(this)),
       tvContents(new QTreeWidget),
       searchPage(new QWidget),
@@ -80,17 +85,16 @@ frmHelp::frmHelp(HelpBook book, Language language, QWidget* parent)
     tabPages->addTab(tvContents, QString());
     tabPages->addTab(searchPage, QString());
 
-    auto* splitter = new QSplitter(this);
-    splitter->addWidget(tabPages);
-    splitter->addWidget(txPage);
-    splitter->setStretchFactor(1, 1);
-    splitter->setChildrenCollapsible(false);
+    splitter_->setObjectName("splitter");
+    splitter_->addWidget(tabPages);
+    splitter_->addWidget(txPage);
+    splitter_->setStretchFactor(1, 1);
+    splitter_->setChildrenCollapsible(false);
+    splitter_->setSizes({ContentsWidth, WindowSize.width() - ContentsWidth});
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(tbToolBar);
-    layout->addWidget(splitter, 1);
-    resize(1080, 720);
-    splitter->setSizes({290, 790});
+    layout->addWidget(splitter_, 1);
 
     connect(txPage, &QTextBrowser::sourceChanged, this,
             [this](const QUrl& page) { SelectTopicOf(page.path()); });
@@ -103,11 +107,10 @@ void frmHelp::MakeContents() {
     tvContents->setHeaderHidden(true);
     AddTopics(tvContents->invisibleRootItem(), book_.Contents);
     tvContents->expandAll();
-    connect(tvContents, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
-        const std::string page = item ? item->data(0, PageRole).toString().toStdString() : std::string();
-        if (!page.empty())
-            txPage->ShowPage(page);
-    });
+    connect(tvContents, &QTreeWidget::currentItemChanged, this, &frmHelp::ShowTopic);
+    // After a link the current topic can be one whose page is no longer shown.
+    connect(tvContents, &QTreeWidget::itemClicked, this, &frmHelp::ShowTopic);
+    connect(tvContents, &QTreeWidget::itemActivated, this, &frmHelp::ShowTopic);
 }
 
 void frmHelp::MakeSearch() {
@@ -131,12 +134,9 @@ void frmHelp::MakeSearch() {
 
     connect(cmdSearch, &QPushButton::clicked, this, &frmHelp::Search);
     connect(tbSearchWords, &QLineEdit::returnPressed, this, &frmHelp::Search);
-    connect(lbHits, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
-        if (!item)
-            return;
-        txPage->ShowPage(item->data(PageRole).toString().toStdString());
-        txPage->MarkWords(markedWords_);
-    });
+    connect(lbHits, &QListWidget::currentItemChanged, this, &frmHelp::ShowHit);
+    connect(lbHits, &QListWidget::itemClicked, this, &frmHelp::ShowHit);
+    connect(lbHits, &QListWidget::itemActivated, this, &frmHelp::ShowHit);
 }
 
 void frmHelp::MakeToolBar() {
@@ -146,19 +146,23 @@ void frmHelp::MakeToolBar() {
     actForward->setObjectName("actForward");
     actLargerText->setObjectName("actLargerText");
     actSmallerText->setObjectName("actSmallerText");
+    actNormalText->setObjectName("actNormalText");
     actBack->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
     actForward->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
     actBack->setShortcuts(QKeySequence::Back);
     actForward->setShortcuts(QKeySequence::Forward);
     actLargerText->setShortcuts({QKeySequence(QKeySequence::ZoomIn), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
     actSmallerText->setShortcuts(QKeySequence::ZoomOut);
+    actNormalText->setShortcut(Qt::CTRL | Qt::Key_0);
     actBack->setEnabled(false);
     actForward->setEnabled(false);
+    actNormalText->setEnabled(false);
     tbToolBar->addAction(actBack);
     tbToolBar->addAction(actForward);
     tbToolBar->addSeparator();
     tbToolBar->addAction(actLargerText);
     tbToolBar->addAction(actSmallerText);
+    tbToolBar->addAction(actNormalText);
     for (QAction* action : tbToolBar->actions())
         if (QWidget* const button = tbToolBar->widgetForAction(action); !action->isSeparator())
             button->setFocusPolicy(Qt::TabFocus);
@@ -167,8 +171,13 @@ void frmHelp::MakeToolBar() {
     connect(actForward, &QAction::triggered, txPage, &QTextBrowser::forward);
     connect(txPage, &QTextBrowser::backwardAvailable, actBack, &QAction::setEnabled);
     connect(txPage, &QTextBrowser::forwardAvailable, actForward, &QAction::setEnabled);
-    connect(actLargerText, &QAction::triggered, this, [this] { ChangeTextSize(1); });
-    connect(actSmallerText, &QAction::triggered, this, [this] { ChangeTextSize(-1); });
+    connect(actLargerText, &QAction::triggered, this, [this] { SetTextSize(textSize_ + 1); });
+    connect(actSmallerText, &QAction::triggered, this, [this] { SetTextSize(textSize_ - 1); });
+    connect(actNormalText, &QAction::triggered, this, [this] { SetTextSize(0); });
+    connect(txPage, &HelpBrowser::TextSizeWanted, this,
+            [this](int steps) { SetTextSize(textSize_ + steps); });
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+            &frmHelp::ShowContents);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, &frmHelp::ShowSearch);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
 }
@@ -181,6 +190,7 @@ void frmHelp::LoadLanguage() {
     actForward->setText(QtText(TextId::HelpForward, language_));
     actLargerText->setText(QtText(TextId::HelpLargerText, language_));
     actSmallerText->setText(QtText(TextId::HelpSmallerText, language_));
+    actNormalText->setText(QtText(TextId::HelpNormalText, language_));
     lblSearchWords->setText(QtText(TextId::HelpSearchLabel, language_));
     cmdSearch->setText(QtText(TextId::HelpSearchButton, language_));
     tvContents->setAccessibleName(QtPlainText(TextId::HelpContentsTab, language_));
@@ -200,9 +210,24 @@ void frmHelp::ShowSearch() {
     tbSearchWords->selectAll();
 }
 
+HelpWindowLook frmHelp::Look() const { return {saveGeometry(), splitter_->saveState(), textSize_}; }
+
+void frmHelp::SetLook(const HelpWindowLook& look, const QScreen& screen) {
+    if (look.Geometry.isEmpty()) {
+        resize(WithinScreen(WindowSize, screen));
+    } else {
+        restoreGeometry(look.Geometry);
+        splitter_->restoreState(look.Parts);
+    }
+    SetTextSize(look.TextSize);
+}
+
 void frmHelp::Search() {
-    markedWords_ = tbSearchWords->text();
-    const std::vector<HelpHit> hits = SearchHelp(book_, markedWords_.toStdString());
+    const std::vector<std::string> terms = HelpTerms(tbSearchWords->text().toStdString());
+    if (terms.empty())
+        return;
+    markedTerms_ = terms;
+    const std::vector<HelpHit> hits = SearchHelp(book_, markedTerms_);
     lbHits->clear();
     for (const HelpHit& hit : hits) {
         auto* item = new QListWidgetItem(ToQString(hit.Title), lbHits);
@@ -210,6 +235,19 @@ void frmHelp::Search() {
     }
     lblHits->setText(hits.empty() ? QtText(TextId::HelpNothingFound, language_)
                                   : QtText(TextId::HelpPagesFound, language_) + QString::number(hits.size()));
+}
+
+void frmHelp::ShowTopic(const QTreeWidgetItem* topic) {
+    const QString page = topic ? topic->data(0, PageRole).toString() : QString();
+    if (!page.isEmpty())
+        txPage->ShowPage(page.toStdString());
+}
+
+void frmHelp::ShowHit(const QListWidgetItem* hit) {
+    if (!hit)
+        return;
+    txPage->ShowPage(hit->data(PageRole).toString().toStdString());
+    txPage->MarkTerms(markedTerms_);
 }
 
 void frmHelp::SelectTopicOf(const QString& page) {
@@ -222,10 +260,11 @@ void frmHelp::SelectTopicOf(const QString& page) {
         tvContents->setCurrentItem(topic);
 }
 
-void frmHelp::ChangeTextSize(int steps) {
-    const int size = std::clamp(textSize_ + steps, SmallestText, LargestText);
-    txPage->zoomIn(size - textSize_);
-    textSize_ = size;
-    actLargerText->setEnabled(size < LargestText);
-    actSmallerText->setEnabled(size > SmallestText);
+void frmHelp::SetTextSize(int size) {
+    const int allowed = std::clamp(size, SmallestText, LargestText);
+    txPage->zoomIn(allowed - textSize_);
+    textSize_ = allowed;
+    actLargerText->setEnabled(allowed < LargestText);
+    actSmallerText->setEnabled(allowed > SmallestText);
+    actNormalText->setEnabled(allowed != 0);
 }

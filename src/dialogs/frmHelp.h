@@ -11,10 +11,21 @@ class QAction;
 class QLabel;
 class QLineEdit;
 class QListWidget;
+class QListWidgetItem;
 class QPushButton;
+class QScreen;
+class QSplitter;
 class QTabWidget;
 class QToolBar;
 class QTreeWidget;
+class QTreeWidgetItem;
+
+// How a person has arranged a help window, for the one after it.
+struct HelpWindowLook {
+    QByteArray Geometry; // empty: none was open yet
+    QByteArray Parts;    // of the window's width
+    int TextSize = 0;    // steps above the size of other windows
+};
 
 // The help window: contents and search on the left, a page of the help file on the right.
 class frmHelp : public QWidget {
@@ -27,25 +38,35 @@ class frmHelp : public QWidget {
     void ShowContents();
     void ShowSearch();
 
+    HelpWindowLook Look() const;
+
+    // Arranges the window as another one was. Without that it has the size that it is made for, or what the
+    // screen has room for.
+    void SetLook(const HelpWindowLook& look, const QScreen& screen);
+
   private:
     void MakeToolBar();
     void MakeContents();
     void MakeSearch();
     void LoadLanguage();
     void Search();
+    void ShowTopic(const QTreeWidgetItem* topic);
+    void ShowHit(const QListWidgetItem* hit);
     void SelectTopicOf(const QString& page);
-    void ChangeTextSize(int steps);
+    void SetTextSize(int size);
 
     HelpBook book_;
     Language language_;
-    QString markedWords_; // what the list of hits was made for
-    int textSize_ = 0;    // steps above the size of other windows
+    std::vector<std::string> markedTerms_; // what the list of hits was made for
+    int textSize_ = 0;                     // steps above the size of other windows
 
     QToolBar* tbToolBar;
     QAction* actBack;
     QAction* actForward;
     QAction* actLargerText;
     QAction* actSmallerText;
+    QAction* actNormalText;
+    QSplitter* splitter_;
     QTabWidget* tabPages;
     QTreeWidget* tvContents;
     QWidget* searchPage;

@@ -257,6 +257,7 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::HelpForward, "F&orward", "&Vorwärts", Group::HelpWindow},
     {TextId::HelpLargerText, "&Larger text", "Schrift &größer", Group::HelpWindow},
     {TextId::HelpSmallerText, "S&maller text", "Schrift &kleiner", Group::HelpWindow},
+    {TextId::HelpNormalText, "&Normal text", "Schrift &normal", Group::HelpWindow},
     {TextId::HelpSearchLabel, "&Words to find:", "Gesuchte &Wörter:", Group::HelpWindow},
     {TextId::HelpSearchButton, "&Find", "&Finden", Group::HelpWindow},
     {TextId::HelpHits, "Pages found", "Gefundene Seiten"},

@@ -204,6 +204,7 @@ enum class TextId : std::uint16_t {
     HelpForward,
     HelpLargerText,
     HelpSmallerText,
+    HelpNormalText,
     HelpSearchLabel,
     HelpSearchButton,
     HelpHits,

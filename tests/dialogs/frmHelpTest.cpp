@@ -14,9 +14,12 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
+#include <QSplitter>
 #include <QTabWidget>
 #include <QTest>
 #include <QTreeWidget>
+#include <QWheelEvent>
 
 namespace {
 
@@ -86,6 +89,7 @@ class frmHelpTest : public QObject {
         QCOMPARE(Find<QAction>(window, "actForward")->text(), QString("&Vorwärts"));
         QCOMPARE(Find<QAction>(window, "actLargerText")->text(), QString("Schrift &größer"));
         QCOMPARE(Find<QAction>(window, "actSmallerText")->text(), QString("Schrift &kleiner"));
+        QCOMPARE(Find<QAction>(window, "actNormalText")->text(), QString("Schrift &normal"));
         QCOMPARE(Find<QLabel>(window, "lblSearchWords")->text(), QString("Gesuchte &Wörter:"));
         QCOMPARE(Find<QPushButton>(window, "cmdSearch")->text(), QString("&Finden"));
         // Contents in the code page of the language.
@@ -106,6 +110,7 @@ class frmHelpTest : public QObject {
         QCOMPARE(Find<QAction>(window, "actForward")->text(), QString("F&orward"));
         QCOMPARE(Find<QAction>(window, "actLargerText")->text(), QString("&Larger text"));
         QCOMPARE(Find<QAction>(window, "actSmallerText")->text(), QString("S&maller text"));
+        QCOMPARE(Find<QAction>(window, "actNormalText")->text(), QString("&Normal text"));
         QCOMPARE(Find<QLabel>(window, "lblSearchWords")->text(), QString("&Words to find:"));
         QCOMPARE(Find<QPushButton>(window, "cmdSearch")->text(), QString("&Find"));
     }
@@ -271,6 +276,82 @@ class frmHelpTest : public QObject {
         QCOMPARE(Find<QLabel>(window, "lblHits")->text(), QString("No page holds all of these words."));
     }
 
+    void HitCanBeOpenedAgain() {
+        frmHelp window(SmallBook(), {Language::English});
+        window.show();
+        window.ShowSearch();
+        Find<QLineEdit>(window, "tbSearchWords")->setText("open");
+        Find<QPushButton>(window, "cmdSearch")->click();
+        auto* hits = Find<QListWidget>(window, "lbHits");
+        const auto click = [&] {
+            QTest::mouseClick(hits->viewport(), Qt::LeftButton, {},
+                              hits->visualItemRect(hits->item(0)).center());
+        };
+        click();
+        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
+        emit PageOf(window)->anchorClicked(QUrl("a.html"));
+        QVERIFY(PageOf(window)->extraSelections().isEmpty());
+        click();
+        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
+        QCOMPARE(PageOf(window)->extraSelections().size(), 2);
+        Find<QAction>(window, "actBack")->trigger();
+        QCOMPARE(PageOf(window)->Page(), std::string("/a.html"));
+        click();
+        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
+    }
+
+    void TopicCanBeOpenedAgain() {
+        HelpBook book = SmallBook();
+        book.Members["/d.html"] = "in no contents";
+        frmHelp window(std::move(book), {Language::English});
+        window.show();
+        auto* contents = Find<QTreeWidget>(window, "tvContents");
+        const auto click = [&] {
+            QTest::mouseClick(contents->viewport(), Qt::LeftButton, {},
+                              contents->visualItemRect(contents->topLevelItem(1)).center());
+        };
+        click();
+        emit PageOf(window)->anchorClicked(QUrl("d.html"));
+        QCOMPARE(PageOf(window)->Page(), std::string("/d.html"));
+        click();
+        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
+    }
+
+    void EmptySearchChangesNothing() {
+        frmHelp window(SmallBook(), {Language::English});
+        window.show();
+        window.ShowSearch();
+        auto* words = Find<QLineEdit>(window, "tbSearchWords");
+        for (const char* empty : {"", "   ", "\"\"", " , ."}) {
+            words->setText(empty);
+            QTest::keyClick(words, Qt::Key_Return);
+            QCOMPARE(Find<QLabel>(window, "lblHits")->text(), QString());
+        }
+        words->setText("open");
+        QTest::keyClick(words, Qt::Key_Return);
+        words->clear();
+        Find<QPushButton>(window, "cmdSearch")->click();
+        QCOMPARE(Find<QListWidget>(window, "lbHits")->count(), 1);
+        QCOMPARE(Find<QLabel>(window, "lblHits")->text(), QString("Pages found: 1"));
+    }
+
+    void PhrasesAreFoundAndMarked() {
+        frmHelp window(SmallBook(), {Language::English});
+        window.show();
+        window.ShowSearch();
+        Find<QLineEdit>(window, "tbSearchWords")->setText("\"the WORD twice\", here.");
+        Find<QPushButton>(window, "cmdSearch")->click();
+        QCOMPARE(Find<QListWidget>(window, "lbHits")->count(), 1);
+        Find<QListWidget>(window, "lbHits")->setCurrentRow(0);
+        QStringList marked;
+        for (const QTextEdit::ExtraSelection& mark : PageOf(window)->extraSelections())
+            marked << mark.cursor.selectedText();
+        QCOMPARE(marked, QStringList({"the word twice", "here"}));
+        Find<QLineEdit>(window, "tbSearchWords")->setText("\"word the twice\"");
+        Find<QPushButton>(window, "cmdSearch")->click();
+        QCOMPARE(Find<QListWidget>(window, "lbHits")->count(), 0);
+    }
+
     void SearchInTheRealHelp() {
         HtmlHelp help(&owner_);
         QVERIFY(help.DisplaySearch(HelpOf(Language::German), {Language::German}));
@@ -304,6 +385,95 @@ class frmHelpTest : public QObject {
         QVERIFY(smaller->isEnabled());
     }
 
+    void NormalTextIsOneStepAway() {
+        frmHelp window(SmallBook(), {Language::English});
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        auto* normal = Find<QAction>(window, "actNormalText");
+        const qreal size = PageOf(window)->font().pointSizeF();
+        QVERIFY(!normal->isEnabled());
+        for (int i = 0; i < 3; ++i)
+            Find<QAction>(window, "actLargerText")->trigger();
+        QVERIFY(normal->isEnabled());
+        QTest::keyClick(&window, Qt::Key_0, Qt::ControlModifier);
+        QCOMPARE(PageOf(window)->font().pointSizeF(), size);
+        QVERIFY(!normal->isEnabled());
+    }
+
+    void WheelWithCtrlGoesTheSameSteps() {
+        frmHelp window(SmallBook(), {Language::English});
+        window.show();
+        auto* page = PageOf(window);
+        const qreal size = page->font().pointSizeF();
+        TurnWheel(*page, 120, Qt::ControlModifier);
+        QCOMPARE(page->font().pointSizeF(), size + 1);
+        QVERIFY(Find<QAction>(window, "actNormalText")->isEnabled());
+        TurnWheel(*page, -240, Qt::ControlModifier);
+        QCOMPARE(page->font().pointSizeF(), size - 1);
+        // Fine wheels make a step of several turns.
+        for (int i = 0; i < 4; ++i)
+            TurnWheel(*page, 30, Qt::ControlModifier);
+        QCOMPARE(page->font().pointSizeF(), size);
+        for (int i = 0; i < 50; ++i)
+            TurnWheel(*page, 120, Qt::ControlModifier);
+        QCOMPARE(page->font().pointSizeF(), size + 12);
+        QVERIFY(!Find<QAction>(window, "actLargerText")->isEnabled());
+        TurnWheel(*page, -120, {});
+        QCOMPARE(page->font().pointSizeF(), size + 12);
+    }
+
+    void NextWindowLooksLikeTheOneBefore() {
+        HtmlHelp help(&owner_);
+        QVERIFY(help.DisplayToc(HelpOf(Language::English), {Language::English}));
+        const qreal size = PageOf(*HelpWindows().front())->font().pointSizeF();
+        const auto arrange = [&](frmHelp& window) {
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            window.setGeometry(40, 50, 620, 410);
+            Find<QSplitter>(window, "splitter")->setSizes({300, 320});
+            Find<QAction>(window, "actLargerText")->trigger();
+            Find<QAction>(window, "actLargerText")->trigger();
+        };
+        arrange(*HelpWindows().front());
+        const QList<int> parts = Find<QSplitter>(*HelpWindows().front(), "splitter")->sizes();
+        const auto verify = [&](qreal textSize) {
+            const frmHelp& window = *HelpWindows().front();
+            QCOMPARE(window.geometry(), QRect(40, 50, 620, 410));
+            QCOMPARE(Find<QSplitter>(window, "splitter")->sizes(), parts);
+            QCOMPARE(PageOf(window)->font().pointSizeF(), textSize);
+        };
+        // The person closes it.
+        HelpWindows().front()->close();
+        QVERIFY(help.DisplayToc(HelpOf(Language::English), {Language::English}));
+        verify(size + 2);
+        Find<QAction>(*HelpWindows().front(), "actSmallerText")->trigger();
+        // The language changes.
+        help.CloseAll();
+        QVERIFY(help.DisplaySearch(HelpOf(Language::German), {Language::German}));
+        verify(size + 1);
+    }
+
+    void FirstWindowFitsOnTheScreen() {
+        HtmlHelp help(&owner_);
+        QVERIFY(help.DisplayToc(HelpOf(Language::English), {Language::English}));
+        frmHelp& window = *HelpWindows().front();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QSize room = window.screen()->availableSize();
+        QCOMPARE(window.size(), QSize(1080, 720).boundedTo(room * 9 / 10));
+        // Those that a large text on a small laptop leaves.
+        QVERIFY2(window.minimumSizeHint().width() <= 640,
+                 qPrintable(QString::number(window.minimumSizeHint().width())));
+        QVERIFY(window.minimumSizeHint().height() <= 400);
+    }
+
+    void HelpKeyShowsTheContents() {
+        frmHelp window(SmallBook(), {Language::English});
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        window.ShowSearch();
+        QTest::keyClick(&window, Qt::Key_F1);
+        QCOMPARE(Find<QTabWidget>(window, "tabPages")->currentIndex(), 0);
+    }
+
     void EachControlHasAName() {
         for (const int number : {Language::English, Language::German}) {
             frmHelp window(SmallBook(), {number});
@@ -325,6 +495,12 @@ class frmHelpTest : public QObject {
     void TakeUrl(const QUrl& url) { urls_ << url; }
 
   private:
+    static void TurnWheel(QWidget& page, int delta, Qt::KeyboardModifiers modifiers) {
+        QWheelEvent event(QPointF(5, 5), page.mapToGlobal(QPointF(5, 5)), {}, {0, delta}, Qt::NoButton,
+                          modifiers, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(page.findChild<QWidget*>("qt_scrollarea_viewport"), &event);
+    }
+
     QWidget owner_;
     QList<QUrl> urls_;
 };

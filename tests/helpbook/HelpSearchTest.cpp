@@ -20,7 +20,7 @@ HelpBook Book() {
 
 std::vector<std::string> PagesFor(std::string_view words) {
     std::vector<std::string> pages;
-    for (const HelpHit& hit : SearchHelp(Book(), words))
+    for (const HelpHit& hit : SearchHelp(Book(), HelpTerms(words)))
         pages.push_back(hit.Page);
     return pages;
 }
@@ -35,7 +35,7 @@ TEST(HelpSearch, AllWordsInTheOrderOfTheContents) {
 
 TEST(HelpSearch, PagesWithTheWordInTheTitleComeFirst) {
     EXPECT_THAT(PagesFor("filters"), ElementsAre("/b.html", "/a.html"));
-    EXPECT_THAT(SearchHelp(Book(), "list"), ElementsAre(HelpHit{"Filters", "/b.html"}));
+    EXPECT_THAT(SearchHelp(Book(), {"list"}), ElementsAre(HelpHit{"Filters", "/b.html"}));
 }
 
 TEST(HelpSearch, CaseMakesNoDifferenceInAnyLanguage) {
@@ -52,8 +52,28 @@ TEST(HelpSearch, TagsAndReferencesAreNoText) {
     EXPECT_THAT(PagesFor("&"), ElementsAre("/c.html"));
 }
 
+TEST(HelpSearch, PunctuationAroundWordsIsNoPartOfThem) {
+    EXPECT_THAT(HelpTerms("open, (the) logbook. [filters]: why?"),
+                ElementsAre("open", "the", "logbook", "filters", "why"));
+    EXPECT_THAT(HelpTerms("3.1 on/off qorvix-cli lb_act.log"),
+                ElementsAre("3.1", "on/off", "qorvix-cli", "lb_act.log"));
+    EXPECT_THAT(HelpTerms("‚Öffnen‘,"), ElementsAre("Öffnen"));
+    EXPECT_THAT(PagesFor("logbook, open!"), ElementsAre("/a.html"));
+}
+
+TEST(HelpSearch, QuotesMakeAPhrase) {
+    EXPECT_THAT(HelpTerms("\"open a  logbook\" list"), ElementsAre("open a logbook", "list"));
+    EXPECT_THAT(HelpTerms("„ein Logbuch“,«une liste»"), ElementsAre("ein Logbuch", "une liste"));
+    EXPECT_THAT(HelpTerms("(\"*.log,\")"), ElementsAre("*.log,"));
+    EXPECT_THAT(HelpTerms("list \"of a"), ElementsAre("list", "of a"));
+    EXPECT_THAT(PagesFor("\"a LOGBOOK\""), ElementsAre("/a.html", "/b.html"));
+    EXPECT_THAT(PagesFor("\"open a logbook\""), ElementsAre("/a.html"));
+    EXPECT_THAT(PagesFor("\"logbook open\""), IsEmpty());
+}
+
 TEST(HelpSearch, NothingToFind) {
     EXPECT_THAT(PagesFor(""), IsEmpty());
     EXPECT_THAT(PagesFor("   "), IsEmpty());
+    EXPECT_THAT(HelpTerms(" \"\" ., () \"  \" "), IsEmpty());
     EXPECT_THAT(PagesFor("\xFF\xFE"), IsEmpty());
 }
