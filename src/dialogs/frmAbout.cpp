@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/frmAbout.h"
 
+#include "dialogs/ScreenRoom.h"
 #include "list/QtText.h"
 
 #include <QApplication>
@@ -11,19 +12,40 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <charconv>
+#include <cmath>
 
 namespace {
 
 constexpr int IconSize = 64;
+constexpr int TextWidth = 600;
+constexpr int FewestLines = 3; // of each box, where the screen has no room for its whole text
+
+// What a box needs above its lines, and as much again below them.
+int MarginOf(const QPlainTextEdit& box) {
+    return static_cast<int>(std::ceil(box.document()->documentMargin())) + box.frameWidth();
+}
+
+// The height of a box that shows so many lines. With one pixel less it has a scroll bar.
+int HeightOf(const QPlainTextEdit& box, int lines) {
+    return box.fontMetrics().lineSpacing() * lines + 2 * MarginOf(box) + 1;
+}
+
+// The number of lines of its text in a box as wide as TextWidth.
+int LinesIn(const QPlainTextEdit& box) {
+    const QRect room(0, 0, TextWidth - 2 * MarginOf(box), QWIDGETSIZE_MAX);
+    const QFontMetrics font = box.fontMetrics();
+    return font.boundingRect(room, Qt::TextWordWrap, box.toPlainText()).height() / font.lineSpacing();
+}
 
 // A text to read and to copy; Tab leaves it.
-void MakeReadOnly(QPlainTextEdit& box, int lines) {
+void MakeReadOnly(QPlainTextEdit& box) {
     box.setReadOnly(true);
     box.setTabChangesFocus(true);
-    box.setMinimumHeight(box.fontMetrics().lineSpacing() * lines + 12);
+    box.setMinimumHeight(HeightOf(box, FewestLines));
 }
 
 // Its paragraphs as lines that the box breaks as wide as it is.
@@ -86,8 +108,8 @@ frmAbout::frmAbout(Language language, std::string_view version, const std::vecto
     lblDesignation->setFont(large);
     lblVersion->setTextInteractionFlags(Qt::TextSelectableByMouse);
     tbLicence->setPlainText(LicenceText());
-    MakeReadOnly(*tbLicence, 9);
-    MakeReadOnly(*tbLibraries, 5);
+    MakeReadOnly(*tbLicence);
+    MakeReadOnly(*tbLibraries);
     cmdOK->setDefault(true);
 
     auto* names = new QVBoxLayout;
@@ -105,14 +127,23 @@ frmAbout::frmAbout(Language language, std::string_view version, const std::vecto
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(head);
     layout->addWidget(lblLicence);
-    layout->addWidget(tbLicence, 3);
+    layout->addWidget(tbLicence, 1);
     layout->addWidget(lblLibraries);
-    layout->addWidget(tbLibraries, 2);
+    layout->addWidget(tbLibraries);
     layout->addWidget(buttons);
 
     LoadLanguage(version, libraries);
-    resize(sizeHint().expandedTo({500, 440}));
+    FitToTexts();
     cmdOK->setFocus();
+}
+
+// The library list has the room of its lines; all other room is the licence's.
+void frmAbout::FitToTexts() {
+    tbLibraries->setMaximumHeight(HeightOf(*tbLibraries, std::max(FewestLines, LinesIn(*tbLibraries))));
+    const QMargins margins = layout()->contentsMargins();
+    const int missing = HeightOf(*tbLicence, LinesIn(*tbLicence)) - tbLicence->sizeHint().height();
+    const QSize wanted(TextWidth + margins.left() + margins.right(), sizeHint().height() + missing);
+    resize(WithinScreen(wanted, *screen()));
 }
 
 void frmAbout::LoadLanguage(std::string_view version, const std::vector<LibraryVersion>& libraries) {

@@ -36,6 +36,7 @@ class frmAbout : public QDialog {
 
   private:
     void LoadLanguage(std::string_view version, const std::vector<LibraryVersion>& libraries);
+    void FitToTexts();
 
     Language language_;
     QLabel* imgIcon;

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTest>
 
 class frmAboutTest : public QObject {
@@ -58,6 +60,38 @@ class frmAboutTest : public QObject {
         QVERIFY(licence.contains("obtaining a copy of this software"));
         QVERIFY(Box(about, "tbLicence")->isReadOnly());
         QVERIFY(Box(about, "tbLibraries")->isReadOnly());
+    }
+
+    // With as many lines as the program's own list has.
+    void BothTextsAreShownWholeAndFitOnTheScreen() {
+        const std::vector<LibraryVersion> libraries(6, {"Library with a long name", "1.23.456", "LGPL 2.1"});
+        for (const int number : {Language::English, Language::German}) {
+            frmAbout about({number}, "1.2.3", libraries);
+            about.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&about));
+            for (const char* name : {"tbLicence", "tbLibraries"}) {
+                const QPlainTextEdit& box = *Box(about, name);
+                QVERIFY2(!box.verticalScrollBar()->isVisible(), name);
+                // No more than a line is left over.
+                const int lines = static_cast<int>(box.document()->size().height());
+                QVERIFY2(box.viewport()->height() < (lines + 2) * box.fontMetrics().lineSpacing(), name);
+            }
+            QVERIFY(about.height() <= about.screen()->availableSize().height() * 9 / 10);
+            QVERIFY(about.minimumSizeHint().height() <= 480);
+        }
+    }
+
+    // On a small screen the licence is scrolled, and the button is still there.
+    void SmallBoxKeepsItsLibrariesAndItsButton() {
+        frmAbout about({Language::German}, "1.2.3", std::vector<LibraryVersion>(6, {"Library", "1", "MIT"}));
+        about.resize(about.width(), 400);
+        about.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&about));
+        QCOMPARE(about.height(), 400);
+        QVERIFY(!Box(about, "tbLibraries")->verticalScrollBar()->isVisible());
+        QVERIFY(Box(about, "tbLicence")->verticalScrollBar()->isVisible());
+        auto* const ok = about.findChild<QPushButton*>("cmdOK");
+        QVERIFY(about.rect().contains(QRect(ok->mapTo(&about, QPoint()), ok->size())));
     }
 
     void OkAndEscapeClose() {
