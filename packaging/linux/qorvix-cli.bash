@@ -1,24 +1,36 @@
 # SPDX-License-Identifier: MIT
 # Completion of qorvix-cli for bash.
 _qorvix_cli() {
-    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]}
+    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]} words
     local list="--format --output --raw --filters --stored-filters --use-archive-filters --language"
-    case $before in
-    --format) COMPREPLY=($(compgen -W "jsonl csv" -- "$word")); return ;;
-    --language) COMPREPLY=($(compgen -W "en de" -- "$word")); return ;;
-    --language-folder) COMPREPLY=($(compgen -d -- "$word")); return ;;
-    esac
-    if [ "$COMP_CWORD" -eq 1 ]; then
-        COMPREPLY=($(compgen -W "export find lookup pack --help --version" -- "$word"))
-    elif [[ $word == -* ]]; then
-        case $command in
-        export) COMPREPLY=($(compgen -W "$list --help" -- "$word")) ;;
-        find) COMPREPLY=($(compgen -W "$list --whole-word --case-sensitive --help" -- "$word")) ;;
-        lookup) COMPREPLY=($(compgen -W "--language --language-folder --help" -- "$word")) ;;
-        pack) COMPREPLY=($(compgen -W "--filters --comments --language --help" -- "$word")) ;;
-        esac
-    else
-        COMPREPLY=($(compgen -f -- "$word"))
+    COMPREPLY=()
+    # bash takes "--language=de" for three words.
+    if [ "$word" = = ]; then
+        word=
+    elif [ "$before" = = ] && [ "$COMP_CWORD" -ge 2 ]; then
+        before=${COMP_WORDS[COMP_CWORD - 2]}
     fi
+    case $before in
+    --format) words="jsonl csv" ;;
+    --language) words="en de" ;;
+    --language-folder) compopt -o dirnames; return ;;
+    *)
+        if [ "$COMP_CWORD" -eq 1 ]; then
+            words="export find lookup pack --help --version"
+        elif [[ $word == -* ]]; then
+            case $command in
+            export) words="$list --help" ;;
+            find) words="$list --whole-word --case-sensitive --help" ;;
+            lookup) words="--language --language-folder --help" ;;
+            pack) words="--filters --comments --language --help" ;;
+            esac
+        else
+            # readline's own names of files, which it knows how to quote.
+            compopt -o default
+            return
+        fi
+        ;;
+    esac
+    mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")
 }
-complete -o filenames -F _qorvix_cli qorvix-cli
+complete -F _qorvix_cli qorvix-cli

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// The completion for bash, asked as bash asks it. What bash would do with names of files is shown as the
+// option that is set for that.
+#include "support/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+namespace {
+
+using testing::HasSubstr;
+
+// What completes the last word of a command line, each followed by a line end. bash parts words at "=" too.
+std::string CompletionsOf(const std::vector<std::string>& words) {
+    const TemporaryFolder folder;
+    std::string script = "compopt() { echo \"$@\"; }\n"
+                         "source '" QORVIX_SOURCE_FOLDER "/packaging/linux/qorvix-cli.bash'\n"
+                         "COMP_WORDS=(qorvix-cli";
+    for (const std::string& word : words)
+        script += " '" + word + "'";
+    script += ")\nCOMP_CWORD=" + std::to_string(words.size()) +
+              "\n_qorvix_cli\n[ ${#COMPREPLY[@]} -eq 0 ] || printf '%s\\n' \"${COMPREPLY[@]}\"\n";
+    const std::string command =
+        "bash --norc '" + folder.Write("script", script) + "' >'" + folder / "output" + "' 2>&1";
+    const int status = std::system(command.c_str());
+    return status == 0 ? FileContent(folder / "output") : "status " + std::to_string(status);
+}
+
+} // namespace
+
+TEST(Completion, Commands) {
+    EXPECT_EQ(CompletionsOf({""}), "export\nfind\nlookup\npack\n--help\n--version\n");
+    EXPECT_EQ(CompletionsOf({"exp"}), "export\n");
+}
+
+TEST(Completion, OptionsAreThoseOfTheCommand) {
+    EXPECT_EQ(CompletionsOf({"find", "--w"}), "--whole-word\n");
+    EXPECT_EQ(CompletionsOf({"export", "--w"}), "");
+    EXPECT_EQ(CompletionsOf({"lookup", "--l"}), "--language\n--language-folder\n");
+    EXPECT_THAT(CompletionsOf({"pack", "-"}), HasSubstr("--comments\n"));
+}
+
+TEST(Completion, ValuesOfOptionsInBothForms) {
+    EXPECT_EQ(CompletionsOf({"export", "--language", ""}), "en\nde\n");
+    EXPECT_EQ(CompletionsOf({"export", "--language", "="}), "en\nde\n");
+    EXPECT_EQ(CompletionsOf({"export", "--language", "=", "d"}), "de\n");
+    EXPECT_EQ(CompletionsOf({"find", "--format", "c"}), "csv\n");
+    EXPECT_EQ(CompletionsOf({"find", "--format", "=", "j"}), "jsonl\n");
+}
+
+TEST(Completion, NamesOfFilesAreLeftToTheShell) {
+    EXPECT_EQ(CompletionsOf({"export", "my lo"}), "-o default\n");
+    EXPECT_EQ(CompletionsOf({"export", "--filters", "=", "my lo"}), "-o default\n");
+    EXPECT_EQ(CompletionsOf({"lookup", "--language-folder", ""}), "-o dirnames\n");
+    EXPECT_EQ(CompletionsOf({"lookup", "--language-folder", "=", "my"}), "-o dirnames\n");
+}
