@@ -23,12 +23,17 @@ install(FILES ${PROJECT_SOURCE_DIR}/src/app/icons/qorvix.svg DESTINATION share/i
         RENAME ${QORVIX_ID}.svg)
 install(FILES ${linux}/qorvix-cli.bash DESTINATION share/bash-completion/completions RENAME qorvix-cli)
 install(FILES ${debian}/copyright DESTINATION share/doc/qorvix)
+install(FILES ${debian}/lintian-overrides DESTINATION share/lintian/overrides RENAME qorvix)
 
-# Debian wants manual pages and changelogs packed, without a time stamp.
+# Debian wants manual pages and changelogs packed, without a time stamp. Whoever builds the program has them too, so
+# that ./run and a build of all targets both leave what an installation needs.
+add_custom_target(packed_files)
+add_dependencies(qorvix packed_files)
 function(install_packed file name destination)
   set(packed ${PROJECT_BINARY_DIR}/packed/${name}.gz)
   add_custom_command(OUTPUT ${packed} COMMAND gzip -9nc ${file} > ${packed} DEPENDS ${file} VERBATIM)
-  add_custom_target(packed-${name} ALL DEPENDS ${packed})
+  add_custom_target(packed-${name} DEPENDS ${packed})
+  add_dependencies(packed_files packed-${name})
   install(FILES ${packed} DESTINATION ${destination})
 endfunction()
 file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/packed)

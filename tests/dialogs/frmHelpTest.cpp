@@ -23,7 +23,11 @@
 
 namespace {
 
-std::filesystem::path HelpOf(std::int32_t number) { return HelpFile(QORVIX_PROGRAM_FOLDER, {number}); }
+// The help beside the built programs, or beside those that the environment names, such as installed ones.
+std::filesystem::path HelpOf(std::int32_t number) {
+    const QByteArray folder = qgetenv("QORVIX_PROGRAM_FOLDER");
+    return HelpFile(folder.isEmpty() ? QORVIX_PROGRAM_FOLDER : folder.toStdString(), {number});
+}
 
 HelpBook SmallBook() {
     return {
@@ -354,6 +358,11 @@ class frmHelpTest : public QObject {
 
     void SearchInTheRealHelp() {
         HtmlHelp help(&owner_);
+        QVERIFY(help.DisplaySearch(HelpOf(Language::English), {Language::English}));
+        Find<QLineEdit>(*HelpWindows().front(), "tbSearchWords")->setText("open archive");
+        Find<QPushButton>(*HelpWindows().front(), "cmdSearch")->click();
+        QVERIFY(Find<QListWidget>(*HelpWindows().front(), "lbHits")->count() > 2);
+        help.CloseAll();
         QVERIFY(help.DisplaySearch(HelpOf(Language::German), {Language::German}));
         const frmHelp& window = *HelpWindows().front();
         Find<QLineEdit>(window, "tbSearchWords")->setText("ARCHIV öffnen");
