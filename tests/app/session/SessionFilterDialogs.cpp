@@ -1,0 +1,308 @@
+// SPDX-License-Identifier: MIT
+// The filter list dialog and those that it opens.
+#include "app/session/Session.h"
+#include "app/session/SessionWords.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTreeWidget>
+
+#include <numeric>
+
+namespace {
+
+constexpr int MostFilters = 9;
+constexpr int LongestList = 500; // characters
+
+constexpr const char* TypeLabels[][2] = {
+    {"All entries", "Alle Einträge"},
+    {"Info", "Information"},
+    {"Warning", "Warnung"},
+    {"Error", "Fehler"},
+    {"System error", "Systemfehler"},
+    {"Program status change", "Programmstatus Änderung (STIB)"},
+    {"Key", "Tastenbetätigung"},
+    {"Restart", "Restart"},
+    {"Entry number(s)", "Nur bestimmte Nummern"},
+    {"Keystr", "Zeichenfolgen"},
+};
+
+constexpr const char* FilterTexts[] = {"",       "N938", "n938", "X",  "läuft",
+                                       "Straße", "->",   " | ",  "12", "START"};
+constexpr const char* NumberTexts[] = {"",    "5",    "3-40",  "1,4,9-20", " 7 - 30 ",
+                                       "9-2", "x,10", "0-199", "1-2-3"};
+
+void Click(const QWidget& dialog, const char* button) { dialog.findChild<QAbstractButton*>(button)->click(); }
+
+void SelectAlone(QTreeWidget& list, int row) {
+    list.setCurrentItem(list.topLevelItem(row), 0,
+                        QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+} // namespace
+
+void Session::EditFilters() {
+    PlanFilterDialog();
+    if (Chance(2))
+        Item("mnuExtrasFilters")->trigger();
+    else
+        Window->ToolBarButtonClick("Filter");
+}
+
+void Session::EditFiltersByPopup() {
+    if (Model.RowCount() == 0)
+        return EditFilters();
+    OpenPopup(AnyRow());
+    ChooseInPopup("mnuPopupEditFilter");
+    PlanFilterDialog();
+}
+
+void Session::PlanFilterDialog() {
+    Say("edits the filters");
+    SessionFilters rows = Model.Filters();
+    SessionStrings strings = StringsOf(Model.StoredStrings, Model.Language);
+    const bool isFull =
+        rows.size() > MostFilters || std::any_of(rows.begin(), rows.end(), [](const SessionFilter& filter) {
+            return filter.Text.size() > LongestList;
+        });
+    if (isFull || (Model.RowCount() < Model.Entries.size() / 4 && Chance(2))) {
+        QList<int> all(rows.size());
+        std::iota(all.begin(), all.end(), 0);
+        PlanRemoving(rows, all);
+    }
+    for (int changes = Below(3); changes > 0; --changes) {
+        const int what = Below(4);
+        const int row = rows.empty() ? -1 : Below(static_cast<int>(rows.size()));
+        if (what == 0 || row < 0) {
+            PlanAdding(rows, strings);
+        } else if (what == 1) {
+            PlanEditing(rows, strings);
+        } else if (what == 2) {
+            PlanRemoving(rows, {row});
+        } else {
+            Say(QString("switches filter %1").arg(row));
+            Answers.Expect("frmLogbookSettings", [row](QWidget& dialog) {
+                auto* const list = dialog.findChild<QTreeWidget*>("lvFilter");
+                QTreeWidgetItem* const item = list->topLevelItem(row);
+                item->setCheckState(0, item->checkState(0) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
+            });
+            bool& active = rows[row].Active;
+            active = !active;
+        }
+    }
+    PlanClosing(rows, strings);
+}
+
+SessionFilter Session::AnyFilter() {
+    static constexpr char Actions[] = {'I', 'I', 'I', 'X', 'H', 'H'};
+    SessionFilter filter;
+    filter.Action = dice_.Pick(Actions);
+    filter.Type = Chance(3) ? 0 : Below(10);
+    filter.Text = filter.Type == 8 ? AnyOf(dice_, NumberTexts)
+                  : Chance(60)     ? "a|b"
+                                   : AnyOf(dice_, FilterTexts);
+    if (filter.Text == " | " && !Chance(8))
+        filter.Text.clear();
+    filter.Name = Chance(3) ? AnyOf(dice_, SessionWords::Names) : QString();
+    filter.Sender = Chance(3) ? AnyOf(dice_, SessionWords::Senders) : QString();
+    return filter;
+}
+
+// A new filter that is like one in the list, but for being active, is not added.
+void Session::PlanAdding(SessionFilters& rows, SessionStrings& strings) {
+    Answers.Expect("frmLogbookSettings",
+                   [](QWidget& dialog) { dialog.findChild<QAction*>("mnuFilterAdd")->trigger(); });
+    Say("adds");
+    SessionFilter filter;
+    if (!PlanDefinition(filter, strings))
+        return;
+    const bool isThere = std::any_of(rows.begin(), rows.end(), [&](SessionFilter row) {
+        row.Active = true;
+        return row == filter;
+    });
+    if (!isThere)
+        rows.push_back(filter);
+}
+
+void Session::PlanEditing(SessionFilters& rows, SessionStrings& strings) {
+    const int row = Below(static_cast<int>(rows.size()));
+    Say(QString("edits filter %1").arg(row));
+    Answers.Expect("frmLogbookSettings", [row](QWidget& dialog) {
+        auto* const list = dialog.findChild<QTreeWidget*>("lvFilter");
+        SelectAlone(*list, row);
+        dialog.findChild<QAction*>("mnuFilterEdit")->trigger();
+    });
+    SessionFilter& edited = rows[row];
+    const bool active = edited.Active;
+    PlanDefinition(edited, strings);
+    edited.Active = active;
+}
+
+// The definition dialog gives a filter; false when it is cancelled. Only the types 1 to 3 have a name and a
+// sender there.
+bool Session::PlanDefinition(SessionFilter& filter, SessionStrings& strings) {
+    SessionFilter typed = AnyFilter();
+    const int way = typed.Type == 8 ? 0 : Below(4);
+    Answers.Expect("frmFilterSettings", [typed, way](QWidget& dialog) {
+        const auto box = [&](const char* name) { return dialog.findChild<QComboBox*>(name); };
+        box("cbEmitter")->setEditText(typed.Sender);
+        box("cbName")->setEditText(typed.Name);
+        box("cbFilterType")->setCurrentIndex(typed.Type);
+        box("cbStringFilter")->setEditText(typed.Text);
+        Click(dialog, typed.Action == 'I'   ? "obIncludeFilter"
+                      : typed.Action == 'X' ? "obExcludeFilter"
+                                            : "obHighlightFilter");
+        if (way == 1)
+            QTest::keyClick(box("cbStringFilter"), Qt::Key_Down);
+        if (way == 2)
+            Click(dialog, "cmdPredefinedStrings");
+    });
+    if (way == 1 && !strings.empty())
+        typed.Text = std::find_if(strings.begin(), strings.end(), [&](const SessionString& string) {
+                         return string.Comment == strings.front().Comment;
+                     })->Text;
+    if (way == 2)
+        PlanStrings(strings, typed.Text);
+    if (typed.Type < 1 || typed.Type > 3) {
+        typed.Name.clear();
+        typed.Sender.clear();
+    }
+    const bool confirmed = !Chance(5);
+    Say(TextForm(typed) + (confirmed ? "" : " but cancels"));
+    Answers.Expect("frmFilterSettings",
+                   [confirmed](QWidget& dialog) { Click(dialog, confirmed ? "cmdOK" : "cmdCancel"); });
+    if (confirmed)
+        filter = typed;
+    return confirmed;
+}
+
+// The list of predefined strings; a row that is selected at OK gives the text.
+void Session::PlanStrings(SessionStrings& strings, QString& text) {
+    SessionStrings rows;
+    for (const SessionString& string : strings)
+        if (!string.Text.isEmpty())
+            rows.push_back(string);
+    if (Chance(2)) {
+        const SessionString added{AnyOf(dice_, FilterTexts).trimmed(),
+                                  Chance(4) ? QString() : AnyText(dice_)};
+        Say("adds string " + TextForm(added));
+        Answers.Expect("frmStringSettings",
+                       [](QWidget& dialog) { dialog.findChild<QAction*>("mnuFilterAdd")->trigger(); });
+        Answers.Expect("frmFilterString", [added](QWidget& dialog) {
+            dialog.findChild<QLineEdit*>("tbString")->setText(added.Text);
+            dialog.findChild<QLineEdit*>("tbComment")->setText(added.Comment);
+            Click(dialog, "cmdOK");
+        });
+        if (!added.Text.isEmpty() && !added.Comment.isEmpty() &&
+            std::find(rows.begin(), rows.end(), added) == rows.end()) {
+            rows.push_back(added);
+            strings = rows;
+        }
+    }
+    const int removed = rows.size() > 3 ? Below(static_cast<int>(rows.size())) : -1;
+    if (removed >= 0) {
+        Say(QString("removes string %1").arg(removed));
+        Answers.Expect("frmStringSettings", [removed](QWidget& dialog) {
+            auto* const list = dialog.findChild<QTreeWidget*>("lvFilterStrings");
+            SelectAlone(*list, removed);
+            dialog.findChild<QAction*>("mnuFilterRemove")->trigger();
+        });
+        rows.erase(rows.begin() + removed);
+        strings = rows;
+    }
+    const int picked = rows.empty() ? -1 : Below(static_cast<int>(rows.size()) + 1) - 1;
+    Say(QString("picks string %1").arg(picked));
+    Answers.Expect("frmStringSettings", [this, picked, rows](QWidget& dialog) {
+        auto* const list = dialog.findChild<QTreeWidget*>("lvFilterStrings");
+        if (list->topLevelItemCount() != static_cast<int>(rows.size()))
+            Answers.Blame(QString("%1 predefined strings instead of %2")
+                              .arg(list->topLevelItemCount())
+                              .arg(rows.size()));
+        list->clearSelection();
+        if (picked >= 0)
+            SelectAlone(*list, picked);
+        Click(dialog, "cmdOK");
+    });
+    if (picked >= 0)
+        text = rows[picked].Text;
+}
+
+void Session::PlanRemoving(SessionFilters& rows, const QList<int>& removed) {
+    Say(removed.size() == 1 ? QString("removes filter %1").arg(removed.front())
+                            : QString("removes all filters"));
+    Answers.Expect("frmLogbookSettings", [removed](QWidget& dialog) {
+        auto* const list = dialog.findChild<QTreeWidget*>("lvFilter");
+        list->clearSelection();
+        for (const int row : removed)
+            list->topLevelItem(row)->setSelected(true);
+        QTest::keyClick(list, Qt::Key_Delete);
+    });
+    for (auto row = removed.rbegin(); row != removed.rend(); ++row)
+        rows.erase(rows.begin() + *row);
+}
+
+// The dialog shows these filters.
+void Session::PlanLook(const SessionFilters& rows) {
+    const int language = Model.LabelLanguage;
+    Answers.Expect("frmLogbookSettings", [=, this](QWidget& dialog) {
+        const auto* const list = dialog.findChild<QTreeWidget*>("lvFilter");
+        QStringList shown;
+        for (int row = 0; row < list->topLevelItemCount(); ++row) {
+            const QTreeWidgetItem* const item = list->topLevelItem(row);
+            shown << QStringList({item->text(0), item->text(1), item->text(2), item->text(3),
+                                  item->checkState(0) == Qt::Checked ? "on" : "off"})
+                         .join('/');
+        }
+        QStringList expected;
+        for (const SessionFilter& filter : rows)
+            expected << QStringList({TypeLabels[filter.Type][language], filter.Text, filter.Name,
+                                     filter.Sender, filter.Active ? "on" : "off"})
+                            .join('/');
+        if (shown != expected)
+            Answers.Blame("the dialog shows " + shown.join("; ") + " instead of " + expected.join("; "));
+    });
+}
+
+void Session::PlanClosing(SessionFilters& rows, const SessionStrings& strings) {
+    PlanLook(rows);
+    const bool applies = Chance(4);
+    const bool confirmed = !Chance(5);
+    const bool asks = rows.empty() && (applies || confirmed);
+    const bool showsAll = !Chance(4);
+    const auto press = [&](const char* button) {
+        Answers.Expect("frmLogbookSettings", [button](QWidget& dialog) { Click(dialog, button); });
+    };
+    const char* const first = applies ? "cmdApply" : confirmed ? "cmdOK" : "cmdCancel";
+    Say(QString("and presses ") + first);
+    press(first);
+    if (asks) {
+        Say(showsAll ? "shows all entries" : "does not want an empty list");
+        Answers.ExpectMessage(Localised("You have no filter in the list\nShow all items?",
+                                        "Sie haben keinen Filter in der Liste eingetragen.\n"
+                                        "Möchten Sie alle Einträge anzeigen?"),
+                              showsAll ? QMessageBox::Yes : QMessageBox::No);
+        if (!showsAll)
+            return press("cmdCancel");
+        rows = SessionFilters(1);
+    }
+    if (applies || confirmed)
+        Save(rows, strings);
+    if (!applies)
+        return;
+    Say(confirmed ? "then OK" : "then Cancel");
+    press(confirmed ? "cmdOK" : "cmdCancel");
+    if (confirmed)
+        Save(rows, strings);
+}
+
+// The filters are stored and the list is filtered anew.
+void Session::Save(const SessionFilters& rows, const SessionStrings& strings) {
+    Model.StoredFilters.clear();
+    for (const SessionFilter& filter : rows)
+        Model.StoredFilters << TextForm(filter);
+    Model.StoredStrings.clear();
+    for (const SessionString& string : strings)
+        Model.StoredStrings << TextForm(string);
+    Model.Filter();
+}

@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: MIT
+#include "app/session/SessionModel.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+
+namespace {
+
+// What a cell is compared by. Texts without regard to case, in which "ß" is "ss".
+QString SortKey(const QString& cell, int column) {
+    if (column == 5)
+        return cell.rightJustified(10, '0');
+    if (column != 4)
+        return cell.toLower().replace("ß", "ss");
+    const QDateTime time = QDateTime::fromString(cell.left(19), "dd.MM.yyyy hh:mm:ss");
+    return time.isValid() ? time.toString("yyyyMMddhhmmss") : QString();
+}
+
+bool CellMatches(QString cell, const SessionSearch& search) {
+    QString text = search.Text;
+    if (!search.CaseSensitive) {
+        cell = cell.toLower();
+        text = text.toLower();
+    }
+    if (!search.WholeWord)
+        return cell.contains(text);
+    return cell.startsWith(text + ' ') || cell.contains(' ' + text + ' ') ||
+           cell.indexOf(' ' + text) + 1 == cell.size() - text.size();
+}
+
+} // namespace
+
+void SessionModel::Read(const SessionEntries& entries, const QString& name) {
+    Entries = entries;
+    Title = name + " - Qorvix";
+    CommentsEdited = false;
+    Content.clear();
+    Fill();
+}
+
+void SessionModel::Fill() {
+    const SessionFilters filters = Filters();
+    const auto anyMatches = [&](char action, int number) {
+        return std::any_of(filters.begin(), filters.end(), [&](const SessionFilter& filter) {
+            return filter.Active && filter.Action == action && Matches(filter, Entries[number], number);
+        });
+    };
+    Rows.clear();
+    for (int number = 0; number < static_cast<int>(Entries.size()); ++number)
+        if (anyMatches('I', number) && !anyMatches('X', number))
+            Rows.push_back({number, anyMatches('H', number)});
+    Selected.clear();
+    Current = -1;
+    Sorted = false;
+    TagColumn = -1;
+}
+
+void SessionModel::Filter() {
+    const int before = SelectedRow() < 0 ? -1 : Rows[SelectedRow()].Entry;
+    Fill();
+    for (int row = 0; before >= 0 && row < RowCount(); ++row)
+        if (Rows[row].Entry >= before)
+            return SelectAlone(row);
+}
+
+void SessionModel::Sort(int column) {
+    Descending = Descending != (column == SortColumn);
+    SortColumn = column;
+    Sorted = true;
+    if (column == 4 || column == 5)
+        TagColumn = column;
+
+    struct Item {
+        QString Key;
+        SessionRow Row;
+        bool IsSelected;
+        bool IsCurrent;
+    };
+    std::vector<Item> items;
+    for (int row = 0; row < RowCount(); ++row)
+        items.push_back(
+            {SortKey(Cell(row, column), column), Rows[row], Selected.contains(row), Current == row});
+    std::stable_sort(items.begin(), items.end(), [&](const Item& a, const Item& b) {
+        return Descending ? b.Key < a.Key : a.Key < b.Key;
+    });
+    Rows.clear();
+    Selected.clear();
+    for (const Item& item : items) {
+        if (item.IsSelected)
+            Selected.insert(RowCount());
+        if (item.IsCurrent)
+            Current = RowCount();
+        Rows.push_back(item.Row);
+    }
+}
+
+void SessionModel::RemoveSelected() {
+    if (Selected.empty())
+        return;
+    for (const int row : Selected)
+        Add(Rows[row].Entry, 'X');
+    const int next = *Selected.rbegin() + 1 - static_cast<int>(Selected.size());
+    for (auto row = Selected.rbegin(); row != Selected.rend(); ++row)
+        Rows.erase(Rows.begin() + *row);
+    Selected.clear();
+    Current = std::min(next, RowCount() - 1);
+}
+
+void SessionModel::ToggleSelected() {
+    for (const int row : Selected) {
+        SessionRow& toggled = Rows[row];
+        if (!toggled.Highlighted)
+            Add(toggled.Entry, 'H');
+        else if (!TakeOut(toggled.Entry, 'H'))
+            continue;
+        toggled.Highlighted = !toggled.Highlighted;
+    }
+}
+
+void SessionModel::Add(int entry, char action) {
+    SessionFilters filters = Filters();
+    const auto isCollecting = [&](const SessionFilter& filter) {
+        return filter.Action == action && filter.Type == 8 && filter.Active;
+    };
+    auto filter = std::find_if(filters.begin(), filters.end(), isCollecting);
+    if (filter == filters.end())
+        filter = filters.insert(filters.end(), SessionFilter{action, 8, "", "", "", true});
+    filter->Text = WithNumber(filter->Text, entry);
+    Store(filters);
+}
+
+// Out of every collecting filter: a list that became too long has gone on in another one.
+bool SessionModel::TakeOut(int entry, char action) {
+    SessionFilters filters = Filters();
+    bool found = false;
+    for (SessionFilter& filter : filters) {
+        if (filter.Action != action || filter.Type != 8 || !filter.Active)
+            continue;
+        found = true;
+        if (NamesNumber(filter.Text, entry))
+            filter.Text = WithoutNumber(filter.Text, entry);
+    }
+    if (found)
+        Store(filters);
+    return found;
+}
+
+void SessionModel::Store(const SessionFilters& filters) {
+    StoredFilters.clear();
+    for (const SessionFilter& filter : filters)
+        StoredFilters << TextForm(filter);
+}
+
+bool SessionModel::Find(bool up) {
+    const int step = up ? -1 : 1;
+    const int start = SelectedRow() < 0 ? (up ? RowCount() - 1 : 0) : SelectedRow() + step;
+    for (int row = start; row >= 0 && row < RowCount(); row += step)
+        if (IsHit(row)) {
+            SelectAlone(row);
+            ShowContent();
+            return true;
+        }
+    return false;
+}
+
+bool SessionModel::IsHit(int row) const {
+    return CellMatches(Cell(row, 0), Search) || CellMatches(Cell(row, 1), Search) ||
+           CellMatches(Cell(row, 6), Search);
+}
+
+void SessionModel::Comment(int row, const QString& comment) {
+    Entries[Rows[row].Entry].Comment =
+        comment == "!!Clear!!" ? QString() : QString(comment).replace("\n", " | ");
+    CommentsEdited = true;
+    ShowContentOf(row);
+}
+
+void SessionModel::SelectAlone(int row) {
+    Selected = {row};
+    Current = row;
+}
+
+int SessionModel::SelectedRow() const {
+    return Selected.empty() ? -1 : Selected.contains(Current) ? Current : *Selected.begin();
+}
+
+void SessionModel::ShowContent() {
+    if (SelectedRow() >= 0)
+        ShowContentOf(SelectedRow());
+}
+
+void SessionModel::ShowContentOf(int row) {
+    const SessionEntry& entry = EntryOf(row);
+    Content = QString(entry.Data).replace(" | ", "\n") + '\n' + QString(entry.Comment).replace(" | ", "\n");
+}
+
+QString SessionModel::Cell(int row, int column) const {
+    const SessionEntry& entry = EntryOf(row);
+    const QString cells[] = {
+        SessionTypeName(entry.Type),      entry.Data,   entry.Sender, entry.Name, entry.Time,
+        QString::number(Rows[row].Entry), entry.Comment};
+    return cells[column];
+}
+
+QString SessionModel::Tag(int row) const {
+    return TagColumn < 0 ? QString::number(EntryOf(row).Type) : Cell(row, TagColumn);
+}
+
+void SessionModel::SetLanguage(int language) {
+    Language = language;
+    if (language == 0 || language == 1)
+        LabelLanguage = language;
+}
+
+void SessionModel::Restart() {
+    SortColumn = 0;
+    Descending = false;
+    Search = {};
+    CanFindAgain = false;
+    LabelLanguage = 0;
+    SetLanguage(Language);
+}

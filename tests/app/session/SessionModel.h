@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/session/SessionEntry.h"
+#include "app/session/SessionFilters.h"
+
+#include <QStringList>
+
+#include <set>
+
+// A row of the list.
+struct SessionRow {
+    int Entry = 0;
+    bool Highlighted = false;
+};
+
+// What is searched for.
+struct SessionSearch {
+    QString Text;
+    bool Up = false;
+    bool WholeWord = false;
+    bool CaseSensitive = false;
+
+    bool operator==(const SessionSearch&) const = default;
+};
+
+// What the main window must show and store, from the rules alone: lists of plain values, and no line of the
+// program's own. Rows count from 0, a row of -1 is none.
+class SessionModel {
+  public:
+    // The logbook is read: a new list, without a selected row.
+    void Read(const SessionEntries& entries, const QString& name);
+
+    // A filter run. The entry that was selected is selected again, or the next one that is shown.
+    void Filter();
+
+    void Sort(int column);
+
+    // The selected entries, into or out of the number filter of their action, in list order.
+    void RemoveSelected();
+    void ToggleSelected();
+
+    // A hit is selected alone; false when there is none.
+    bool Find(bool up);
+    bool IsHit(int row) const;
+
+    // The comment as the entry dialog returns it, lines separated by line feeds.
+    void Comment(int row, const QString& comment);
+
+    void SelectAlone(int row);
+    int SelectedRow() const;
+
+    // The content pane takes the selected row, if there is one.
+    void ShowContent();
+
+    SessionFilters Filters() const { return FiltersOf(StoredFilters); }
+    const SessionEntry& EntryOf(int row) const { return Entries[Rows[row].Entry]; }
+    QString Cell(int row, int column) const;
+    QString Tag(int row) const;
+    int RowCount() const { return static_cast<int>(Rows.size()); }
+
+    // Another language; only English and German change the labels of the filter types.
+    void SetLanguage(int language);
+
+    // The program was ended and started again.
+    void Restart();
+
+    SessionEntries Entries;
+    QStringList StoredFilters; // in their text form
+    QStringList StoredStrings;
+    QList<SessionRow> Rows;
+    std::set<int> Selected;
+    int Current = -1; // row
+    int SortColumn = 0;
+    bool Descending = false;
+    bool Sorted = false;
+    int TagColumn = -1; // -1 = the event type
+    SessionSearch Search;
+    bool CanFindAgain = false;
+    int Language = 0;
+    int LabelLanguage = 0;
+    bool CommentsEdited = false;
+    bool ContentShown = false;
+    QString Title;
+    QString Content;
+
+  private:
+    void Fill();
+    void ShowContentOf(int row);
+    void Add(int entry, char action);
+    bool TakeOut(int entry, char action);
+    void Store(const SessionFilters& filters);
+};

@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: MIT
+// What a person does with the rows of the list.
+#include "app/session/Session.h"
+#include "app/session/SessionWords.h"
+
+#include <QClipboard>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+namespace {
+
+constexpr int MostDialogs = 3; // of entries, one after the other
+constexpr const char* Comments[] = {"",          "pump",  "Öl, \"neu\"", "a\nb", " blank ",
+                                    "!!Clear!!", "a | b", "\n",          "N938"};
+
+QString InWords(const QString& text) { return '"' + QString(text).replace("\n", "\\n") + '"'; }
+
+} // namespace
+
+void Session::ClickOn(int row, Qt::KeyboardModifiers modifiers) {
+    List()->scrollTo(List()->model()->index(row, 0));
+    QTest::mouseClick(List()->viewport(), Qt::LeftButton, modifiers, RowPoint(row));
+}
+
+void Session::PressInList(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QApplication::setActiveWindow(Window.get());
+    List()->setFocus();
+    QTest::keyClick(List(), key, modifiers);
+}
+
+void Session::ClickRow() {
+    if (Model.RowCount() == 0)
+        return Say("no row to click");
+    ClickAlone(AnyRow());
+}
+
+void Session::ClickAlone(int row) {
+    Say(QString("clicks row %1").arg(row));
+    ClickOn(row);
+    Model.SelectAlone(row);
+    Model.ShowContent();
+}
+
+void Session::AddRowByClick() {
+    if (Model.RowCount() == 0)
+        return Say("no row to add");
+    const int row = AnyRow();
+    Say(QString("clicks row %1 with Ctrl").arg(row));
+    ClickOn(row, Qt::ControlModifier);
+    if (!Model.Selected.insert(row).second)
+        Model.Selected.erase(row);
+    Model.Current = row;
+    Model.ShowContent();
+}
+
+void Session::SelectRange() {
+    if (Model.RowCount() == 0)
+        return Say("no rows to select");
+    const int from = AnyRow();
+    const int to = std::min(Model.RowCount() - 1, std::max(0, from + Below(9) - 4));
+    Say(QString("selects rows %1 to %2").arg(from).arg(to));
+    ClickOn(from);
+    ClickOn(to, Qt::ShiftModifier);
+    Model.SelectAlone(to);
+    for (int row = std::min(from, to); row <= std::max(from, to); ++row)
+        Model.Selected.insert(row);
+    Model.ShowContent();
+}
+
+void Session::SelectAll() {
+    ClickRow();
+    Say("selects all");
+    PressInList(Qt::Key_A, Qt::ControlModifier);
+    for (int row = 0; row < Model.RowCount(); ++row)
+        Model.Selected.insert(row);
+    Model.ShowContent();
+}
+
+void Session::ClickBeside() {
+    List()->scrollToBottom();
+    const QPoint place(5, List()->viewport()->height() - 1);
+    if (List()->indexAt(place).isValid())
+        return Say("no place beside the rows");
+    Say("clicks beside the rows");
+    QTest::mouseClick(List()->viewport(), Qt::LeftButton, {}, place);
+    Model.Selected.clear();
+}
+
+void Session::MoveByKey() {
+    if (Model.Current < 0)
+        return ClickRow();
+    const bool up = Chance(2);
+    const int row = Model.Current + (up ? -1 : 1);
+    Say(up ? "presses Up" : "presses Down");
+    PressInList(up ? Qt::Key_Up : Qt::Key_Down);
+    if (row >= 0 && row < Model.RowCount())
+        Model.SelectAlone(row);
+    Model.ShowContent();
+}
+
+void Session::Sort() {
+    const int column = Below(7);
+    Say(QString("sorts by column %1").arg(column));
+    ClickHeader(column);
+    Model.Sort(column);
+}
+
+// Opens the popup menu over a row. A selection that the row belongs to stays.
+void Session::OpenPopup(int row) {
+    Say(QString("by the menu of row %1").arg(row));
+    List()->scrollTo(List()->model()->index(row, 0));
+    QTest::mouseClick(List()->viewport(), Qt::RightButton, {}, RowPoint(row));
+    if (!Model.Selected.contains(row))
+        Model.SelectAlone(row);
+    Model.Current = row;
+    Model.ShowContent();
+}
+
+void Session::ChooseInPopup(const char* item) {
+    auto* const popup = Find<QMenu>("mnuPopup");
+    if (!popup->isVisible())
+        return Answers.Blame("no popup menu");
+    QTest::mouseClick(popup, Qt::LeftButton, {}, popup->actionGeometry(Item(item)).center());
+}
+
+void Session::Remove() {
+    if (Model.Selected.size() > 20)
+        SelectRange();
+    Say("removes");
+    if (Model.RowCount() > 0 && Chance(2)) {
+        OpenPopup(AnyRow());
+        ChooseInPopup("mnuPopupRemove");
+        return Model.RemoveSelected();
+    }
+    PressInList(Qt::Key_Delete);
+    Model.RemoveSelected();
+    Model.ShowContent();
+}
+
+void Session::Toggle() {
+    Say("toggles the highlighting");
+    if (Model.RowCount() > 0 && Chance(2)) {
+        OpenPopup(AnyRow());
+        ChooseInPopup("mnuPopupToggle");
+        return Model.ToggleSelected();
+    }
+    PressInList(Qt::Key_Space);
+    Model.ToggleSelected();
+    Model.ShowContent();
+}
+
+void Session::Copy() {
+    Say("copies");
+    QApplication::clipboard()->setText("before");
+    PressInList(Qt::Key_C, Qt::ControlModifier);
+    QString expected = Localised("Event type\tData\tSender\tName\tTime\tIndex\tComment\n",
+                                 "Ereignistyp\tInhalt\tQuelle\tName\tZeit\tIndex\tKommentar\n");
+    for (const int row : Model.Selected)
+        for (int column = 0; column < 7; ++column)
+            expected += Model.Cell(row, column) + (column < 6 ? '\t' : '\n');
+    if (Model.Selected.empty())
+        expected = "before";
+    if (QApplication::clipboard()->text() != expected)
+        Answers.Blame("copied \"" + QApplication::clipboard()->text() + "\" instead of \"" + expected + '"');
+    Model.ShowContent();
+}
+
+void Session::EditComments() {
+    Say("edits comments");
+    const int way = Model.RowCount() == 0 ? 0 : Below(3);
+    const int row = way == 0 ? -1 : AnyRow();
+    if (way == 1)
+        ClickAlone(row);
+    if (way == 2)
+        OpenPopup(row);
+    int dialogs = 0;
+    for (const int selected : Model.Selected)
+        if (dialogs < MostDialogs)
+            PlanComment(selected, ++dialogs == MostDialogs);
+    if (way == 0) {
+        PressInList(Qt::Key_Return);
+    } else if (way == 1) {
+        QTest::mouseDClick(List()->viewport(), Qt::LeftButton, {}, RowPoint(row));
+        QTest::mouseRelease(List()->viewport(), Qt::LeftButton, {}, RowPoint(row));
+    } else {
+        return ChooseInPopup("mnuPopupProperties");
+    }
+    Model.ShowContent(); // the key or the mouse button is let go when the dialogs are closed
+}
+
+// The dialog of the row shows its cells. The last one is closed by its title bar, which ends the dialogs.
+void Session::PlanComment(int row, bool isLast) {
+    const auto lines = [](QString cell) { return cell.replace(" | ", "\n"); };
+    QStringList shown;
+    for (int column = 0; column < 7; ++column)
+        shown << lines(Model.Cell(row, column));
+    shown << Model.Tag(row);
+    const QString comment = Chance(3) ? AnyText(dice_) : AnyOf(dice_, Comments);
+    const bool confirmed = !isLast && !Chance(4);
+    Say(QString("row %1: %2 %3")
+            .arg(row)
+            .arg(InWords(comment), isLast      ? "and closes"
+                                   : confirmed ? "OK"
+                                               : "Cancel"));
+    Answers.Expect("frmLogbookIdent", [=, this](QWidget& dialog) {
+        const auto text = [&](const char* name) { return dialog.findChild<QLineEdit*>(name)->text(); };
+        auto* const box = dialog.findChild<QPlainTextEdit*>("tbComment");
+        const QStringList fields = {
+            text("tbEvent"),    dialog.findChild<QPlainTextEdit*>("tbIdent")->toPlainText(),
+            text("tbEmitter"),  text("tbName"),
+            text("tbTime"),     text("tbIndex"),
+            box->toPlainText(), text("tbEventID")};
+        if (fields != shown)
+            Answers.Blame("entry dialog with " + fields.join('/') + " instead of " + shown.join('/'));
+        box->setPlainText(comment);
+        if (isLast)
+            dialog.close();
+        else
+            dialog.findChild<QAbstractButton*>(confirmed ? "cmdOK" : "cmdCancel")->click();
+    });
+    if (confirmed)
+        Model.Comment(row, comment.isEmpty() ? QString("!!Clear!!") : comment);
+}

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+// Opening, saving and reading again.
+#include "app/session/Session.h"
+
+#include <QDropEvent>
+#include <QMimeData>
+#include <QToolBar>
+
+namespace {
+
+constexpr qsizetype MostArchives = 5;
+constexpr const char* AskSave[] = {"Comments edited. Save into logbook archive?",
+                                   "Sie haben Kommentare bearbeitet. In Logbuch-Archiv speichern?"};
+constexpr const char* AskFilters[] = {"Replace active filter list?", "Aktuelle Filterliste ersetzen?"};
+
+} // namespace
+
+Session::Source& Session::AnySource() {
+    QList<Source>& sources = !archives_.empty() && Chance(2) ? archives_ : logbooks_;
+    return sources[Below(static_cast<int>(sources.size()))];
+}
+
+// What comes when a logbook with edited comments is left.
+Session::Leave Session::PlanLeaving(bool closing) {
+    if (!Model.CommentsEdited)
+        return Leave::Go;
+    static constexpr QMessageBox::StandardButton Buttons[] = {QMessageBox::Yes, QMessageBox::No,
+                                                              QMessageBox::Cancel};
+    const QMessageBox::StandardButton answer = dice_.Pick(Buttons);
+    Say(answer == QMessageBox::Yes  ? "saves the comments"
+        : answer == QMessageBox::No ? "drops the comments"
+                                    : "stays");
+    Answers.ExpectMessage(Localised(AskSave[0], AskSave[1]), answer);
+    if (answer == QMessageBox::Yes)
+        return PlanArchive() || closing ? Leave::Go : Leave::Stay;
+    return answer == QMessageBox::No ? Leave::Go : Leave::Stay;
+}
+
+// What comes when an archive is saved; false when it is not saved after all.
+bool Session::PlanArchive() {
+    const QString title = Localised("Save Archive", "Archiv speichern");
+    if (Chance(4)) {
+        Say("cancels the archive");
+        Answers.ExpectFileDialog(title, "");
+        return false;
+    }
+    const bool replaces = !archives_.empty() && Chance(3);
+    Source archive = shown_;
+    archive.File = replaces ? archives_.back().File : QString("Archiv-%1.qorvix").arg(++archivesMade_);
+    archive.Name = archive.File.section('.', 0, 0);
+    archive.Entries = Model.Entries;
+    archive.Filters.clear();
+    for (const SessionFilter& filter : Model.Filters())
+        archive.Filters << TextForm(filter);
+    archive.IsArchive = true;
+    Say("archive " + archive.File);
+    Answers.ExpectFileDialog(title, PathOf(archive.File));
+    if (replaces) {
+        Answers.Expect("QMessageBox", [](QWidget& box) {
+            static_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click();
+        });
+        archives_.pop_back();
+    }
+    archives_.push_back(std::move(archive));
+    if (archives_.size() > MostArchives)
+        archives_.erase(archives_.begin());
+    Model.CommentsEdited = false;
+    return true;
+}
+
+void Session::Archive() {
+    Say("saves an archive");
+    PlanArchive();
+    if (Chance(2))
+        Item("mnuFileZipLogbook")->trigger();
+    else
+        Press(Qt::Key_S, Qt::ControlModifier);
+}
+
+// A source has been read. The filters of an archive take the place of the stored ones.
+void Session::Show(const Source& source, bool withFilters) {
+    if (withFilters) {
+        QStringList strings;
+        for (const SessionString& string : StringsOf(Model.StoredStrings, Model.Language))
+            strings << TextForm(string);
+        Model.StoredFilters = source.Filters;
+        Model.StoredStrings = strings;
+    }
+    Model.Read(source.Entries, source.Name);
+    shown_ = source;
+}
+
+// Opens what was planned, and asks about the filters of an archive.
+void Session::PlanReading(const Source& source, QMessageBox::StandardButton replaceFilters) {
+    Say(source.File);
+    if (source.IsArchive) {
+        Say(replaceFilters == QMessageBox::Yes  ? "with its filters"
+            : replaceFilters == QMessageBox::No ? "without its filters"
+                                                : "but cancels");
+        Answers.ExpectMessage(Localised(AskFilters[0], AskFilters[1]), replaceFilters);
+    }
+    if (!source.IsArchive || replaceFilters != QMessageBox::Cancel)
+        Show(Source(source), source.IsArchive && replaceFilters == QMessageBox::Yes);
+}
+
+void Session::Open() {
+    Say("opens");
+    const bool goes = PlanLeaving() == Leave::Go;
+    if (goes && Chance(4)) {
+        Say("no file");
+        Answers.ExpectFileDialog(Localised("Open", "Öffnen"), "");
+    } else if (goes) {
+        const Source& source = AnySource();
+        Answers.ExpectFileDialog(Localised("Open", "Öffnen"), PathOf(source.File));
+        PlanReading(source, Chance(2) ? QMessageBox::Yes : QMessageBox::No);
+    }
+    if (Chance(2))
+        Item("mnuFileOpen")->trigger();
+    else
+        Press(Qt::Key_O, Qt::ControlModifier);
+}
+
+void Session::OpenDropped() {
+    static constexpr QMessageBox::StandardButton Buttons[] = {QMessageBox::Yes, QMessageBox::No,
+                                                              QMessageBox::Cancel};
+    Say("drops");
+    const bool goes = PlanLeaving() == Leave::Go;
+    const Source source = AnySource(); // perhaps the archive that was just saved
+    if (goes)
+        PlanReading(source, dice_.Pick(Buttons));
+    Drop(PathOf(source.File));
+}
+
+void Session::Drop(const QString& path) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path)});
+    const QPoint place(20, 20);
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(List()->viewport(), &enter);
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(List()->viewport(), &drop);
+}
+
+// The logbook file is read again, without comments.
+void Session::Refresh() {
+    Say("refreshes");
+    if (PlanLeaving() == Leave::Go) {
+        const QString title = Model.Title;
+        for (SessionEntry& entry : shown_.Entries)
+            entry.Comment.clear();
+        Model.Read(shown_.Entries, "");
+        Model.Title = title;
+    }
+    auto* const toolBar = Find<QToolBar>("tbToolBar");
+    QWidget* const button = toolBar->widgetForAction(Item("Refresh"));
+    if (button->isVisible() && Chance(2))
+        QTest::mouseClick(button, Qt::LeftButton);
+    else
+        Press(Qt::Key_F5);
+}
+
+// The control writes the file anew.
+void Session::RewriteAndRefresh() {
+    const auto source = std::find_if(logbooks_.begin(), logbooks_.end(),
+                                     [&](const Source& logbook) { return logbook.File == shown_.File; });
+    if (source != logbooks_.end() && !Model.CommentsEdited) {
+        Say("the logbook is written anew");
+        WriteLogbook(*source, static_cast<Generation>(Below(3)));
+        shown_ = *source;
+    }
+    Refresh();
+}
+
+// Closes the window and starts the program again. Without the answer Cancel it closes in any case.
+void Session::Restart() {
+    Say("closes");
+    const bool goes = PlanLeaving(true) == Leave::Go;
+    const QSize size = Window->size();
+    const bool barsWereShown = toolBarShown_ && statusBarShown_; // otherwise it may grow with them
+    const bool maximised = Window->isMaximized();
+    const QList<int> widths = columnWidths_;
+    if (Window->close() != goes)
+        return Answers.Blame("the window does not close as it should");
+    if (!goes)
+        return;
+    Model.Restart();
+    StartProgram();
+    if (Window->isMaximized() != maximised || (!maximised && barsWereShown && Window->size() != size))
+        Answers.Blame(QString("the window is %1 x %2 instead of %3 x %4")
+                          .arg(Window->width())
+                          .arg(Window->height())
+                          .arg(size.width())
+                          .arg(size.height()));
+    if (columnWidths_.first(6) != widths.first(6))
+        Answers.Blame("the columns have other widths than before");
+}
