@@ -5,6 +5,7 @@
 #include "list/Twips.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QProgressBar>
 
 namespace {
@@ -39,6 +40,9 @@ void MainStatusBar::LoadLanguage(Language language) {
 }
 
 void MainStatusBar::ShowProgressBar() {
+    // What is pending of the layout comes first. Showing the bar would bring it about, and whoever hides the
+    // bar on it would do so before it is shown: it would then stay on the screen.
+    ProgressBar->parentWidget()->layout()->activate();
     const QPoint panel = statusProgress_->mapTo(ProgressBar->parentWidget(), QPoint());
     const int offset = PixelsOf(ProgressTop);
     ProgressBar->setGeometry(panel.x(), mapTo(ProgressBar->parentWidget(), QPoint()).y() + offset,

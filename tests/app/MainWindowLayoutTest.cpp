@@ -210,6 +210,13 @@ class MainWindowLayoutTest : public MainWindowTest {
         QVERIFY(Find<QWidget>("sbStatusBar")->isVisible());
     }
 
+    void ProgressBarGoesAgainWhereTheLayoutChangesWithIt() {
+        Window->OpenLogbook(FileOfErrors(3));
+        Find<QWidget>("sbStatusBar")->setFixedHeight(60); // takes effect with the next layout
+        Window->ApplyFilter();
+        QVERIFY(!Find<QProgressBar>("ProgressBar")->isVisible());
+    }
+
     void ProgressBarCoversTheThirdPanel() {
         auto* const status = Find<MainStatusBar>("sbStatusBar");
         auto* const bar = Find<QProgressBar>("ProgressBar");
