@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+// Any text as a number list, changed by numbers: the first line is a byte for each change, the lowest bit of
+// which tells removal from addition; below it stands the list.
+#include "FuzzSupport.h"
+#include "filter/NumberList.h"
+#include "filter/NumberLists.h"
+#include "settings/Registry.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr EntryNumber Highest = std::numeric_limits<EntryNumber>::max();
+constexpr EntryNumber ProbesTo = 140;
+
+// Numbers near 0, and near the highest one.
+EntryNumber NumberOf(unsigned char byte) {
+    const auto number = static_cast<EntryNumber>(byte >> 1U);
+    return byte >= 0xF8 ? Highest - (number & 3U) : number;
+}
+
+bool IsInRanges(const std::vector<NumberRange>& ranges, EntryNumber number) {
+    return std::any_of(ranges.begin(), ranges.end(), [&](const NumberRange& range) {
+        return range.First <= number && number <= range.Last;
+    });
+}
+
+void CheckRanges(std::string_view list) {
+    const std::vector<NumberRange> ranges = ParseNumberList(list);
+    for (std::size_t i = 0; i < ranges.size(); ++i)
+        Check(ranges[i].First <= ranges[i].Last && (i == 0 || ranges[i - 1].Last < ranges[i].First));
+    for (EntryNumber number = 0; number < ProbesTo; ++number)
+        Check(IsInRanges(ranges, number) == MatchNumberList(number, list));
+    for (EntryNumber number = Highest; number > Highest - 5; --number)
+        Check(IsInRanges(ranges, number) == MatchNumberList(number, list));
+}
+
+// A change changes what is told of one number.
+void CheckChange(std::string_view before, const std::string& after, EntryNumber number, bool removed) {
+    Check(MatchNumberList(number, after) != removed);
+    const std::vector<NumberRange> old = ParseNumberList(before);
+    const std::vector<NumberRange> now = ParseNumberList(after);
+    const auto checkOther = [&](EntryNumber other) {
+        Check(other == number || IsInRanges(old, other) == IsInRanges(now, other));
+    };
+    for (EntryNumber other = 0; other < ProbesTo; ++other)
+        checkOther(other);
+    for (EntryNumber other = Highest; other > Highest - 5; --other)
+        checkOther(other);
+    Check(MatchNumberList(number, before) == removed || after == before);
+}
+
+void CheckLists(std::string_view changes, std::string_view list) {
+    constexpr std::size_t LeastRoom = 24; // for any range
+    const std::size_t room = std::max(LeastRoom, list.size());
+    NumberLists lists(room);
+    lists.Append(list, room);
+    for (const char change : changes) {
+        const auto byte = static_cast<unsigned char>(change);
+        const EntryNumber number = NumberOf(byte);
+        const bool removes = (byte & 1U) != 0;
+        if (removes)
+            Check(lists.Remove(number));
+        else
+            lists.Add(number);
+        bool isIn = false;
+        for (std::size_t place = 0; place < lists.Count(); ++place) {
+            const std::string text = lists.Text(place);
+            Check(Registry::CharacterCount(text) <= room);
+            isIn = isIn || MatchNumberList(number, text);
+        }
+        Check(isIn != removes);
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    constexpr std::size_t MostChanges = 40;
+    std::string_view rest = TextOf(data, size);
+    const std::string_view changes = TakeLine(rest).substr(0, MostChanges);
+    CheckRanges(rest);
+    std::string list(rest);
+    for (const char change : changes) {
+        const auto byte = static_cast<unsigned char>(change);
+        const EntryNumber number = NumberOf(byte);
+        const bool removes = (byte & 1U) != 0;
+        const std::string after =
+            removes ? RemoveFromNumberList(list, number) : AddToNumberList(list, number);
+        CheckChange(list, after, number, removes);
+        list = after;
+    }
+    CheckRanges(list);
+    CheckLists(changes, rest);
+    return 0;
+}
