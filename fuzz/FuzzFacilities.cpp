@@ -40,6 +40,18 @@ void CheckTable(const FacilityTable& table) {
     Check(again.Result == Outcome::Read && again.Table == table);
 }
 
+// Some texts that can be found, in English.
+bool WriteTexts(const ScratchFolder& folder) {
+    folder.Write("nckernel_en.xmt",
+                 "<string id=\"A\" value=\"1\" class=\"Ev_class_2\">\n<text>a</text>\n</string>\n");
+    std::filesystem::create_directory(folder.Path() / "English");
+    folder.Write("English/ErrorText.csv", "number\n5;b;c;d\n");
+    folder.Write("English/qx_error_help.txt", "215\nmessage\n\nCause of error:\ncause\n");
+    folder.Write("English/error.a", "012 message\n");
+    folder.Write("English/fix.a", "012 -\nfix it\n");
+    return true;
+}
+
 void CheckCode(std::string_view text, const FacilityTable& table) {
     const std::optional<EventCode> code = ParseEventCode(text, table);
     Check(!code || (code->Number >= -1 && FindFacility(table, code->Facility) != 0));
@@ -49,6 +61,8 @@ void CheckCode(std::string_view text, const FacilityTable& table) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const ScratchFolder folder;
+    static const bool hasTexts = WriteTexts(folder);
+    Check(hasTexts);
     std::string_view content = TextOf(data, size);
     const std::string_view text = TakeLine(content);
     const std::string path = folder.Write("facilities.csv", content);
