@@ -111,8 +111,7 @@ TEST_F(CommentJournalFaults, KilledAtEveryCallOfTheJournal) {
             ProgramWindow window({LogFile}, Variables(KilledAt(State, killed)));
             window.UntilShown();
             window.EnterComment(0, "entered");
-            window.Until(idleOrEnded, "the end or the comment");
-            inTime = !window.Program().IsRunning();
+            inTime = !window.Until(idleOrEnded, "the end or the comment").IsShown;
             window.Program().Kill();
             EXPECT_EQ(window.Program().WaitForEnd(), KilledEnd);
         }

@@ -104,8 +104,10 @@ TEST_F(TwoCopies, KilledOneLeavesTheOtherItsFiles) {
     copies.First.Program().Kill();
     EXPECT_EQ(copies.First.Program().WaitForEnd(), KilledEnd);
     {
-        // A third empties and uses what the killed one left.
+        // A third empties and uses what the killed one left, and is offered its comments.
         ProgramWindow third({Archive}, Variables());
+        EXPECT_EQ(third.Message(), "Comments on this logbook were not saved the last time. Restore them?");
+        third.Press("No");
         third.UntilRows(3);
         ExpectToClose(third);
     }

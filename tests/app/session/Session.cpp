@@ -58,8 +58,8 @@ void Session::StartProgram() {
     OpenWindow();
     const Source source = logbooks_[Below(static_cast<int>(logbooks_.size()))];
     Say("starts with " + source.File);
-    Window->FirstActivation({PathOf(source.File).toStdString()});
     Show(source, false);
+    Window->FirstActivation({PathOf(source.File).toStdString()});
     toolBarShown_ = statusBarShown_ = true;
     columnWidths_.clear();
     for (int column = 0; column < 7; ++column)

@@ -39,6 +39,12 @@ class Session : public MainWindowTest {
         bool IsArchive = false;
     };
 
+    // Comments that were neither saved nor dropped when the window closed.
+    struct Lost {
+        SessionEntries Logbook; // without comments
+        std::map<int, QString> Comments;
+    };
+
     // Adds to what the order is in words.
     void Say(const QString& words);
     bool Chance(unsigned count) { return dice_.OneIn(count); }
@@ -60,6 +66,7 @@ class Session : public MainWindowTest {
     enum class Leave { Go, Stay };
     Leave PlanLeaving(bool closing = false);
     bool PlanArchive();
+    void PlanRestoring();
     void Show(const Source& source, bool withFilters);
     void Drop(const QString& path);
 
@@ -124,7 +131,8 @@ class Session : public MainWindowTest {
     SessionPerson Answers;
     QList<Source> logbooks_;
     QList<Source> archives_;
-    Source shown_; // as it was opened
+    QList<Lost> lost_; // the oldest first
+    Source shown_;     // as it was opened
     int archivesMade_ = 0;
     QList<int> columnWidths_; // as set
     bool toolBarShown_ = true;

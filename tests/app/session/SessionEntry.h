@@ -13,6 +13,8 @@ struct SessionEntry {
     QString Name;
     QString Time;
     QString Comment;
+
+    bool operator==(const SessionEntry&) const = default;
 };
 using SessionEntries = QList<SessionEntry>;
 

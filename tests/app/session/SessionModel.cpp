@@ -35,6 +35,7 @@ void SessionModel::Read(const SessionEntries& entries, const QString& name) {
     Entries = entries;
     Title = name + " - Qorvix";
     CommentsEdited = false;
+    Noted.clear();
     Content.clear();
     Fill();
 }
@@ -173,7 +174,15 @@ void SessionModel::Comment(int row, const QString& comment) {
     Entries[Rows[row].Entry].Comment =
         comment == "!!Clear!!" ? QString() : QString(comment).replace("\n", " | ");
     CommentsEdited = true;
+    Noted[Rows[row].Entry] = Entries[Rows[row].Entry].Comment;
     ShowContentOf(row);
+}
+
+SessionEntries SessionModel::BareEntries() const {
+    SessionEntries bare = Entries;
+    for (SessionEntry& entry : bare)
+        entry.Comment.clear();
+    return bare;
 }
 
 void SessionModel::SelectAlone(int row) {

@@ -6,6 +6,7 @@
 
 #include <QStringList>
 
+#include <map>
 #include <set>
 
 // A row of the list.
@@ -59,6 +60,9 @@ class SessionModel {
     QString Tag(int row) const;
     int RowCount() const { return static_cast<int>(Rows.size()); }
 
+    // The entries as they were read, without comments.
+    SessionEntries BareEntries() const;
+
     // Another language; only English and German change the labels of the filter types.
     void SetLanguage(int language);
 
@@ -80,6 +84,8 @@ class SessionModel {
     int Language = 0;
     int LabelLanguage = 0;
     bool CommentsEdited = false;
+    std::map<int, QString>
+        Noted; // the comments that were entered and are neither saved nor dropped, by entry
     bool ContentShown = false;
     QString Title;
     QString Content;

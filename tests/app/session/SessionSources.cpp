@@ -11,6 +11,9 @@ namespace {
 constexpr qsizetype MostArchives = 5;
 constexpr const char* AskSave[] = {"Comments edited. Save into logbook archive?",
                                    "Sie haben Kommentare bearbeitet. In Logbuch-Archiv speichern?"};
+constexpr const char* AskRestore[] = {
+    "Comments on this logbook were not saved the last time. Restore them?",
+    "Kommentare zu diesem Logbuch wurden beim letzten Mal nicht gespeichert. Wiederherstellen?"};
 constexpr const char* AskFilters[] = {"Replace active filter list?", "Aktuelle Filterliste ersetzen?"};
 
 } // namespace
@@ -31,8 +34,13 @@ Session::Leave Session::PlanLeaving(bool closing) {
         : answer == QMessageBox::No ? "drops the comments"
                                     : "stays");
     Answers.ExpectMessage(Localised(AskSave[0], AskSave[1]), answer);
-    if (answer == QMessageBox::Yes)
-        return PlanArchive() || closing ? Leave::Go : Leave::Stay;
+    if (answer == QMessageBox::Yes) {
+        const bool saved = PlanArchive();
+        // The window closes all the same, and the comments come back with the logbook.
+        if (!saved && closing)
+            lost_.push_back({Model.BareEntries(), Model.Noted});
+        return saved || closing ? Leave::Go : Leave::Stay;
+    }
     return answer == QMessageBox::No ? Leave::Go : Leave::Stay;
 }
 
@@ -65,6 +73,7 @@ bool Session::PlanArchive() {
     if (archives_.size() > MostArchives)
         archives_.erase(archives_.begin());
     Model.CommentsEdited = false;
+    Model.Noted.clear();
     return true;
 }
 
@@ -88,6 +97,39 @@ void Session::Show(const Source& source, bool withFilters) {
     }
     Model.Read(source.Entries, source.Name);
     shown_ = source;
+    PlanRestoring();
+}
+
+// Comments of this logbook that were not saved when the window closed are offered, the later of an entry
+// last. Nobody is asked about those that the logbook has.
+void Session::PlanRestoring() {
+    static constexpr QMessageBox::StandardButton Buttons[] = {QMessageBox::Yes, QMessageBox::No,
+                                                              QMessageBox::Cancel};
+    const SessionEntries bare = Model.BareEntries();
+    std::map<int, QString> comments;
+    for (const Lost& lost : lost_)
+        if (lost.Logbook == bare)
+            for (const auto& [entry, comment] : lost.Comments)
+                comments[entry] = comment;
+    std::erase_if(comments, [&](const auto& comment) {
+        return Model.Entries[comment.first].Comment == comment.second;
+    });
+    QMessageBox::StandardButton answer = QMessageBox::No;
+    if (!comments.empty()) {
+        answer = dice_.Pick(Buttons);
+        Say(answer == QMessageBox::Yes  ? "restores comments"
+            : answer == QMessageBox::No ? "gives lost comments up"
+                                        : "leaves lost comments");
+        Answers.ExpectMessage(Localised(AskRestore[0], AskRestore[1]), answer);
+    }
+    if (answer != QMessageBox::Cancel)
+        lost_.removeIf([&](const Lost& lost) { return lost.Logbook == bare; });
+    if (answer != QMessageBox::Yes)
+        return;
+    for (const auto& [entry, comment] : comments)
+        Model.Entries[entry].Comment = comment;
+    Model.CommentsEdited = true;
+    Model.Noted = comments;
 }
 
 // Opens what was planned, and asks about the filters of an archive.
