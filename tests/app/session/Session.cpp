@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/session/Session.h"
 
+#include <cstdio>
 #include <numeric>
 
 // Rare orders are those that take long, or after which little is left of the list.
@@ -84,6 +85,8 @@ void Session::Say(const QString& words) {
     if (orders_.isEmpty())
         orders_ << QString();
     orders_.last() += orders_.last().isEmpty() ? words : ", " + words;
+    if (qEnvironmentVariableIsSet("QORVIX_SESSION_LOG"))
+        std::fprintf(stderr, "%lld: %s\n", static_cast<long long>(orders_.size() - 1), qPrintable(words));
 }
 
 QString Session::Localised(const char* english, const char* german) const {

@@ -102,13 +102,15 @@ class Session : public MainWindowTest {
     void PlanFilterDialog();
     void PlanAdding(SessionFilters& rows, SessionStrings& strings);
     void PlanEditing(SessionFilters& rows, SessionStrings& strings);
-    bool PlanDefinition(SessionFilter& filter, SessionStrings& strings);
-    void PlanStrings(SessionStrings& strings, QString& text);
     void PlanRemoving(SessionFilters& rows, const QList<int>& removed);
     void PlanLook(const SessionFilters& rows);
     void PlanClosing(SessionFilters& rows, const SessionStrings& strings);
     void Save(const SessionFilters& rows, const SessionStrings& strings);
+
+    // SessionFilterDefinition.cpp
     SessionFilter AnyFilter();
+    bool PlanDefinition(SessionFilter& filter, SessionStrings& strings);
+    void PlanStrings(SessionStrings& strings, QString& text);
 
     // SessionLayout.cpp
     void Resize();

@@ -9,6 +9,7 @@
 namespace {
 
 constexpr qsizetype MostArchives = 5;
+constexpr int NarrowWindow = 600; // grows with the texts of its status bar
 constexpr const char* AskSave[] = {"Comments edited. Save into logbook archive?",
                                    "Sie haben Kommentare bearbeitet. In Logbuch-Archiv speichern?"};
 constexpr const char* AskRestore[] = {
@@ -218,7 +219,6 @@ void Session::Restart() {
     Say("closes");
     const bool goes = PlanLeaving(true) == Leave::Go;
     const QSize size = Window->size();
-    const bool barsWereShown = toolBarShown_ && statusBarShown_; // otherwise it may grow with them
     const bool maximised = Window->isMaximized();
     const QList<int> widths = columnWidths_;
     if (Window->close() != goes)
@@ -227,7 +227,8 @@ void Session::Restart() {
         return;
     Model.Restart();
     StartProgram();
-    if (Window->isMaximized() != maximised || (!maximised && barsWereShown && Window->size() != size))
+    if (Window->isMaximized() != maximised ||
+        (!maximised && size.width() > NarrowWindow && Window->size() != size))
         Answers.Blame(QString("the window is %1 x %2 instead of %3 x %4")
                           .arg(Window->width())
                           .arg(Window->height())
