@@ -49,10 +49,24 @@ bool ChooseFilters(const ListOptions& options, const std::string& archiveFilters
     return true;
 }
 
+// True when writing the list would take the place of what it is made from.
+bool ReplacesItsSource(const ListOptions& options) {
+    std::error_code noSuchFile;
+    const auto isOutput = [&](const std::string& file) {
+        return std::filesystem::equivalent(ToPath(file), ToPath(options.Output), noSuchFile);
+    };
+    return !options.Output.empty() && !IsDevice(options.Output) &&
+           (isOutput(options.File) || isOutput(options.Filters));
+}
+
 } // namespace
 
 bool ReadList(const ListOptions& options, SourceLogbook& logbook, LogbookRows& rows) {
     using Answer = UserInterface::Answer;
+    if (ReplacesItsSource(options)) {
+        Fail(options.Output + ": " + std::string(Text(TextId::ListInPlaceOfSource, options.MessageLanguage)));
+        return false;
+    }
     const CodePage codePage = CodePage::OfUser();
     const TempFolder tempFolder;
     TerminalUser user(options.ArchiveFilters ? Answer::Yes : Answer::No);

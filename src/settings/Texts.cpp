@@ -226,6 +226,8 @@ constexpr auto Table = std::to_array<TextRow>({
     // The command-line tool
     {TextId::ListNotWritten, "the list could not be written", "die Liste konnte nicht geschrieben werden"},
     {TextId::FileNotWritten, " could not be written", " konnte nicht geschrieben werden"},
+    {TextId::ListInPlaceOfSource, "the list would replace the file that it is made from",
+     "die Liste würde die Datei ersetzen, aus der sie entsteht"},
     // The event entry dialog, and the labels in the comment that it proposes
     {TextId::EventEntryTitle, "Event entry", "Ereignis-Eintrag"},
     {TextId::lbEvent, "Event type:", "Ereignistyp:"},

@@ -174,6 +174,7 @@ enum class TextId : std::uint16_t {
     // The command-line tool
     ListNotWritten,
     FileNotWritten,
+    ListInPlaceOfSource,
     // The event entry dialog, and the labels in the comment that it proposes
     EventEntryTitle,
     lbEvent,

@@ -97,6 +97,25 @@ TEST_F(ExportCommand, OutputFileStaysWhenTheLogbookCannotBeRead) {
     EXPECT_EQ(FileContent(output), "old");
 }
 
+TEST_F(ExportCommand, OutputNeverReplacesWhatTheListIsMadeFrom) {
+    const std::string log = File({Header("RESET:"), Header("BERR:    a")});
+    const std::string filters = Folder.Write("a.fil", "[Filters]\r\nI|0||||1\r\n");
+    const std::string before = FileContent(log);
+    std::filesystem::create_hard_link(log, Folder / "link");
+    for (const std::string& output : {log, Folder / "link", filters}) {
+        const auto run = RunCommandLineTool({"export", log, "--filters", filters, "--output", output});
+        EXPECT_EQ(run.ExitStatus, 1);
+        EXPECT_EQ(run.Output, "");
+        EXPECT_NE(run.Errors.find(output + ": the list would replace the file that it is made from"),
+                  std::string::npos)
+            << run.Errors;
+    }
+    EXPECT_EQ(FileContent(log), before);
+    EXPECT_EQ(FileContent(filters), "[Filters]\r\nI|0||||1\r\n");
+    EXPECT_EQ(RunCommandLineTool({"find", log, "a", "--output", log}).ExitStatus, 1);
+    EXPECT_EQ(FileContent(log), before);
+}
+
 TEST_F(ExportCommand, OutputThatCannotBeWrittenIsTold) {
     const std::string output = Folder / "no/such/list.csv";
     const ProgramResult result =
