@@ -311,11 +311,21 @@ void frmMain::ShowEntryProperties() {
 
 // A mistake in the language files is told until a lookup finds none.
 void frmMain::ShowLookupMessage(const QString& text) {
-    if (!text.isEmpty())
-        sbStatusBar->StatusText()->setText(text);
-    else if (!lookupMessage_.isEmpty())
-        sbStatusBar->StatusText()->setText(QtText(TextId::StatusReady, language_));
-    lookupMessage_ = text;
+    if (!text.isEmpty() || !lookupMessage_.isEmpty())
+        ShowStanding(lookupMessage_, text);
+}
+
+void frmMain::ShowNotNoted(const QString& text) {
+    if (text != notNoted_)
+        ShowStanding(notNoted_, text);
+}
+
+// What stands in the status bar while nothing is done: comments that a crash would take come first.
+void frmMain::ShowStanding(QString& message, const QString& text) {
+    message = text;
+    sbStatusBar->StatusText()->setText(!notNoted_.isEmpty()        ? notNoted_
+                                       : !lookupMessage_.isEmpty() ? lookupMessage_
+                                                                   : QtText(TextId::StatusReady, language_));
 }
 
 void frmMain::EditFilters() {

@@ -102,6 +102,9 @@ class frmMain : public QMainWindow {
     void CopySelectedRows();
     void ShowEntryProperties();
     void ShowLookupMessage(const QString& text);
+    void ShowNotNoted(const QString& text);
+    void ShowStanding(QString& message, const QString& text);
+    void EndJournal();
     void EditFilters();
     void RemoveSelectedEntries();
     void ToggleSelectedEntries();
@@ -119,7 +122,8 @@ class frmMain : public QMainWindow {
     QtCatalogue qtCatalogue_;
     QString BaseCaption;
     LogbookState state_;
-    QString lookupMessage_; // in the status bar
+    QString lookupMessage_; // these two stand in the status bar
+    QString notNoted_;
     bool ViewContents;
     bool Activated = false;
     LogbookModel* model_;

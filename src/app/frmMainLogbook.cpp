@@ -60,8 +60,14 @@ void frmMain::OfferLostComments() {
 }
 
 void frmMain::NoteComment(EntryNumber number) {
-    if (const std::error_code error = journal_.Note(logbook_.Entries, std::span(&number, 1)))
-        ShowLookupMessage(QtText(TextId::CommentNotNoted, language_) + ToQString(error.message()));
+    const std::error_code error = journal_.Note(logbook_.Entries, std::span(&number, 1));
+    ShowNotNoted(error ? QtText(TextId::CommentNotNoted, language_) + ToQString(error.message()) : QString());
+}
+
+// The comments have been saved, or go with the logbook.
+void frmMain::EndJournal() {
+    journal_.Remove();
+    ShowNotNoted(QString());
 }
 
 CommentsOutcome frmMain::AskToSaveComments() {
@@ -81,7 +87,7 @@ bool frmMain::ZipLogbook() {
     };
     const ZipOutcome outcome = ::ZipLogbook(state_, parts, user_, language_, showProgress);
     if (outcome == ZipOutcome::Saved)
-        journal_.Remove();
+        EndJournal();
     return outcome == ZipOutcome::Saved;
 }
 
@@ -128,7 +134,7 @@ bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& com
         return false;
     logbook_.Busy = true;
     state_.CommentsEdited = false;
-    journal_.Remove();
+    EndJournal();
     std::error_code noFile;
     state_.CurrentFileStamp = StampOf(file, noFile);
     model_->ClearRows();

@@ -46,18 +46,40 @@ void CommentJournal::Close() {
 }
 
 std::error_code CommentJournal::Note(const EntryTable& entries, std::span<const EntryNumber> numbers) {
-    if (handle_ < 0)
+    entered_.insert(numbers.begin(), numbers.end());
+    toNote_.insert(numbers.begin(), numbers.end());
+    if (!HasFile()) {
+        Close();
         if (const std::error_code error = Begin(entries))
             return error;
+        toNote_ = entered_;
+    }
     std::string lines;
-    for (const EntryNumber number : numbers)
+    for (const EntryNumber number : toNote_)
         lines += Line({{"entry", number}, {"comment", entries.Comment(number)}});
-    return Append(lines);
+    const std::error_code error = Append(lines);
+    if (!error)
+        toNote_.clear();
+    return error;
+}
+
+// True while the file is in its place.
+bool CommentJournal::HasFile() const {
+    struct stat opened {};
+    struct stat named {};
+    return handle_ >= 0 && ::fstat(handle_, &opened) == 0 && ::lstat(file_.c_str(), &named) == 0 &&
+           opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
 void CommentJournal::Remove() {
-    if (handle_ < 0)
-        return;
+    if (HasFile())
+        RemoveFile();
+    Close();
+    entered_.clear();
+    toNote_.clear();
+}
+
+void CommentJournal::RemoveFile() {
     std::error_code ignored;
     std::filesystem::remove(file_, ignored);
     Close();
@@ -80,7 +102,7 @@ std::error_code CommentJournal::Begin(const EntryTable& entries) {
     else
         error = Append(Line({{"logbook", LogbookChecksum(entries)}, {"entries", entries.Count()}}));
     if (error)
-        Remove();
+        RemoveFile();
     return error;
 }
 

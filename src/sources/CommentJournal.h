@@ -5,6 +5,7 @@
 #include "settings/UserFolders.h"
 
 #include <filesystem>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -27,7 +28,9 @@ class CommentJournal {
     CommentJournal& operator=(const CommentJournal&) = delete;
 
     // Notes the comments that these entries have now, and flushes them to the disk. The first of a logbook
-    // make the file, for which the whole logbook is looked at once. The error tells why they are not safe.
+    // make the file, for which the whole logbook is looked at once. The error tells why they are not safe;
+    // the next call then tries to note them again. A file that somebody removed is made anew with all
+    // comments.
     std::error_code Note(const EntryTable& entries, std::span<const EntryNumber> numbers);
 
     // The comments have been saved, or are not wanted: the file goes. The next Note makes another.
@@ -37,11 +40,15 @@ class CommentJournal {
     const std::filesystem::path& Folder() const { return folder_; }
 
   private:
+    bool HasFile() const;
     std::error_code Begin(const EntryTable& entries);
     std::error_code Append(std::string_view lines);
+    void RemoveFile();
     void Close();
 
     std::filesystem::path folder_;
     std::filesystem::path file_;
     int handle_ = -1;
+    std::set<EntryNumber> entered_; // whose comments are neither saved nor declined
+    std::set<EntryNumber> toNote_;  // of these, those that the file does not have yet
 };

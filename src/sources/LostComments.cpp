@@ -6,6 +6,8 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <fstream>
 #include <optional>
 
@@ -30,13 +32,26 @@ std::optional<std::string> TextIn(const Json& line, const char* name) {
                                                        : std::nullopt;
 }
 
-// The next line that is whole; a discarded value at the end of the file.
+// The next line that is whole; a discarded value at the end of the file. A line of a journal has no values in
+// values: what is nested counts as none, so that no file can exhaust the stack.
 Json NextLine(std::istream& stream) {
     std::string text;
     if (!std::getline(stream, text) || stream.eof())
         return Json(Json::value_t::discarded);
-    Json line = Json::parse(text, nullptr, false);
-    return line.is_object() ? line : Json::object();
+    bool nested = false;
+    const auto watchDepth = [&](int depth, Json::parse_event_t, Json&) {
+        nested = nested || depth > 1;
+        return !nested;
+    };
+    Json line = Json::parse(text, watchDepth, false);
+    return !nested && line.is_object() ? std::move(line) : Json::object();
+}
+
+// Only a file whose first line is short can be a journal: others are not read.
+bool BeginsLikeAJournal(int handle) {
+    std::array<char, 256> begin;
+    const ssize_t count = ::pread(handle, begin.data(), begin.size(), 0);
+    return count > 0 && std::memchr(begin.data(), '\n', static_cast<std::size_t>(count)) != nullptr;
 }
 
 // The checksum of this logbook, for which it is looked at when the first journal asks.
@@ -81,7 +96,7 @@ LostComments::LostComments(const std::filesystem::path& folder, const EntryTable
         if (handle < 0)
             continue;
         std::ifstream stream(path, std::ios::binary);
-        if (::flock(handle, LOCK_EX | LOCK_NB) != 0) {
+        if (!BeginsLikeAJournal(handle) || ::flock(handle, LOCK_EX | LOCK_NB) != 0) {
             ::close(handle);
             continue;
         }

@@ -115,6 +115,17 @@ class LostCommentsTest : public MainWindowTest {
         Comment(FileOfErrors(2), 0, "a");
         QVERIFY(Find<QLabel>("statusText")->text().startsWith("Comments are not secured against a crash: "));
         QCOMPARE(Cell(0, 6), QString("a"));
+
+        // A lookup without a mistake does not take it away; saving does.
+        List()->selectRow(1);
+        QTimer::singleShot(0, Person.get(), [] {
+            QTest::mouseClick(QApplication::activeModalWidget()->findChild<QPushButton*>("cmdCancel"),
+                              Qt::LeftButton);
+        });
+        QTest::keyClick(List(), Qt::Key_Return);
+        QVERIFY(Find<QLabel>("statusText")->text().startsWith("Comments are not secured"));
+        Save("secured.qorvix");
+        QCOMPARE(Find<QLabel>("statusText")->text(), QString("Ready"));
     }
 
   private:

@@ -230,7 +230,48 @@ TEST_F(CommentJournalTest, FullDiskIsToldAndLeavesNoHalfLine) {
     }
     EXPECT_EQ(FileContent(file), before);
     EXPECT_FALSE(Enter(Journal, 3, "room again"));
-    EXPECT_EQ(FileContent(file), before + "{\"comment\":\"room again\",\"entry\":3}\n");
+    EXPECT_EQ(FileContent(file), before + "{\"comment\":\"no room\",\"entry\":2}\n"
+                                          "{\"comment\":\"room again\",\"entry\":3}\n");
+}
+
+TEST_F(CommentJournalTest, CommentsThatCouldNotBeNotedAreNotedWithTheNext) {
+    auto journal = std::make_unique<CommentJournal>(State);
+    fs::create_directories(State.parent_path());
+    std::ofstream(State) << "a file";
+    EXPECT_TRUE(Enter(*journal, 1, "first"));
+    fs::remove(State);
+    EXPECT_FALSE(Enter(*journal, 2, "second"));
+    {
+        const SmallFiles full(10);
+        EXPECT_TRUE(Enter(*journal, 3, "third"));
+    }
+    EXPECT_FALSE(Enter(*journal, 2, "again"));
+    journal.reset(); // a crash
+    FillTable(Book, Entries(5));
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "first"), Pair(2, "again"), Pair(3, "third")));
+}
+
+TEST_F(CommentJournalTest, FileThatSomebodyRemovedIsMadeAnewWithAllComments) {
+    CommentJournal journal(State);
+    EXPECT_FALSE(Enter(journal, 1, "first"));
+    fs::remove_all(State.parent_path());
+    EXPECT_FALSE(Enter(journal, 2, "second"));
+    ASSERT_EQ(Files().size(), 1U);
+    const std::string content = FileContent(Files().front());
+    EXPECT_NE(content.find("\"first\""), std::string::npos);
+    EXPECT_NE(content.find("\"second\""), std::string::npos);
+    journal.Remove();
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
+TEST_F(CommentJournalTest, NestedLinesExhaustNothing) {
+    Crash({{1, "a"}});
+    const std::string nested = "{\"comment\":" + std::string(300000, '[') + std::string(300000, ']') + "}\n";
+    std::ofstream(Files().front(), std::ios::app) << nested << "{\"entry\":2,\"comment\":\"b\"}\n";
+    std::ofstream(State / "nested") << nested;
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "a"), Pair(2, "b")));
 }
 
 TEST_F(CommentJournalTest, FolderThatCannotBeMadeIsTold) {
