@@ -74,7 +74,8 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFol
       progress_(this, sbStatusBar->Progress()),
       user_(this, sbStatusBar->StatusText()),
       tmExtrasFilters(new QTimer(this)),
-      search_(new WindowSearch(*lvLogbook, logbook.Entries, user_, *this)) {
+      search_(new WindowSearch(*lvLogbook, logbook.Entries, user_, *this)),
+      help_(this, HelpReader(ProgramFolder())) {
     setObjectName("frmMain");
     state_.InitZipArchiveDir = registry_.ReadLogbookSettingString("InitZipArchiveDir", ProgramFolder() + '/');
     setWindowTitle(BaseCaption);

@@ -138,6 +138,6 @@ class frmMain : public QMainWindow {
     WindowUser user_;
     QTimer* tmExtrasFilters;
     WindowSearch* search_;
-    HtmlHelp help_{this};
+    HtmlHelp help_;
     bool ItemClicked = false; // a row was clicked, and the mouse button is not up yet
 };

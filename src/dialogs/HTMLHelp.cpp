@@ -18,7 +18,8 @@ struct HtmlHelp::Window {
     }
 };
 
-HtmlHelp::HtmlHelp(QWidget* owner) : owner_(owner), window_(std::make_unique<Window>()) {}
+HtmlHelp::HtmlHelp(QWidget* owner, std::filesystem::path reader)
+    : owner_(owner), reader_(std::move(reader)), window_(std::make_unique<Window>()) {}
 HtmlHelp::~HtmlHelp() = default;
 
 bool HtmlHelp::DisplayToc(const std::filesystem::path& file, Language language) {
@@ -32,7 +33,7 @@ bool HtmlHelp::DisplaySearch(const std::filesystem::path& file, Language languag
 void HtmlHelp::CloseAll() { window_->Close(); }
 
 bool HtmlHelp::Display(const std::filesystem::path& file, Language language, Page page) {
-    std::optional<HelpBook> book = OpenHelpBook(file);
+    std::optional<HelpBook> book = OpenHelpBook(file, reader_);
     if (!book)
         return false;
     if (!window_->Form || !window_->Form->isVisible() || file != window_->File) {

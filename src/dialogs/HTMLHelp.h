@@ -14,8 +14,9 @@ class QWidget;
 // On Windows the system's viewer of compiled HTML help shows them (HTMLHelpWindows.cpp), elsewhere frmHelp.
 class HtmlHelp {
   public:
-    // The owner is the main window; it must outlive this.
-    explicit HtmlHelp(QWidget* owner);
+    // The owner is the main window; it must outlive this. `reader` is the program that reads the files
+    // (HelpReader), which the system's viewer does not need.
+    HtmlHelp(QWidget* owner, std::filesystem::path reader);
     ~HtmlHelp();
     HtmlHelp(const HtmlHelp&) = delete;
     HtmlHelp& operator=(const HtmlHelp&) = delete;
@@ -36,5 +37,6 @@ class HtmlHelp {
     struct Window;
 
     QWidget* owner_;
+    std::filesystem::path reader_;
     std::unique_ptr<Window> window_; // what is known of the help window; null on Windows
 };

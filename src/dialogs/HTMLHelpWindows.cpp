@@ -16,7 +16,7 @@ static_assert(sizeof(HH_FTS_QUERY) == (sizeof(void*) == 4 ? 32 : 40));
 
 struct HtmlHelp::Window {};
 
-HtmlHelp::HtmlHelp(QWidget* owner) : owner_(owner) {}
+HtmlHelp::HtmlHelp(QWidget* owner, std::filesystem::path) : owner_(owner) {}
 HtmlHelp::~HtmlHelp() { CloseAll(); }
 
 bool HtmlHelp::DisplayToc(const std::filesystem::path& file, Language language) {

@@ -16,6 +16,7 @@ using HelpMembers = std::map<std::string, std::string, LessWithoutCase>;
 // file, or when it is so damaged that reading it fails. Damage inside a member may pass unnoticed. A file of
 // more than 64 MiB unpacked counts as damaged; so does one that takes longer than ten seconds.
 //
-// The reading happens in a process of its own: libchm believes what a file says of itself, and a few wrong
-// bytes make it write where it should not.
-std::optional<HelpMembers> ReadChmFile(const std::filesystem::path& file);
+// The reading happens in a process of its own, that of the program `reader` (HelpReader): libchm believes
+// what a file says of itself, and a few wrong bytes make it write where it should not.
+std::optional<HelpMembers> ReadChmFile(const std::filesystem::path& file,
+                                       const std::filesystem::path& reader);

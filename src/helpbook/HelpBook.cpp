@@ -78,8 +78,8 @@ std::optional<HelpBook> MakeHelpBook(HelpMembers members) {
     return book;
 }
 
-std::optional<HelpBook> OpenHelpBook(const std::filesystem::path& file) {
-    std::optional<HelpMembers> members = ReadChmFile(file);
+std::optional<HelpBook> OpenHelpBook(const std::filesystem::path& file, const std::filesystem::path& reader) {
+    std::optional<HelpMembers> members = ReadChmFile(file, reader);
     return members ? MakeHelpBook(std::move(*members)) : std::nullopt;
 }
 

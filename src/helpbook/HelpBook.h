@@ -18,8 +18,9 @@ struct HelpBook {
     HelpMembers Members;
 };
 
-// Reads a help file. Nothing when it is missing, damaged, or without contents or pages.
-std::optional<HelpBook> OpenHelpBook(const std::filesystem::path& file);
+// Reads a help file with the program `reader`, see ReadChmFile. Nothing when it is missing, damaged, or
+// without contents or pages.
+std::optional<HelpBook> OpenHelpBook(const std::filesystem::path& file, const std::filesystem::path& reader);
 
 // The same over members that have been read.
 std::optional<HelpBook> MakeHelpBook(HelpMembers members);

@@ -4,3 +4,7 @@
 std::filesystem::path HelpFile(const std::filesystem::path& programFolder, Language language) {
     return programFolder / "language" / LanguageCode(language) / "Qorvix.chm";
 }
+
+std::filesystem::path HelpReader(const std::filesystem::path& programFolder) {
+    return programFolder / "qorvix-helpreader";
+}

@@ -23,11 +23,13 @@
 
 namespace {
 
-// The help beside the built programs, or beside those that the environment names, such as installed ones.
-std::filesystem::path HelpOf(std::int32_t number) {
+// The folder of the built programs, or of those that the environment names, such as installed ones.
+std::filesystem::path Programs() {
     const QByteArray folder = qgetenv("QORVIX_PROGRAM_FOLDER");
-    return HelpFile(folder.isEmpty() ? QORVIX_PROGRAM_FOLDER : folder.toStdString(), {number});
+    return folder.isEmpty() ? QORVIX_PROGRAM_FOLDER : folder.toStdString();
 }
+
+std::filesystem::path HelpOf(std::int32_t number) { return HelpFile(Programs(), {number}); }
 
 HelpBook SmallBook() {
     return {
@@ -62,7 +64,7 @@ class frmHelpTest : public QObject {
 
   private slots:
     void ContentsAndFirstPageOfTheRealHelp() {
-        HtmlHelp help(&owner_);
+        HtmlHelp help(&owner_, HelpReader(Programs()));
         QVERIFY(help.DisplayToc(HelpOf(Language::English), {Language::English}));
         QCOMPARE(HelpWindows().size(), std::size_t{1});
         const frmHelp& window = *HelpWindows().front();
@@ -79,7 +81,7 @@ class frmHelpTest : public QObject {
     }
 
     void GermanHelpHasItsTexts() {
-        HtmlHelp help(&owner_);
+        HtmlHelp help(&owner_, HelpReader(Programs()));
         QVERIFY(help.DisplaySearch(HelpOf(Language::German), {Language::German}));
         const frmHelp& window = *HelpWindows().front();
         QCOMPARE(window.windowTitle(), QString("Qorvix-Hilfe"));
@@ -120,7 +122,7 @@ class frmHelpTest : public QObject {
     }
 
     void OneWindowIsReused() {
-        HtmlHelp help(&owner_);
+        HtmlHelp help(&owner_, HelpReader(Programs()));
         QVERIFY(help.DisplayToc(HelpOf(Language::English), {Language::English}));
         frmHelp* const window = HelpWindows().front();
         PageOf(*window)->ShowPage("/filters.html");
@@ -131,7 +133,7 @@ class frmHelpTest : public QObject {
     }
 
     void ClosedAtTheSwitchAndOpenedInTheOtherLanguage() {
-        HtmlHelp help(&owner_);
+        HtmlHelp help(&owner_, HelpReader(Programs()));
         QVERIFY(help.DisplayToc(HelpOf(Language::English), {Language::English}));
         help.CloseAll();
         QVERIFY(HelpWindows().empty());
@@ -142,7 +144,7 @@ class frmHelpTest : public QObject {
     }
 
     void ClosedByThePersonAndOpenedAgain() {
-        HtmlHelp help(&owner_);
+        HtmlHelp help(&owner_, HelpReader(Programs()));
         QVERIFY(help.DisplayToc(HelpOf(Language::English), {Language::English}));
         QVERIFY(QTest::qWaitForWindowActive(HelpWindows().front()));
         QTest::keyClick(HelpWindows().front(), Qt::Key_Escape);
@@ -154,7 +156,7 @@ class frmHelpTest : public QObject {
 
     void WindowGoesWithItsOwner() {
         {
-            HtmlHelp help(&owner_);
+            HtmlHelp help(&owner_, HelpReader(Programs()));
             QVERIFY(help.DisplayToc(HelpOf(Language::English), {Language::English}));
         }
         QVERIFY(HelpWindows().empty());
@@ -162,7 +164,7 @@ class frmHelpTest : public QObject {
 
     void MissingOrDamagedFileIsTold() {
         const TemporaryFolder folder;
-        HtmlHelp help(&owner_);
+        HtmlHelp help(&owner_, HelpReader(Programs()));
         QVERIFY(!help.DisplayToc(HelpOf(10), {10})); // "Dutch" looks in the folder "hu"
         QVERIFY(!help.DisplayToc(folder / "missing.chm", {Language::English}));
         QVERIFY(!help.DisplaySearch(folder.Write("empty.chm", ""), {Language::English}));
@@ -357,7 +359,7 @@ class frmHelpTest : public QObject {
     }
 
     void SearchInTheRealHelp() {
-        HtmlHelp help(&owner_);
+        HtmlHelp help(&owner_, HelpReader(Programs()));
         QVERIFY(help.DisplaySearch(HelpOf(Language::English), {Language::English}));
         Find<QLineEdit>(*HelpWindows().front(), "tbSearchWords")->setText("open archive");
         Find<QPushButton>(*HelpWindows().front(), "cmdSearch")->click();
@@ -432,7 +434,7 @@ class frmHelpTest : public QObject {
     }
 
     void NextWindowLooksLikeTheOneBefore() {
-        HtmlHelp help(&owner_);
+        HtmlHelp help(&owner_, HelpReader(Programs()));
         QVERIFY(help.DisplayToc(HelpOf(Language::English), {Language::English}));
         const qreal size = PageOf(*HelpWindows().front())->font().pointSizeF();
         const auto arrange = [&](frmHelp& window) {
@@ -462,7 +464,7 @@ class frmHelpTest : public QObject {
     }
 
     void FirstWindowFitsOnTheScreen() {
-        HtmlHelp help(&owner_);
+        HtmlHelp help(&owner_, HelpReader(Programs()));
         QVERIFY(help.DisplayToc(HelpOf(Language::English), {Language::English}));
         frmHelp& window = *HelpWindows().front();
         QVERIFY(QTest::qWaitForWindowExposed(&window));

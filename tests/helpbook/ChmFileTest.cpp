@@ -2,20 +2,25 @@
 #include "helpbook/ChmFile.h"
 
 #include "helpbook/HelpBook.h"
+#include "helpbook/HelpFile.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <random>
+#include <thread>
+#include <vector>
 
 namespace {
 
 const std::filesystem::path EnglishHelp = QORVIX_PROGRAM_FOLDER "/language/en/Qorvix.chm";
+const std::filesystem::path Reader = HelpReader(QORVIX_PROGRAM_FOLDER);
 const std::filesystem::path SourceFolder = QORVIX_SOURCE_FOLDER "/help";
 
 // Opens and walks through the whole book, whatever is in it.
 void ReadAll(const std::string& file) {
-    const std::optional<HelpBook> book = OpenHelpBook(file);
+    const std::optional<HelpBook> book = OpenHelpBook(file, Reader);
     if (!book)
         return;
     EXPECT_TRUE(MemberOf(*book, book->FirstPage));
@@ -27,7 +32,7 @@ void ReadAll(const std::string& file) {
 
 TEST(ChmFile, HoldsEverythingAsItWasCompiled) {
     for (const std::string code : {"en", "de"}) {
-        const auto members = ReadChmFile(QORVIX_PROGRAM_FOLDER "/language/" + code + "/Qorvix.chm");
+        const auto members = ReadChmFile(QORVIX_PROGRAM_FOLDER "/language/" + code + "/Qorvix.chm", Reader);
         ASSERT_TRUE(members);
         int pages = 0;
         for (const auto& item : std::filesystem::recursive_directory_iterator(SourceFolder / code)) {
@@ -44,17 +49,17 @@ TEST(ChmFile, HoldsEverythingAsItWasCompiled) {
 
 TEST(ChmFile, MissingFileIsNone) {
     const TemporaryFolder folder;
-    EXPECT_FALSE(ReadChmFile(folder / "Qorvix.chm"));
-    EXPECT_FALSE(ReadChmFile(folder.Path()));
-    EXPECT_FALSE(ReadChmFile(""));
+    EXPECT_FALSE(ReadChmFile(folder / "Qorvix.chm", Reader));
+    EXPECT_FALSE(ReadChmFile(folder.Path(), Reader));
+    EXPECT_FALSE(ReadChmFile("", Reader));
 }
 
 TEST(ChmFile, FileOfAnotherKindIsNone) {
     const TemporaryFolder folder;
-    EXPECT_FALSE(ReadChmFile(folder.Write("empty.chm", "")));
-    EXPECT_FALSE(ReadChmFile(folder.Write("text.chm", "This is no help file.")));
-    EXPECT_FALSE(ReadChmFile(folder.Write("head.chm", "ITSF")));
-    EXPECT_FALSE(ReadChmFile(folder.Write("zeros.chm", std::string(10'000, '\0'))));
+    EXPECT_FALSE(ReadChmFile(folder.Write("empty.chm", ""), Reader));
+    EXPECT_FALSE(ReadChmFile(folder.Write("text.chm", "This is no help file."), Reader));
+    EXPECT_FALSE(ReadChmFile(folder.Write("head.chm", "ITSF"), Reader));
+    EXPECT_FALSE(ReadChmFile(folder.Write("zeros.chm", std::string(10'000, '\0')), Reader));
 }
 
 TEST(ChmFile, TruncatedFileNeverHarms) {
@@ -63,7 +68,7 @@ TEST(ChmFile, TruncatedFileNeverHarms) {
     ASSERT_GT(whole.size(), 10'000U);
     for (std::size_t size = 0; size < whole.size(); size += whole.size() / 60)
         ReadAll(folder.Write("cut.chm", whole.substr(0, size)));
-    EXPECT_FALSE(OpenHelpBook(folder.Write("half.chm", whole.substr(0, 2'000))));
+    EXPECT_FALSE(OpenHelpBook(folder.Write("half.chm", whole.substr(0, 2'000)), Reader));
 }
 
 TEST(ChmFile, RandomBytesNeverHarm) {
@@ -105,5 +110,28 @@ TEST(ChmFile, DamagedControlDataIsNone) {
             }
     std::string bytes = whole;
     bytes.replace(control + 8, 12, 12, '\0');
-    EXPECT_FALSE(OpenHelpBook(folder.Write("control.chm", bytes)));
+    EXPECT_FALSE(OpenHelpBook(folder.Write("control.chm", bytes), Reader));
+}
+
+TEST(ChmFile, WithoutItsReaderIsNone) {
+    EXPECT_FALSE(ReadChmFile(EnglishHelp, QORVIX_PROGRAM_FOLDER "/qorvix-noreader"));
+    EXPECT_FALSE(ReadChmFile(EnglishHelp, QORVIX_PROGRAM_FOLDER));
+    EXPECT_FALSE(ReadChmFile(EnglishHelp, "/bin/true"));
+    EXPECT_FALSE(ReadChmFile(EnglishHelp, "/bin/cat")); // something else than members
+}
+
+// Other threads hold locks while the reading process is started.
+TEST(ChmFile, CanBeReadWhileOtherThreadsAllocate) {
+    std::atomic<bool> enough = false;
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i)
+        threads.emplace_back([&] {
+            while (!enough)
+                const std::vector<std::string> texts(100, std::string(100, 'x'));
+        });
+    for (int i = 0; i < 100; ++i)
+        EXPECT_TRUE(ReadChmFile(EnglishHelp, Reader)) << i;
+    enough = true;
+    for (std::thread& thread : threads)
+        thread.join();
 }
