@@ -363,7 +363,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
         return;
     }
     if (outcome != CommentsOutcome::NotSaved)
-        journal_.Remove();
+        journal_.Dropped();
     Unload();
     QMainWindow::closeEvent(event);
 }

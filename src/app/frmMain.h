@@ -104,7 +104,6 @@ class frmMain : public QMainWindow {
     void ShowLookupMessage(const QString& text);
     void ShowNotNoted(const QString& text);
     void ShowStanding(QString& message, const QString& text);
-    void EndJournal();
     void EditFilters();
     void RemoveSelectedEntries();
     void ToggleSelectedEntries();

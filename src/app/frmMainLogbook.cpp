@@ -64,12 +64,6 @@ void frmMain::NoteComment(EntryNumber number) {
     ShowNotNoted(error ? QtText(TextId::CommentNotNoted, language_) + ToQString(error.message()) : QString());
 }
 
-// The comments have been saved, or go with the logbook.
-void frmMain::EndJournal() {
-    journal_.Remove();
-    ShowNotNoted(QString());
-}
-
 CommentsOutcome frmMain::AskToSaveComments() {
     return ::AskToSaveComments(state_, user_, [this] { return ZipLogbook(); });
 }
@@ -86,8 +80,10 @@ bool frmMain::ZipLogbook() {
         progress_.PaintValue(percent);
     };
     const ZipOutcome outcome = ::ZipLogbook(state_, parts, user_, language_, showProgress);
-    if (outcome == ZipOutcome::Saved)
-        EndJournal();
+    if (outcome == ZipOutcome::Saved) {
+        journal_.Saved();
+        ShowNotNoted(QString());
+    }
     return outcome == ZipOutcome::Saved;
 }
 
@@ -134,7 +130,8 @@ bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& com
         return false;
     logbook_.Busy = true;
     state_.CommentsEdited = false;
-    EndJournal();
+    journal_.Dropped();
+    ShowNotNoted(QString());
     std::error_code noFile;
     state_.CurrentFileStamp = StampOf(file, noFile);
     model_->ClearRows();

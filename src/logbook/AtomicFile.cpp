@@ -27,18 +27,6 @@ std::error_code FlushToDisk([[maybe_unused]] const std::filesystem::path& file) 
 #endif
 }
 
-// Makes the new name of a file in a folder last. A file system that cannot is no failure: the file has its
-// name.
-void FlushFolder([[maybe_unused]] const std::filesystem::path& folder) {
-#if defined(__unix__) || defined(__APPLE__)
-    const int handle = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0)
-        return;
-    ::fsync(handle);
-    ::close(handle);
-#endif
-}
-
 // The file that a link names in the end, also when it does not exist yet.
 std::filesystem::path FollowLinks(std::filesystem::path path, std::error_code& error) {
     constexpr int MostLinks = 40;
@@ -98,4 +86,14 @@ std::error_code AtomicFile::Commit() {
     temporary_.clear();
     FlushFolder(target_.parent_path());
     return {};
+}
+
+void FlushFolder([[maybe_unused]] const std::filesystem::path& folder) {
+#if defined(__unix__) || defined(__APPLE__)
+    const int handle = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0)
+        return;
+    ::fsync(handle);
+    ::close(handle);
+#endif
 }

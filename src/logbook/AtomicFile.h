@@ -39,3 +39,7 @@ class AtomicFile {
     std::filesystem::path temporary_;
     std::ofstream stream_;
 };
+
+// Makes the new names of files in a folder last. A file system that cannot is no failure: the files have
+// their names.
+void FlushFolder(const std::filesystem::path& folder);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/CommentJournal.h"
 
+#include "logbook/AtomicFile.h"
 #include "sources/LogbookChecksum.h"
 
 #include <nlohmann/json.hpp>
@@ -48,7 +49,7 @@ void CommentJournal::Close() {
 std::error_code CommentJournal::Note(const EntryTable& entries, std::span<const EntryNumber> numbers) {
     entered_.insert(numbers.begin(), numbers.end());
     toNote_.insert(numbers.begin(), numbers.end());
-    if (!HasFile()) {
+    if (!IsNameOf(file_, handle_)) {
         Close();
         if (const std::error_code error = Begin(entries))
             return error;
@@ -63,18 +64,25 @@ std::error_code CommentJournal::Note(const EntryTable& entries, std::span<const 
     return error;
 }
 
-// True while the file is in its place.
-bool CommentJournal::HasFile() const {
-    struct stat opened {};
-    struct stat named {};
-    return handle_ >= 0 && ::fstat(handle_, &opened) == 0 && ::lstat(file_.c_str(), &named) == 0 &&
-           opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
+void CommentJournal::Keep(std::vector<LostJournal> journals, std::span<const EntryNumber> restored) {
+    kept_ = std::move(journals);
+    restored_ = !restored.empty();
+    entered_.insert(restored.begin(), restored.end());
 }
 
-void CommentJournal::Remove() {
-    if (HasFile())
+void CommentJournal::Saved() { End(true); }
+
+void CommentJournal::Dropped() { End(restored_); }
+
+void CommentJournal::End(bool keptGo) {
+    if (IsNameOf(file_, handle_))
         RemoveFile();
     Close();
+    if (keptGo)
+        for (const LostJournal& journal : kept_)
+            journal.Remove();
+    kept_.clear();
+    restored_ = false;
     entered_.clear();
     toNote_.clear();
 }
@@ -103,6 +111,8 @@ std::error_code CommentJournal::Begin(const EntryTable& entries) {
         error = Append(Line({{"logbook", LogbookChecksum(entries)}, {"entries", entries.Count()}}));
     if (error)
         RemoveFile();
+    else
+        FlushFolder(folder_);
     return error;
 }
 

@@ -3,6 +3,7 @@
 
 #include "logbook/EntryTable.h"
 #include "settings/UserFolders.h"
+#include "sources/LostJournal.h"
 
 #include <filesystem>
 #include <set>
@@ -10,6 +11,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 // Comments that were entered and not saved yet, noted in a file so that a crash does not take them. The file
 // is JSON Lines: first the logbook, then each comment as it was entered; an empty one removes.
@@ -33,22 +35,32 @@ class CommentJournal {
     // comments.
     std::error_code Note(const EntryTable& entries, std::span<const EntryNumber> numbers);
 
-    // The comments have been saved, or are not wanted: the file goes. The next Note makes another.
-    void Remove();
+    // Keeps journals of this logbook that a crash left, until their comments are saved, and holds them until
+    // then. The entries whose comments were restored from them are noted anew when the file is made.
+    void Keep(std::vector<LostJournal> journals, std::span<const EntryNumber> restored);
+
+    // The comments have been saved: all journals that have any go. The next Note makes another.
+    void Saved();
+
+    // The comments are not wanted: their journals go, also those that they were restored from. Kept journals
+    // of which nothing was restored stay as a crash left them.
+    void Dropped();
 
     // Where the files lie.
     const std::filesystem::path& Folder() const { return folder_; }
 
   private:
-    bool HasFile() const;
     std::error_code Begin(const EntryTable& entries);
     std::error_code Append(std::string_view lines);
     void RemoveFile();
     void Close();
+    void End(bool keptGo);
 
     std::filesystem::path folder_;
     std::filesystem::path file_;
     int handle_ = -1;
     std::set<EntryNumber> entered_; // whose comments are neither saved nor declined
     std::set<EntryNumber> toNote_;  // of these, those that the file does not have yet
+    std::vector<LostJournal> kept_;
+    bool restored_ = false; // comments of the kept journals are those of the entries now
 };

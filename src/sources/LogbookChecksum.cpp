@@ -3,25 +3,28 @@
 
 #include <xxhash.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <memory>
 #include <string_view>
-#include <vector>
 
 namespace {
 
+// Sums up values, and of texts the ASCII characters: which characters the other bytes of a logbook stand for
+// depends on the code page of the day.
 class Checksum {
   public:
     Checksum() : state_(XXH3_createState(), XXH3_freeState) { XXH3_128bits_reset(state_.get()); }
 
     void Add(const void* bytes, std::size_t count) { XXH3_128bits_update(state_.get(), bytes, count); }
 
-    // With its length, so that neighbouring texts do not run together.
-    void Add(std::string_view text) {
-        const std::uint64_t length = text.size();
-        Add(&length, sizeof length);
-        Add(text.data(), text.size());
+    // Also adds how many they are, so that neighbouring texts do not run together.
+    void AddText(std::string_view text) {
+        std::uint64_t count = 0;
+        for (; !text.empty(); text.remove_prefix(std::min(text.size(), ascii_.size())))
+            count += AddAscii(text.substr(0, ascii_.size()));
+        Add(&count, sizeof count);
     }
 
     std::string Digits() const {
@@ -38,21 +41,36 @@ class Checksum {
   private:
     static constexpr std::string_view HexDigits = "0123456789abcdef";
 
+    std::size_t AddAscii(std::string_view part) {
+        std::size_t count = 0;
+        for (const char byte : part) {
+            ascii_[count] = byte;
+            count += static_cast<unsigned char>(byte) < 0x80U ? 1 : 0;
+        }
+        Add(ascii_.data(), count);
+        return count;
+    }
+
+    std::array<char, 16384> ascii_;
     std::unique_ptr<XXH3_state_t, XXH_errorcode (*)(XXH3_state_t*)> state_;
 };
 
 // What an entry adds to the texts, without padding.
 struct EntryPart {
-    std::uint64_t TextBegin = 0;
     std::uint32_t Kind = 0;
     std::uint32_t Date = 0;
     std::uint32_t Clock = 0;
     std::uint32_t HasStampInText = 0;
 };
-static_assert(sizeof(EntryPart) == 24);
+static_assert(sizeof(EntryPart) == 16);
+
+std::string_view TextOf(const EntryTable& entries, EntryNumber number) {
+    const std::size_t begin = entries.TextBegin(number);
+    return entries.Text().substr(begin, entries.TextBegin(number + 1) - begin);
+}
 
 EntryPart PartOf(const EntryTable& entries, EntryNumber number) {
-    EntryPart part{.TextBegin = entries.TextBegin(number), .Kind = entries.KindNumber(number)};
+    EntryPart part{.Kind = entries.KindNumber(number)};
     PackedStamp stamp;
     part.HasStampInText = entries.PackedTime(number, stamp) ? 0 : 1;
     part.Date = stamp.Date;
@@ -64,23 +82,19 @@ EntryPart PartOf(const EntryTable& entries, EntryNumber number) {
 
 std::string LogbookChecksum(const EntryTable& entries) {
     Checksum sum;
-    sum.Add(entries.Text());
     for (std::uint32_t i = 0; i < entries.Kinds().Count(); ++i) {
         const EntryKind& kind = entries.Kinds()[i];
         sum.Add(&kind.EventType, sizeof kind.EventType);
         sum.Add(&kind.Image, sizeof kind.Image);
-        sum.Add(kind.Sender);
-        sum.Add(kind.Name);
+        sum.AddText(kind.Sender);
+        sum.AddText(kind.Name);
     }
     for (std::uint32_t i = 0; i < entries.Stamps().DateCount(); ++i)
-        sum.Add(entries.Stamps().DateText(i));
-
-    std::array<EntryPart, 256> parts;
-    for (EntryNumber number = 0; number < entries.Count();) {
-        std::size_t count = 0;
-        for (; count < parts.size() && number < entries.Count(); ++number)
-            parts[count++] = PartOf(entries, number);
-        sum.Add(parts.data(), count * sizeof(EntryPart));
+        sum.AddText(entries.Stamps().DateText(i));
+    for (EntryNumber number = 0; number < entries.Count(); ++number) {
+        const EntryPart part = PartOf(entries, number);
+        sum.Add(&part, sizeof part);
+        sum.AddText(TextOf(entries, number));
     }
     return sum.Digits();
 }

@@ -6,14 +6,8 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
-#include <array>
-#include <cstring>
 #include <fstream>
 #include <optional>
-
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
 
 namespace {
 
@@ -45,13 +39,6 @@ Json NextLine(std::istream& stream) {
     };
     Json line = Json::parse(text, watchDepth, false);
     return !nested && line.is_object() ? std::move(line) : Json::object();
-}
-
-// Only a file whose first line is short can be a journal: others are not read.
-bool BeginsLikeAJournal(int handle) {
-    std::array<char, 256> begin;
-    const ssize_t count = ::pread(handle, begin.data(), begin.size(), 0);
-    return count > 0 && std::memchr(begin.data(), '\n', static_cast<std::size_t>(count)) != nullptr;
 }
 
 // The checksum of this logbook, for which it is looked at when the first journal asks.
@@ -92,21 +79,15 @@ std::vector<std::filesystem::path> FilesByAge(const std::filesystem::path& folde
 LostComments::LostComments(const std::filesystem::path& folder, const EntryTable& entries) {
     ChecksumOnDemand checksum(entries);
     for (const std::filesystem::path& path : FilesByAge(folder)) {
-        const int handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW);
-        if (handle < 0)
+        std::optional<LostJournal> journal = LostJournal::Hold(path);
+        if (!journal)
             continue;
         std::ifstream stream(path, std::ios::binary);
-        if (!BeginsLikeAJournal(handle) || ::flock(handle, LOCK_EX | LOCK_NB) != 0) {
-            ::close(handle);
-            continue;
-        }
         const Json header = NextLine(stream);
         if (!header.is_object() || NumberIn(header, "entries") != entries.Count() ||
-            TextIn(header, "logbook") != checksum()) {
-            ::close(handle);
+            TextIn(header, "logbook") != checksum())
             continue;
-        }
-        journals_.push_back({path, handle});
+        journals_.push_back(std::move(*journal));
         for (Json line = NextLine(stream); !line.is_discarded(); line = NextLine(stream)) {
             const std::optional<EntryNumber> number = NumberIn(line, "entry");
             std::optional<std::string> comment = TextIn(line, "comment");
@@ -118,44 +99,29 @@ LostComments::LostComments(const std::filesystem::path& folder, const EntryTable
                   [&](const auto& comment) { return entries.Comment(comment.first) == comment.second; });
 }
 
-LostComments::~LostComments() {
-    for (const Journal& journal : journals_)
-        ::close(journal.Handle);
-}
-
 void LostComments::Remove() {
-    std::error_code ignored;
-    for (const Journal& journal : journals_)
-        std::filesystem::remove(journal.File, ignored);
+    for (const LostJournal& journal : journals_)
+        journal.Remove();
 }
-
-namespace {
-
-// Sets the comments and notes them anew. The journals that held them go when none of them needs one any more.
-void Restore(LostComments& lost, EntryTable& entries, CommentJournal& journal) {
-    std::vector<EntryNumber> numbers;
-    for (const auto& [number, comment] : lost.Comments()) {
-        entries.SetComment(number, comment);
-        numbers.push_back(number);
-    }
-    if (!journal.Note(entries, numbers))
-        lost.Remove();
-}
-
-} // namespace
 
 bool OfferLostComments(EntryTable& entries, LogbookState& state, CommentJournal& journal,
                        UserInterface& user) {
     LostComments lost(journal.Folder(), entries);
     if (lost.Comments().empty()) {
-        lost.Remove();
+        journal.Keep(lost.TakeJournals(), {});
         return false;
     }
     switch (user.Ask(TextId::AskRestoreComments)) {
-    case UserInterface::Answer::Yes:
-        Restore(lost, entries, journal);
+    case UserInterface::Answer::Yes: {
+        std::vector<EntryNumber> restored;
+        for (const auto& [number, comment] : lost.Comments()) {
+            entries.SetComment(number, comment);
+            restored.push_back(number);
+        }
+        journal.Keep(lost.TakeJournals(), restored);
         state.CommentsEdited = true;
         return true;
+    }
     case UserInterface::Answer::No:
         lost.Remove();
         break;

@@ -4,11 +4,13 @@
 #include "logbook/EntryTable.h"
 #include "sources/CommentJournal.h"
 #include "sources/LogbookState.h"
+#include "sources/LostJournal.h"
 #include "sources/UserInterface.h"
 
 #include <filesystem>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 // The comments of one logbook in the journals of copies of the program that no longer run. The journals are
@@ -18,9 +20,6 @@ class LostComments {
     // Looks for the journals of this logbook in a folder; without any journal that costs nothing. Files that
     // are none, and lines that a crash cut off, are passed over.
     LostComments(const std::filesystem::path& folder, const EntryTable& entries);
-    ~LostComments();
-    LostComments(const LostComments&) = delete;
-    LostComments& operator=(const LostComments&) = delete;
 
     // The comments that differ from those of the logbook, by entry number; an empty one was removed.
     const std::map<EntryNumber, std::string>& Comments() const { return comments_; }
@@ -28,19 +27,17 @@ class LostComments {
     // Removes the journals.
     void Remove();
 
-  private:
-    struct Journal {
-        std::filesystem::path File;
-        int Handle = -1;
-    };
+    // Hands the journals over, still held.
+    std::vector<LostJournal> TakeJournals() { return std::move(journals_); }
 
-    std::vector<Journal> journals_;
+  private:
+    std::vector<LostJournal> journals_;
     std::map<EntryNumber, std::string> comments_;
 };
 
 // Offers lost comments of a logbook that was just opened. True when the entries have got them; they then
 // count as edited and not saved. Declined ones are removed; where the person decides neither way, they are
-// offered again the next time. Journals of comments that the logbook has got by other ways go without a
-// question.
+// offered again the next time. Nobody is asked about comments that the logbook has as they are; `journal`
+// keeps these, and restored ones, until the comments of the logbook are saved.
 bool OfferLostComments(EntryTable& entries, LogbookState& state, CommentJournal& journal,
                        UserInterface& user);

@@ -33,6 +33,7 @@ class HelpBesideDialogsTest : public MainWindowTest {
     Q_OBJECT
 
   private slots:
+    void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void init() {
         StartAfresh();
         dialogs_ = 0;

@@ -83,7 +83,7 @@ TEST_F(CommentJournalTest, EachCommentIsALineBehindTheLogbook) {
 
 TEST_F(CommentJournalTest, GoesWhenItsCommentsAreSavedOrDeclined) {
     EXPECT_FALSE(Enter(Journal, 0, "a"));
-    Journal.Remove();
+    Journal.Saved();
     EXPECT_THAT(Files(), IsEmpty());
     EXPECT_FALSE(Enter(Journal, 0, "b"));
     EXPECT_EQ(Files().size(), 1U);
@@ -95,10 +95,10 @@ TEST_F(CommentJournalTest, CommentsComeBackAfterACrash) {
     EXPECT_THAT(User.Questions, ElementsAre(TextId::AskRestoreComments));
     EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "second"), Pair(4, "x")));
     EXPECT_TRUE(Known.CommentsEdited);
-    // They are as safe as before, in one file.
+    // They are as safe as before.
     EXPECT_EQ(Files().size(), 1U);
     EXPECT_THAT(LostComments(State, Book).Comments(), IsEmpty());
-    Journal.Remove();
+    Journal.Saved();
     EXPECT_THAT(Files(), IsEmpty());
 }
 
@@ -142,12 +142,59 @@ TEST_F(CommentJournalTest, RemovedCommentIsRemovedAgain) {
     EXPECT_THAT(Book.Comments(), IsEmpty());
 }
 
+TEST_F(CommentJournalTest, RestoredCommentsThatAreDroppedGo) {
+    Crash({{1, "a"}});
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    EXPECT_EQ(Files().size(), 1U);
+    EXPECT_FALSE(Enter(Journal, 2, "b"));
+    EXPECT_EQ(Files().size(), 2U);
+    Journal.Dropped();
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
 TEST_F(CommentJournalTest, CommentsThatTheLogbookHasAreNotOffered) {
     Crash({{1, "a"}, {2, ""}});
     Book.SetComment(1, "a");
     EXPECT_FALSE(Offer());
     EXPECT_THAT(User.Questions, IsEmpty());
+    EXPECT_FALSE(Known.CommentsEdited);
+}
+
+// The logbook that was open at the crash had a comment that this one, its plain copy, never had.
+TEST_F(CommentJournalTest, RemovedCommentOutlivesAnotherCopyOfTheLogbook) {
+    Book.SetComment(2, "of the archive");
+    {
+        CommentJournal journal(State);
+        EXPECT_FALSE(Enter(journal, 2, ""));
+    }
+    EXPECT_FALSE(Offer());
+    EXPECT_FALSE(Enter(Journal, 0, "unwanted"));
+    Journal.Dropped();
+    EXPECT_EQ(Files().size(), 1U);
+
+    FillTable(Book, Entries(5));
+    Book.SetComment(2, "of the archive");
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    EXPECT_THAT(Book.Comments(), IsEmpty());
+}
+
+TEST_F(CommentJournalTest, CommentsThatTheLogbookHasGoWhenItIsSaved) {
+    Crash({{1, "a"}});
+    Book.SetComment(1, "a");
+    EXPECT_FALSE(Offer());
+    EXPECT_FALSE(Enter(Journal, 1, "better"));
+    Journal.Saved();
     EXPECT_THAT(Files(), IsEmpty());
+}
+
+TEST_F(CommentJournalTest, KeptCommentsAreNotOfferedElsewhere) {
+    Crash({{1, "a"}});
+    Book.SetComment(1, "a");
+    EXPECT_FALSE(Offer());
+    FillTable(Book, Entries(5));
+    EXPECT_THAT(LostComments(State, Book).Comments(), IsEmpty());
+    Journal.Dropped();
+    EXPECT_EQ(LostComments(State, Book).Comments().size(), 1U);
 }
 
 TEST_F(CommentJournalTest, OtherLogbooksAreNotConcerned) {
@@ -186,7 +233,8 @@ TEST_F(CommentJournalTest, OfTwoCrashesTheLaterCounts) {
     fs::last_write_time(early, fs::last_write_time(early) - std::chrono::hours(1));
     EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
     EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "late"), Pair(2, "kept")));
-    EXPECT_EQ(Files().size(), 1U);
+    Journal.Saved();
+    EXPECT_THAT(Files(), IsEmpty());
 }
 
 TEST_F(CommentJournalTest, EveryCutOffFileGivesItsWholeLines) {
@@ -261,7 +309,7 @@ TEST_F(CommentJournalTest, FileThatSomebodyRemovedIsMadeAnewWithAllComments) {
     const std::string content = FileContent(Files().front());
     EXPECT_NE(content.find("\"first\""), std::string::npos);
     EXPECT_NE(content.find("\"second\""), std::string::npos);
-    journal.Remove();
+    journal.Saved();
     EXPECT_THAT(Files(), IsEmpty());
 }
 
@@ -281,16 +329,25 @@ TEST_F(CommentJournalTest, FolderThatCannotBeMadeIsTold) {
     EXPECT_FALSE(Offer());
 }
 
-TEST_F(CommentJournalTest, LostCommentsStayInTheirFileWhereNoNewOneCanBeWritten) {
+TEST_F(CommentJournalTest, RestoringNeedsNoRoomOnTheDisk) {
     Crash({{1, "a"}});
-    {
-        const SmallFiles full(10);
-        EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
-    }
+    const SmallFiles full(10);
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
     EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "a")));
     EXPECT_EQ(Files().size(), 1U);
-    FillTable(Book, Entries(5));
-    EXPECT_EQ(LostComments(State, Book).Comments().size(), 1U);
+    Journal.Saved();
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
+TEST_F(CommentJournalTest, RestoredCommentsAreNotedAgainWithTheNextOne) {
+    Crash({{1, "a"}});
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    fs::remove_all(State);
+    EXPECT_FALSE(Enter(Journal, 2, "b"));
+    ASSERT_EQ(Files().size(), 1U);
+    const std::string content = FileContent(Files().front());
+    EXPECT_NE(content.find("\"a\""), std::string::npos);
+    EXPECT_NE(content.find("\"b\""), std::string::npos);
 }
 
 TEST(LogbookChecksumTest, TellsEveryFieldOfEveryEntry) {
@@ -315,6 +372,38 @@ TEST(LogbookChecksumTest, TellsEveryFieldOfEveryEntry) {
             EXPECT_NE(sumOf(other), sum);
     }
     EXPECT_NE(sumOf({plain[1], plain[0], plain[2]}), sum);
+}
+
+// The same bytes give other letters, of other lengths, with another code page.
+TEST(LogbookChecksumTest, IsTheSameUnderAnotherCodePage) {
+    const auto sumOf = [](const char* locale) {
+        EntryTable table;
+        ParsedEntry entry;
+        entry.Data = "\xD6"
+                     "ffnen \x80 \x81";
+        entry.Sender = "\xDC";
+        entry.Name = "Gr\xFC"
+                     "\xDF";
+        entry.Time = "kein Datum \xE4";
+        table.Append(entry, CodePage::ForLocale(locale));
+        table.Append(entry, CodePage::ForLocale(locale));
+        return LogbookChecksum(table);
+    };
+    const std::string german = sumOf("de_DE.UTF-8");
+    for (const char* locale : {"ru_RU", "cs_CZ", "el_GR", "tr_TR", "lt_LT"})
+        EXPECT_EQ(sumOf(locale), german) << locale;
+}
+
+TEST(LogbookChecksumTest, TellsWhereATextEnds) {
+    const auto sumOf = [](const std::string& first, const std::string& second) {
+        EntryTable table;
+        FillTable(table, {{EventTypes::Info, first, "NC", "name"}, {EventTypes::Info, second, "NC", "name"}});
+        return LogbookChecksum(table);
+    };
+    EXPECT_NE(sumOf("ab", "c"), sumOf("a", "bc"));
+    const std::string large(40000, 'x');
+    EXPECT_NE(sumOf(large + 'a', "b"), sumOf(large, "ab"));
+    EXPECT_NE(sumOf(large + 'a', "b"), sumOf(large + 'b', "b"));
 }
 
 TEST(LogbookChecksumTest, CommentsDoNotCount) {

@@ -43,6 +43,8 @@ class Session : public MainWindowTest {
     struct Lost {
         SessionEntries Logbook; // without comments
         std::map<int, QString> Comments;
+        bool Held = false;     // by the window, as the logbook has the comments
+        bool Restored = false; // from it just now
     };
 
     // Adds to what the order is in words.
@@ -67,6 +69,7 @@ class Session : public MainWindowTest {
     Leave PlanLeaving(bool closing = false);
     bool PlanArchive();
     void PlanRestoring();
+    void LetLostGo();
     void Show(const Source& source, bool withFilters);
     void Drop(const QString& path);
 

@@ -38,8 +38,11 @@ Session::Leave Session::PlanLeaving(bool closing) {
     if (answer == QMessageBox::Yes) {
         const bool saved = PlanArchive();
         // The window closes all the same, and the comments come back with the logbook.
-        if (!saved && closing)
+        if (!saved && closing) {
+            for (Lost& lost : lost_)
+                lost.Held = lost.Restored = false;
             lost_.push_back({Model.BareEntries(), Model.Noted});
+        }
         return saved || closing ? Leave::Go : Leave::Stay;
     }
     return answer == QMessageBox::No ? Leave::Go : Leave::Stay;
@@ -75,6 +78,7 @@ bool Session::PlanArchive() {
         archives_.erase(archives_.begin());
     Model.CommentsEdited = false;
     Model.Noted.clear();
+    lost_.removeIf([](const Lost& lost) { return lost.Held; });
     return true;
 }
 
@@ -96,9 +100,17 @@ void Session::Show(const Source& source, bool withFilters) {
         Model.StoredFilters = source.Filters;
         Model.StoredStrings = strings;
     }
+    LetLostGo();
     Model.Read(source.Entries, source.Name);
     shown_ = source;
     PlanRestoring();
+}
+
+// The logbook goes, and with it those comments that were restored and then not saved.
+void Session::LetLostGo() {
+    lost_.removeIf([](const Lost& lost) { return lost.Restored; });
+    for (Lost& lost : lost_)
+        lost.Held = false;
 }
 
 // Comments of this logbook that were not saved when the window closed are offered, the later of an entry
@@ -123,8 +135,13 @@ void Session::PlanRestoring() {
                                         : "leaves lost comments");
         Answers.ExpectMessage(Localised(AskRestore[0], AskRestore[1]), answer);
     }
-    if (answer != QMessageBox::Cancel)
+    if (!comments.empty() && answer == QMessageBox::No)
         lost_.removeIf([&](const Lost& lost) { return lost.Logbook == bare; });
+    for (Lost& lost : lost_)
+        if (lost.Logbook == bare && (comments.empty() || answer == QMessageBox::Yes)) {
+            lost.Held = true;
+            lost.Restored = !comments.empty();
+        }
     if (answer != QMessageBox::Yes)
         return;
     for (const auto& [entry, comment] : comments)
@@ -191,6 +208,7 @@ void Session::Refresh() {
         const QString title = Model.Title;
         for (SessionEntry& entry : shown_.Entries)
             entry.Comment.clear();
+        LetLostGo();
         Model.Read(shown_.Entries, "");
         Model.Title = title;
     }
@@ -225,6 +243,7 @@ void Session::Restart() {
         return Answers.Blame("the window does not close as it should");
     if (!goes)
         return;
+    LetLostGo();
     Model.Restart();
     StartProgram();
     if (Window->isMaximized() != maximised ||
