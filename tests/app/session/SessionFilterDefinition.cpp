@@ -23,6 +23,7 @@ SessionFilter Session::AnyFilter() {
     // Rarely a text with the sign that separates the fields: it costs the whole list when that is stored.
     filter.Text = filter.Type == 8 ? AnyOf(dice_, NumberTexts)
                   : Chance(60)     ? "a | b"
+                  : Chance(3)      ? QString()
                                    : AnyOf(dice_, FilterTexts);
     filter.Name = Chance(3) ? AnyOf(dice_, SessionWords::Names) : QString();
     filter.Sender = Chance(3) ? AnyOf(dice_, SessionWords::Senders) : QString();
