@@ -32,6 +32,7 @@ const Session::Order Session::OrderTable[] = {
     {3, &Session::Refresh},
     {1, &Session::RewriteAndRefresh},
     {1, &Session::Restart},
+    {1, &Session::Crash},
     {1, &Session::EditFiltersByPopup},
 };
 

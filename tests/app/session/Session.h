@@ -39,7 +39,7 @@ class Session : public MainWindowTest {
         bool IsArchive = false;
     };
 
-    // Comments that were neither saved nor dropped when the window closed.
+    // Comments that were neither saved nor dropped when the window closed or the program crashed.
     struct Lost {
         SessionEntries Logbook; // without comments
         std::map<int, QString> Comments;
@@ -63,6 +63,7 @@ class Session : public MainWindowTest {
     void Refresh();
     void RewriteAndRefresh();
     void Restart();
+    void Crash();
     Source& AnySource();
     void PlanReading(const Source& source, QMessageBox::StandardButton replaceFilters);
     enum class Leave { Go, Stay };
@@ -70,6 +71,7 @@ class Session : public MainWindowTest {
     bool PlanArchive();
     void PlanRestoring();
     void LetLostGo();
+    void LoseComments();
     void Show(const Source& source, bool withFilters);
     void Drop(const QString& path);
 
@@ -136,8 +138,9 @@ class Session : public MainWindowTest {
     SessionPerson Answers;
     QList<Source> logbooks_;
     QList<Source> archives_;
-    QList<Lost> lost_; // the oldest first
-    Source shown_;     // as it was opened
+    QList<Lost> lost_;           // the oldest first
+    bool contentStored_ = false; // the content pane was shown when the window was closed the last time
+    Source shown_;               // as it was opened
     int archivesMade_ = 0;
     QList<int> columnWidths_; // as set
     bool toolBarShown_ = true;

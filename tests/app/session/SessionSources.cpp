@@ -38,14 +38,19 @@ Session::Leave Session::PlanLeaving(bool closing) {
     if (answer == QMessageBox::Yes) {
         const bool saved = PlanArchive();
         // The window closes all the same, and the comments come back with the logbook.
-        if (!saved && closing) {
-            for (Lost& lost : lost_)
-                lost.Held = lost.Restored = false;
-            lost_.push_back({Model.BareEntries(), Model.Noted});
-        }
+        if (!saved && closing)
+            LoseComments();
         return saved || closing ? Leave::Go : Leave::Stay;
     }
     return answer == QMessageBox::No ? Leave::Go : Leave::Stay;
+}
+
+// What was noted stays, and what was held is free again.
+void Session::LoseComments() {
+    for (Lost& lost : lost_)
+        lost.Held = lost.Restored = false;
+    if (!Model.Noted.empty())
+        lost_.push_back({Model.BareEntries(), Model.Noted});
 }
 
 // What comes when an archive is saved; false when it is not saved after all.
@@ -244,6 +249,7 @@ void Session::Restart() {
     if (!goes)
         return;
     LetLostGo();
+    contentStored_ = Model.ContentShown;
     Model.Restart();
     StartProgram();
     if (Window->isMaximized() != maximised ||
@@ -255,4 +261,14 @@ void Session::Restart() {
                           .arg(size.height()));
     if (columnWidths_.first(6) != widths.first(6))
         Answers.Blame("the columns have other widths than before");
+}
+
+// The program ends without having been closed, and is started again. The window is as it was stored the last
+// time.
+void Session::Crash() {
+    Say("crashes");
+    LoseComments();
+    Model.ContentShown = contentStored_;
+    Model.Restart();
+    StartProgram();
 }
