@@ -2,9 +2,13 @@
 #include "logbook/FoldIntoPrevious.h"
 
 #include "logbook/EventLines.h"
+#include "logbook/ShortText.h"
 #include "logbook/modUtil.h"
 
-#include <array>
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -12,54 +16,87 @@ namespace {
 
 constexpr std::string_view Arrow = "->"; // word 1 of a key that was pressed and released
 
-// Takes the first word off a text whose words are separated by single blanks. A text without a blank is one
-// word, and `rest` has no further one then.
-std::string_view TakeWord(std::string_view& rest, bool& further) {
-    const std::size_t blank = FindBlank(rest);
-    further = blank < rest.size();
-    const std::string_view word = rest.substr(0, blank);
-    rest.remove_prefix(further ? blank + 1 : blank);
-    return word;
-}
+// The words of a text, which are separated by single blanks, one after the other. Key strokes are short:
+// their blanks are found once, and each word then costs a few operations on bits.
+class Words {
+  public:
+    explicit Words(std::string_view text) : text_(text), blanks_(BlankBits(text.substr(0, MostBlankBits))) {}
 
-// Word `number`, from 0; "" when there is none.
-std::string_view Word(std::string_view text, int number) {
-    bool further = true;
-    std::string_view word;
-    for (; further && number >= 0; --number)
-        word = TakeWord(text, further);
-    return number < 0 ? word : std::string_view{};
-}
+    // Whether a word is left; a text has at least one, which may be "".
+    bool HasNext() const { return next_ <= text_.size(); }
 
-bool BeginsWithWord(std::string_view text, std::string_view word) {
-    return text.starts_with(word) && (text.size() == word.size() || text[word.size()] == Blank);
-}
+    // The next word; "" when none is left.
+    std::string_view Take() {
+        if (!HasNext())
+            return {};
+        const std::size_t end = NextBlank();
+        const std::string_view word(text_.data() + next_, end - next_);
+        next_ = end + 1;
+        return word;
+    }
 
-// "ENT down code 0x000D mode MANUAL" becomes "0x000D -> ENT | MANUAL".
-void FoldRelease(ParsedEntry& pressed) {
-    std::array<std::string_view, 6> words;
-    std::size_t count = 0;
-    std::string_view rest = pressed.Data;
-    for (bool further = true; further && count < words.size(); ++count)
-        words[count] = TakeWord(rest, further);
-    pressed.SetData({words[3], " -> ", words[0], count == words.size() ? LineSeparator : "", words[5]});
+  private:
+    std::size_t NextBlank() {
+        if (blanks_ != 0) {
+            const auto blank = static_cast<std::size_t>(std::countr_zero(blanks_));
+            blanks_ &= blanks_ - 1;
+            return blank;
+        }
+        if (text_.size() <= MostBlankBits)
+            return text_.size();
+        const std::size_t from = std::max(next_, MostBlankBits);
+        return from + FindBlank(text_.substr(from));
+    }
+
+    std::string_view text_;
+    std::uint64_t blanks_; // of the first 64 characters, those that no word was taken from
+    std::size_t next_ = 0; // where the next word begins; behind the text's end + 1: there is none
+};
+
+// "ENT down code 0x000D mode MANUAL", of which two words have been taken, becomes "0x000D -> ENT | MANUAL".
+void FoldRelease(ParsedEntry& pressed, std::string_view key, Words& words) {
+    constexpr std::string_view KeyArrow = " -> ";
+    words.Take();
+    const std::string_view code = words.Take();
+    words.Take();
+    const bool hasMode = words.HasNext();
+    const std::string_view mode = words.Take();
+
+    DataRoom& room = pressed.ShortDataRoom();
+    if (pressed.Data.size() > MostBlankBits || pressed.Data.data() == room.data()) {
+        pressed.SetData({code, KeyArrow, key, hasMode ? LineSeparator : "", mode});
+        return;
+    }
+    char* end = CopyShort(code, room.data());
+    end = CopyShort(KeyArrow, end);
+    end = CopyShort(key, end);
+    if (hasMode) {
+        end = CopyShort(LineSeparator, end);
+        end = CopyShort(mode, end);
+    }
+    pressed.Data = {room.data(), static_cast<std::size_t>(end - room.data())};
 }
 
 bool FoldKeyIntoKey(const ParsedEntry& next, ParsedEntry& previous) {
-    std::string_view nextRest = next.Data;
-    std::string_view previousRest = previous.Data;
-    bool nextHasTwo = false;
-    bool previousHasTwo = false;
-    const std::string_view nextWord0 = TakeWord(nextRest, nextHasTwo);
-    const std::string_view previousWord0 = TakeWord(previousRest, previousHasTwo);
-    if (!nextHasTwo || !previousHasTwo)
+    Words nextWords(next.Data);
+    const std::string_view nextWord0 = nextWords.Take();
+    if (!nextWords.HasNext())
         return false;
-    if (BeginsWithWord(nextRest, "up") && BeginsWithWord(previousRest, "down")) {
-        FoldRelease(previous);
+    const bool released = nextWords.Take() == "up";
+    const bool character = nextWord0.starts_with("0x00");
+    if (!released && !character)
+        return false;
+
+    Words previousWords(previous.Data);
+    const std::string_view previousWord0 = previousWords.Take();
+    if (!previousWords.HasNext())
+        return false;
+    const std::string_view previousWord1 = previousWords.Take();
+    if (released && previousWord1 == "down") {
+        FoldRelease(previous, previousWord0, previousWords);
         return true;
     }
-    if (!nextWord0.starts_with("0x00") || !previousWord0.starts_with("0x00") ||
-        !BeginsWithWord(previousRest, Arrow))
+    if (!character || previousWord1 != Arrow || !previousWord0.starts_with("0x00"))
         return false;
     const std::string first = HexToChar(previousWord0);
     const std::string second = HexToChar(nextWord0);
@@ -71,19 +108,21 @@ bool FoldKeyIntoKey(const ParsedEntry& next, ParsedEntry& previous) {
 }
 
 bool FoldKeyIntoKeystr(const ParsedEntry& next, ParsedEntry& previous) {
-    if (Word(next.Data, 1) != Arrow)
+    Words words(next.Data);
+    const std::string_view code = words.Take();
+    if (words.Take() != Arrow)
         return false;
-    const std::string character = HexToChar(Word(next.Data, 0));
+    const std::string character = HexToChar(code);
     previous.AppendToData(character);
     return !character.empty();
 }
 
 } // namespace
 
-bool FoldIntoPrevious(const ParsedEntry& next, ParsedEntry& previous) {
-    if (next.EventType == EventTypes::Key && previous.EventType == EventTypes::Key)
+bool FoldKeyOrRestart(const ParsedEntry& next, ParsedEntry& previous) {
+    if (next.EventType == EventTypes::Restart)
+        return previous.EventType == EventTypes::Restart;
+    if (previous.EventType == EventTypes::Key)
         return FoldKeyIntoKey(next, previous);
-    if (next.EventType == EventTypes::Key && previous.EventType == EventTypes::Keystr)
-        return FoldKeyIntoKeystr(next, previous);
-    return next.EventType == EventTypes::Restart && previous.EventType == EventTypes::Restart;
+    return previous.EventType == EventTypes::Keystr && FoldKeyIntoKeystr(next, previous);
 }

@@ -4,17 +4,23 @@
 #include "logbook/LogbookEntry.h"
 #include "logbook/StampRoom.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <string>
 #include <string_view>
 
+// Room for a key stroke as it is shown, put together from words of a text of at most 64 characters and what
+// stands between them.
+using DataRoom = std::array<char, 96>;
+
 // The entry that a line parser fills. Its texts still have one byte a character, as the logbook file has,
 // because every column rule counts characters; they are converted when the entry table stores the entry.
 //
 // The texts point into the lines that they were cut from, which stay valid until the file's lines are
-// released, or into texts that live longer, or into what SetData, TimeRoom and Keep made the entry's own.
+// released, or into texts that live longer, or into what SetData, ShortDataRoom, TimeRoom and Keep made the
+// entry's own.
 class ParsedEntry {
   public:
     std::int16_t EventType = EventTypes::None;
@@ -59,6 +65,9 @@ class ParsedEntry {
         Data = OwnedData;
     }
 
+    // Room for a short data text that is the entry's own.
+    DataRoom& ShortDataRoom() { return OwnedShortData; }
+
     // Room for a time that is the entry's own.
     StampRoom& TimeRoom() { return OwnedTime; }
 
@@ -82,6 +91,7 @@ class ParsedEntry {
     }
 
     std::string OwnedData;
+    DataRoom OwnedShortData{};
     StampRoom OwnedTime{};
     std::string OwnedFields;
     std::string JoinedParts;

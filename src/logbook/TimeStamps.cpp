@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/TimeStamps.h"
 
-#include "logbook/ShortCompare.h"
+#include "logbook/ShortText.h"
 
 #include <array>
 #include <bit>

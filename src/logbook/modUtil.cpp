@@ -37,6 +37,17 @@ constexpr std::array<Month, 12> Months{{
     {LettersOf("DEC"), ".12."},
 }};
 
+// The value of a character as an upper-case digit; -1 when it is none. In key codes digits and letters come
+// as they like, so that asking for their ranges would be guessed wrong every other time.
+constexpr std::array<std::int8_t, 256> HexDigits = [] {
+    std::array<std::int8_t, 256> digits{};
+    digits.fill(-1);
+    std::int8_t value = 0;
+    for (const char digit : std::string_view("0123456789ABCDEF"))
+        digits[static_cast<unsigned char>(digit)] = value++;
+    return digits;
+}();
+
 constexpr std::string_view PathSeparators = "\\/";
 
 // The month's number between its dots; "" for an unknown name.
@@ -75,8 +86,7 @@ std::string HexToChar(std::string_view text) {
     for (const char c : text) {
         if (value > Bound || value < -Bound)
             return {};
-        const int digit = c >= '0' && c <= '9' ? c - '0' : c >= 'A' && c <= 'F' ? c - 'A' + 10 : -1;
-        value = value * 16 + digit;
+        value = value * 16 + HexDigits[static_cast<unsigned char>(c)];
     }
     if (value < 32 || value > 126)
         return {};
