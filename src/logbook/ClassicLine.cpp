@@ -10,7 +10,7 @@
 namespace {
 
 using ReadFields = void (*)(std::string_view line, ParsedEntry& entry, clsFile& file,
-                            ReadingProgress& progress);
+                            ReadingProgress& progress, KnownHeaders& headers);
 
 struct KeywordRow {
     std::string_view Keyword;
@@ -19,11 +19,11 @@ struct KeywordRow {
     ReadFields Read;
 };
 
-void ReadTime(std::string_view line, ParsedEntry& entry, clsFile&, ReadingProgress&) {
+void ReadTime(std::string_view line, ParsedEntry& entry, clsFile&, ReadingProgress&, KnownHeaders&) {
     entry.Time = ClassicTime(line);
 }
 
-void ReadDataAndTime(std::string_view line, ParsedEntry& entry, clsFile&, ReadingProgress&) {
+void ReadDataAndTime(std::string_view line, ParsedEntry& entry, clsFile&, ReadingProgress&, KnownHeaders&) {
     entry.Data = ClassicData(line);
     entry.Time = ClassicTime(line);
 }
@@ -44,7 +44,8 @@ void LetEventsRun(ReadingProgress& progress) {
     }
 }
 
-void ReadRegisters(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress) {
+void ReadRegisters(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress,
+                   KnownHeaders&) {
     constexpr int ProgressStep = 1000; // lines
     entry.Time = ClassicTime(line);
     for (int lines = 1; line.find("PC") == std::string_view::npos; ++lines) {
@@ -58,20 +59,23 @@ void ReadRegisters(std::string_view line, ParsedEntry& entry, clsFile& file, Rea
     }
 }
 
-void ReadError(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress&) {
+void ReadError(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress&,
+               KnownHeaders& headers) {
     entry.Time = ClassicTime(line);
     if (IsContinuationNext(file)) {
-        ReadEventBody(line, entry, file);
-    } else {
-        entry.Data = ClassicData(line);
-        if (entry.Data.starts_with("RD:ACCESSERR LOGBOOK"))
-            entry.EventType = EventTypes::None;
+        ReadMessage(entry, file);
+        ReadHeader(line, entry, headers, SenderFromData(entry.Data));
+        return;
     }
+    entry.Data = ClassicData(line);
+    if (entry.Data.starts_with("RD:ACCESSERR LOGBOOK"))
+        entry.EventType = EventTypes::None;
     entry.Sender = SenderFromData(entry.Data);
 }
 
-void ReadStatus(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress) {
-    ReadDataAndTime(line, entry, file, progress);
+void ReadStatus(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress,
+                KnownHeaders& headers) {
+    ReadDataAndTime(line, entry, file, progress, headers);
     if (entry.Data == "On")
         entry.Image = Images::StatusOn;
     else if (entry.Data == "Blink")
@@ -80,18 +84,21 @@ void ReadStatus(std::string_view line, ParsedEntry& entry, clsFile& file, Readin
         entry.Image = Images::StatusOff;
 }
 
-void ReadPlc(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress) {
-    ReadDataAndTime(line, entry, file, progress);
+void ReadPlc(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress,
+             KnownHeaders& headers) {
+    ReadDataAndTime(line, entry, file, progress, headers);
     entry.Sender = "PLC";
 }
 
-void ReadEvent(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress&) {
+void ReadEvent(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress&,
+               KnownHeaders& headers) {
     entry.Time = ClassicTime(line);
-    ReadEventBody(line, entry, file);
+    ReadEventBody(line, entry, file, headers);
 }
 
-void ReadInfo(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress) {
-    ReadEvent(line, entry, file, progress);
+void ReadInfo(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress,
+              KnownHeaders& headers) {
+    ReadEvent(line, entry, file, progress, headers);
     InfoFinish(entry);
 }
 
@@ -113,11 +120,12 @@ constexpr KeywordTable<KeywordRow, 12> Keywords({{
 
 } // namespace
 
-void ParseClassicLine(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress) {
+void ParseClassicLine(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress,
+                      KnownHeaders& headers) {
     const KeywordRow* const keyword = Keywords.Find(line);
     if (keyword == nullptr)
         return;
     entry.EventType = keyword->EventType;
     entry.Image = keyword->Image;
-    keyword->Read(line, entry, file, progress);
+    keyword->Read(line, entry, file, progress, headers);
 }

@@ -50,9 +50,10 @@ std::uint64_t HashOf(const ParsedEntry& entry) {
 void EntryKinds::Clear() {
     kinds_.clear();
     slots_.assign(FirstSlotCount, {});
+    nameless_.fill(ParsedEntry::UnknownKind);
 }
 
-std::uint32_t EntryKinds::NumberOf(const ParsedEntry& entry, const CodePage& codePage) {
+std::uint32_t EntryKinds::Find(const ParsedEntry& entry, const CodePage& codePage) {
     const std::uint64_t hash = HashOf(entry);
     std::size_t slot = hash & (slots_.size() - 1);
     for (; slots_[slot].Place != nullptr; slot = (slot + 1) & (slots_.size() - 1)) {

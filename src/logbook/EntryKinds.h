@@ -4,6 +4,7 @@
 #include "logbook/CodePage.h"
 #include "logbook/ParsedEntry.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -27,7 +28,14 @@ class EntryKinds {
     EntryKinds() { Clear(); }
 
     // The number of an entry's kind, which is stored when it is new. Numbers run from 0 up to Count.
-    std::uint32_t NumberOf(const ParsedEntry& entry, const CodePage& codePage);
+    std::uint32_t NumberOf(const ParsedEntry& entry, const CodePage& codePage) {
+        std::uint32_t* const memo = entry.KindMemo != nullptr ? entry.KindMemo : MemoOfNameless(entry);
+        if (memo == nullptr)
+            return Find(entry, codePage);
+        if (*memo == ParsedEntry::UnknownKind)
+            *memo = Find(entry, codePage);
+        return *memo;
+    }
 
     // The kind stays where it is until Clear.
     const EntryKind& operator[](std::uint32_t number) const { return kinds_[number].Kind; }
@@ -47,8 +55,21 @@ class EntryKinds {
         std::uint32_t Number = 0;
     };
 
+    // Where the number is remembered for an entry that has neither sender nor name, as key strokes have not.
+    std::uint32_t* MemoOfNameless(const ParsedEntry& entry) {
+        const auto row = static_cast<std::uint16_t>(entry.EventType);
+        const auto column = static_cast<std::uint16_t>(entry.Image);
+        const bool nameless = (entry.Sender.size() | entry.Name.size()) == 0;
+        return nameless && row < NamelessSide && column < NamelessSide
+                   ? &nameless_[std::size_t{row} * NamelessSide + column]
+                   : nullptr;
+    }
+
+    std::uint32_t Find(const ParsedEntry& entry, const CodePage& codePage);
     void DoubleSlots();
 
+    static constexpr std::uint16_t NamelessSide = 16; // above all event types and icons
+    std::array<std::uint32_t, NamelessSide * NamelessSide> nameless_{};
     std::deque<Known> kinds_;
     std::vector<Slot> slots_; // a power of two, at most half of them taken
 };

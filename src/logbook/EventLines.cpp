@@ -45,10 +45,26 @@ bool IsContinuationNext(clsFile& file) {
     return start.empty() || start.front() == Blank;
 }
 
-void ReadEventBody(std::string_view line, ParsedEntry& entry, clsFile& file) {
-    const HeaderFields header = SplitHeader(line);
-    entry.Sender = header.Sender;
-    entry.Name = header.Name;
+void ReadHeader(std::string_view line, ParsedEntry& entry, KnownHeaders& headers, std::string_view reporter) {
+    // The three reporters differ in their length.
+    KnownHeader* const header = headers.Find(line, static_cast<std::uint32_t>(reporter.size()));
+    if (header != nullptr && header->HasFields()) {
+        header->GiveTo(entry);
+        return;
+    }
+    const HeaderFields fields = SplitHeader(line);
+    entry.Sender = reporter.empty() ? fields.Sender : reporter;
+    entry.Name = fields.Name;
+    if (header != nullptr)
+        header->TakeFrom(entry, line);
+}
+
+void ReadEventBody(std::string_view line, ParsedEntry& entry, clsFile& file, KnownHeaders& headers) {
+    ReadHeader(line, entry, headers);
+    ReadMessage(entry, file);
+}
+
+void ReadMessage(ParsedEntry& entry, clsFile& file) {
     ReadDataLine(entry, file);
     if (!IsContinuationNext(file))
         return;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/KnownHeaders.h"
 #include "logbook/ParsedEntry.h"
 #include "logbook/clsFile.h"
 #include "logbook/modUtil.h"
@@ -34,9 +35,16 @@ std::string_view SenderFromData(std::string_view data);
 // True when the next line is a continuation: it begins with a blank or is empty. Consumes nothing.
 bool IsContinuationNext(clsFile& file);
 
-// Fills Sender and Name from the header `line` and reads the message below it as Data. Continuation lines are
-// joined with LineSeparator, which then also ends the text; the list shows it so.
-void ReadEventBody(std::string_view line, ParsedEntry& entry, clsFile& file);
+// Fills Sender and Name from the header `line`; a `reporter` takes the place of the sender.
+void ReadHeader(std::string_view line, ParsedEntry& entry, KnownHeaders& headers,
+                std::string_view reporter = {});
+
+// ReadHeader, and the message below it as Data.
+void ReadEventBody(std::string_view line, ParsedEntry& entry, clsFile& file, KnownHeaders& headers);
+
+// The part of ReadEventBody for the message. Continuation lines are joined with LineSeparator, which then
+// also ends the text; the list shows it so.
+void ReadMessage(ParsedEntry& entry, clsFile& file);
 
 // Reads the next line as the event's data.
 void ReadDataLine(ParsedEntry& entry, clsFile& file);

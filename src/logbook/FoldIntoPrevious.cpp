@@ -103,6 +103,7 @@ bool FoldKeyIntoKey(const ParsedEntry& next, ParsedEntry& previous) {
     if (!first.empty() && !second.empty()) {
         previous.SetData({first, second});
         previous.EventType = EventTypes::Keystr;
+        previous.KindMemo = nullptr;
     }
     return true;
 }

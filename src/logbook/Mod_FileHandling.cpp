@@ -21,8 +21,9 @@ constexpr std::string_view SupportedVersion = "1.0";
 // One read from the file's first line to its last.
 class Reading {
   public:
-    Reading(clsFile& file, EntryCollector& entries, ReadingProgress& progress, const CodePage& codePage)
-        : File(file), Entries(entries), Progress(progress), Code(codePage) {}
+    Reading(clsFile& file, KnownHeaders& headers, EntryCollector& entries, ReadingProgress& progress,
+            const CodePage& codePage)
+        : File(file), Headers(headers), Entries(entries), Progress(progress), Code(codePage) {}
 
     // Decides the generation by the first line, which the classic generation reads again as an event.
     void Begin() {
@@ -32,7 +33,7 @@ class Reading {
             Kind = Generation::Separated;
             // The event below the first separator line is read with it and is not stored.
             ParsedEntry unused;
-            ParseSeparatedLine(line, unused, File, Date);
+            ParseSeparatedLine(line, unused, File, Date, Headers);
         } else if (line.starts_with(OperationHeading)) {
             Kind = Generation::Operation;
             const std::string_view version = Right(line, SupportedVersion.size());
@@ -63,13 +64,13 @@ class Reading {
     void ParseLine(std::string_view line, ParsedEntry& entry) {
         switch (Kind) {
         case Generation::Classic:
-            ParseClassicLine(line, entry, File, Progress);
+            ParseClassicLine(line, entry, File, Progress, Headers);
             break;
         case Generation::Separated:
-            ParseSeparatedLine(line, entry, File, Date);
+            ParseSeparatedLine(line, entry, File, Date, Headers);
             break;
         case Generation::Operation:
-            ParseOperationLine(line, entry, File);
+            ParseOperationLine(line, entry, File, Headers);
             break;
         }
     }
@@ -96,6 +97,7 @@ class Reading {
     }
 
     clsFile& File;
+    KnownHeaders& Headers;
     EntryCollector& Entries;
     ReadingProgress& Progress;
     const CodePage& Code;
@@ -121,9 +123,10 @@ bool EndUnfinished(Logbook& logbook, EntryCollector& entries) {
 bool ReadLogbook(const std::string& path, Logbook& logbook, std::string& title, ReadingProgress& progress,
                  const CodePage& codePage) {
     logbook.LoadState = LoadStates::Opening;
-    // The file outlives the collector: the last entry's texts may still point into its lines when the error
+    // File and headers outlive the collector: the last entry's texts may still point into them when the error
     // exit hands it to the table.
     clsFile file;
+    KnownHeaders headers;
     EntryCollector entries(logbook.Entries, codePage);
     try {
         if (!file.OpenFile(path, true)) {
@@ -132,7 +135,7 @@ bool ReadLogbook(const std::string& path, Logbook& logbook, std::string& title, 
             return false;
         }
         entries.Begin(file.FileSize());
-        Reading reading(file, entries, progress, codePage);
+        Reading reading(file, headers, entries, progress, codePage);
         reading.Begin();
 
         std::string folder;

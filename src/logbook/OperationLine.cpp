@@ -53,29 +53,41 @@ void TurnStartIntoRestart(ParsedEntry& entry) {
         return;
     entry.EventType = EventTypes::Restart;
     entry.Image = Images::Restart;
+    entry.KindMemo = nullptr;
+}
+
+void ReadSender(const KeywordRow& row, std::string_view line, ParsedEntry& entry, KnownHeaders& headers) {
+    KnownHeader* const header = headers.Find(line);
+    if (header != nullptr && header->HasFields()) {
+        header->GiveTo(entry);
+        return;
+    }
+    entry.Sender = Trim(Mid(line, row.SenderColumn, row.SenderLength));
+    // A key that has no name is told by its code; that is no sender.
+    if (row.EventType == EventTypes::Key && entry.Sender.starts_with("0x"))
+        entry.Sender = {};
+    entry.Name = row.Name;
+    if (header != nullptr)
+        header->TakeFrom(entry, line);
 }
 
 } // namespace
 
-void ParseOperationLine(std::string_view line, ParsedEntry& entry, clsFile& file) {
+void ParseOperationLine(std::string_view line, ParsedEntry& entry, clsFile& file, KnownHeaders& headers) {
     const KeywordRow* const keyword = Keywords.Find(line);
     if (keyword == nullptr)
         return;
     entry.EventType = keyword->EventType;
     entry.Image = keyword->Image;
-    entry.Name = keyword->Name;
     entry.Time = ClassicTime(line);
     if (keyword->SenderColumn != 0)
-        entry.Sender = Trim(Mid(line, keyword->SenderColumn, keyword->SenderLength));
+        ReadSender(*keyword, line, entry, headers);
 
     if (keyword->Data == DataFrom::Header)
         entry.Data = Trim(Mid(line, 6, 23));
     else
         ReadMessageBlock(entry, file);
 
-    // A key that has no name is told by its code; that is no sender.
-    if (entry.EventType == EventTypes::Key && entry.Sender.starts_with("0x"))
-        entry.Sender = {};
     if (entry.EventType == EventTypes::Info && entry.Image == Images::Info)
         TurnStartIntoRestart(entry);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/KnownHeaders.h"
 #include "logbook/ParsedEntry.h"
 #include "logbook/clsFile.h"
 
@@ -11,4 +12,4 @@
 //
 // Fills `entry` as ParseClassicLine does. Throws RunTimeError for a keyword line that is too short for its
 // stamp.
-void ParseOperationLine(std::string_view line, ParsedEntry& entry, clsFile& file);
+void ParseOperationLine(std::string_view line, ParsedEntry& entry, clsFile& file, KnownHeaders& headers);

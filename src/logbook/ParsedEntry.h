@@ -30,6 +30,12 @@ class ParsedEntry {
     std::string_view Time;
     std::int16_t Image = Images::Info;
 
+    // Where the number of the entry's kind is remembered, once the entry table has found it; nullptr when
+    // nothing is known to be the same again. Whoever changes one of the fields of the kind sets it to
+    // nullptr.
+    static constexpr std::uint32_t UnknownKind = 0xFFFFFFFF;
+    std::uint32_t* KindMemo = nullptr;
+
     ParsedEntry() = default;
     ParsedEntry(const ParsedEntry&) = delete;
     ParsedEntry& operator=(const ParsedEntry&) = delete;
@@ -43,6 +49,7 @@ class ParsedEntry {
         Data = {};
         Time = {};
         Image = Images::Info;
+        KindMemo = nullptr;
     }
 
     // Appends to a data text that is the entry's own; the first time, what Data is becomes that.

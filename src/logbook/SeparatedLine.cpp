@@ -10,7 +10,7 @@
 
 namespace {
 
-using ReadFields = void (*)(std::string_view line, ParsedEntry& entry, clsFile& file);
+using ReadFields = void (*)(std::string_view line, ParsedEntry& entry, clsFile& file, KnownHeaders& headers);
 
 struct KeywordRow {
     std::string_view Keyword;
@@ -68,19 +68,23 @@ std::string_view KeyText(std::string_view line) {
     return Trim(text);
 }
 
-void ReadNothingMore(std::string_view, ParsedEntry&, clsFile&) {}
+void ReadNothingMore(std::string_view, ParsedEntry&, clsFile&, KnownHeaders&) {}
 
-void ReadData(std::string_view, ParsedEntry& entry, clsFile& file) { ReadDataLine(entry, file); }
+void ReadData(std::string_view, ParsedEntry& entry, clsFile& file, KnownHeaders&) {
+    ReadDataLine(entry, file);
+}
 
-void ReadError(std::string_view line, ParsedEntry& entry, clsFile& file) {
+void ReadError(std::string_view line, ParsedEntry& entry, clsFile& file, KnownHeaders&) {
     if (SplitHeader(line).Sender.empty())
         ReadDataLine(entry, file);
     entry.Sender = SenderFromData(entry.Data);
 }
 
-void ReadKey(std::string_view line, ParsedEntry& entry, clsFile&) { entry.Data = KeyText(line); }
+void ReadKey(std::string_view line, ParsedEntry& entry, clsFile&, KnownHeaders&) {
+    entry.Data = KeyText(line);
+}
 
-void ReadStatus(std::string_view line, ParsedEntry& entry, clsFile&) {
+void ReadStatus(std::string_view line, ParsedEntry& entry, clsFile&, KnownHeaders&) {
     entry.Data = Trim(Mid(line, 6, 23));
     if (entry.Data == "ON")
         entry.Image = Images::StatusOn;
@@ -90,13 +94,13 @@ void ReadStatus(std::string_view line, ParsedEntry& entry, clsFile&) {
         entry.Image = Images::StatusOff;
 }
 
-void ReadPlc(std::string_view, ParsedEntry& entry, clsFile& file) {
+void ReadPlc(std::string_view, ParsedEntry& entry, clsFile& file, KnownHeaders&) {
     ReadDataLine(entry, file);
     entry.Sender = "PLC";
 }
 
-void ReadInfo(std::string_view line, ParsedEntry& entry, clsFile& file) {
-    ReadEventBody(line, entry, file);
+void ReadInfo(std::string_view line, ParsedEntry& entry, clsFile& file, KnownHeaders& headers) {
+    ReadEventBody(line, entry, file, headers);
     InfoFinish(entry);
 }
 
@@ -116,7 +120,8 @@ constexpr KeywordTable<KeywordRow, 10> Keywords({{
 
 } // namespace
 
-void ParseSeparatedLine(std::string_view line, ParsedEntry& entry, clsFile& file, SeparatorDate& date) {
+void ParseSeparatedLine(std::string_view line, ParsedEntry& entry, clsFile& file, SeparatorDate& date,
+                        KnownHeaders& headers) {
     if (line.starts_with("___")) {
         TakeDate(line, date);
         file.ReadLine(line);
@@ -127,5 +132,5 @@ void ParseSeparatedLine(std::string_view line, ParsedEntry& entry, clsFile& file
     entry.EventType = keyword->EventType;
     entry.Image = keyword->Image;
     entry.Time = SeparatedTime(line, date, entry.TimeRoom());
-    keyword->Read(line, entry, file);
+    keyword->Read(line, entry, file, headers);
 }

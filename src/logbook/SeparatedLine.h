@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/KnownHeaders.h"
 #include "logbook/ParsedEntry.h"
 #include "logbook/clsFile.h"
 
@@ -18,4 +19,5 @@ struct SeparatorDate {
 //
 // Fills `entry` as ParseClassicLine does. `date` is kept between calls; a separator line is followed at
 // once by the line after it. Throws RunTimeError for a key line whose clock stands before its text.
-void ParseSeparatedLine(std::string_view line, ParsedEntry& entry, clsFile& file, SeparatorDate& date);
+void ParseSeparatedLine(std::string_view line, ParsedEntry& entry, clsFile& file, SeparatorDate& date,
+                        KnownHeaders& headers);
