@@ -103,3 +103,16 @@ inline std::uint64_t BlankBits(std::string_view text) {
         bits |= static_cast<std::uint64_t>(text[place] == Blank ? 1 : 0) << place;
     return bits;
 }
+
+// Trim for a field that is filled up with many blanks, or none; these cost nothing here.
+inline std::string_view TrimPadded(std::string_view text) {
+    if (text.empty() || text.size() > MostBlankBits)
+        return Trim(text);
+    const std::uint64_t all = ~std::uint64_t{0} >> (MostBlankBits - text.size());
+    const std::uint64_t other = BlankBits(text) ^ all;
+    if (other == 0)
+        return {};
+    const auto first = static_cast<std::size_t>(std::countr_zero(other));
+    const auto end = static_cast<std::size_t>(std::bit_width(other));
+    return {text.data() + first, end - first};
+}

@@ -10,7 +10,14 @@ constexpr std::int64_t HeaderLength = 23;
 
 std::int64_t Length(std::string_view text) { return static_cast<std::int64_t>(text.size()); }
 
-bool EndsInMilliseconds(std::string_view line) { return Mid(line, Length(line) - 3, 1) == "."; }
+// The place of the character in front of the last `count`; there must be one.
+const char* BeforeLast(std::string_view line, std::size_t count) {
+    if (line.size() <= count)
+        ThrowTooShort();
+    return line.data() + line.size() - count - 1;
+}
+
+bool EndsInMilliseconds(std::string_view line) { return *BeforeLast(line, 3) == '.'; }
 
 } // namespace
 
@@ -21,13 +28,14 @@ HeaderFields SplitHeader(std::string_view line) {
 }
 
 std::string_view ClassicData(std::string_view line) {
-    return Trim(Mid(line, HeaderColumn, Length(line) - (EndsInMilliseconds(line) ? 32 : 29)));
+    return TrimPadded(Mid(line, HeaderColumn, Length(line) - (EndsInMilliseconds(line) ? 32 : 29)));
 }
 
 std::string_view ClassicTime(std::string_view line) {
     if (EndsInMilliseconds(line))
         return Right(line, 23);
-    return Right(line, Mid(line, Length(line) - 11, 2) == "  " ? 20 : 19);
+    const char* const front = BeforeLast(line, 11);
+    return Right(line, front[0] == Blank && front[1] == Blank ? 20 : 19);
 }
 
 std::string_view SenderFromData(std::string_view data) {
@@ -36,13 +44,6 @@ std::string_view SenderFromData(std::string_view data) {
     if (data.starts_with('Y'))
         return "PYTHON";
     return "MAIN";
-}
-
-bool IsContinuationNext(clsFile& file) {
-    if (file.EndOfFile())
-        return false;
-    const std::string_view start = file.NextLineStart();
-    return start.empty() || start.front() == Blank;
 }
 
 void ReadHeader(std::string_view line, ParsedEntry& entry, KnownHeaders& headers, std::string_view reporter) {

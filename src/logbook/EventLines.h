@@ -33,7 +33,14 @@ std::string_view ClassicTime(std::string_view line);
 std::string_view SenderFromData(std::string_view data);
 
 // True when the next line is a continuation: it begins with a blank or is empty. Consumes nothing.
-bool IsContinuationNext(clsFile& file);
+inline bool IsContinuationNext(clsFile& file) {
+    if (const char* const next = file.NextAtHand(); next != nullptr)
+        return *next == Blank;
+    if (file.EndOfFile())
+        return false;
+    const std::string_view start = file.NextLineStart();
+    return start.empty() || start.front() == Blank;
+}
 
 // Fills Sender and Name from the header `line`; a `reporter` takes the place of the sender.
 void ReadHeader(std::string_view line, ParsedEntry& entry, KnownHeaders& headers,

@@ -36,11 +36,17 @@ std::string_view WithoutIndent(std::string_view line) {
     return line.substr(std::min(Indent.size(), line.size()));
 }
 
+bool IsMessageNext(clsFile& file) {
+    if (const char* const next = file.NextAtHand(); next != nullptr && *next != Blank)
+        return false;
+    return !file.EndOfFile() && file.NextLineStart() == Indent;
+}
+
 void ReadMessageBlock(ParsedEntry& entry, clsFile& file) {
     std::string_view line;
     file.ReadLine(line);
     entry.Data = WithoutIndent(line);
-    while (!file.EndOfFile() && file.NextLineStart() == Indent) {
+    while (IsMessageNext(file)) {
         file.ReadPassingLine(line);
         entry.AppendToData(LineSeparator);
         entry.AppendToData(WithoutIndent(line));

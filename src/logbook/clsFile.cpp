@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/clsFile.h"
 
-#include "logbook/LineBreak.h"
 #include "logbook/RunTimeError.h"
 #include "logbook/modUtil.h"
 
@@ -22,6 +21,7 @@ void clsFile::ReleaseLines() {
         SpareBlock = std::move(KeptBlocks.back());
     KeptBlocks.clear();
     LinesAcrossBlocks.clear();
+    HasKeptMemory = false;
     BlockHasKeptLines = false;
 }
 
@@ -82,6 +82,7 @@ void clsFile::GoTo(const Place& place) {
 void clsFile::ReplaceBlock(std::int64_t begin) {
     if (BlockHasKeptLines && BlockLength != 0) {
         KeptBlocks.push_back(std::move(Block));
+        HasKeptMemory = true;
         Block = SpareBlock ? std::move(SpareBlock) : NewBlock();
     }
     BlockHasKeptLines = false;
@@ -110,10 +111,8 @@ bool clsFile::ReadBlock() {
     return true;
 }
 
-bool clsFile::ReadLine(std::string_view& line) {
-    BlockHasKeptLines = true;
-    if (ReadLineWithin(line))
-        return !line.empty() || !EndOfFile();
+bool clsFile::ReadKeptLineAcrossBlocks(std::string_view& line) {
+    HasKeptMemory = true;
     return ReadLineAcrossBlocks(LinesAcrossBlocks.emplace_back(), line);
 }
 
@@ -122,22 +121,6 @@ bool clsFile::ReadPassingLine(std::string_view& line) {
         return !line.empty() || !EndOfFile();
     PassingLineAcrossBlocks.clear();
     return ReadLineAcrossBlocks(PassingLineAcrossBlocks, line);
-}
-
-// Reads the line if it lies in this block as it is; otherwise consumes nothing.
-inline bool clsFile::ReadLineWithin(std::string_view& line) {
-    const char* const begin = Block.get() + Cursor;
-    const char* const limit = Block.get() + BlockLength;
-    const char* const lineBreak = FindLineBreak(begin);
-    const char* lineFeed = lineBreak;
-    if (lineBreak < limit && *lineBreak == '\r')
-        ++lineFeed;
-    if (lineFeed >= limit || *lineFeed != '\n')
-        return false;
-    line = {begin, static_cast<std::size_t>(lineBreak - begin)};
-    Cursor = static_cast<std::size_t>(lineFeed + 1 - Block.get());
-    ++LinesReadCount;
-    return true;
 }
 
 // The line that lies in several blocks, or has a CR that no LF follows, is put together in a text of its own.

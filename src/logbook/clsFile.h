@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/LineBreak.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -50,18 +52,28 @@ class clsFile {
     // The next line without its LF; a CR is dropped wherever it stands. One byte is one character. False only
     // when the file is exhausted and the line is empty. `line` stays valid until ReleaseLines. Throws
     // RunTimeError when the file has become shorter or fails.
-    bool ReadLine(std::string_view& line);
+    bool ReadLine(std::string_view& line) {
+        BlockHasKeptLines = true;
+        return ReadLineWithin(line) ? !line.empty() || !EndOfFile() : ReadKeptLineAcrossBlocks(line);
+    }
 
     // The same for a line that is used up at once: it stays valid until the next call of any operation, and
     // no memory is kept for it.
     bool ReadPassingLine(std::string_view& line);
+
+    // The first character of the line that ReadLine would give next, where that is at hand; nullptr for an
+    // empty line, at the end of the file, and at the end of what has been read of it.
+    const char* NextAtHand() const {
+        const char* const next = Block.get() + Cursor;
+        return Cursor < BlockLength && *next != '\n' && *next != '\r' ? next : nullptr;
+    }
 
     // The first two characters of the line that ReadLine would give next, fewer for a shorter line, "" at the
     // end of the file. Consumes nothing. Valid and throws as ReadLine.
     std::string_view NextLineStart();
 
     // True when memory is kept only for lines that were handed out.
-    bool KeepsLines() const { return !KeptBlocks.empty() || !LinesAcrossBlocks.empty(); }
+    bool KeepsLines() const { return HasKeptMemory; }
 
     // Ends the life of the lines that were handed out, and gives that memory back.
     void ReleaseLines();
@@ -88,6 +100,7 @@ class clsFile {
     bool ReadBlock();
     void ReplaceBlock(std::int64_t begin);
     bool ReadLineWithin(std::string_view& line);
+    bool ReadKeptLineAcrossBlocks(std::string_view& line);
     bool ReadLineAcrossBlocks(std::string& text, std::string_view& line);
 
     std::filebuf File;
@@ -106,9 +119,24 @@ class clsFile {
     std::int64_t BlockBegin = 0; // the block's place in the file
     std::size_t Cursor = 0;      // the next byte to consume, from the block's begin
 
+    bool HasKeptMemory = false;          // KeptBlocks or LinesAcrossBlocks have any
     bool BlockHasKeptLines = false;      // lines that were handed out and not released lie in this block
     std::vector<BlockMemory> KeptBlocks; // earlier blocks with such lines
     BlockMemory SpareBlock;
     std::deque<std::string> LinesAcrossBlocks; // lines that lie in no single block as they are
     std::string PassingLineAcrossBlocks;
 };
+
+// Reads the line if it lies in this block as it is; otherwise consumes nothing.
+inline bool clsFile::ReadLineWithin(std::string_view& line) {
+    const char* const begin = Block.get() + Cursor;
+    const char* const limit = Block.get() + BlockLength;
+    const char* const lineBreak = FindLineBreak(begin);
+    const char* const lineFeed = lineBreak + (*lineBreak == '\r' ? 1 : 0);
+    if (lineFeed >= limit || *lineFeed != '\n')
+        return false;
+    line = {begin, static_cast<std::size_t>(lineBreak - begin)};
+    Cursor = static_cast<std::size_t>(lineFeed + 1 - Block.get());
+    ++LinesReadCount;
+    return true;
+}

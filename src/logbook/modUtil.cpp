@@ -61,6 +61,8 @@ std::string_view MonthText(std::string_view name) {
 
 } // namespace
 
+void ThrowTooShort() { throw RunTimeError("a line is too short for its column rules"); }
+
 std::string_view NormaliseStamp(std::string_view text, StampRoom& room) {
     const std::string_view ninth = Mid(text, 9, 1);
     const bool milliseconds = ninth == "." || ninth == ":";

@@ -16,11 +16,14 @@
 // Text cutting by columns. A text here has one byte a character; columns count from 1. The results point into
 // the text that was given.
 
+// Throws the RunTimeError of a line that has no such column.
+[[noreturn]] void ThrowTooShort();
+
 // `length` characters from column `start` on, fewer where the text ends, "" past its end. Throws RunTimeError
 // for a start below 1 or a negative length.
 inline std::string_view Mid(std::string_view text, std::int64_t start, std::int64_t length) {
     if (start < 1 || length < 0)
-        throw RunTimeError("a line is too short for its column rules");
+        ThrowTooShort();
     const std::size_t begin = std::min(static_cast<std::size_t>(start - 1), text.size());
     return text.substr(begin, static_cast<std::size_t>(length));
 }
