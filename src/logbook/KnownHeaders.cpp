@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/KnownHeaders.h"
 
+#include "logbook/ShortText.h"
+
 #include <bit>
 #include <cstring>
 #include <functional>
 
 namespace {
-
-std::uint64_t Load(const char* bytes) {
-    std::uint64_t value = 0;
-    std::memcpy(&value, bytes, sizeof value);
-    return value;
-}
 
 // Where the columns are loaded, eight at a time; the last step overlaps the one before it.
 constexpr std::array<std::size_t, 6> Steps{0, 8, 16, 24, 32, KnownHeaders::Columns - 8};
@@ -38,7 +34,7 @@ KnownHeader* KnownHeaders::Find(std::string_view line, std::uint32_t variant) {
     std::array<std::uint64_t, Steps.size()> eights;
     std::uint64_t mixed = variant;
     for (std::size_t i = 0; i < Steps.size(); ++i) {
-        eights[i] = Load(line.data() + Steps[i]);
+        eights[i] = LoadEight(line.data() + Steps[i]);
         mixed = std::rotl(mixed, 11) ^ eights[i];
     }
     std::size_t slot = mixed * 0x9E3779B97F4A7C15U >> (64U - SlotBits);
@@ -47,7 +43,7 @@ KnownHeader* KnownHeaders::Find(std::string_view line, std::uint32_t variant) {
         KnownHeader& header = slots_[slot];
         std::uint64_t difference = header.variant_ ^ variant;
         for (std::size_t i = 0; i < Steps.size(); ++i)
-            difference |= Load(header.columns_.data() + Steps[i]) ^ eights[i];
+            difference |= LoadEight(header.columns_.data() + Steps[i]) ^ eights[i];
         if (difference == 0 && header.isTaken_)
             return &header;
         if (!header.isTaken_) {

@@ -6,6 +6,13 @@
 #include <cstring>
 #include <string_view>
 
+// Eight characters as one number.
+inline std::uint64_t LoadEight(const char* bytes) {
+    std::uint64_t value = 0;
+    std::memcpy(&value, bytes, sizeof value);
+    return value;
+}
+
 // True when two texts are the same; for fields of a line it is quicker than memcmp.
 inline bool IsSameShort(std::string_view textA, std::string_view textB) {
     if (textA.size() != textB.size())

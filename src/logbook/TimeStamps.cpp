@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/TimeStamps.h"
 
-#include "logbook/ShortText.h"
-
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstddef>
@@ -13,7 +12,8 @@ namespace {
 constexpr std::size_t ClockLength = 8;         // 12:34:56
 constexpr std::size_t MillisecondsLength = 12; // 12:34:56.789
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+// Above 9 for what is no digit.
+std::uint32_t DigitOf(char c) { return static_cast<std::uint32_t>(static_cast<unsigned char>(c)) - '0'; }
 
 // The digits of a clock time without milliseconds as one number; false when it is none.
 bool ReadClock(const char* clock, std::uint32_t& digits) {
@@ -33,10 +33,10 @@ bool ReadClock(const char* clock, std::uint32_t& digits) {
     } else {
         digits = 0;
         for (std::size_t i = 0; i < ClockLength; ++i) {
-            if (i % 3 == 2 ? clock[i] != ':' : !IsDigit(clock[i]))
+            if (i % 3 == 2 ? clock[i] != ':' : DigitOf(clock[i]) > 9)
                 return false;
             if (i % 3 != 2)
-                digits = digits * 10 + static_cast<std::uint32_t>(clock[i] - '0');
+                digits = digits * 10 + DigitOf(clock[i]);
         }
         return true;
     }
@@ -47,8 +47,7 @@ bool ReadClock(const char* clock, std::uint32_t& digits) {
 void TimeStamps::Clear() {
     dates_.clear();
     numbers_.clear();
-    lastDate_.clear();
-    lastNumber_ = MostDates;
+    lastSize_ = NoSize;
 }
 
 bool TimeStamps::Pack(std::string_view stamp, const CodePage& codePage, PackedStamp& packed) {
@@ -61,20 +60,19 @@ bool TimeStamps::Pack(std::string_view stamp, const CodePage& codePage, PackedSt
         return false;
     packed.Clock *= 1000;
     if (milliseconds) {
-        if (!IsDigit(end[-3]) || !IsDigit(end[-2]) || !IsDigit(end[-1]))
+        const std::uint32_t hundreds = DigitOf(end[-3]);
+        const std::uint32_t tens = DigitOf(end[-2]);
+        const std::uint32_t ones = DigitOf(end[-1]);
+        if (std::max({hundreds, tens, ones}) > 9)
             return false;
-        packed.Clock +=
-            static_cast<std::uint32_t>((end[-3] - '0') * 100 + (end[-2] - '0') * 10 + (end[-1] - '0'));
-        packed.Clock |= PackedStamp::HasMilliseconds;
+        packed.Clock += (hundreds * 100 + tens * 10 + ones) | PackedStamp::HasMilliseconds;
     }
-    return FindDate(stamp.substr(0, stamp.size() - clockLength), codePage, packed.Date);
+    const std::string_view date = stamp.substr(0, stamp.size() - clockLength);
+    packed.Date = lastNumber_;
+    return IsLastDate(date) || FindDate(date, codePage, packed.Date);
 }
 
 bool TimeStamps::FindDate(std::string_view date, const CodePage& codePage, std::uint32_t& number) {
-    if (lastNumber_ != MostDates && IsSameShort(lastDate_, date)) {
-        number = lastNumber_;
-        return true;
-    }
     std::string key(date);
     auto found = numbers_.find(key);
     if (found == numbers_.end()) {
@@ -83,9 +81,19 @@ bool TimeStamps::FindDate(std::string_view date, const CodePage& codePage, std::
         found = numbers_.emplace(std::move(key), DateCount()).first;
         dates_.push_back(codePage.ToUtf8(date));
     }
-    lastDate_ = date;
-    number = lastNumber_ = found->second;
+    number = found->second;
+    RememberDate(date, number);
     return true;
+}
+
+void TimeStamps::RememberDate(std::string_view date, std::uint32_t number) {
+    lastSize_ = NoSize;
+    if (date.size() < 8 || date.size() > 16)
+        return;
+    lastSize_ = date.size();
+    lastBegin_ = LoadEight(date.data());
+    lastEnd_ = LoadEight(date.data() + date.size() - 8);
+    lastNumber_ = number;
 }
 
 std::string TimeStamps::Text(PackedStamp packed) const {

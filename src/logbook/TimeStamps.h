@@ -2,7 +2,9 @@
 #pragma once
 
 #include "logbook/CodePage.h"
+#include "logbook/ShortText.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <string>
@@ -37,9 +39,20 @@ class TimeStamps {
 
   private:
     bool FindDate(std::string_view date, const CodePage& codePage, std::uint32_t& number);
+    void RememberDate(std::string_view date, std::uint32_t number);
+
+    // A date of 8 to 16 characters is compared with the last one as two numbers that may overlap.
+    bool IsLastDate(std::string_view date) const {
+        return date.size() == lastSize_ && LoadEight(date.data()) == lastBegin_ &&
+               LoadEight(date.data() + date.size() - 8) == lastEnd_;
+    }
 
     std::deque<std::string> dates_;
     std::unordered_map<std::string, std::uint32_t> numbers_; // by the text as the file has it
-    std::string lastDate_;
-    std::uint32_t lastNumber_ = MostDates;
+    std::size_t lastSize_ = NoSize;
+    std::uint64_t lastBegin_ = 0;
+    std::uint64_t lastEnd_ = 0;
+    std::uint32_t lastNumber_ = 0;
+
+    static constexpr std::size_t NoSize = ~std::size_t{0}; // no date yet, or one that is not compared so
 };
