@@ -88,39 +88,6 @@ char32_t TakeCharacter(std::string_view& text) {
     return whole ? character : Invalid;
 }
 
-// Copies a text that is the same in every code page and in UTF-8, as nearly all are; false, with anything
-// written to the text's room, when it is not. The last step overlaps the one before it, so that no byte is
-// taken singly.
-bool CopyAscii(std::string_view bytes, char* out) {
-    constexpr std::uint64_t NotAscii = 0x8080808080808080U;
-    const char* const in = bytes.data();
-    const std::size_t length = bytes.size();
-    std::uint64_t seen = 0;
-    const auto copyEight = [&](std::size_t place) {
-        std::uint64_t eight = 0;
-        std::memcpy(&eight, in + place, 8);
-        std::memcpy(out + place, &eight, 8);
-        seen |= eight;
-    };
-    if (length >= 16) {
-        for (std::size_t place = 0; place + 16 < length; place += 16) {
-            copyEight(place);
-            copyEight(place + 8);
-        }
-        copyEight(length - 16);
-        copyEight(length - 8);
-    } else if (length >= 8) {
-        copyEight(0);
-        copyEight(length - 8);
-    } else {
-        for (std::size_t place = 0; place < length; ++place) {
-            out[place] = in[place];
-            seen |= static_cast<unsigned char>(in[place]);
-        }
-    }
-    return (seen & NotAscii) == 0;
-}
-
 } // namespace
 
 CodePage::CodePage() : CodePage("CP1252", UpperHalfOf1252()) {}
@@ -159,9 +126,7 @@ CodePage CodePage::OfUser() {
     return {};
 }
 
-char* CodePage::Encode(std::string_view bytes, char* out) const {
-    if (CopyAscii(bytes, out))
-        return out + bytes.size();
+char* CodePage::EncodeSingly(std::string_view bytes, char* out) const {
     for (const char c : bytes) {
         const Utf8Character& character = characters_[static_cast<unsigned char>(c)];
         std::memcpy(out, character.Bytes.data(), MostBytes);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/AsciiCopy.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -36,7 +38,9 @@ class CodePage {
 
     // Writes `bytes` as UTF-8 to `out`, which must have room for MostBytes times as many bytes plus Overrun,
     // and returns the end of what was written.
-    char* Encode(std::string_view bytes, char* out) const;
+    char* Encode(std::string_view bytes, char* out) const {
+        return CopyAscii(bytes, out) ? out + bytes.size() : EncodeSingly(bytes, out);
+    }
 
     std::string ToUtf8(std::string_view bytes) const;
 
@@ -53,6 +57,8 @@ class CodePage {
         std::array<char, MostBytes> Bytes{};
         std::uint8_t Length = 0;
     };
+
+    char* EncodeSingly(std::string_view bytes, char* out) const;
 
     explicit CodePage(std::string name, const std::array<char16_t, 128>& upperHalf);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/ClockTime.h"
 #include "logbook/CodePage.h"
 #include "logbook/ShortText.h"
 
@@ -27,7 +28,25 @@ class TimeStamps {
     static constexpr std::uint32_t MostDates = 1U << 24U;
 
     // False when the stamp does not end in a clock time, or no number is left for its date.
-    bool Pack(std::string_view stamp, const CodePage& codePage, PackedStamp& packed);
+    bool Pack(std::string_view stamp, const CodePage& codePage, PackedStamp& packed) {
+        if (stamp.size() < ClockLength)
+            return false;
+        const char* const end = stamp.data() + stamp.size();
+        const bool isLong = stamp.size() >= LongClockLength && end[-4] == '.';
+        const char* const clock = end - (isLong ? LongClockLength : ClockLength);
+        if (!ReadClock(clock, packed.Clock))
+            return false;
+        packed.Clock *= 1000;
+        if (isLong) {
+            std::uint32_t milliseconds = 0;
+            if (!ReadMilliseconds(clock + ClockLength, milliseconds))
+                return false;
+            packed.Clock += milliseconds | PackedStamp::HasMilliseconds;
+        }
+        const std::string_view date(stamp.data(), static_cast<std::size_t>(clock - stamp.data()));
+        packed.Date = lastNumber_;
+        return IsLastDate(date) || FindDate(date, codePage, packed.Date);
+    }
 
     std::string Text(PackedStamp packed) const;
 
