@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/CharacterBits.h"
+
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
-
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
 
 inline constexpr char Blank = ' ';
 
@@ -68,48 +66,12 @@ inline std::size_t FindBlank(std::string_view text) {
     return place;
 }
 
-inline constexpr std::size_t MostBlankBits = 64;
-
-// Which of the characters are blanks, of a text of at most MostBlankBits: the lowest bit is the first
-// character. One look at a text, from which its words are then taken without another.
-inline std::uint64_t BlankBits(std::string_view text) {
-    std::uint64_t bits = 0;
-#if defined(__SSE2__)
-    const __m128i blanks = _mm_set1_epi8(Blank);
-    const auto bitsOf = [&](__m128i sixteen) {
-        return static_cast<std::uint64_t>(
-            static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(sixteen, blanks))));
-    };
-    const char* const begin = text.data();
-    const std::size_t size = text.size();
-    // The last step overlaps the one before it, so that nothing outside of the text is read.
-    if (size >= 16) {
-        const auto load = [&](std::size_t place) {
-            return _mm_loadu_si128(reinterpret_cast<const __m128i*>(begin + place));
-        };
-        for (std::size_t place = 0; place + 16 < size; place += 16)
-            bits |= bitsOf(load(place)) << place;
-        return bits | bitsOf(load(size - 16)) << (size - 16);
-    }
-    if (size >= 8) {
-        const auto load = [&](std::size_t place) {
-            return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(begin + place));
-        };
-        const std::uint64_t both = bitsOf(_mm_unpacklo_epi64(load(0), load(size - 8)));
-        return (both & 0xFFU) | both >> 8U << (size - 8);
-    }
-#endif
-    for (std::size_t place = 0; place < text.size(); ++place)
-        bits |= static_cast<std::uint64_t>(text[place] == Blank ? 1 : 0) << place;
-    return bits;
-}
-
 // Trim for a field that is filled up with many blanks, or none; these cost nothing here.
 inline std::string_view TrimPadded(std::string_view text) {
-    if (text.empty() || text.size() > MostBlankBits)
+    if (text.empty() || text.size() > MostCharacterBits)
         return Trim(text);
-    const std::uint64_t all = ~std::uint64_t{0} >> (MostBlankBits - text.size());
-    const std::uint64_t other = BlankBits(text) ^ all;
+    const std::uint64_t all = ~std::uint64_t{0} >> (MostCharacterBits - text.size());
+    const std::uint64_t other = CharacterBits(text, Blank) ^ all;
     if (other == 0)
         return {};
     const auto first = static_cast<std::size_t>(std::countr_zero(other));

@@ -39,7 +39,7 @@ class CodePage {
     // Writes `bytes` as UTF-8 to `out`, which must have room for MostBytes times as many bytes plus Overrun,
     // and returns the end of what was written.
     char* Encode(std::string_view bytes, char* out) const {
-        return CopyAscii(bytes, out) ? out + bytes.size() : EncodeSingly(bytes, out);
+        return CopyAscii(bytes, out) ? out + bytes.size() : EncodeMixed(bytes, out);
     }
 
     std::string ToUtf8(std::string_view bytes) const;
@@ -58,7 +58,7 @@ class CodePage {
         std::uint8_t Length = 0;
     };
 
-    char* EncodeSingly(std::string_view bytes, char* out) const;
+    char* EncodeMixed(std::string_view bytes, char* out) const;
 
     explicit CodePage(std::string name, const std::array<char16_t, 128>& upperHalf);
 

@@ -20,7 +20,8 @@ constexpr std::string_view Arrow = "->"; // word 1 of a key that was pressed and
 // their blanks are found once, and each word then costs a few operations on bits.
 class Words {
   public:
-    explicit Words(std::string_view text) : text_(text), blanks_(BlankBits(text.substr(0, MostBlankBits))) {}
+    explicit Words(std::string_view text)
+        : text_(text), blanks_(CharacterBits(text.substr(0, MostCharacterBits), Blank)) {}
 
     // Whether a word is left; a text has at least one, which may be "".
     bool HasNext() const { return next_ <= text_.size(); }
@@ -42,9 +43,9 @@ class Words {
             blanks_ &= blanks_ - 1;
             return blank;
         }
-        if (text_.size() <= MostBlankBits)
+        if (text_.size() <= MostCharacterBits)
             return text_.size();
-        const std::size_t from = std::max(next_, MostBlankBits);
+        const std::size_t from = std::max(next_, MostCharacterBits);
         return from + FindBlank(text_.substr(from));
     }
 
@@ -63,7 +64,7 @@ void FoldRelease(ParsedEntry& pressed, std::string_view key, Words& words) {
     const std::string_view mode = words.Take();
 
     DataRoom& room = pressed.ShortDataRoom();
-    if (pressed.Data.size() > MostBlankBits || pressed.Data.data() == room.data()) {
+    if (pressed.Data.size() > MostCharacterBits || pressed.Data.data() == room.data()) {
         pressed.SetData({code, KeyArrow, key, hasMode ? LineSeparator : "", mode});
         return;
     }

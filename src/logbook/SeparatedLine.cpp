@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstring>
 
 namespace {
@@ -58,14 +59,24 @@ std::string_view SeparatedTime(std::string_view line, const SeparatorDate& date,
     return StampOn(date.Text, clock, room);
 }
 
+constexpr std::string_view KeyKeyword = "Key:";
+
+// The place of the text's first colon; at least its size when there is none.
+std::size_t FindColon(std::string_view text) {
+    if (text.size() > MostCharacterBits)
+        return text.find(':');
+    const std::uint64_t colons = CharacterBits(text, ':');
+    return static_cast<std::size_t>(std::countr_zero(colons));
+}
+
 // The text behind the keyword's colon; a further colon belongs to the clock, whose two digits before it go
 // too.
 std::string_view KeyText(std::string_view line) {
-    std::string_view text = line.substr(line.find(':') + 1);
-    const std::size_t clockColon = text.find(':');
-    if (clockColon != std::string_view::npos)
+    std::string_view text = line.substr(KeyKeyword.size());
+    const std::size_t clockColon = FindColon(text);
+    if (clockColon < text.size())
         text = Left(text, static_cast<std::int64_t>(clockColon) - 2);
-    return Trim(text);
+    return TrimPadded(text);
 }
 
 void ReadNothingMore(std::string_view, ParsedEntry&, clsFile&, KnownHeaders&) {}
@@ -110,7 +121,7 @@ constexpr KeywordTable<KeywordRow, 10> Keywords({{
     {"Blinkerror:", EventTypes::Fatal, Images::Fatal, ReadData},
     {"Registers(Blinkerror):", EventTypes::Fatal, Images::Fatal, ReadNothingMore},
     {"Error:", EventTypes::Error, Images::Error, ReadError},
-    {"Key:", EventTypes::Key, Images::Key, ReadKey},
+    {KeyKeyword, EventTypes::Key, Images::Key, ReadKey},
     {"Stib:", EventTypes::Status, Images::Info, ReadStatus},
     {"PLC Error:", EventTypes::Error, Images::Error, ReadPlc},
     {"PLC Message:", EventTypes::Info, Images::Info, ReadPlc},
