@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/HugePages.h"
 #include "logbook/RunTimeError.h"
 
 #include <algorithm>
@@ -58,6 +59,9 @@ class BigArray {
     }
 
   private:
+    // From here on the last huge page, most of which may be empty, is little beside the rest.
+    static constexpr std::size_t LeastHugeSize = std::size_t{32} << 20U;
+
     struct Free {
         void operator()(T* memory) const { std::free(memory); }
     };
@@ -69,6 +73,8 @@ class BigArray {
         (void)memory_.release();
         memory_.reset(static_cast<T*>(grown));
         capacity_ = capacity;
+        if (capacity * sizeof(T) >= LeastHugeSize)
+            PreferHugePages(memory_.get(), capacity * sizeof(T));
         return true;
     }
 
