@@ -48,16 +48,19 @@ std::string_view SenderFromData(std::string_view data) {
 
 void ReadHeader(std::string_view line, ParsedEntry& entry, KnownHeaders& headers, std::string_view reporter) {
     // The three reporters differ in their length.
-    KnownHeader* const header = headers.Find(line, static_cast<std::uint32_t>(reporter.size()));
-    if (header != nullptr && header->HasFields()) {
-        header->GiveTo(entry);
-        return;
+    KnownHeader* const header = headers.Find(line, static_cast<std::uint8_t>(reporter.size()));
+    HeaderFields fields;
+    if (header == nullptr || !header->HasFields()) {
+        fields = SplitHeader(line);
+        if (header != nullptr)
+            header->SetFields(line, fields.Sender, fields.Name);
     }
-    const HeaderFields fields = SplitHeader(line);
+    if (header != nullptr) {
+        fields = {header->Sender(), header->Name()};
+        entry.KindMemo = header->KindMemo();
+    }
     entry.Sender = reporter.empty() ? fields.Sender : reporter;
     entry.Name = fields.Name;
-    if (header != nullptr)
-        header->TakeFrom(entry, line);
 }
 
 void ReadEventBody(std::string_view line, ParsedEntry& entry, clsFile& file, KnownHeaders& headers) {

@@ -5,31 +5,27 @@
 
 #include <bit>
 #include <cstring>
-#include <functional>
 
 namespace {
 
 // Where the columns are loaded, eight at a time; the last step overlaps the one before it.
-constexpr std::array<std::size_t, 6> Steps{0, 8, 16, 24, 32, KnownHeaders::Columns - 8};
+constexpr std::array<std::size_t, 6> Steps{0, 8, 16, 24, 32, KnownHeader::Columns - 8};
 
 } // namespace
 
-void KnownHeader::TakeFrom(ParsedEntry& entry, std::string_view line) {
-    // What was cut from the line is cut from the same columns here, which stay.
-    const auto kept = [&](std::string_view field) {
-        const std::less<> before;
-        const bool isCut = !field.empty() && !before(field.data(), line.data()) &&
-                           before(field.data(), line.data() + KnownHeaders::Columns);
-        return isCut ? std::string_view(columns_.data() + (field.data() - line.data()), field.size()) : field;
+void KnownHeader::SetFields(std::string_view line, std::string_view sender, std::string_view name) {
+    const auto fieldOf = [&](std::string_view text) {
+        return text.empty() ? Field{}
+                            : Field{static_cast<std::uint8_t>(text.data() - line.data()),
+                                    static_cast<std::uint8_t>(text.size())};
     };
-    sender_ = kept(entry.Sender);
-    name_ = kept(entry.Name);
-    hasFields_ = true;
-    GiveTo(entry);
+    sender_ = fieldOf(sender);
+    name_ = fieldOf(name);
+    state_ = State::HasFields;
 }
 
-KnownHeader* KnownHeaders::Find(std::string_view line, std::uint32_t variant) {
-    if (line.size() < Columns)
+KnownHeader* KnownHeaders::Find(std::string_view line, std::uint8_t variant) {
+    if (line.size() < KnownHeader::Columns)
         return nullptr;
     std::array<std::uint64_t, Steps.size()> eights;
     std::uint64_t mixed = variant;
@@ -41,15 +37,15 @@ KnownHeader* KnownHeaders::Find(std::string_view line, std::uint32_t variant) {
     constexpr int MostLooks = 4;
     for (int look = 0; look < MostLooks; ++look, slot = (slot + 1) % SlotCount) {
         KnownHeader& header = slots_[slot];
-        std::uint64_t difference = header.variant_ ^ variant;
+        std::uint64_t difference = std::uint64_t{header.variant_} ^ variant;
         for (std::size_t i = 0; i < Steps.size(); ++i)
             difference |= LoadEight(header.columns_.data() + Steps[i]) ^ eights[i];
-        if (difference == 0 && header.isTaken_)
+        if (difference == 0 && header.state_ != KnownHeader::State::Free)
             return &header;
-        if (!header.isTaken_) {
-            std::memcpy(header.columns_.data(), line.data(), Columns);
+        if (header.state_ == KnownHeader::State::Free) {
+            std::memcpy(header.columns_.data(), line.data(), KnownHeader::Columns);
             header.variant_ = variant;
-            header.isTaken_ = true;
+            header.state_ = KnownHeader::State::Taken;
             return &header;
         }
     }

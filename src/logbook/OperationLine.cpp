@@ -62,19 +62,23 @@ void TurnStartIntoRestart(ParsedEntry& entry) {
     entry.KindMemo = nullptr;
 }
 
-void ReadSender(const KeywordRow& row, std::string_view line, ParsedEntry& entry, KnownHeaders& headers) {
+std::string_view CutSender(const KeywordRow& row, std::string_view line) {
+    const std::string_view sender = Trim(Mid(line, row.SenderColumn, row.SenderLength));
+    // A key that has no name is told by its code; that is no sender.
+    return row.EventType == EventTypes::Key && sender.starts_with("0x") ? std::string_view{} : sender;
+}
+
+void ReadHeader(const KeywordRow& row, std::string_view line, ParsedEntry& entry, KnownHeaders& headers) {
+    entry.Name = row.Name;
     KnownHeader* const header = headers.Find(line);
-    if (header != nullptr && header->HasFields()) {
-        header->GiveTo(entry);
+    if (header == nullptr) {
+        entry.Sender = CutSender(row, line);
         return;
     }
-    entry.Sender = Trim(Mid(line, row.SenderColumn, row.SenderLength));
-    // A key that has no name is told by its code; that is no sender.
-    if (row.EventType == EventTypes::Key && entry.Sender.starts_with("0x"))
-        entry.Sender = {};
-    entry.Name = row.Name;
-    if (header != nullptr)
-        header->TakeFrom(entry, line);
+    if (!header->HasFields())
+        header->SetFields(line, CutSender(row, line), {});
+    entry.Sender = header->Sender();
+    entry.KindMemo = header->KindMemo();
 }
 
 } // namespace
@@ -87,7 +91,7 @@ void ParseOperationLine(std::string_view line, ParsedEntry& entry, clsFile& file
     entry.Image = keyword->Image;
     entry.Time = ClassicTime(line);
     if (keyword->SenderColumn != 0)
-        ReadSender(*keyword, line, entry, headers);
+        ReadHeader(*keyword, line, entry, headers);
 
     if (keyword->Data == DataFrom::Header)
         entry.Data = Trim(Mid(line, 6, 23));
