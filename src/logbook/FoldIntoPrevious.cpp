@@ -99,8 +99,8 @@ bool FoldKeyIntoKey(const ParsedEntry& next, ParsedEntry& previous) {
     }
     if (!character || previousWord1 != Arrow || !previousWord0.starts_with("0x00"))
         return false;
-    const std::string first = HexToChar(previousWord0);
-    const std::string second = HexToChar(nextWord0);
+    const std::string_view first = HexToChar(previousWord0);
+    const std::string_view second = HexToChar(nextWord0);
     if (!first.empty() && !second.empty()) {
         previous.SetData({first, second});
         previous.EventType = EventTypes::Keystr;
@@ -114,7 +114,7 @@ bool FoldKeyIntoKeystr(const ParsedEntry& next, ParsedEntry& previous) {
     const std::string_view code = words.Take();
     if (words.Take() != Arrow)
         return false;
-    const std::string character = HexToChar(code);
+    const std::string_view character = HexToChar(code);
     previous.AppendToData(character);
     return !character.empty();
 }

@@ -48,6 +48,16 @@ constexpr std::array<std::int8_t, 256> HexDigits = [] {
     return digits;
 }();
 
+constexpr std::int64_t FirstPrintable = 32;
+constexpr std::int64_t LastPrintable = 126;
+constexpr std::array<char, LastPrintable - FirstPrintable + 1> Printable = [] {
+    std::array<char, LastPrintable - FirstPrintable + 1> characters{};
+    char next = FirstPrintable;
+    for (char& character : characters)
+        character = next++;
+    return characters;
+}();
+
 constexpr std::string_view PathSeparators = "\\/";
 
 // The month's number between its dots; "" for an unknown name.
@@ -79,7 +89,7 @@ std::string_view NormaliseStamp(std::string_view text, StampRoom& room) {
     return {room.data(), static_cast<std::size_t>(end - room.data())};
 }
 
-std::string HexToChar(std::string_view text) {
+std::string_view HexToChar(std::string_view text) {
     text = Trim(text);
     if (text.starts_with("0x"))
         text.remove_prefix(2);
@@ -90,9 +100,9 @@ std::string HexToChar(std::string_view text) {
             return {};
         value = value * 16 + HexDigits[static_cast<unsigned char>(c)];
     }
-    if (value < 32 || value > 126)
+    if (value < FirstPrintable || value > LastPrintable)
         return {};
-    return std::string(1, static_cast<char>(value));
+    return {&Printable[static_cast<std::size_t>(value - FirstPrintable)], 1};
 }
 
 std::filesystem::path ToPath(std::string_view path) { return std::u8string(path.begin(), path.end()); }

@@ -48,7 +48,7 @@ std::string_view NormaliseStamp(std::string_view text, StampRoom& room);
 
 // The printable ASCII character of a hexadecimal key code such as "0x0041", or "". Digits are upper case; any
 // other character counts as -1. A value that does not fit 64 bits gives "".
-std::string HexToChar(std::string_view text);
+std::string_view HexToChar(std::string_view text);
 
 // The path that a UTF-8 text names.
 std::filesystem::path ToPath(std::string_view path);
