@@ -52,6 +52,24 @@ TEST(FoldIntoPrevious, WordsAreSplitAtSingleBlanks) {
     EXPECT_EQ(Fold(Key("ENT  up"), Key("ENT down code 0x000D")), "no");
 }
 
+TEST(FoldIntoPrevious, LongTextsAreSplitAsShortOnesAre) {
+    for (const std::size_t length : {1U, 30U, 40U, 50U, 63U, 64U, 65U, 200U}) {
+        const std::string word(length, 'w');
+        EXPECT_EQ(Fold(Key("ENT up"), Key("ENT down code 0x000D mode " + word)), "6 0x000D -> ENT | " + word);
+        EXPECT_EQ(Fold(Key("ENT up"), Key("ENT down " + word + " 0x000D mode MANUAL rest")),
+                  "6 0x000D -> ENT | MANUAL");
+        EXPECT_EQ(Fold(Key(word + " up"), Key(word + " down " + word + " " + word)),
+                  "6 " + word + " -> " + word);
+    }
+    // Each length of the whole text around the one that is looked at in one go.
+    for (std::size_t length = 55; length < 75; ++length) {
+        const std::string down = "ENT down code 0x000D mode ";
+        const std::string mode(length - down.size(), 'm');
+        EXPECT_EQ(Fold(Key("ENT up"), Key(down + mode)), "6 0x000D -> ENT | " + mode);
+        EXPECT_EQ(Fold(Key("ENT up"), Key(down + mode + " ")), "6 0x000D -> ENT | " + mode);
+    }
+}
+
 TEST(FoldIntoPrevious, OtherKeysStayApart) {
     EXPECT_EQ(Fold(Key("ENT down"), Key("ENT down")), "no");
     EXPECT_EQ(Fold(Key("ENT down"), Key("ENT up")), "no");

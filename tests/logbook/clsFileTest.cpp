@@ -181,6 +181,19 @@ std::vector<int> ChunkSizes(clsFile& file) {
     return sizes;
 }
 
+TEST_P(clsFileTest, NextAtHandIsTheNextLinesBegin) {
+    Open("a1\r\n b2\n\r\n\nc3");
+    for (const std::string_view line : {"a1", " b2", "", "", "c3"}) {
+        if (const char* const next = File.NextAtHand(); next != nullptr) {
+            EXPECT_EQ(std::string_view(next, 1), line.substr(0, 1));
+        }
+        std::string_view read;
+        File.ReadLine(read);
+        EXPECT_EQ(read, line);
+    }
+    EXPECT_EQ(File.NextAtHand(), nullptr);
+}
+
 TEST_P(clsFileTest, FileIsReadInChunksThatKeepTheirSizeAfterRewind) {
     Open(std::string(5000, '\n'));
     EXPECT_EQ(ChunkSizes(File), (std::vector{2048, 2048, 904}));
