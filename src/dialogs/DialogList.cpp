@@ -1,11 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/DialogList.h"
 
+#include "list/QtText.h"
+
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
+
+namespace {
+
+class CellDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant& value, const QLocale& locale) const override {
+        return QStyledItemDelegate::displayText(ShownInCell(value.toString()), locale);
+    }
+};
+
+} // namespace
 
 DialogList::DialogList(int columns, QWidget* parent) : QTreeWidget(parent) {
     setColumnCount(columns);
@@ -14,6 +30,7 @@ DialogList::DialogList(int columns, QWidget* parent) : QTreeWidget(parent) {
     setAllColumnsShowFocus(true);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
+    setItemDelegate(new CellDelegate(this));
     setHorizontalScrollMode(ScrollPerPixel);
     header()->setStretchLastSection(false);
     header()->setSectionsMovable(false);

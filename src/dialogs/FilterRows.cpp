@@ -41,7 +41,8 @@ void FilterRows::Write(const FilterDefinition& filter, QTreeWidgetItem& row) con
     row.setData(FilterColumns::Type, Qt::AccessibleTextRole, type + ": " + action);
     const auto writeText = [&](int column, const std::string& text) {
         row.setText(column, ToQString(text));
-        row.setToolTip(column, text.empty() ? QString() : "<qt>" + ToQString(text).toHtmlEscaped() + "</qt>");
+        const QString shown = ShownInCell(row.text(column));
+        row.setToolTip(column, text.empty() ? QString() : "<qt>" + shown.toHtmlEscaped() + "</qt>");
     };
     writeText(FilterColumns::String, filter.StringFilter);
     writeText(FilterColumns::Name, filter.Name);

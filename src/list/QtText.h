@@ -16,3 +16,9 @@ inline QString QtText(TextId id, Language language) { return ToQString(Text(id, 
 
 // The same without the marks of access keys, for places that have none.
 inline QString QtPlainText(TextId id, Language language) { return QtText(id, language).remove('&'); }
+
+// What a cell shows of a text, which may have millions of characters: to lay these out takes seconds.
+inline QString ShownInCell(const QString& text) {
+    constexpr qsizetype MostShown = 2000;
+    return text.left(MostShown);
+}

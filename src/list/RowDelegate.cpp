@@ -2,6 +2,7 @@
 #include "list/RowDelegate.h"
 
 #include "list/LogbookModel.h"
+#include "list/QtText.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -40,6 +41,10 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->drawRoundedRect(place.adjusted(-1, -1, 1, 1), 3, 3);
     cell.icon.paint(painter, place);
     painter->restore();
+}
+
+QString RowDelegate::displayText(const QVariant& value, const QLocale& locale) const {
+    return QStyledItemDelegate::displayText(ShownInCell(value.toString()), locale);
 }
 
 bool RowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,

@@ -7,6 +7,7 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QSignalSpy>
+#include <QStyledItemDelegate>
 
 class MainWindowListTest : public MainWindowTest {
     Q_OBJECT
@@ -51,6 +52,20 @@ class MainWindowListTest : public MainWindowTest {
         QVERIFY(!List()->horizontalHeader()->isSortIndicatorShown());
         ClickHeader(4);
         QCOMPARE(Column(5), QStringList({"0", "1", "2"}));
+    }
+
+    void LongTextsAreWholeAndShownInPart() {
+        Window->OpenLogbook(FileOfErrors(30));
+        // To lay out all of them would take minutes.
+        const std::string comment(4000000, 'x');
+        for (EntryNumber number = 0; number < 30; ++number)
+            Book->Entries.SetComment(number, comment);
+        Window->grab();
+        const QModelIndex cell = List()->model()->index(7, static_cast<int>(LogbookColumn::Comment));
+        QCOMPARE(cell.data().toString().size(), 4000000);
+        const auto* const delegate = qobject_cast<QStyledItemDelegate*>(List()->itemDelegate());
+        QVERIFY(delegate != nullptr);
+        QCOMPARE(delegate->displayText(cell.data(), QLocale()), QString(2000, 'x'));
     }
 
     void SelectionStaysOnItsEntriesAndInView() {
