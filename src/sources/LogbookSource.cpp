@@ -29,14 +29,27 @@ std::string FileNameOf(const std::string& path) {
     return fileName;
 }
 
+// The base name of the unpacked files: the logbook's own or, where no file may have so long a name, its
+// begin. That leaves room for what else is made of the name, as that of an archive.
+std::string FileBaseOf(const std::string& base) {
+    constexpr std::size_t Longest = 255 - LogExtension.size(); // in bytes, on all common file systems
+    constexpr std::size_t Cut = 200;
+    if (base.size() <= Longest)
+        return base;
+    std::size_t length = Cut;
+    while (length > 0 && (static_cast<unsigned char>(base[length]) & 0xC0U) == 0x80U)
+        --length;
+    return base.substr(0, length);
+}
+
 // Unpacks the logbook of an archive, with what belongs to it, into a folder that is empty before.
 class Extraction {
   public:
     Extraction(const std::filesystem::path& archive, std::filesystem::path folder, Language language)
         : language_(language), archive_(archive, language), folder_(std::move(folder)) {}
 
-    // The base name of the logbook, which then lies in the folder with the extension ".log"; nothing when the
-    // archive has none or it could not be unpacked whole.
+    // The base name of the logbook, which then lies in the folder as FileBaseOf it with the extension ".log";
+    // nothing when the archive has none or it could not be unpacked whole.
     std::optional<std::string> Extract() {
         if (folder_.empty()) {
             // Without a folder of its own nothing is unpacked: a bare file name would mean the current
@@ -108,7 +121,7 @@ class Extraction {
                     return IsSameWithoutCase(member.FileName(), name);
                 });
             if (part != members.end() && !Unpack(archive_, static_cast<std::size_t>(part - members.begin()),
-                                                 std::string(base).append(extension)))
+                                                 FileBaseOf(base).append(extension)))
                 return std::nullopt;
         }
         return base;
@@ -122,9 +135,9 @@ class Extraction {
 
 // Puts the unpacked files in the place of all files of that base name from an earlier archive.
 void TakeOver(const std::filesystem::path& from, const std::filesystem::path& folder,
-              const std::string& base) {
+              const std::string& fileBase) {
     for (const std::string_view extension : {LogExtension, FilterExtension, CommentsExtension}) {
-        const std::filesystem::path file = ToPath(std::string(base).append(extension));
+        const std::filesystem::path file = ToPath(std::string(fileBase).append(extension));
         std::error_code error;
         std::filesystem::remove(folder / file, error);
         std::filesystem::rename(from / file, folder / file, error);
@@ -142,9 +155,12 @@ std::optional<LogbookSource> ResolveArchive(const std::string& path, const TempF
     user.RestoreStatus();
 
     std::optional<LogbookSource> source;
-    const auto inTemp = [&](std::string_view name) { return (tempFolder.Path() / ToPath(name)).string(); };
+    const std::string fileBase = FileBaseOf(base.value_or(""));
+    const auto fileIn = [&](const std::filesystem::path& folder, std::string_view extension) {
+        return (folder / ToPath(std::string(fileBase).append(extension))).string();
+    };
     const auto isUnpacked = [&](std::string_view extension) {
-        return FileExists((unpacked / ToPath(std::string(*base).append(extension))).string());
+        return FileExists(fileIn(unpacked, extension));
     };
     if (!base) {
         std::string message(Text(TextId::ArchiveWithoutLogbook, language));
@@ -159,10 +175,12 @@ std::optional<LogbookSource> ResolveArchive(const std::string& path, const TempF
             isUnpacked(FilterExtension) ? user.Ask(TextId::AskReplaceFilters) : UserInterface::Answer::No;
         if (answer != UserInterface::Answer::Cancel) {
             const bool hasComments = isUnpacked(CommentsExtension);
-            TakeOver(unpacked, tempFolder.Path(), *base);
-            source = LogbookSource{base->substr(0, base->find('.')), inTemp(*base + ".log"),
-                                   hasComments ? inTemp(*base + ".cmt") : "",
-                                   answer == UserInterface::Answer::Yes ? inTemp(*base + ".fil") : ""};
+            const bool wantsFilters = answer == UserInterface::Answer::Yes;
+            const std::filesystem::path& temp = tempFolder.Path();
+            TakeOver(unpacked, temp, fileBase);
+            source = LogbookSource{base->substr(0, base->find('.')), fileIn(temp, LogExtension),
+                                   hasComments ? fileIn(temp, CommentsExtension) : "",
+                                   wantsFilters ? fileIn(temp, FilterExtension) : ""};
         }
     }
     std::error_code ignored;

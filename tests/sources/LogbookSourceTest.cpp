@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/LogbookSource.h"
 
+#include "logbook/UnicodeCase.h" // IsUtf8
 #include "support/ScriptedUser.h"
 #include "support/TemporaryFolder.h"
 #include "support/ZipWriter.h"
@@ -196,6 +197,32 @@ TEST_F(LogbookSourceTest, MemberThatClaimsTooMuchIsRefused) {
         << User.Messages[0];
     const auto small = Resolve(Zip("small.qorvix", {{"base.log", std::string(60U << 20U, 'x')}}));
     EXPECT_EQ(std::filesystem::file_size(small->LogbookFile), 60U << 20U);
+}
+
+TEST_F(LogbookSourceTest, NameThatNoFileCanHaveIsCutInTheTemporaryFolder) {
+    std::string umlauts;
+    for (int i = 0; i < 150; ++i)
+        umlauts += "ü";
+    for (const std::string& base : {std::string(300, 'x'), std::string(252, 'x'), umlauts, "x" + umlauts}) {
+        User.Answers = {UserInterface::Answer::Yes};
+        const auto source = Resolve(
+            Zip("a.qorvix",
+                {{base + ".log", "text"}, {base + ".fil", "[Filters]"}, {base + ".cmt", "[Comments]"}}));
+        ASSERT_TRUE(source);
+        EXPECT_EQ(source->Name, base);
+        EXPECT_EQ(Logbook(source), "text");
+        EXPECT_EQ(FileContent(source->FilterFile), "[Filters]");
+        EXPECT_EQ(FileContent(source->CommentsFile), "[Comments]");
+        const std::string name = std::filesystem::path(source->LogbookFile).stem().string();
+        EXPECT_TRUE(base.starts_with(name)) << name;
+        EXPECT_TRUE(IsUtf8(name)) << name;
+    }
+    EXPECT_TRUE(User.Messages.empty());
+}
+
+TEST_F(LogbookSourceTest, LongestNameOfAFileStays) {
+    const std::string base(251, 'x');
+    EXPECT_EQ(Resolve(Zip("a.qorvix", {{base + ".log", "text"}}))->LogbookFile, InTemp(base + ".log"));
 }
 
 TEST_F(LogbookSourceTest, WithoutATemporaryFolderNothingIsUnpacked) {
