@@ -7,7 +7,10 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <iostream>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -65,6 +68,34 @@ void AddSearchOptions(CLI::App& command, SearchState& search) {
         "--case-sensitive", [&search] { search.SearchCaseSensitive = 1; }, "The text exactly as it is");
 }
 
+// The words of the command line that nothing takes, in their order. Where there is no command that is known,
+// those behind the first plain word may be options of the command that was meant.
+std::vector<std::string> UnknownWords(const CLI::App& app) {
+    std::vector<std::string> words = app.remaining(true);
+    if (app.get_subcommands().empty()) {
+        const auto plain =
+            std::find_if(words.begin(), words.end(), [](const std::string& word) { return word[0] != '-'; });
+        if (plain != words.end())
+            words.erase(plain + 1, words.end());
+    }
+    return words;
+}
+
+// Tells what is wrong with the command line, or what it asks for: the help, the version. The exit status.
+int Tell(const CLI::App& app, const CLI::ParseError& error) {
+    const std::vector<std::string> unknown = UnknownWords(app);
+    const bool isUsage = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::ExtrasError) ||
+                         error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError);
+    if (!isUsage || unknown.empty())
+        return app.exit(error) == 0 ? ExitStatus::Done : ExitStatus::WrongUsage;
+    std::cerr << (unknown.size() > 1 ? "The following arguments were not expected:"
+                                     : "The following argument was not expected:");
+    for (const std::string& word : unknown)
+        std::cerr << ' ' << word;
+    std::cerr << "\nRun with --help for more information." << std::endl;
+    return ExitStatus::WrongUsage;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -90,7 +121,7 @@ int main(int argc, char** argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? ExitStatus::Done : ExitStatus::WrongUsage;
+        return Tell(app, error);
     }
     if (packCommand->parsed())
         return RunPack(packOptions);

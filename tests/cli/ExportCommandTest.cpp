@@ -267,6 +267,29 @@ TEST_F(ExportCommand, WrongUsageIsStatusTwo) {
     }
 }
 
+TEST_F(ExportCommand, WhatIsUnknownIsNamedInItsOrder) {
+    const std::pair<std::vector<std::string>, const char*> wrong[] = {
+        {{"export", "a.log", "b.log"}, " was not expected: b.log"},
+        {{"export", "a.log", "b.log", "--raw", "c.log", "--format", "csv", "-z"},
+         "s were not expected: b.log c.log -z"},
+        {{"--first", "export", "a.log", "--second", "--third=3"},
+         "s were not expected: --first --second --third=3"},
+        {{"find", "--whole", "a.log"}, " was not expected: --whole"},
+        // Behind an unknown command nothing is known.
+        {{"exprt", "a.log", "--format", "csv"}, " was not expected: exprt"},
+        {{"--first", "exprt", "a.log"}, "s were not expected: --first exprt"},
+        {{"--versoin"}, " was not expected: --versoin"}};
+    for (const auto& [arguments, unknown] : wrong) {
+        const ProgramResult result = RunCommandLineTool(arguments);
+        EXPECT_EQ(result.ExitStatus, 2);
+        EXPECT_EQ(result.Output, "");
+        EXPECT_EQ(result.Errors, std::string("The following argument") + unknown +
+                                     "\nRun with --help for more information.\n");
+    }
+    EXPECT_THAT(RunCommandLineTool({"export"}).Errors, StartsWith("FILE is required"));
+    EXPECT_THAT(RunCommandLineTool({}).Errors, StartsWith("A subcommand is required"));
+}
+
 TEST_F(ExportCommand, HelpAndVersionAreDone) {
     EXPECT_EQ(RunCommandLineTool({"--help"}).ExitStatus, 0);
     EXPECT_THAT(RunCommandLineTool({"export", "--help"}).Output, HasSubstr("--format"));
