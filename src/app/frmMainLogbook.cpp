@@ -104,7 +104,8 @@ bool frmMain::ExecuteLogbook(std::string& name) {
     return read;
 }
 
-// The filters of an archive become the active ones. A damaged filter file is told, and the active ones stay.
+// The filters of an archive become the active ones. A damaged filter file, or one with a filter that would
+// take the whole list with it, is told, and the active ones stay.
 void frmMain::ReplaceFilters(const std::string& filterFile) {
     FilterFileContent content = ImportFilterFile(filterFile, codePage_);
     if (content.Result != FilterFileContent::Outcome::Read) {
@@ -112,6 +113,12 @@ void frmMain::ReplaceFilters(const std::string& filterFile) {
                           UserInterface::MessageIcon::Exclamation);
         return;
     }
+    for (const FilterDefinition& filter : content.Filters)
+        if (ObstacleOf(filter) != StorageObstacle::None) {
+            user_.ShowMessage(filterFile + ": " + std::string(Text(TextId::FilterTooLong, language_)),
+                              UserInterface::MessageIcon::Exclamation);
+            return;
+        }
     FilterLists lists = LoadFilters(registry_, language_);
     lists.Filters = std::move(content.Filters);
     SaveFilters(registry_, lists, registry_.ReadFilterSettingString("InitFilterDir", ""));

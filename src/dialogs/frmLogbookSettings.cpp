@@ -20,6 +20,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -91,6 +92,8 @@ void frmLogbookSettings::MakeControls() {
             [popup](const QPoint& position) { popup->popup(position); });
     connect(lvFilter, &DialogList::EditWanted, this, [this] { Start(Command::Edit); });
     connect(lvFilter, &DialogList::RemoveWanted, this, &frmLogbookSettings::RemoveFilters);
+    // By its check box; what is written here is noted when it is whole.
+    connect(lvFilter, &DialogList::itemChanged, this, [this] { ShowNote(); });
     connect(popup, &ListPopup::Add, this, [this] { Start(Command::Add); });
     connect(popup, &ListPopup::Edit, this, [this] { Start(Command::Edit); });
     connect(popup, &ListPopup::Remove, this, &frmLogbookSettings::RemoveFilters);
@@ -162,8 +165,9 @@ void frmLogbookSettings::AddFilter() {
     dialog.exec();
     if (dialog.ResultText() != "OK" || dialog.FilterExists(Rows()))
         return;
-    auto* const row = new QTreeWidgetItem(lvFilter);
+    auto* const row = new QTreeWidgetItem;
     row->setCheckState(FilterColumns::Type, Qt::Checked);
+    lvFilter->addTopLevelItem(row);
     WriteFilterToListItem(dialog.Definition(), *row);
     lvFilter->SelectAndShow(row);
 }
@@ -183,6 +187,7 @@ void frmLogbookSettings::EditFilter() {
 void frmLogbookSettings::WriteFilterToListItem(const FilterDefinition& filter, QTreeWidgetItem& row) {
     FilterDefinition written = filter;
     written.Active = row.checkState(FilterColumns::Type) == Qt::Checked;
+    const QSignalBlocker unnoted(lvFilter);
     rows_.Write(written, row);
     ShowNote();
 }
@@ -272,6 +277,7 @@ bool frmLogbookSettings::ConfirmLoss(const std::vector<FilterDefinition>& filter
 }
 
 void frmLogbookSettings::ShowRows(const std::vector<FilterDefinition>& filters) {
+    const QSignalBlocker unnoted(lvFilter);
     lvFilter->clear();
     for (const FilterDefinition& filter : filters)
         rows_.Write(filter, *new QTreeWidgetItem(lvFilter));

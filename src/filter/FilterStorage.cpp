@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <string>
+#include <utility>
 #include <variant>
 
 namespace {
@@ -53,6 +54,34 @@ void WriteList(Registry& registry, std::string_view name, std::string_view count
     registry.WriteFilterSetting(countName, static_cast<std::int32_t>(texts.size()), SettingType::Integer);
 }
 
+// A text form or, where only that is too long to be read back, one that is shorter and read the same.
+std::string ShorterIfNeeded(std::string text, std::string shorter) {
+    return !Registry::IsReadBack(text) && Registry::IsReadBack(shorter) ? std::move(shorter)
+                                                                        : std::move(text);
+}
+
+// Filters of the older form, which has no flag and is active, and flags that are empty come from elsewhere.
+std::string TextToStore(const FilterDefinition& filter) {
+    constexpr std::size_t FlagWithSeparator = 2;
+    const std::string text = FormatFilter(filter);
+    return ShorterIfNeeded(text, text.substr(0, text.size() - (filter.Active ? FlagWithSeparator : 1)));
+}
+
+// What stands behind the comment is not read, nor need an empty comment be there.
+std::string TextToStore(const StringFilter& filter) {
+    return ShorterIfNeeded(FormatStringFilter(filter), filter.Comment.empty()
+                                                           ? filter.FilterString
+                                                           : filter.FilterString + '|' + filter.Comment);
+}
+
+template <typename Filter>
+std::vector<std::string> TextsToStore(const std::vector<Filter>& filters) {
+    std::vector<std::string> texts;
+    for (const Filter& filter : filters)
+        texts.push_back(TextToStore(filter));
+    return texts;
+}
+
 StorageObstacle ObstacleOf(std::initializer_list<std::string_view> texts, std::string_view textForm) {
     const auto holdsSeparator = [](std::string_view text) {
         return text.find('|') != std::string_view::npos;
@@ -81,7 +110,7 @@ StoredFilters LoadFilterList(const Registry& registry) {
 }
 
 void WriteFilter(Registry& registry, std::size_t place, const FilterDefinition& filter) {
-    const std::string text = FormatFilter(filter);
+    const std::string text = TextToStore(filter);
     if (Registry::IsReadBack(text))
         registry.WriteFilterSetting(Numbered(FilterName, place + 1), text, SettingType::Text);
 }
@@ -97,11 +126,11 @@ std::size_t RoomForText(FilterDefinition filter) {
 }
 
 StorageObstacle ObstacleOf(const FilterDefinition& filter) {
-    return ObstacleOf({filter.StringFilter, filter.Name, filter.Emitter}, FormatFilter(filter));
+    return ObstacleOf({filter.StringFilter, filter.Name, filter.Emitter}, TextToStore(filter));
 }
 
 StorageObstacle ObstacleOf(const StringFilter& filter) {
-    return ObstacleOf({filter.FilterString, filter.Comment}, FormatStringFilter(filter));
+    return ObstacleOf({filter.FilterString, filter.Comment}, TextToStore(filter));
 }
 
 FilterLists LoadFilters(const Registry& registry, Language language) {
@@ -109,15 +138,9 @@ FilterLists LoadFilters(const Registry& registry, Language language) {
 }
 
 void SaveFilters(Registry& registry, const FilterLists& lists, std::string_view initFilterDir) {
-    std::vector<std::string> filters;
-    std::transform(lists.Filters.begin(), lists.Filters.end(), std::back_inserter(filters), FormatFilter);
-    std::vector<std::string> stringFilters;
-    std::transform(lists.StringFilters.begin(), lists.StringFilters.end(), std::back_inserter(stringFilters),
-                   FormatStringFilter);
-
     const Registry::Transaction transaction(registry);
     registry.DeleteFilterKey();
-    WriteList(registry, FilterName, FilterCountName, filters);
-    WriteList(registry, StringFilterName, StringFilterCountName, stringFilters);
+    WriteList(registry, FilterName, FilterCountName, TextsToStore(lists.Filters));
+    WriteList(registry, StringFilterName, StringFilterCountName, TextsToStore(lists.StringFilters));
     registry.WriteFilterSetting(FolderName, std::string(initFilterDir), SettingType::Text);
 }

@@ -16,7 +16,7 @@ class Registry;
 enum class StorageObstacle : std::uint8_t {
     None,
     Separator, // a text holds "|", which separates the fields
-    TooLong,   // the text form is longer than a text of the settings may be
+    TooLong,   // every text form is longer than a text of the settings may be
 };
 
 StorageObstacle ObstacleOf(const FilterDefinition& filter);
@@ -27,7 +27,9 @@ StorageObstacle ObstacleOf(const StringFilter& filter);
 // behind them, which the next SaveFilters stores too; that is deliberate.
 FilterLists LoadFilters(const Registry& registry, Language language);
 
-// Replaces the stored lists and the folder of filter files, in one write of the settings.
+// Replaces the stored lists and the folder of filter files, in one write of the settings. A filter that fits
+// into a text of the settings only in a form that LoadFilters reads, too, is written in that: without the
+// flag where it is active, with an empty one where it is not; a string filter without what is passed over.
 void SaveFilters(Registry& registry, const FilterLists& lists, std::string_view initFilterDir);
 
 // The filters alone. IsStored is false when the default list stands in for what the settings hold.
@@ -44,5 +46,5 @@ void WriteFilter(Registry& registry, std::size_t place, const FilterDefinition& 
 void WriteFilterCount(Registry& registry, std::size_t count);
 
 // How many characters the data text or number list of this filter may have, so that the settings give the
-// filter back.
+// filter back in its usual form.
 std::size_t RoomForText(FilterDefinition filter);

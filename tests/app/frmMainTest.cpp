@@ -163,6 +163,22 @@ class frmMainTest : public MainWindowTest {
         QCOMPARE(Counts(), QString("2 / 2 Items"));
     }
 
+    void FiltersOfAnArchiveThatCannotBeStoredAreToldAndTheActiveOnesStay() {
+        WriteZip(Folder / "own.qorvix",
+                 {{"x.log", Lines({Header("BERR:    a"), Header("RESET:")})},
+                  {"x.fil", "[Filters]\r\nI|7||||1\r\nI|8|" + std::string(2000, '1') + "|||1\r\n"}});
+        SaveFilters(*Settings, {{Filter("I|4||||1")}, {}}, "");
+        AnswerQuestion(QMessageBox::Yes);
+        QTimer::singleShot(50, this, [this] { AnswerMessages(1); });
+        Window->RunCommandLine({Folder / "own.qorvix"});
+        QCOMPARE(MessageTexts.size(), 2);
+        QVERIFY(MessageTexts[1].endsWith(
+            "x.fil: This filter is too long to be stored: the whole list would fall back to the default "
+            "filter."));
+        QCOMPARE(LoadFilters(*Settings, {}).Filters, std::vector{Filter("I|4||||1")});
+        QCOMPARE(Counts(), QString("1 / 2 Items"));
+    }
+
     void ArchiveWithoutLogbookIsTold() {
         WriteZip(Folder / "a.zip", {{"readme", "x"}});
         AnswerMessages(1);

@@ -256,10 +256,10 @@ class frmFilterSettingsTest : public DialogTest {
     void TooLongFilterIsTold() {
         frmFilterSettings english(Context, Strings);
         english.show();
-        // The other fields take 8 characters.
-        Box(english, "cbStringFilter")->setEditText(QString(1015, QChar(0xE4)));
+        // The other fields take 6 characters at least.
+        Box(english, "cbStringFilter")->setEditText(QString(1017, QChar(0xE4)));
         QVERIFY(!Find<QLabel>(english, "lblStringNote")->isVisible());
-        Box(english, "cbStringFilter")->setEditText(QString(1016, 'a'));
+        Box(english, "cbStringFilter")->setEditText(QString(1018, 'a'));
         QVERIFY(Find<QLabel>(english, "lblStringNote")->isVisible());
         QCOMPARE(
             TextOf(english, "lblStringNote"),
@@ -267,7 +267,7 @@ class frmFilterSettingsTest : public DialogTest {
 
         UseLanguage(Language::German);
         frmFilterSettings german(Context, Strings);
-        Box(german, "cbStringFilter")->setEditText(QString(1016, 'a'));
+        Box(german, "cbStringFilter")->setEditText(QString(1018, 'a'));
         QCOMPARE(TextOf(german, "lblStringNote"), "Dieser Filter ist zu lang, um gespeichert zu werden: Die "
                                                   "ganze Liste würde auf den Standardfilter "
                                                   "zurückfallen.");

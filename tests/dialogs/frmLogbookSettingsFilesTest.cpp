@@ -193,7 +193,7 @@ class frmLogbookSettingsFilesTest : public LogbookSettingsTest {
     }
 
     void ImportedFilterThatIsTooLongIsTold() {
-        Folder->Write("list.fil", "[Filters]\r\nI|1|" + std::string(1016, 'a') + "|||1\r\n");
+        Folder->Write("list.fil", "[Filters]\r\nI|1|" + std::string(1018, 'a') + "|||1\r\n");
         Open();
         Dialog->GetFilterFromFile(*Folder / "list.fil");
         QCOMPARE(

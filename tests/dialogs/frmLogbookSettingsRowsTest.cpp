@@ -204,6 +204,25 @@ class frmLogbookSettingsRowsTest : public LogbookSettingsTest {
         QVERIFY(!Find<QLabel>(*Dialog, "lblNote")->isVisible());
     }
 
+    void CheckBoxThatMakesAFilterTooLongIsNoted() {
+        // Only the form without a flag, which is active, has room for it.
+        StoreFilters({"I|0||||1", "X|8|" + QString(1017, '7') + "|||1"});
+        QCOMPARE(StoredFilters().last().size(), 1023);
+        Open();
+        QVERIFY(!Find<QLabel>(*Dialog, "lblNote")->isVisible());
+        Select(List(), {1});
+        QTest::keyClick(&List(), Qt::Key_Space);
+        QCOMPARE(
+            TextOf(*Dialog, "lblNote"),
+            "This filter is too long to be stored: the whole list would fall back to the default filter.");
+        QTest::keyClick(&List(), Qt::Key_Space);
+        QVERIFY(!Find<QLabel>(*Dialog, "lblNote")->isVisible());
+        Click(*Dialog, "cmdOK");
+        QCOMPARE(StoredFilters().size(), 2);
+        QCOMPARE(LoadFilterList(Settings).Filters.back(),
+                 Filter(("X|8|" + QString(1017, '7') + "||").toUtf8()));
+    }
+
   private:
     // The person finds this filter in the next dialog, defines another and presses a button. A text that is
     // given by itself is typed into the string box.

@@ -126,25 +126,70 @@ TEST_F(FilterStorage, SeparatorInATextIsAnObstacle) {
 }
 
 TEST_F(FilterStorage, TextFormBeyondALongTextIsAnObstacle) {
-    const std::size_t others = std::string("I|3||||1").size();
-    FilterDefinition filter{FilterActions::Include, 3, "", "", "", true};
-    for (std::size_t i = others; i < Registry::LongestText; ++i)
-        filter.StringFilter += "ä";
-    EXPECT_EQ(ObstacleOf(filter), StorageObstacle::None);
-    SaveFilters(Settings, {{filter}, {}}, "");
-    EXPECT_EQ(LoadFilters(Settings, {}).Filters, std::vector{filter});
+    // Without its flag where it is active, with an empty one where it is not.
+    for (const auto& [others, active] : {std::pair("I|3|||", true), std::pair("I|3||||", false)}) {
+        FilterDefinition filter{FilterActions::Include, 3, "", "", "", active};
+        for (std::size_t i = std::string(others).size(); i < Registry::LongestText; ++i)
+            filter.StringFilter += "ä";
+        EXPECT_EQ(ObstacleOf(filter), StorageObstacle::None);
+        SaveFilters(Settings, {{filter}, {}}, "");
+        EXPECT_EQ(LoadFilters(Settings, {}).Filters, std::vector{filter});
 
-    filter.StringFilter += "a";
-    EXPECT_EQ(ObstacleOf(filter), StorageObstacle::TooLong);
-    SaveFilters(Settings, {{filter}, {}}, "");
-    EXPECT_EQ(LoadFilters(Settings, {}).Filters, DefaultFilters());
+        filter.StringFilter += "a";
+        EXPECT_EQ(ObstacleOf(filter), StorageObstacle::TooLong);
+        SaveFilters(Settings, {{filter}, {}}, "");
+        EXPECT_EQ(LoadFilters(Settings, {}).Filters, DefaultFilters());
+    }
+}
+
+TEST_F(FilterStorage, FiltersOfAllFormsComeBackAfterSaving) {
+    // Their texts are as long as can be read; with a flag some would be longer.
+    for (const std::string end : {"||", "|||", "|||0", "|||1", "|||x", "|NAME|SENDER"})
+        for (const std::size_t length : {1020U, 1021U, 1022U, 1023U}) {
+            const std::string begin = "X|0008|";
+            const std::string text = begin + std::string(length - begin.size() - end.size(), '7') + end;
+            StoreNumber("FilterCount", 2);
+            StoreText("Filter1", "I|3||||1");
+            StoreText("Filter2", text.c_str());
+            const FilterLists lists = LoadFilters(Settings, {});
+            ASSERT_EQ(lists.Filters.size(), 2U);
+            SaveFilters(Settings, lists, "");
+            EXPECT_EQ(LoadFilters(Settings, {}).Filters, lists.Filters) << length << " with " << end;
+        }
+}
+
+TEST_F(FilterStorage, TheUsualFormIsStoredWhereItFits) {
+    const std::string text = "X|8|" + std::string(1015, '7') + "||";
+    StoreNumber("FilterCount", 1);
+    StoreText("Filter1", text.c_str());
+    SaveFilters(Settings, LoadFilters(Settings, {}), "");
+    EXPECT_EQ(StoredText("Filter1"), text + "|1");
+    const std::string longer = "X|8|" + std::string(1016, '7') + "||";
+    StoreText("Filter1", longer.c_str());
+    SaveFilters(Settings, LoadFilters(Settings, {}), "");
+    EXPECT_EQ(StoredText("Filter1"), longer);
 }
 
 TEST_F(FilterStorage, StringFiltersHaveTheSameObstacles) {
     EXPECT_EQ(ObstacleOf(StringFilter{"N938", "keys"}), StorageObstacle::None);
     EXPECT_EQ(ObstacleOf(StringFilter{"N|938", "keys"}), StorageObstacle::Separator);
     EXPECT_EQ(ObstacleOf(StringFilter{"N938", "keys|"}), StorageObstacle::Separator);
-    const std::string longest(Registry::LongestText - std::string("|keys|1").size(), 'a');
+    const std::string longest(Registry::LongestText - std::string("|keys").size(), 'a');
     EXPECT_EQ(ObstacleOf(StringFilter{longest, "keys"}), StorageObstacle::None);
     EXPECT_EQ(ObstacleOf(StringFilter{longest + "a", "keys"}), StorageObstacle::TooLong);
+}
+
+TEST_F(FilterStorage, StringFiltersOfAllFormsComeBackAfterSaving) {
+    for (const std::string end : {"", "|", "|keys", "|keys|", "|keys|1", "||1", "|keys|1|more"})
+        for (const std::size_t length : {1020U, 1021U, 1022U, 1023U}) {
+            StoreNumber("SpecialFilterCount", 1);
+            StoreText("StringFilter1", (std::string(length - end.size(), 'a') + end).c_str());
+            FilterLists lists = LoadFilters(Settings, {});
+            ASSERT_EQ(lists.StringFilters.size(), 2U);
+            ASSERT_GE(lists.StringFilters[0].FilterString.size(), 1000U);
+            SaveFilters(Settings, lists, "");
+            lists.StringFilters.emplace_back();
+            EXPECT_EQ(LoadFilters(Settings, {}).StringFilters, lists.StringFilters)
+                << length << " with " << end;
+        }
 }
