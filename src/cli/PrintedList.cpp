@@ -7,6 +7,7 @@
 #include "filter/FilterStorage.h"
 #include "logbook/AtomicFile.h"
 #include "logbook/modUtil.h"
+#include "settings/ReasonText.h"
 #include "settings/Registry.h"
 #include "settings/Texts.h"
 
@@ -97,6 +98,6 @@ int PrintRows(const ListOptions& options, const EntryTable& entries, const Logbo
     AtomicFile file(options.Output);
     WriteRows(entries, rows, options, file.Stream());
     if (const std::error_code error = file.Commit())
-        return Fail(options.Output + ": " + error.message());
+        return Fail(options.Output + ": " + ReasonText(error, options.MessageLanguage));
     return ExitStatus::Done;
 }

@@ -12,6 +12,7 @@
 #include "filter/FilterStorage.h"
 #include "list/QtText.h"
 #include "logbook/modUtil.h"
+#include "settings/ReasonText.h"
 #include "settings/Registry.h"
 
 #include <QApplication>
@@ -223,7 +224,7 @@ bool frmLogbookSettings::SaveFilterInFile(const std::string& path) {
     const std::error_code error = ExportFilterFile(path, filters, context_.FileCodePage);
     if (error)
         Warn(ToQString(path) + QtText(TextId::FileNotWritten, context_.DialogLanguage) + " (" +
-             ToQString(error.message()) + ")");
+             ToQString(ReasonText(error, context_.DialogLanguage)) + ")");
     return !error;
 }
 

@@ -3,10 +3,11 @@
 
 #include "filter/FilterText.h"
 #include "logbook/AtomicFile.h"
-#include "logbook/TextFile.h"
+#include "logbook/FileProblem.h"
+#include "settings/ReasonText.h"
 #include "settings/Texts.h"
 
-#include <fstream>
+#include <new>
 
 namespace {
 
@@ -24,6 +25,43 @@ CodePage::Bytes FilterLine(const FilterDefinition& filter, const CodePage& codeP
     return line;
 }
 
+// Counts the filters of a file, as far as there is room for them.
+class FilterRoom {
+  public:
+    bool Take(const FilterDefinition& filter) {
+        const bool hasText = filter.FilterType != FilterTypes::Numbers && !filter.StringFilter.empty();
+        return filters_++ < FilterFileBounds::Filters &&
+               (!hasText || withText_++ < FilterFileBounds::FiltersWithText);
+    }
+
+  private:
+    std::size_t filters_ = 0;
+    std::size_t withText_ = 0;
+};
+
+std::error_code ReadFilters(TextFile& file, const CodePage& codePage, FilterFileContent& content) {
+    using Outcome = FilterFileContent::Outcome;
+    std::string_view line;
+    if (!file.ReadLine(line))
+        return file.Error();
+    if (line != Header) {
+        content.Result = Outcome::NoHeader;
+        return {};
+    }
+    FilterRoom room;
+    for (content.Line = 2; file.ReadLine(line); ++content.Line) {
+        FilterDefinition filter;
+        if (!ParseFilter(codePage.ToUtf8(line), filter)) {
+            content.Result = Outcome::InvalidLine;
+            return {};
+        }
+        if (!room.Take(filter))
+            return FileProblem::TooManyLines;
+        content.Filters.push_back(std::move(filter));
+    }
+    return file.Error();
+}
+
 } // namespace
 
 std::vector<std::size_t> FiltersThatLose(std::span<const FilterDefinition> filters,
@@ -38,40 +76,33 @@ std::vector<std::size_t> FiltersThatLose(std::span<const FilterDefinition> filte
 std::error_code ExportFilterFile(const std::string& path, std::span<const FilterDefinition> filters,
                                  const CodePage& codePage) {
     AtomicFile file(path);
+    TextFileRoom room(FilterFileBounds::Bytes);
+    FilterRoom filterRoom;
+    std::error_code error = room.Take(Header);
     file.Stream() << Header << "\r\n";
-    for (const FilterDefinition& filter : filters)
-        file.Stream() << FilterLine(filter, codePage).Text << "\r\n";
+    for (const FilterDefinition& filter : filters) {
+        const std::string line = FilterLine(filter, codePage).Text;
+        if (error = room.Take(line); error)
+            return error;
+        if (!filterRoom.Take(filter))
+            return FileProblem::TooManyLines;
+        file.Stream() << line << "\r\n";
+    }
     return file.Commit();
 }
 
 FilterFileContent ImportFilterFile(const std::string& path, const CodePage& codePage) {
-    using Outcome = FilterFileContent::Outcome;
     FilterFileContent content;
-    std::ifstream stream;
-    std::string line;
-    const auto endsWith = [&](std::error_code error) {
-        content.Error = error;
-        if (error)
-            content.Result = Outcome::CannotRead;
-        return content;
-    };
-    if (const std::error_code error = OpenTextFile(path, stream))
-        return endsWith(error);
-    if (!ReadTextLine(stream, line))
-        return endsWith(TextFileError(stream));
-    if (line != Header) {
-        content.Result = Outcome::NoHeader;
-        return content;
+    TextFile file(path, FilterFileBounds::Bytes);
+    try {
+        content.Error = ReadFilters(file, codePage, content);
+    } catch (const std::bad_alloc&) {
+        content.Filters = {};
+        content.Error = std::make_error_code(std::errc::not_enough_memory);
     }
-    for (content.Line = 2; ReadTextLine(stream, line); ++content.Line) {
-        FilterDefinition filter;
-        if (!ParseFilter(codePage.ToUtf8(line), filter)) {
-            content.Result = Outcome::InvalidLine;
-            return content;
-        }
-        content.Filters.push_back(std::move(filter));
-    }
-    return endsWith(TextFileError(stream));
+    if (content.Error)
+        content.Result = FilterFileContent::Outcome::CannotRead;
+    return content;
 }
 
 std::string FilterFileMessage(const std::string& path, const FilterFileContent& content, Language language) {
@@ -82,7 +113,7 @@ std::string FilterFileMessage(const std::string& path, const FilterFileContent& 
         break;
     case Outcome::CannotRead:
         return text(TextId::FilterFileUnreadableBefore) + path + text(TextId::FilterFileUnreadableAfter) +
-               " (" + content.Error.message() + ")";
+               " (" + ReasonText(content.Error, language) + ")";
     case Outcome::NoHeader:
         return path + ": " + text(TextId::FilterFileNoFilters);
     case Outcome::InvalidLine:

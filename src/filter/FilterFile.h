@@ -3,6 +3,7 @@
 
 #include "filter/FilterDefinition.h"
 #include "logbook/CodePage.h"
+#include "logbook/TextFile.h"
 
 #include <cstddef>
 #include <span>
@@ -11,6 +12,15 @@
 #include <vector>
 
 // Filter files (*.fil): the line "[Filters]", then a filter a line, in the code page of the control's files.
+
+// What a filter file may hold. A list that names every other one of ten million entries has 40 MB and fewer
+// than 50,000 filters; one with a text costs every run a look at the data of all entries. A file beyond that
+// is neither read nor written.
+namespace FilterFileBounds {
+inline constexpr TextFileBounds Bytes{.File = 64U << 20U, .Line = 16U << 20U};
+inline constexpr std::size_t Filters = 100'000;
+inline constexpr std::size_t FiltersWithText = 10'000;
+} // namespace FilterFileBounds
 
 // The places in the list of the filters that have characters which the code page lacks; an export writes "?"
 // for each. Whoever exports tells the user before the file is replaced.
@@ -34,7 +44,8 @@ struct FilterFileContent {
     std::vector<FilterDefinition> Filters;
 };
 
-// Reads the file; lines may end with CR LF or LF. An empty file is read as an empty list.
+// Reads the file; lines may end with CR LF or LF. An empty file is read as an empty list. Without memory for
+// its filters it is one that cannot be read.
 FilterFileContent ImportFilterFile(const std::string& path, const CodePage& codePage);
 
 // The message for a file that was not Read: in the words of the filter dialog where it has some.

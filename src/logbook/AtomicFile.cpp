@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/AtomicFile.h"
 
+#include "logbook/FileProblem.h"
 #include "logbook/modUtil.h"
 
 #include <cerrno>
@@ -47,6 +48,8 @@ std::filesystem::path FollowLinks(std::filesystem::path path, std::error_code& e
 } // namespace
 
 AtomicFile::AtomicFile(const std::string& path) : target_(FollowLinks(ToPath(path), error_)) {
+    if (!error_ && CheckRegularFile(target_) == FileProblem::NoRegularFile)
+        error_ = FileProblem::NoRegularFile;
     if (error_)
         return;
     inUse_.emplace(target_);

@@ -15,7 +15,8 @@
 // beside the place is removed by the next that writes there.
 class AtomicFile {
   public:
-    // A link is followed: the file that it names is replaced, not the link.
+    // A link is followed: the file that it names is replaced, not the link. A device or a pipe is not
+    // replaced.
     explicit AtomicFile(const std::string& path);
     ~AtomicFile();
     AtomicFile(const AtomicFile&) = delete;

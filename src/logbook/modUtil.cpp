@@ -116,9 +116,8 @@ void SplitPath(std::string_view path, std::string& folder, std::string& fileName
 
 bool FileExists(const std::string& path) {
     std::error_code error;
-    if (std::filesystem::is_directory(ToPath(path), error))
-        return false;
-    return std::ifstream(ToPath(path), std::ios::binary).is_open();
+    return std::filesystem::is_regular_file(ToPath(path), error) &&
+           std::ifstream(ToPath(path), std::ios::binary).is_open();
 }
 
 std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder) {

@@ -56,7 +56,8 @@ std::filesystem::path ToPath(std::string_view path);
 // Splits a path behind its last "\" or "/": the folder keeps that separator and is "" for a bare file name.
 void SplitPath(std::string_view path, std::string& folder, std::string& fileName);
 
-// True when the file can be opened for reading at this moment. A folder cannot.
+// True when there is a regular file that can be opened for reading at this moment. To open a pipe may never
+// end.
 bool FileExists(const std::string& path);
 
 // The paths of what lies in a folder, as far as the system lists it; a failing disk raises nothing here.

@@ -122,12 +122,21 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::ZipTooLarge, "a member is larger than 4 GiB", "eine Datei darin ist größer als 4 GiB"},
     {TextId::ZipTooDense, "a member claims more than a thousand times its packed size",
      "eine Datei darin gibt mehr als das Tausendfache ihrer gepackten Größe an"},
+    {TextId::ZipFiltersTooLarge, "its filter list is larger than 64 MiB",
+     "seine Filterliste ist größer als 64 MiB"},
+    {TextId::ZipCommentsTooLarge, "its comments are larger than 2 GiB",
+     "seine Kommentare sind größer als 2 GiB"},
     {TextId::ZipNotUnpacked, "the temporary folder cannot be written to",
      "in den temporären Ordner kann nicht geschrieben werden"},
     // Comments files
     {TextId::CommentsFileNoComments, "File includes no comment information!",
      "File includes no comment information!"},
     {TextId::CommentsFileUnreadable, "Cannot read comments file", "Kommentardatei kann nicht gelesen werden"},
+    // Why a filter or comments file, or another one, is not read or written
+    {TextId::NoRegularFile, "not a regular file", "keine gewöhnliche Datei"},
+    {TextId::FileTooLarge, "the file is too large", "die Datei ist zu groß"},
+    {TextId::LineTooLong, "a line is too long", "eine Zeile ist zu lang"},
+    {TextId::TooManyLines, "the file has too many lines", "die Datei hat zu viele Zeilen"},
     // Saving an archive
     {TextId::ArchiveNotSaved, "The archive could not be saved", "Das Archiv konnte nicht gespeichert werden"},
     {TextId::ArchiveCommentsLose, "Entries whose comments have characters that the archive cannot hold: ",

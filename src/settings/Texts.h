@@ -105,10 +105,17 @@ enum class TextId : std::uint16_t {
     ZipEncrypted,
     ZipTooLarge,
     ZipTooDense,
+    ZipFiltersTooLarge,
+    ZipCommentsTooLarge,
     ZipNotUnpacked,
     // Comments files
     CommentsFileNoComments,
     CommentsFileUnreadable,
+    // Why a filter or comments file, or another one, is not read or written
+    NoRegularFile,
+    FileTooLarge,
+    LineTooLong,
+    TooManyLines,
     // Saving an archive
     ArchiveNotSaved,
     ArchiveCommentsLose,

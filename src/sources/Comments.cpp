@@ -4,12 +4,14 @@
 #include "logbook/AtomicFile.h"
 #include "logbook/Blanks.h"
 #include "logbook/EventLines.h"
-#include "logbook/TextFile.h"
+#include "logbook/FileProblem.h"
+#include "settings/ReasonText.h"
 #include "settings/Texts.h"
 
 #include <algorithm>
 #include <charconv>
 #include <limits>
+#include <new>
 #include <optional>
 #include <string_view>
 
@@ -97,27 +99,35 @@ std::string FormatText(const std::string& comment) {
     return quoted + Quote;
 }
 
-} // namespace
-
-CommentsFileResult CommentLogbook(const std::string& path, EntryTable& entries, const CodePage& codePage) {
-    using Outcome = CommentsFileResult::Outcome;
-    const auto endWith = [](std::error_code error) {
-        return CommentsFileResult{error ? Outcome::CannotRead : Outcome::Read, error};
-    };
-    std::ifstream stream;
-    std::string line;
-    if (const std::error_code error = OpenTextFile(path, stream))
-        return endWith(error);
-    if (!ReadTextLine(stream, line))
-        return endWith(TextFileError(stream));
+// False for a file without the header.
+bool ReadComments(TextFile& file, EntryTable& entries, const CodePage& codePage) {
+    std::string_view line;
+    if (!file.ReadLine(line))
+        return true;
     if (line != Header)
-        return {Outcome::NoHeader, {}};
-    while (ReadTextLine(stream, line)) {
+        return false;
+    while (file.ReadLine(line)) {
         const std::optional<CommentLine> comment = ParseLine(line);
         if (comment && comment->Number >= 0 && comment->Number < entries.Count())
             entries.SetComment(static_cast<EntryNumber>(comment->Number), codePage.ToUtf8(comment->Text));
     }
-    return endWith(TextFileError(stream));
+    return true;
+}
+
+} // namespace
+
+CommentsFileResult CommentLogbook(const std::string& path, EntryTable& entries, const CodePage& codePage) {
+    using Outcome = CommentsFileResult::Outcome;
+    TextFile file(path, CommentsFileBounds);
+    std::error_code error;
+    try {
+        if (!ReadComments(file, entries, codePage))
+            return {Outcome::NoHeader, {}};
+        error = file.Error();
+    } catch (const std::bad_alloc&) {
+        error = std::make_error_code(std::errc::not_enough_memory);
+    }
+    return {error ? Outcome::CannotRead : Outcome::Read, error};
 }
 
 std::string CommentsFileMessage(const std::string& path, const CommentsFileResult& result,
@@ -128,7 +138,7 @@ std::string CommentsFileMessage(const std::string& path, const CommentsFileResul
         break;
     case Outcome::CannotRead:
         return std::string(Text(TextId::CommentsFileUnreadable, language)) + " (" + path + ": " +
-               result.Error.message() + ")";
+               ReasonText(result.Error, language) + ")";
     case Outcome::NoHeader:
         return std::string(Text(TextId::CommentsFileNoComments, language));
     }
@@ -145,8 +155,15 @@ std::vector<EntryNumber> CommentsThatLose(const EntryTable& entries, const CodeP
 
 std::error_code SaveComments(const std::string& path, const EntryTable& entries, const CodePage& codePage) {
     AtomicFile file(path);
+    TextFileRoom room(CommentsFileBounds);
+    std::error_code error = room.Take(Header);
     file.Stream() << Header << "\r\n";
-    for (const auto& [number, comment] : entries.Comments())
-        file.Stream() << Blank << number << Blank << FormatText(codePage.FromUtf8(comment).Text) << "\r\n";
+    for (const auto& [number, comment] : entries.Comments()) {
+        const std::string line =
+            Blank + std::to_string(number) + Blank + FormatText(codePage.FromUtf8(comment).Text);
+        if (error = room.Take(line); error)
+            return error;
+        file.Stream() << line << "\r\n";
+    }
     return file.Commit();
 }

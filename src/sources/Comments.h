@@ -2,6 +2,7 @@
 #pragma once
 
 #include "logbook/EntryTable.h"
+#include "logbook/TextFile.h"
 #include "settings/Language.h"
 
 #include <cstdint>
@@ -19,6 +20,9 @@
 // A comment that holds a comma or a double quote, or begins or ends with a blank, stands in double quotes,
 // its own ones doubled. So every comment comes back as it was.
 
+// Room for ten million comments of a hundred characters, or some of millions. A file beyond that is not read.
+inline constexpr TextFileBounds CommentsFileBounds{.File = std::uint64_t{2} << 30U, .Line = 16U << 20U};
+
 struct CommentsFileResult {
     enum class Outcome : std::uint8_t {
         Read,
@@ -31,7 +35,8 @@ struct CommentsFileResult {
 };
 
 // Sets the comments of the entries that the file names; the others keep theirs. Without Read none is set,
-// except where the file cannot be read to its end. An empty file is read as one without comments.
+// except where the file cannot be read to its end, as when memory runs out. An empty file is read as one
+// without comments.
 //
 // Files of other writers may have a comma between number and comment. A comment without quotes ends at a
 // comma; what follows on the line is passed over. So are lines that have no number, and numbers that the
@@ -45,5 +50,6 @@ std::string CommentsFileMessage(const std::string& path, const CommentsFileResul
 // saves comments tells the user before.
 std::vector<EntryNumber> CommentsThatLose(const EntryTable& entries, const CodePage& codePage);
 
-// Writes the comments of all entries; an existing file is replaced when the new one is whole.
+// Writes the comments of all entries; an existing file is replaced when the new one is whole. Fails for
+// comments beyond the bounds, too.
 std::error_code SaveComments(const std::string& path, const EntryTable& entries, const CodePage& codePage);

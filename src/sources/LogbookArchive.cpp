@@ -4,6 +4,7 @@
 #include "filter/FilterFile.h"
 #include "logbook/AtomicFile.h"
 #include "logbook/modUtil.h"
+#include "settings/ReasonText.h"
 #include "settings/Texts.h"
 #include "sources/Comments.h"
 #include "sources/ZipArchive.h"
@@ -60,8 +61,8 @@ std::string RefusalOf(const std::filesystem::path& file, Language language) {
     return archive.Error();
 }
 
-std::string WithFile(const std::string& file, const std::error_code& error) {
-    return error ? file + ": " + error.message() : std::string();
+std::string WithFile(const std::string& file, const std::error_code& error, Language language) {
+    return error ? file + ": " + ReasonText(error, language) : std::string();
 }
 
 // One saving, from what can be told beforehand to the archive in its place.
@@ -79,7 +80,7 @@ class Saving {
         std::error_code error;
         const std::optional<FileStamp> now = StampOf(content_.LogbookFile, error);
         if (!now)
-            return WithFile(content_.LogbookFile, error);
+            return WithFile(content_.LogbookFile, error, language_);
         const FileStamp stamp = content_.LogbookStamp.value_or(*now);
         if (stamp != *now)
             return Say(TextId::LogbookChangedMeanwhile);
@@ -95,7 +96,7 @@ class Saving {
         const std::optional<FileStamp> replaced = StampOf(path_, error);
         AtomicFile archive(path_);
         if (archive.Path().empty())
-            return archive.Commit().message();
+            return ReasonText(archive.Commit(), language_);
         if (std::string reason = Build(archive.Path(), progress); !reason.empty())
             return reason;
         if (StampOf(content_.LogbookFile, error) != stamp)
@@ -103,7 +104,7 @@ class Saving {
         if (StampOf(path_, error) != replaced)
             return Say(TextId::ArchiveChangedMeanwhile);
         error = archive.Commit();
-        return error ? error.message() : std::string();
+        return error ? ReasonText(error, language_) : std::string();
     }
 
   private:
@@ -118,10 +119,10 @@ class Saving {
         const std::filesystem::path comments = workplace_.Path() / "comments";
         std::error_code error = ExportFilterFile(filters.string(), content_.Filters, content_.FileCodePage);
         if (error)
-            return WithFile(filters.string(), error);
+            return WithFile(filters.string(), error, language_);
         error = SaveComments(comments.string(), content_.Entries, content_.FileCodePage);
         if (error)
-            return WithFile(comments.string(), error);
+            return WithFile(comments.string(), error, language_);
         const FileToPack files[] = {{base + ".log", ToPath(content_.LogbookFile)},
                                     {base + ".fil", filters},
                                     {base + ".cmt", comments}};

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "sources/ZipArchive.h"
 
+#include "filter/FilterFile.h"
+#include "logbook/AsciiCase.h"
+#include "sources/Comments.h"
+
 #include <zip.h>
 
 #include <algorithm>
@@ -12,6 +16,17 @@ namespace {
 constexpr std::uint64_t MostUnpacked = std::uint64_t{4} << 30U;
 constexpr std::uint64_t AlwaysUnpacked = std::uint64_t{64} << 20U;
 constexpr std::uint64_t MostExpansion = 1000;
+
+// What lies beside a logbook is read under bounds of its own.
+struct BoundOfKind {
+    std::string_view Extension;
+    std::uint64_t Most;
+    TextId Reason;
+};
+constexpr std::array<BoundOfKind, 2> BoundsOfKinds{{
+    {".fil", FilterFileBounds::Bytes.File, TextId::ZipFiltersTooLarge},
+    {".cmt", CommentsFileBounds.File, TextId::ZipCommentsTooLarge},
+}};
 
 struct CloseMember {
     void operator()(zip_file_t* member) const { zip_fclose(member); }
@@ -46,6 +61,9 @@ std::string_view ZipMember::FileName() const {
 std::string_view ZipMember::Refusal(Language language) const {
     if (Size > MostUnpacked)
         return Text(TextId::ZipTooLarge, language);
+    for (const BoundOfKind& bound : BoundsOfKinds)
+        if (Size > bound.Most && LowerCase(Name).ends_with(bound.Extension))
+            return Text(bound.Reason, language);
     if (Size > AlwaysUnpacked && (Size - 1) / MostExpansion >= PackedSize)
         return Text(TextId::ZipTooDense, language);
     return {};

@@ -24,7 +24,8 @@ struct ZipMember {
     std::string_view FileName() const;
 
     // Why the member is not unpacked, as it claims to be too large: more than 4 GiB, or more than 64 MiB and
-    // over a thousand times its packed size. "" when it is.
+    // over a thousand times its packed size; for filters and comments, also by their own bounds. "" when it
+    // is.
     std::string_view Refusal(Language language) const;
 };
 

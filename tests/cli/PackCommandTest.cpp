@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/RunProgram.h"
 #include "support/ReadText.h"
+#include "support/SpecialFiles.h"
 #include "support/TemporaryFolder.h"
 #include "support/ZipReader.h"
 #include "support/ZipWriter.h"
@@ -118,6 +119,19 @@ TEST_F(PackCommand, WhatFailsLeavesTheArchive) {
     WriteZip(Folder / "none.zip", {{"readme", "x"}});
     ExpectFailure({Folder / "none.zip", Out},
                   "The archive contains no logbook file (" + (Folder / "none.zip") + ")");
+}
+
+TEST_F(PackCommand, WhatIsNoFileIsNeitherReadNorReplaced) {
+    const std::string log = Folder.Write("a.log", Log);
+    for (const std::string& none : NoFiles(Folder)) {
+        ExpectFailure({log, Out, "--filters", none},
+                      "Cannot read filter file  \"" + none + "\" (not a regular file)");
+        ExpectFailure({log, Out, "--comments", none, "--language", "de"},
+                      "Kommentardatei kann nicht gelesen werden (" + none + ": keine gewöhnliche Datei)");
+    }
+    const std::string pipe = MakePipe(Folder, "pipe.qorvix");
+    ExpectFailure({log, pipe}, "The archive could not be saved (" + pipe + ": not a regular file)");
+    EXPECT_TRUE(std::filesystem::is_fifo(pipe));
 }
 
 TEST_F(PackCommand, WrongUsageIsStatusTwo) {

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "dialogs/FilterRows.h"
 #include "dialogs/LogbookSettingsTest.h"
+#include "filter/FilterFile.h"
+#include "support/SpecialFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <QComboBox>
 #include <QFileDialog>
+#include <QStyledItemDelegate>
 
 class frmLogbookSettingsFilesTest : public LogbookSettingsTest {
     Q_OBJECT
@@ -167,6 +171,49 @@ class frmLogbookSettingsFilesTest : public LogbookSettingsTest {
         Dialog->GetFilterFromFile(Folder->Path().string());
         QCOMPARE(Answered, 3);
         QCOMPARE(List().topLevelItemCount(), 1);
+    }
+
+    void WhatIsNoFileIsToldAndTheRowsStay() {
+        for (const std::string& path : NoFiles(*Folder)) {
+            Open({Language::German});
+            AnswerMessage(QMessageBox::Ok);
+            Dialog->GetFilterFromFile(path);
+            QCOMPARE(MessageTexts.last(), "Filterdatei \"" + QString::fromStdString(path) +
+                                              "\" kann nicht gelesen werden (keine gewöhnliche Datei)");
+            QCOMPARE(List().topLevelItemCount(), 1);
+        }
+        AnswerMessage(QMessageBox::Ok);
+        QVERIFY(!Dialog->SaveFilterInFile(*Folder / "pipe"));
+        QVERIFY(
+            MessageTexts.last().endsWith("pipe konnte nicht geschrieben werden (keine gewöhnliche Datei)"));
+        QVERIFY(std::filesystem::is_fifo(*Folder / "pipe"));
+    }
+
+    void OneFilterTooManyIsToldAndTheOthersAreShown() {
+        std::string text = "[Filters]\r\n";
+        for (std::size_t i = 0; i <= FilterFileBounds::FiltersWithText; ++i)
+            text += "X|0|" + std::to_string(i) + "|||1\r\n";
+        Open();
+        AnswerMessage(QMessageBox::Ok);
+        Dialog->GetFilterFromFile(Folder->Write("list.fil", text));
+        QVERIFY(MessageTexts.last().endsWith("(the file has too many lines)"));
+        QCOMPARE(List().topLevelItemCount(), static_cast<int>(FilterFileBounds::FiltersWithText));
+    }
+
+    void LongListsStayWholeAndAreShownInPart() {
+        std::string numbers = "1";
+        while (numbers.size() < 1000000)
+            numbers += ",1000000";
+        Open();
+        Dialog->GetFilterFromFile(Folder->Write("list.fil", "[Filters]\r\nX|8|" + numbers + "|||1\r\n"));
+        const QModelIndex cell = List().model()->index(0, FilterColumns::String);
+        QVERIFY(cell.data(Qt::ToolTipRole).toString().size() < 2100);
+        const auto* const delegate = qobject_cast<QStyledItemDelegate*>(List().itemDelegate());
+        QVERIFY(delegate != nullptr);
+        QCOMPARE(delegate->displayText(cell.data(), QLocale()),
+                 QString::fromStdString(numbers.substr(0, 2000)));
+        QVERIFY(Dialog->SaveFilterInFile(*Folder / "saved.fil"));
+        QVERIFY(Content("saved.fil") == Content("list.fil"));
     }
 
     void EmptyFileEmptiesTheList() {

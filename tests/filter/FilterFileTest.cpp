@@ -2,6 +2,9 @@
 #include "filter/FilterFile.h"
 
 #include "filter/FilterText.h"
+#include "logbook/FileProblem.h"
+#include "support/LittleMemory.h"
+#include "support/SpecialFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -24,8 +27,25 @@ class FilterFile : public testing::Test {
         return texts;
     }
 
+    // A file of so many filters.
+    std::string Many(std::size_t count, const std::string& filter) const {
+        std::string text = "[Filters]\r\n";
+        for (std::size_t i = 0; i < count; ++i)
+            text += filter + "\r\n";
+        return Folder.Write("many.fil", text);
+    }
+
+    void ExpectCannotRead(const std::string& path, const std::error_code& error) const {
+        const FilterFileContent content = ImportFilterFile(path, CodePage());
+        EXPECT_EQ(content.Result, Outcome::CannotRead) << path;
+        EXPECT_EQ(content.Error, error) << path;
+    }
+
     TemporaryFolder Folder;
 };
+
+const FilterDefinition Numbered{FilterActions::Exclude, FilterTypes::Numbers, "1,3,5", "", "", true};
+const FilterDefinition WithText{FilterActions::Exclude, 3, "N938", "", "", true};
 
 } // namespace
 
@@ -104,4 +124,70 @@ TEST_F(FilterFile, LineBreakInAFilterIsLost) {
 TEST_F(FilterFile, ExportThatFailsKeepsTheOldFile) {
     EXPECT_EQ(ExportFilterFile(Folder / "no/such/a.fil", DefaultFilters(), CodePage()),
               std::errc::no_such_file_or_directory);
+}
+
+TEST_F(FilterFile, WhatIsNoFileIsNotOpened) {
+    for (const std::string& path : NoFiles(Folder))
+        ExpectCannotRead(path, FileProblem::NoRegularFile);
+    const std::string pipe = Folder / "pipe";
+    const FilterFileContent content = ImportFilterFile(pipe, CodePage());
+    EXPECT_EQ(FilterFileMessage(pipe, content, {Language::English}),
+              "Cannot read filter file  \"" + pipe + "\" (not a regular file)");
+    EXPECT_EQ(FilterFileMessage(pipe, content, {Language::German}),
+              "Filterdatei \"" + pipe + "\" kann nicht gelesen werden (keine gewöhnliche Datei)");
+}
+
+TEST_F(FilterFile, LongListsAreRead) {
+    const std::string numbers(1000000, '7');
+    const FilterFileContent content = Import("[Filters]\r\nX|8|" + numbers + "|||1\r\n");
+    EXPECT_EQ(content.Result, Outcome::Read);
+    ASSERT_EQ(content.Filters.size(), 1U);
+    EXPECT_EQ(content.Filters[0].StringFilter, numbers);
+}
+
+TEST_F(FilterFile, SizeAndLinesHaveABound) {
+    const std::string path = Folder.Write("a.fil", "[Filters]\r\n");
+    std::filesystem::resize_file(path, FilterFileBounds::Bytes.File + 1);
+    ExpectCannotRead(path, FileProblem::TooLarge);
+    std::filesystem::resize_file(path, FilterFileBounds::Bytes.File);
+    ExpectCannotRead(path, FileProblem::LineTooLong);
+}
+
+TEST_F(FilterFile, NumberOfFiltersHasABound) {
+    const std::string number = FormatFilter(Numbered);
+    const std::string text = FormatFilter(WithText);
+    EXPECT_EQ(ImportFilterFile(Many(FilterFileBounds::Filters, number), CodePage()).Filters.size(),
+              FilterFileBounds::Filters);
+    ExpectCannotRead(Many(FilterFileBounds::Filters + 1, number), FileProblem::TooManyLines);
+    EXPECT_EQ(ImportFilterFile(Many(FilterFileBounds::FiltersWithText, text), CodePage()).Filters.size(),
+              FilterFileBounds::FiltersWithText);
+    ExpectCannotRead(Many(FilterFileBounds::FiltersWithText + 1, text), FileProblem::TooManyLines);
+}
+
+TEST_F(FilterFile, WhatCouldNotBeReadAgainIsNotWritten) {
+    const std::string path = Folder.Write("a.fil", "old");
+    const auto expect = [&](std::vector<FilterDefinition> filters, FileProblem problem) {
+        EXPECT_EQ(ExportFilterFile(path, filters, CodePage()), problem);
+        EXPECT_EQ(FileContent(path), "old");
+    };
+    FilterDefinition longest = WithText;
+    longest.StringFilter.resize(FilterFileBounds::Bytes.Line, 'x');
+    expect({longest}, FileProblem::LineTooLong);
+    longest.StringFilter.resize(FilterFileBounds::Bytes.Line / 2);
+    expect(std::vector(10, longest), FileProblem::TooLarge);
+    expect(std::vector(FilterFileBounds::Filters + 1, Numbered), FileProblem::TooManyLines);
+    expect(std::vector(FilterFileBounds::FiltersWithText + 1, WithText), FileProblem::TooManyLines);
+    EXPECT_FALSE(ExportFilterFile(path, std::vector(FilterFileBounds::Filters, Numbered), CodePage()));
+    EXPECT_EQ(ImportFilterFile(path, CodePage()).Result, Outcome::Read);
+}
+
+TEST_F(FilterFile, WithoutMemoryItCannotBeRead) {
+    if (!MemoryCanBeLittle)
+        GTEST_SKIP() << "memory cannot be limited here";
+    const std::string path = Many(FilterFileBounds::Filters, FormatFilter(Numbered));
+    EXPECT_TRUE(HoldsWithLittleMemory(4U << 20U, [&] {
+        const FilterFileContent content = ImportFilterFile(path, CodePage());
+        return content.Result == Outcome::CannotRead && content.Filters.empty() &&
+               content.Error == std::errc::not_enough_memory;
+    }));
 }

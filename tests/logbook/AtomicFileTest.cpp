@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/AtomicFile.h"
 
+#include "logbook/FileProblem.h"
+#include "support/SpecialFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -75,6 +77,21 @@ TEST(AtomicFile, WhatAnotherIsWritingStays) {
     EXPECT_FALSE(second.Commit());
     EXPECT_FALSE(first.Commit());
     EXPECT_EQ(FileContent(path), "first");
+}
+
+TEST(AtomicFile, APipeIsNotReplaced) {
+    const TemporaryFolder folder;
+    const std::string pipe = MakePipe(folder, "pipe");
+    std::filesystem::create_symlink("pipe", folder / "link");
+    for (const std::string& path : {pipe, folder / "link"}) {
+        AtomicFile file(path);
+        file.Stream() << "new";
+        EXPECT_TRUE(file.Path().empty());
+        EXPECT_EQ(file.Commit(), FileProblem::NoRegularFile);
+    }
+    EXPECT_TRUE(std::filesystem::is_fifo(pipe));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
+    EXPECT_EQ(FilesIn(folder), 2);
 }
 
 TEST(AtomicFile, FailureIsToldWithItsReason) {

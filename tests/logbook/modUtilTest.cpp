@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/modUtil.h"
 
+#include "support/SpecialFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -130,6 +131,12 @@ TEST(FileExists, MeansThatItCanBeRead) {
     EXPECT_FALSE(FileExists(folder / "missing.log"));
     EXPECT_FALSE(FileExists(folder.Path().string()));
     EXPECT_FALSE(FileExists(""));
+}
+
+TEST(FileExists, IsNotSaidOfWhatIsNoFile) {
+    const TemporaryFolder folder;
+    for (const std::string& path : NoFiles(folder))
+        EXPECT_FALSE(FileExists(path)) << path;
 }
 
 TEST(ChangeExtension, ReplacesWhatFollowsTheLastDot) {

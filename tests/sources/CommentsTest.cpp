@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "sources/Comments.h"
 
+#include "logbook/FileProblem.h"
 #include "support/EntriesFrom.h"
+#include "support/LittleMemory.h"
+#include "support/SpecialFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -221,4 +224,54 @@ TEST_F(CommentsTest, FailedSaveLeavesTheFileAsItWas) {
               std::errc::no_such_file_or_directory);
     std::filesystem::create_directory(Folder / "folder.cmt");
     EXPECT_EQ(SaveComments(Folder / "folder.cmt", Entries, CodePage()), std::errc::is_a_directory);
+}
+
+TEST_F(CommentsTest, WhatIsNoFileIsNotOpened) {
+    for (const std::string& path : NoFiles(Folder)) {
+        const CommentsFileResult result = CommentLogbook(path, Entries, CodePage());
+        EXPECT_EQ(result.Result, Outcome::CannotRead);
+        EXPECT_EQ(result.Error, FileProblem::NoRegularFile);
+        EXPECT_EQ(CommentsFileMessage(path, result, {Language::German}),
+                  "Kommentardatei kann nicht gelesen werden (" + path + ": keine gewöhnliche Datei)");
+    }
+}
+
+TEST_F(CommentsTest, LongCommentsComeBack) {
+    Entries.SetComment(3, std::string(700000, '"') + std::string(700000, ','));
+    Entries.SetComment(4, std::string(CommentsFileBounds.Line - 3, 'x'));
+    const Comments before = Entries.Comments();
+    EXPECT_TRUE(Read(Saved()) == before);
+}
+
+TEST_F(CommentsTest, LineBeyondTheBoundEndsTheFile) {
+    const std::string path = Folder.Write(
+        "long.cmt", "[Comments]\r\n 1 a\r\n 2 " + std::string(CommentsFileBounds.Line, 'x') + "\r\n 3 c\r\n");
+    const CommentsFileResult result = CommentLogbook(path, Entries, CodePage());
+    EXPECT_EQ(result.Result, Outcome::CannotRead);
+    EXPECT_EQ(CommentsFileMessage(path, result, {Language::English}),
+              "Cannot read comments file (" + path + ": a line is too long)");
+    EXPECT_EQ(Entries.Comments(), (Comments{{1, "a"}}));
+}
+
+TEST_F(CommentsTest, FileBeyondTheBoundIsNotRead) {
+    const std::string path = Folder.Write("large.cmt", "[Comments]\r\n 1 a\r\n");
+    std::filesystem::resize_file(path, CommentsFileBounds.File + 1);
+    EXPECT_EQ(CommentLogbook(path, Entries, CodePage()).Error, FileProblem::TooLarge);
+    EXPECT_EQ(Entries.Comments(), Comments{});
+}
+
+TEST_F(CommentsTest, CommentThatCouldNotBeReadAgainIsNotSaved) {
+    const std::string path = Folder.Write("a.cmt", "old");
+    Entries.SetComment(4, std::string(CommentsFileBounds.Line - 2, 'x'));
+    EXPECT_EQ(SaveComments(path, Entries, CodePage()), FileProblem::LineTooLong);
+    EXPECT_EQ(FileContent(path), "old");
+}
+
+TEST_F(CommentsTest, WithoutMemoryTheFileCannotBeRead) {
+    if (!MemoryCanBeLittle)
+        GTEST_SKIP() << "memory cannot be limited here";
+    const std::string path = Folder.Write("a.cmt", "[Comments]\r\n 1 a\r\n 2 " + std::string(10000000, 'x'));
+    EXPECT_TRUE(HoldsWithLittleMemory(4U << 20U, [&] {
+        return CommentLogbook(path, Entries, CodePage()).Error == std::errc::not_enough_memory;
+    }));
 }

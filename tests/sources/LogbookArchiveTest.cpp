@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/LogbookArchive.h"
 
+#include "filter/FilterFile.h"
 #include "filter/FilterText.h"
 #include "sources/Comments.h"
 #include "sources/LogbookSource.h"
@@ -302,6 +303,12 @@ TEST_F(LogbookArchiveTest, WhatWouldNotOpenAgainIsNotSaved) {
     ExpectFailure("a member is larger than 4 GiB");
     fs::resize_file(Content.LogbookFile, 70U << 20U);
     ExpectFailure("a member claims more than a thousand times its packed size");
+    Folder.Write("logs/a.log", "the logbook\r\n");
+    Entries.SetComment(4, std::string(CommentsFileBounds.Line, 'x'));
+    ExpectFailure("comments: a line is too long");
+    Entries.SetComment(4, "");
+    Filters.resize(FilterFileBounds::Filters + 1);
+    ExpectFailure("filters: the file has too many lines");
 }
 
 TEST_F(LogbookArchiveTest, TellsItsProgress) {

@@ -29,6 +29,19 @@ class LogbookSourceTest : public testing::Test {
 
     std::string InTemp(const std::string& name) const { return (Temp.Path() / name).string(); }
 
+    // The archive, with a member that claims to be so large.
+    std::string Claiming(const std::string& archive, const std::string& member, std::uint32_t size) const {
+        std::string bytes = FileContent(archive);
+        constexpr std::size_t SizeInHeader = 24;
+        constexpr std::size_t NameInHeader = 46;
+        std::size_t header = bytes.find("PK\1\2");
+        while (bytes.compare(header + NameInHeader, member.size(), member) != 0)
+            header = bytes.find("PK\1\2", header + 1);
+        for (std::size_t i = 0; i < sizeof size; ++i)
+            bytes[header + SizeInHeader + i] = static_cast<char>(size >> 8U * i);
+        return Folder.Write("claiming.qorvix", bytes);
+    }
+
     // Says a message or asks a question only in the ways that opening does.
     void TearDown() override {
         for (const UserInterface::MessageIcon icon : User.Icons)
@@ -197,6 +210,31 @@ TEST_F(LogbookSourceTest, MemberThatClaimsTooMuchIsRefused) {
         << User.Messages[0];
     const auto small = Resolve(Zip("small.qorvix", {{"base.log", std::string(60U << 20U, 'x')}}));
     EXPECT_EQ(std::filesystem::file_size(small->LogbookFile), 60U << 20U);
+}
+
+TEST_F(LogbookSourceTest, FiltersAndCommentsHaveBoundsOfTheirOwn) {
+    const std::string archive =
+        Zip("a.qorvix", {{"base.log", "text"}, {"base.FIL", "[Filters]"}, {"base.cmt", "[Comments]"}});
+    const auto refusal = [&](const std::string& member, std::uint32_t size, std::int32_t language) {
+        User.Messages.clear();
+        const std::string path = Claiming(archive, member, size);
+        EXPECT_EQ(Logbook(ResolveSource(path, Temp, User, Language{language})), "(none)");
+        const std::string begin =
+            std::string(Text(TextId::ArchiveWithoutLogbook, {language})) + " (" + path + ": ";
+        const std::string message = User.Messages.empty() ? "" : User.Messages[0];
+        return message.starts_with(begin) ? message.substr(begin.size()) : message;
+    };
+    EXPECT_EQ(refusal("base.FIL", (64U << 20U) + 1, Language::English),
+              "its filter list is larger than 64 MiB)");
+    EXPECT_EQ(refusal("base.FIL", (64U << 20U) + 1, Language::German),
+              "seine Filterliste ist größer als 64 MiB)");
+    EXPECT_EQ(refusal("base.cmt", (2U << 30U) + 1, Language::English), "its comments are larger than 2 GiB)");
+    EXPECT_EQ(refusal("base.cmt", (2U << 30U) + 1, Language::German),
+              "seine Kommentare sind größer als 2 GiB)");
+    // Below the bounds it is their content that is not as claimed.
+    EXPECT_EQ(refusal("base.FIL", 60U << 20U, Language::English), "the archive is damaged)");
+    EXPECT_EQ(refusal("base.cmt", 60U << 20U, Language::English), "the archive is damaged)");
+    EXPECT_EQ(refusal("base.FIL", 5, Language::English), "the archive is damaged)");
 }
 
 TEST_F(LogbookSourceTest, NameThatNoFileCanHaveIsCutInTheTemporaryFolder) {

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <system_error>
+
+// Why a file is not taken, where the system has no word for it. Settings' ReasonText says it in the user's
+// language.
+enum class FileProblem {
+    NoRegularFile = 1, // a device or a pipe: reading it may never end, and a file may not take its place
+    TooLarge,
+    LineTooLong,
+    TooManyLines,
+};
+
+// The problems as errors; their messages are English.
+const std::error_category& FileProblems();
+
+inline std::error_code make_error_code(FileProblem problem) {
+    return {static_cast<int>(problem), FileProblems()};
+}
+
+template <>
+struct std::is_error_code_enum<FileProblem> : std::true_type {};
+
+// None for a regular file, also at the end of links; else why it is none, or cannot be looked at.
+std::error_code CheckRegularFile(const std::filesystem::path& path);
