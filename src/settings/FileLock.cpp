@@ -11,19 +11,28 @@
 FileLock::FileLock(const std::string& path) {
     // Readable for all, so that a run as another user does not shut this one out.
     constexpr mode_t Mode = S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH;
-    handle_ = ::open(path.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, Mode);
-    if (handle_ < 0)
-        return;
-    (void)::fchmod(handle_, Mode);
-    while (::flock(handle_, LOCK_EX) != 0)
-        if (errno != EINTR) {
-            ::close(handle_);
-            handle_ = -1;
-            return;
-        }
+    // A pipe is opened without waiting for its other end.
+    handle_ = ::open(path.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, Mode);
+    if (!Take(Mode))
+        Release();
 }
 
-FileLock::~FileLock() {
+bool FileLock::Take(unsigned mode) const {
+    struct stat status {};
+    if (handle_ < 0 || ::fstat(handle_, &status) != 0 || !S_ISREG(status.st_mode))
+        return false;
+    (void)::fchmod(handle_, mode);
+    int result = 0;
+    do
+        result = ::flock(handle_, LOCK_EX);
+    while (result != 0 && errno == EINTR);
+    return result == 0;
+}
+
+FileLock::~FileLock() { Release(); }
+
+void FileLock::Release() {
     if (handle_ >= 0)
         ::close(handle_);
+    handle_ = -1;
 }

@@ -4,7 +4,8 @@
 #include <string>
 
 // Holds a lock that other processes take, too, by the name of a lock file; waits until it is free. The lock
-// ends with the object, or with the process. Where the file cannot be made, nothing is held.
+// ends with the object, or with the process. Where the file cannot be made, or something else than a file has
+// its name, nothing is held.
 class FileLock {
   public:
     explicit FileLock(const std::string& path);
@@ -15,5 +16,8 @@ class FileLock {
     bool IsHeld() const { return handle_ >= 0; }
 
   private:
+    bool Take(unsigned mode) const;
+    void Release();
+
     int handle_ = -1;
 };

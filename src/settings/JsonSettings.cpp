@@ -3,13 +3,13 @@
 
 #include "logbook/AsciiCase.h"
 #include "logbook/AtomicFile.h"
+#include "logbook/FileProblem.h"
 #include "logbook/modUtil.h"
 #include "settings/FileLock.h"
 #include "settings/Registry.h"
 #include "settings/UserFolders.h"
 
 #include <array>
-#include <cerrno>
 #include <fstream>
 #include <limits>
 
@@ -18,6 +18,9 @@
 namespace {
 
 using Json = JsonSettings::Json;
+
+// In bytes. Five million entries removed from the list one by one make a sixth of it.
+constexpr std::size_t LargestFile = 256U << 20U;
 
 // Takes the first part off a key path.
 std::string_view TakePart(std::string_view& path) {
@@ -89,17 +92,32 @@ bool Apply(const SettingsChange& change, Json& root) {
     return true;
 }
 
+// True when values are nested as in no settings. What it says of a text that is no JSON has no meaning.
+bool IsNestedTooDeep(std::string_view text) {
+    constexpr int MostDepth = 32;
+    int depth = 0;
+    bool inText = false;
+    for (std::size_t i = 0; i < text.size() && depth <= MostDepth; ++i) {
+        const char c = text[i];
+        if (inText && c == '\\')
+            ++i;
+        else if (c == '"')
+            inText = !inText;
+        else if (!inText && (c == '[' || c == '{'))
+            ++depth;
+        else if (!inText && (c == ']' || c == '}'))
+            --depth;
+    }
+    return depth > MostDepth;
+}
+
 // Parses the whole file; a nesting that no settings have counts as damage, so that no file can exhaust the
 // stack.
 bool Parse(const std::string& text, Json& root) {
-    constexpr int MostDepth = 32;
-    bool tooDeep = false;
-    const auto watchDepth = [&](int depth, Json::parse_event_t, Json&) {
-        tooDeep = tooDeep || depth > MostDepth;
-        return !tooDeep;
-    };
-    root = Json::parse(text, watchDepth, false);
-    return !tooDeep && root.is_object();
+    if (IsNestedTooDeep(text))
+        return false;
+    root = Json::parse(text, nullptr, false);
+    return root.is_object();
 }
 
 } // namespace
@@ -117,15 +135,19 @@ JsonSettings::FileState JsonSettings::StateOfFile() const {
 
 JsonSettings::Content JsonSettings::Load(Json& root) const {
     root = Json::object();
-    errno = 0;
-    std::ifstream stream(file_, std::ios::binary);
-    if (!stream)
-        return errno == ENOENT || errno == ENOTDIR ? Content::Missing : Content::Unreadable;
+    const std::error_code error = CheckRegularFile(ToPath(file_));
+    if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory)
+        return Content::Missing;
+    std::ifstream stream;
+    if (!error)
+        stream.open(ToPath(file_), std::ios::binary);
+    if (!stream.is_open())
+        return Content::Unreadable;
     std::string text;
-    for (std::array<char, 65536> part; stream;
+    for (std::array<char, 65536> part; stream && text.size() <= LargestFile;
          text.append(part.data(), static_cast<std::size_t>(stream.gcount())))
         stream.read(part.data(), static_cast<std::streamsize>(part.size()));
-    if (stream.bad())
+    if (stream.bad() || text.size() > LargestFile)
         return Content::Unreadable;
     if (text.empty())
         return Content::Missing;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/RunProgram.h"
 #include "support/ReadText.h"
+#include "support/SpecialFiles.h"
 #include "support/TemporaryFolder.h"
 #include "support/ZipWriter.h"
 
@@ -216,6 +217,27 @@ TEST_F(ExportCommand, BadFilterFilePrintsNothing) {
     const std::string invalid = Folder.Write("invalid.fil", "[Filters]\r\nI|0||||1\r\nnonsense\r\n");
     EXPECT_EQ(errors(invalid, "en"), "qorvix-cli: " + invalid + ": invalid filter in line 3\n");
     EXPECT_EQ(errors(invalid, "de"), "qorvix-cli: " + invalid + ": ungültiger Filter in Zeile 3\n");
+}
+
+TEST_F(ExportCommand, FilterFileThatIsNoFileIsNotWaitedFor) {
+    const std::string file = File({Header("BERR:    a")});
+    for (const std::string& filters : NoFiles(Folder)) {
+        const ProgramResult result = RunCommandLineTool({"export", file, "--filters", filters});
+        EXPECT_EQ(result.ExitStatus, 1);
+        EXPECT_EQ(result.Output, "");
+        EXPECT_EQ(result.Errors,
+                  "qorvix-cli: Cannot read filter file  \"" + filters + "\" (not a regular file)\n");
+    }
+}
+
+TEST_F(ExportCommand, SettingsThatAreNoFileCountAsNone) {
+    std::filesystem::create_directories(Folder / "config/VELTRANDOR");
+    MakePipe(Folder, "config/VELTRANDOR/Qorvix.json");
+    const ProgramResult result =
+        RunCommandLineTool({"export", File({Header("BERR:    a")}), "--stored-filters"}, Folder / "config");
+    EXPECT_EQ(result.ExitStatus, 0);
+    EXPECT_EQ(result.Errors, "");
+    EXPECT_THAT(result.Output, HasSubstr("\"data\":\"a\""));
 }
 
 TEST_F(ExportCommand, MessagesFollowTheLanguage) {

@@ -2,6 +2,8 @@
 #include "settings/JsonSettings.h"
 
 #include "settings/Registry.h"
+#include "support/OrdinaryUser.h"
+#include "support/SpecialFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -113,6 +115,86 @@ TEST_F(JsonSettingsTest, FolderInThePlaceOfTheFileReadsAsEmpty) {
     EXPECT_EQ(Settings.ReadSettingLong("A", 3), 3);
     Settings.WriteSetting("A", 5, SettingType::Integer);
     EXPECT_TRUE(std::filesystem::is_directory(File()));
+}
+
+TEST_F(JsonSettingsTest, NestingOfAnyDepthIsDamage) {
+    constexpr int Depth = 1000000;
+    const auto repeated = [](std::string_view text) {
+        std::string all;
+        for (int i = 0; i < Depth; ++i)
+            all += text;
+        return all;
+    };
+    for (const std::string& content :
+         {repeated("["), repeated("{\"a\":"), repeated("[1,"), repeated("[") + repeated("]"),
+          "{\"DialogLanguage\": 5, \"a\": " + repeated("[") + repeated("]") + "}"}) {
+        Folder.Write("Qorvix.json", content);
+        EXPECT_EQ(ReadNumber(File(), "DialogLanguage"), -1);
+        WriteNumber(File(), "DialogLanguage", 1);
+        EXPECT_EQ(ReadNumber(File(), "DialogLanguage"), 1);
+    }
+}
+
+TEST_F(JsonSettingsTest, BracketsInTextsDoNotNest) {
+    const std::string text = std::string(100, '[') + "\"\\" + std::string(100, '{');
+    Settings.WriteSetting("A", text, SettingType::Text);
+    Settings.WriteSetting(text, 5, SettingType::Integer);
+    JsonSettings anew(File());
+    EXPECT_EQ(Registry(anew).ReadSettingString("A", ""), text);
+    EXPECT_EQ(Registry(anew).ReadSettingLong(text, 0), 5);
+    EXPECT_FALSE(std::filesystem::exists(File() + ".damaged"));
+}
+
+TEST_F(JsonSettingsTest, FileThatNoSettingsMakeIsNeitherReadNorReplaced) {
+    Folder.Write("Qorvix.json", "{\"A\": 5}");
+    std::filesystem::resize_file(File(), (std::uintmax_t{256} << 20U) + 1);
+    EXPECT_EQ(ReadNumber(File(), "A"), -1);
+    WriteNumber(File(), "A", 6);
+    EXPECT_EQ(std::filesystem::file_size(File()), (std::uintmax_t{256} << 20U) + 1);
+}
+
+TEST_F(JsonSettingsTest, WhatIsNoFileReadsAsEmptyAndIsNotReplaced) {
+    MakePipe(Folder, "pipe");
+    std::filesystem::permissions(Folder.Path(), std::filesystem::perms::all);
+    // Whom no device belongs to, whatever is done to it.
+    const OrdinaryUser user;
+    ASSERT_TRUE(user.IsOrdinary());
+    for (const char* target : {"/dev/null", "/dev/zero", "pipe"}) {
+        std::filesystem::remove(File());
+        std::filesystem::create_symlink(target, File());
+        EXPECT_EQ(ReadNumber(File(), "A"), -1) << target;
+        WriteNumber(File(), "A", 5);
+        EXPECT_EQ(ReadNumber(File(), "A"), -1) << target;
+        EXPECT_EQ(std::filesystem::read_symlink(File()), target);
+        EXPECT_FALSE(std::filesystem::is_regular_file(File())) << target;
+    }
+    EXPECT_FALSE(std::filesystem::exists(File() + ".damaged"));
+
+    std::filesystem::remove(File());
+    std::filesystem::rename(Folder / "pipe", File());
+    EXPECT_EQ(ReadNumber(File(), "A"), -1);
+    WriteNumber(File(), "A", 5);
+    EXPECT_TRUE(std::filesystem::is_fifo(File()));
+}
+
+TEST_F(JsonSettingsTest, LinkToAFileIsFollowed) {
+    Folder.Write("other.json", "{\"A\": 5}");
+    std::filesystem::create_symlink("other.json", File());
+    EXPECT_EQ(ReadNumber(File(), "A"), 5);
+    WriteNumber(File(), "A", 6);
+    EXPECT_TRUE(std::filesystem::is_symlink(File()));
+    EXPECT_EQ(ReadNumber(Folder / "other.json", "A"), 6);
+}
+
+TEST_F(JsonSettingsTest, WithoutAFileToLockNothingIsWritten) {
+    WriteNumber(File(), "A", 5);
+    const std::string lock = File() + ".lock";
+    std::filesystem::remove(lock);
+    MakePipe(Folder, "Qorvix.json.lock");
+    WriteNumber(File(), "A", 6);
+    EXPECT_EQ(ReadNumber(File(), "A"), 5);
+    EXPECT_TRUE(std::filesystem::is_fifo(lock));
+    EXPECT_EQ(std::filesystem::status(lock).permissions(), std::filesystem::perms(0600));
 }
 
 TEST_F(JsonSettingsTest, EmptyFileIsNoDamage) {
