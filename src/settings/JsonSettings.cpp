@@ -138,8 +138,9 @@ JsonSettings::Content JsonSettings::Load(Json& root) const {
     const std::error_code error = CheckRegularFile(ToPath(file_));
     if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory)
         return Content::Missing;
+    std::error_code ignored;
     std::ifstream stream;
-    if (!error)
+    if (!error && std::filesystem::file_size(ToPath(file_), ignored) <= LargestFile)
         stream.open(ToPath(file_), std::ios::binary);
     if (!stream.is_open())
         return Content::Unreadable;
@@ -216,8 +217,11 @@ bool JsonSettings::KeepDamaged() const {
 }
 
 bool JsonSettings::Store(const Json& root, Content before) {
+    const std::string text = root.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+    if (text.size() > LargestFile)
+        return false;
     AtomicFile file(file_);
-    file.Stream() << root.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+    file.Stream() << text;
     if (before == Content::Damaged && !KeepDamaged())
         return false;
     return !file.Commit();

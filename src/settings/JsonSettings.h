@@ -18,6 +18,7 @@
 // of the program takes, so that copies never lose each other's values. A file that cannot be parsed reads as
 // empty and is kept as "<file>.damaged" when a change replaces it; one that is kept already is kept on, with
 // a number behind its name. What cannot be read, or is no regular file, reads as empty and is never replaced.
+// A file is never made larger than one that is read.
 class JsonSettings : public SettingsStore {
   public:
     // Members of an object are found without case.

@@ -153,6 +153,13 @@ TEST_F(JsonSettingsTest, FileThatNoSettingsMakeIsNeitherReadNorReplaced) {
     EXPECT_EQ(std::filesystem::file_size(File()), (std::uintmax_t{256} << 20U) + 1);
 }
 
+TEST_F(JsonSettingsTest, FileIsNotMadeLargerThanOneThatIsRead) {
+    WriteNumber(File(), "A", 5);
+    Settings.WriteSetting("B", std::string(256U << 20U, 'x'), SettingType::Text);
+    WriteNumber(File(), "C", 6);
+    EXPECT_EQ(FileContent(File()), "{\n  \"A\": 5,\n  \"C\": 6\n}\n");
+}
+
 TEST_F(JsonSettingsTest, WhatIsNoFileReadsAsEmptyAndIsNotReplaced) {
     MakePipe(Folder, "pipe");
     std::filesystem::permissions(Folder.Path(), std::filesystem::perms::all);
