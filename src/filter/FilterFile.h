@@ -13,7 +13,7 @@
 
 // Filter files (*.fil): the line "[Filters]", then a filter a line, in the code page of the control's files.
 
-// What a filter file may hold. A list that names every other one of ten million entries has 40 MB and fewer
+// What a filter file may hold. A list that names every other one of ten million entries has 45 MB and fewer
 // than 50,000 filters; one with a text costs every run a look at the data of all entries. A file beyond that
 // is neither read nor written.
 namespace FilterFileBounds {
