@@ -2,11 +2,20 @@
 #include "settings/FileLock.h"
 
 #include <cerrno>
+#include <chrono>
+#include <thread>
 
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+namespace {
+
+constexpr std::chrono::seconds MostWait{5};
+constexpr std::chrono::milliseconds Pause{2};
+
+} // namespace
 
 FileLock::FileLock(const std::string& path) {
     // Readable for all, so that a run as another user does not shut this one out.
@@ -22,11 +31,15 @@ bool FileLock::Take(unsigned mode) const {
     if (handle_ < 0 || ::fstat(handle_, &status) != 0 || !S_ISREG(status.st_mode))
         return false;
     (void)::fchmod(handle_, mode);
-    int result = 0;
-    do
-        result = ::flock(handle_, LOCK_EX);
-    while (result != 0 && errno == EINTR);
-    return result == 0;
+    const auto until = std::chrono::steady_clock::now() + MostWait;
+    while (::flock(handle_, LOCK_EX | LOCK_NB) != 0) {
+        if (errno != EINTR && errno != EWOULDBLOCK)
+            return false;
+        if (std::chrono::steady_clock::now() >= until)
+            break;
+        std::this_thread::sleep_for(Pause);
+    }
+    return true;
 }
 
 FileLock::~FileLock() { Release(); }

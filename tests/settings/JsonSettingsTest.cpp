@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/JsonSettings.h"
 
+#include "settings/FileLock.h"
 #include "settings/Registry.h"
 #include "support/OrdinaryUser.h"
 #include "support/SpecialFiles.h"
@@ -191,6 +192,14 @@ TEST_F(JsonSettingsTest, LinkToAFileIsFollowed) {
     WriteNumber(File(), "A", 6);
     EXPECT_TRUE(std::filesystem::is_symlink(File()));
     EXPECT_EQ(ReadNumber(Folder / "other.json", "A"), 6);
+}
+
+// As by a process that was stopped while it had the lock. Takes the seconds that are waited for it.
+TEST_F(JsonSettingsTest, LockThatIsNeverGivenBackStopsNobodyForEver) {
+    const FileLock held(File() + ".lock");
+    ASSERT_TRUE(held.IsHeld());
+    WriteNumber(File(), "A", 5);
+    EXPECT_EQ(ReadNumber(File(), "A"), 5);
 }
 
 TEST_F(JsonSettingsTest, WithoutAFileToLockNothingIsWritten) {
