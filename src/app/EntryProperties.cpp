@@ -10,11 +10,12 @@
 
 namespace {
 
-LogbookIdent IdentOf(const LogbookModel& model, int row) {
+LogbookIdent IdentOf(const EntryTable& entries, const LogbookModel& model, int row) {
     const auto cell = [&](LogbookColumn column) {
         return model.index(row, static_cast<int>(column)).data().toString();
     };
-    return {cell(LogbookColumn::Event),  WithLineBreaks(cell(LogbookColumn::Data)),
+    const EntryNumber entry = model.Rows()[static_cast<std::size_t>(row)].Entry;
+    return {cell(LogbookColumn::Event),  ToQString(BeginningWithLineBreaks(entries.Data(entry))),
             cell(LogbookColumn::Sender), cell(LogbookColumn::Name),
             cell(LogbookColumn::Time),   cell(LogbookColumn::Index),
             ToQString(model.Tag(row)),   WithLineBreaks(cell(LogbookColumn::Comment))};
@@ -36,7 +37,7 @@ void ShowEntryDialogs(const RowRanges& rows, Logbook& logbook, LogbookModel& mod
     for (const RowRange& range : rows) {
         for (std::size_t row = range.First; row <= range.Last; ++row) {
             const EntryNumber entry = model.Rows()[row].Entry;
-            dialog.ShowEntry(IdentOf(model, static_cast<int>(row)));
+            dialog.ShowEntry(IdentOf(logbook.Entries, model, static_cast<int>(row)));
             if (dialog.WasClosed())
                 return;
             const QString& comment = dialog.Comment();

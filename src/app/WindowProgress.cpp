@@ -39,5 +39,8 @@ void WindowProgress::ProcessPendingEvents() {
 }
 
 void WindowProgress::ShowMessage(std::string_view text) {
-    QMessageBox::information(window_, window_->windowTitle(), ToQString(text));
+    QMessageBox box(QMessageBox::Information, window_->windowTitle(), ToQString(text), QMessageBox::Ok,
+                    window_);
+    box.setTextFormat(Qt::PlainText); // it holds what the file says
+    box.exec();
 }

@@ -6,11 +6,15 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <csignal>
 #include <memory>
 #include <string>
 #include <vector>
 
 int main(int argc, char** argv) {
+#ifdef SIGXFSZ
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is told like a full disk
+#endif
     // All words are logbooks or options of this program, as bytes: none is for Qt, and a file's name need not
     // be UTF-8.
     const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);

@@ -8,6 +8,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <csignal>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -99,6 +100,9 @@ int Tell(const CLI::App& app, const CLI::ParseError& error) {
 } // namespace
 
 int main(int argc, char** argv) {
+#ifdef SIGXFSZ
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is told like a full disk
+#endif
     std::ios::sync_with_stdio(false);
 
     CLI::App app("Reads the event logbook of a ZEK machine-tool control.", "qorvix-cli");

@@ -6,12 +6,23 @@
 namespace {
 
 constexpr std::string_view LineEnd = "\r\n";
+constexpr std::string_view More = "...";
 
 void AppendLines(std::string& text, std::string_view cell) {
     for (std::size_t end; (end = cell.find(LineSeparator)) != std::string_view::npos;
          cell.remove_prefix(end + LineSeparator.size()))
         text.append(cell.substr(0, end)).append(LineEnd);
     text.append(cell);
+}
+
+void AppendBeginning(std::string& text, std::string_view cell) {
+    if (cell.size() <= MostShownText)
+        return AppendLines(text, cell);
+    std::size_t end = MostShownText;
+    while (end > 0 && (static_cast<unsigned char>(cell[end]) & 0xC0U) == 0x80U)
+        --end;
+    AppendLines(text, cell.substr(0, end));
+    text.append(LineEnd).append(More);
 }
 
 } // namespace
@@ -22,10 +33,16 @@ std::string WithLineBreaks(std::string_view cell) {
     return text;
 }
 
+std::string BeginningWithLineBreaks(std::string_view cell) {
+    std::string text;
+    AppendBeginning(text, cell);
+    return text;
+}
+
 std::string ContentText(std::string_view data, std::string_view comment) {
     std::string text;
-    AppendLines(text, data);
+    AppendBeginning(text, data);
     text.append(LineEnd);
-    AppendLines(text, comment);
+    AppendBeginning(text, comment);
     return text;
 }

@@ -98,6 +98,8 @@ std::error_code CommentJournal::Begin(const EntryTable& entries) {
     std::filesystem::create_directories(folder_, error);
     if (error)
         return error;
+    // Before there is a file: it takes a while for a large logbook, and the program may be killed.
+    const std::string header = Line({{"logbook", LogbookChecksum(entries)}, {"entries", entries.Count()}});
     std::string name = (folder_ / "comments-XXXXXX").string();
     errno = 0;
     handle_ = ::mkostemp(name.data(), O_APPEND | O_CLOEXEC);
@@ -108,7 +110,7 @@ std::error_code CommentJournal::Begin(const EntryTable& entries) {
     if (::flock(handle_, LOCK_EX | LOCK_NB) != 0)
         error = LastError();
     else
-        error = Append(Line({{"logbook", LogbookChecksum(entries)}, {"entries", entries.Count()}}));
+        error = Append(header);
     if (error)
         RemoveFile();
     else

@@ -13,6 +13,9 @@ namespace {
 
 using Json = nlohmann::json;
 
+// Each is held, and a process has some hundred handles. Later ones are offered the next time.
+constexpr std::size_t MostJournals = 200;
+
 std::optional<EntryNumber> NumberIn(const Json& line, const char* name) {
     const auto member = line.find(name);
     if (member == line.end() || !member->is_number_unsigned() || member->get<std::uint64_t>() > MostEntries)
@@ -79,6 +82,8 @@ std::vector<std::filesystem::path> FilesByAge(const std::filesystem::path& folde
 LostComments::LostComments(const std::filesystem::path& folder, const EntryTable& entries) {
     ChecksumOnDemand checksum(entries);
     for (const std::filesystem::path& path : FilesByAge(folder)) {
+        if (journals_.size() == MostJournals)
+            break;
         std::optional<LostJournal> journal = LostJournal::Hold(path);
         if (!journal)
             continue;

@@ -56,6 +56,22 @@ class frmMainTest : public MainWindowTest {
         QCOMPARE(Counts(), QString("0 / 1 Items"));
     }
 
+    // It holds what the file says.
+    void UnsupportedVersionIsToldAsPlainText() {
+        Qt::TextFormat format = Qt::AutoText;
+        QTimer::singleShot(0, Person.get(), [&] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            QVERIFY(box != nullptr);
+            format = box->textFormat();
+            MessageTexts << box->text();
+            box->accept();
+        });
+        Window->RunCommandLine({File("a.log", {"Operation Logbook Version <b>", Header("Stib: ON")})});
+        QCOMPARE(format, Qt::PlainText);
+        QCOMPARE(MessageTexts.size(), 1);
+        QVERIFY(MessageTexts.front().contains("<b>"));
+    }
+
     void UnsupportedVersionIsToldInGerman() {
         AnswerMessages(1);
         Window->RunCommandLine({File("a.log", {"Operation Logbook Version 2.0", Header("Stib: ON")})});

@@ -20,3 +20,14 @@ TEST(ContentText, SeparatorsAreLineEnds) {
     EXPECT_EQ(ContentText("a | | b", ""), "a\r\n| b\r\n");
     EXPECT_EQ(ContentText("a|b |c| d", ""), "a|b |c| d\r\n");
 }
+
+TEST(ContentText, OfAVeryLongTextTheBeginningIsShown) {
+    const std::string most(MostShownText, 'x');
+    EXPECT_EQ(ContentText(most, "seen"), most + "\r\nseen");
+    EXPECT_EQ(ContentText(most + "y", "seen"), most + "\r\n...\r\nseen");
+    EXPECT_EQ(ContentText("axis X", most + "y"), "axis X\r\n" + most + "\r\n...");
+    EXPECT_EQ(BeginningWithLineBreaks("a | b"), "a\r\nb");
+    // No character is cut.
+    const std::string cut = most.substr(1) + "€";
+    EXPECT_EQ(BeginningWithLineBreaks(cut), most.substr(1) + "\r\n...");
+}

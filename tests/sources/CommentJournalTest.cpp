@@ -322,6 +322,21 @@ TEST_F(CommentJournalTest, NestedLinesExhaustNothing) {
     EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "a"), Pair(2, "b")));
 }
 
+TEST_F(CommentJournalTest, MoreJournalsThanCanBeHeldAreOfferedBitByBit) {
+    constexpr std::size_t Count = 250;
+    Crash({{1, "a"}});
+    const fs::path first = Files().front();
+    for (std::size_t i = 1; i < Count; ++i)
+        fs::copy_file(first, State / ("comments-" + std::to_string(i)));
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    Journal.Saved();
+    EXPECT_EQ(Files().size(), Count - 200);
+    FillTable(Book, Entries(5));
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    Journal.Saved();
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
 TEST_F(CommentJournalTest, FolderThatCannotBeMadeIsTold) {
     fs::create_directories(State.parent_path());
     std::ofstream(State) << "a file";
