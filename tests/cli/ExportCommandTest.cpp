@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/RunProgram.h"
+#include "support/OddFiles.h"
 #include "support/ReadText.h"
-#include "support/SpecialFiles.h"
 #include "support/TemporaryFolder.h"
 #include "support/ZipWriter.h"
 

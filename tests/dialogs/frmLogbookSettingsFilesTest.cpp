@@ -2,7 +2,7 @@
 #include "dialogs/FilterRows.h"
 #include "dialogs/LogbookSettingsTest.h"
 #include "filter/FilterFile.h"
-#include "support/SpecialFiles.h"
+#include "support/OddFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <QComboBox>

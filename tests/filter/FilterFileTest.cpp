@@ -4,7 +4,7 @@
 #include "filter/FilterText.h"
 #include "logbook/FileProblem.h"
 #include "support/LittleMemory.h"
-#include "support/SpecialFiles.h"
+#include "support/OddFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

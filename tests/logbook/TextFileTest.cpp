@@ -2,7 +2,7 @@
 #include "logbook/TextFile.h"
 
 #include "logbook/FileProblem.h"
-#include "support/SpecialFiles.h"
+#include "support/OddFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

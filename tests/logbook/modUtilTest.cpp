@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/modUtil.h"
 
-#include "support/SpecialFiles.h"
+#include "support/OddFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

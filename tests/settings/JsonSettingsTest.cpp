@@ -3,8 +3,8 @@
 
 #include "settings/FileLock.h"
 #include "settings/Registry.h"
+#include "support/OddFiles.h"
 #include "support/OrdinaryUser.h"
-#include "support/SpecialFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

@@ -4,7 +4,7 @@
 #include "logbook/FileProblem.h"
 #include "support/EntriesFrom.h"
 #include "support/LittleMemory.h"
-#include "support/SpecialFiles.h"
+#include "support/OddFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
