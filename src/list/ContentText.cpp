@@ -2,6 +2,7 @@
 #include "list/ContentText.h"
 
 #include "logbook/EventLines.h"
+#include "logbook/TextBeginning.h"
 
 namespace {
 
@@ -16,13 +17,9 @@ void AppendLines(std::string& text, std::string_view cell) {
 }
 
 void AppendBeginning(std::string& text, std::string_view cell) {
-    if (cell.size() <= MostShownText)
-        return AppendLines(text, cell);
-    std::size_t end = MostShownText;
-    while (end > 0 && (static_cast<unsigned char>(cell[end]) & 0xC0U) == 0x80U)
-        --end;
-    AppendLines(text, cell.substr(0, end));
-    text.append(LineEnd).append(More);
+    AppendLines(text, TextBeginning(cell, MostShownText));
+    if (cell.size() > MostShownText)
+        text.append(LineEnd).append(More);
 }
 
 } // namespace

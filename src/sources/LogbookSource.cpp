@@ -2,6 +2,7 @@
 #include "sources/LogbookSource.h"
 
 #include "logbook/AsciiCase.h"
+#include "logbook/TextBeginning.h"
 #include "logbook/modUtil.h"
 #include "sources/ZipArchive.h"
 
@@ -34,12 +35,7 @@ std::string FileNameOf(const std::string& path) {
 std::string FileBaseOf(const std::string& base) {
     constexpr std::size_t Longest = 255 - LogExtension.size(); // in bytes, on all common file systems
     constexpr std::size_t Cut = 200;
-    if (base.size() <= Longest)
-        return base;
-    std::size_t length = Cut;
-    while (length > 0 && (static_cast<unsigned char>(base[length]) & 0xC0U) == 0x80U)
-        --length;
-    return base.substr(0, length);
+    return base.size() <= Longest ? base : std::string(TextBeginning(base, Cut));
 }
 
 // Unpacks the logbook of an archive, with what belongs to it, into a folder that is empty before.
