@@ -88,6 +88,8 @@ TEST_F(FilterTest, NameAndSenderAreWholeFields) {
     EXPECT_EQ(Rows(Entries, {"I|1|AB|ABC|plc|1"}), "9 ");
     EXPECT_EQ(Rows(Entries, {"I|2||ABC||1"}), "");
     EXPECT_EQ(Rows(Entries, {"I|4|bus|ABC|PLC|1"}), "5 ");
+    EXPECT_EQ(Rows(Entries, {"I|4|bus|ABCD|PLC|1"}), "");
+    EXPECT_EQ(Rows(Entries, {"I|4|bus|ABC|GEO|1"}), "");
 }
 
 TEST_F(FilterTest, NameAndSenderAreIgnoredFromTypeFiveOn) {

@@ -57,6 +57,12 @@ TEST(ClassicLine, StampLengthIsToldByTheLinesEnd) {
               "6 5 [] [] [04.01.10  0 12:34:56] a\n");
 }
 
+TEST(ClassicLine, OneBlankAloneMakesNoLongerStamp) {
+    for (const char* stamp : {"04.01.2 10 12:34:56", "04.01.20 0 12:34:56"})
+        EXPECT_EQ(EntriesOf(Classic({Header("Key:     a", stamp)})),
+                  std::string("6 5 [] [] [") + stamp + "] a\n");
+}
+
 TEST(ClassicLine, LongDataPushesTheStamp) {
     const std::string data(60, 'd');
     EXPECT_EQ(EntriesOf(Classic({"BERR:    " + data + Stamp})),
@@ -83,6 +89,9 @@ TEST(ClassicLine, ErrorOnOneLineCarriesItsData) {
 
 TEST(ClassicLine, AccessErrorOfTheLogbookGivesNoEntry) {
     EXPECT_EQ(EntriesOf(Classic({Header("ERR:     RD:ACCESSERR LOGBOOK 12")})), "-1 1 [] [] [] \n");
+    EXPECT_EQ(EntriesOf(Classic({Header("ERR:     RD:ACCESSERR LOGBOOK")})), "-1 1 [] [] [] \n");
+    EXPECT_EQ(EntriesOf(Classic({Header("ERR:     RD:ACCESSERR LOGBOO")})),
+              "3 3 [MAIN] [] [04.01.2010 12:34:56.789] RD:ACCESSERR LOGBOO\n");
     EXPECT_EQ(EntriesOf(Classic({Header("ERR:     RD:ACCESSERR FILE")})),
               "3 3 [MAIN] [] [04.01.2010 12:34:56.789] RD:ACCESSERR FILE\n");
 }

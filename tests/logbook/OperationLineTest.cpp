@@ -41,6 +41,11 @@ TEST(OperationLine, SenderReachesToColumn44) {
     senderOf("Mouse:", 38);
 }
 
+TEST(OperationLine, StatusIsTheTextOfColumns6To28) {
+    EXPECT_EQ(EntriesOf(Operation({Header("Stib:abcdefghijklmnopqrstuvwxyz0123456789")})),
+              std::string("5 1 [] [] ") + At + " abcdefghijklmnopqrstuvw\n");
+}
+
 TEST(OperationLine, KeyCodeIsNoSender) {
     EXPECT_EQ(EntriesOf(Operation({Header("Key: 0x1234"), "  x"})), std::string("6 5 [] [] ") + At + " x\n");
     EXPECT_EQ(EntriesOf(Operation({Header("Info: 0x1234"), "  x"})),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/Mod_FileHandling.h"
 
+#include "logbook/clsFile.h"
 #include "support/ReadText.h"
 #include "support/TemporaryFolder.h"
 #include "tools/LogbookWriter.h"
@@ -36,6 +37,7 @@ TEST(ReadLogbook, MissingAndEmptyFilesAreFalseWithoutAnError) {
         EXPECT_EQ(result.Book.LoadState, LoadStates::Done);
         EXPECT_EQ(result.Book.EntryCount, 42);
         EXPECT_EQ(result.Book.Entries.Count(), 1U);
+        EXPECT_EQ(result.Book.Entries[0].EventType, 0) << "an empty slot, and no line that gave no event";
         EXPECT_EQ(result.Book.Entries[0].Data, "");
         EXPECT_EQ(result.Title, "");
     }
@@ -162,6 +164,26 @@ TEST(ReadLogbook, ProgressIsToldEveryHundredEntries) {
     for (std::size_t i = 0; i + 1 < values.size(); ++i) {
         EXPECT_GT(values[i], i == 0 ? 0 : values[i - 1]);
         EXPECT_LT(values[i], 100);
+    }
+}
+
+TEST(ReadLogbook, ProgressIsToldOnlyWhereThePositionLiesBeforeTheEnd) {
+    // 101 entries, after which the next line tells of the progress.
+    std::string begin;
+    for (int pair = 0; pair < 50; ++pair)
+        begin += "RESET:123456\nINFO:1234567\na\n";
+    begin += "RESET:123456\nnothing\n";
+    const std::size_t position = begin.size() + 1 + clsFile::ChunkSize;
+    for (const std::size_t size : {begin.size(), position - 1, position, position + 1}) {
+        std::string text = begin;
+        text.resize(size, 'x');
+        ReadResult result;
+        ReadText(text, result);
+        EXPECT_EQ(result.Book.EntryCount, 101) << size;
+        std::vector<double> told{0};
+        if (size > position)
+            told.insert(told.begin(), static_cast<double>(position) / static_cast<double>(size) * 100);
+        EXPECT_EQ(result.Progress.Values, told) << size;
     }
 }
 

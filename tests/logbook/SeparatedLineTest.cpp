@@ -72,6 +72,30 @@ TEST(SeparatedLine, LineUpToColumn44HasNoClock) {
     EXPECT_EQ(EntriesOf(Separated({"Reset"})), "7 8 [] [] [  Mon Jan] \n");
 }
 
+TEST(SeparatedLine, ClockBeginsInColumn44) {
+    std::string line = "Reset";
+    line.resize(43, '-');
+    EXPECT_EQ(EntriesOf(Separated({line + "12:34:56"})), std::string("7 8 [] [] ") + At + " \n");
+    EXPECT_EQ(EntriesOf(Separated({line + " 12:34:56"})), std::string("7 8 [] [] ") + At + " \n");
+    EXPECT_EQ(EntriesOf(Separated({line + "12:34:56.789 Tue Feb 16 2010"})),
+              "7 8 [] [] [16.02.2010 12:34:56.789] \n");
+}
+
+TEST(SeparatedLine, LineHasAClockOnlyBeyondColumn44) {
+    std::string line = "Reset";
+    line.resize(43, '-');
+    // The character in column 44 alone is no clock; with one more the two are, short as they are.
+    EXPECT_EQ(EntriesOf(Separated({line + "x"})), "7 8 [] [] [  Mon Jan] \n");
+    EXPECT_EQ(EntriesOf(Separated({line + "xy"})), "7 8 [] [] [0 xy Mon J] \n");
+}
+
+TEST(SeparatedLine, StatusIsTheTextOfColumns6To28) {
+    const auto status = [](const std::string& text) { return EntriesOf(Separated({Event("Stib:" + text)})); };
+    EXPECT_EQ(status("abcdefghijklmnopqrstuvwxyz0123456789"),
+              std::string("5 1 [] [] ") + At + " abcdefghijklmnopqrstuvw\n");
+    EXPECT_EQ(status("OFF                     On"), std::string("5 11 [] [] ") + At + " OFF\n");
+}
+
 TEST(SeparatedLine, NextSeparatorChangesTheDateAndGoesOnWithTheNextLine) {
     EXPECT_EQ(
         EntriesOf(Separated({Event("Key:     ENT"), "_________Tue Feb 16 2010____", Event("Key:     F1")})),
