@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cstdlib>
 #include <fstream>
 
 #include <sys/resource.h>
@@ -15,17 +17,32 @@ inline constexpr bool MemoryCanBeLittle = false;
 inline constexpr bool MemoryCanBeLittle = true;
 #endif
 
-// Runs a function in a process of its own that gets only so many bytes of memory more; true when it returned
-// true there.
+// Takes what the heap has free, as far as the system gives no more: tests that ran before may have left a
+// lot.
+inline void TakeFreeMemory() {
+    static void* volatile taken = nullptr; // else the compiler may leave the calls out
+    for (std::size_t size = 1U << 20U; size >= sizeof(void*); size /= 2)
+        while (void* const block = std::malloc(size)) {
+            *static_cast<void**>(block) = taken;
+            taken = block;
+        }
+}
+
+// Runs a function in a process of its own that gets only so many bytes of memory more, whatever the heap has
+// free; true when it returned true there.
 template <typename Function>
 bool HoldsWithLittleMemory(std::size_t bytes, Function function) {
     const pid_t child = fork();
     if (child == 0) {
         std::size_t pages = 0;
         std::ifstream("/proc/self/statm") >> pages;
-        const rlim_t most = pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE)) + bytes;
-        const rlimit limit{most, most};
-        _exit(setrlimit(RLIMIT_AS, &limit) == 0 && function() ? 0 : 1);
+        const rlim_t now = pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+        const rlimit nothing{now, now + bytes};
+        const rlimit little{now + bytes, now + bytes};
+        if (setrlimit(RLIMIT_AS, &nothing) != 0)
+            _exit(1);
+        TakeFreeMemory();
+        _exit(setrlimit(RLIMIT_AS, &little) == 0 && function() ? 0 : 1);
     }
     int status = 0;
     waitpid(child, &status, 0);
