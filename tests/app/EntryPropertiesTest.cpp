@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindowTest.h"
 
+#include "support/ZipWriter.h"
+
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+
+#include <functional>
 
 // The event entry dialog as the main window opens it.
 class EntryPropertiesTest : public MainWindowTest {
@@ -56,6 +60,63 @@ class EntryPropertiesTest : public MainWindowTest {
         QCOMPARE(Cell(1, 6), QString());
     }
 
+    void CommentOfSeveralLinesIsShownInLines() {
+        WriteZip(Folder / "own.qorvix",
+                 {{"x.log", Lines({Header("INFO:    GEO AXIS"), "first", " second", Header("RESET:")})},
+                  {"x.cmt", "[Comments]\r\n 0 oil | filter | seen\r\n"}});
+        Window->OpenLogbook(Folder / "own.qorvix");
+        QCOMPARE(Cell(0, 1), QString("first | second | "));
+        QCOMPARE(Cell(0, 6), QString("oil | filter | seen"));
+        QStringList shown;
+        PressOK(0, [&](QPlainTextEdit& comment) {
+            shown << comment.toPlainText()
+                  << comment.window()->findChild<QPlainTextEdit*>("tbIdent")->toPlainText();
+        });
+        QCOMPARE(shown, QStringList({"oil\nfilter\nseen", "first\nsecond\n"}));
+        QCOMPARE(Cell(0, 6), QString("oil | filter | seen"));
+    }
+
+    void TypedMarkOfAClearedCommentClearsIt() {
+        Window->OpenLogbook(FileOfErrors(2));
+        EnterComment(1, "seen");
+        PressOK(1, [](QPlainTextEdit& comment) {
+            comment.selectAll();
+            QTest::keyClicks(&comment, "!!Clear!!");
+        });
+        QCOMPARE(Cell(1, 6), QString());
+        QVERIFY(Book->Entries.Comments().empty());
+    }
+
+    void ProposedTextThatStaysUntouchedBecomesTheComment_data() {
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QString>("comment");
+        QTest::newRow("English")
+            << 0
+            << "Start is locked: the door is open | Reason: | The protective door is open "
+               "or not locked. | Fix: | Close the door. | Reaction: | Ev_class 12 | "
+               "Nc-Stop | Anzeige - Logfile-Eintrag - Quittierung";
+        QTest::newRow("German")
+            << 1
+            << "Start gesperrt: Tür offen | Ursache: | Die Schutztür ist offen oder nicht "
+               "verriegelt. | Behebung: | Tür schließen. | Reaktion: | Ev_class 12 | "
+               "Nc-Stop | Anzeige - Logfile-Eintrag - Quittierung";
+    }
+
+    void ProposedTextThatStaysUntouchedBecomesTheComment() {
+        QFETCH(int, language);
+        QFETCH(QString, comment);
+        WriteLanguage(*Settings, {language});
+        OpenWindow();
+        Window->OpenLogbook(QORVIX_SOURCE_FOLDER "/samples/events.log");
+        const int row = static_cast<int>(Column(1).indexOf("Event: 232-0012"));
+        QVERIFY(row >= 0);
+        QString proposed;
+        PressOK(row, [&](QPlainTextEdit& box) { proposed = box.toPlainText(); });
+        QCOMPARE(proposed, QString(comment).replace(" | ", "\n"));
+        QCOMPARE(Cell(row, 6), comment);
+        QCOMPARE(Book->Entries.Comments().size(), 1U);
+    }
+
     void CommentGoesToTheEntryOfItsRow() {
         Window->OpenLogbook(FileOfErrors(3));
         ClickHeader(5);
@@ -97,6 +158,20 @@ class EntryPropertiesTest : public MainWindowTest {
         const char* Comment;
         const char* Button; // nullptr closes the window
     };
+
+    // Opens the dialog of a row, does this with the comment's box and presses OK.
+    void PressOK(int row, const std::function<void(QPlainTextEdit&)>& act) {
+        List()->selectRow(row);
+        bool done = false;
+        QTimer::singleShot(0, this, [&] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            act(*dialog->findChild<QPlainTextEdit*>("tbComment"));
+            QTest::mouseClick(dialog->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+            done = true;
+        });
+        QTest::keyClick(List(), Qt::Key_Return);
+        QVERIFY(done);
+    }
 
     // Types a comment into each of the next dialogs and presses a button; notes the index that was shown.
     void AnswerDialogs(const std::vector<Reply>& replies, QStringList* seen = nullptr) {

@@ -88,6 +88,21 @@ class MainWindowLayoutTest : public MainWindowTest {
         QVERIFY(Window->isMaximized());
     }
 
+    void ClosingWhileMaximisedKeepsAllFourLengths() {
+        const std::pair<const char*, int> lengths[] = {
+            {"Main.Left", 901}, {"Main.Top", 452}, {"Main.Width", 7503}, {"Main.Height", 6004}};
+        for (const auto& [name, length] : lengths)
+            StoreNumber(name, length);
+        StoreNumber("MainIsMaximized", 1);
+        OpenWindow();
+        QTRY_VERIFY(Window->isMaximized());
+        QVERIFY(Window->size() != QSize(500, 400));
+        Window->close();
+        QCOMPARE(Stored("MainIsMaximized"), 1);
+        for (const auto& [name, length] : lengths)
+            QCOMPARE(Stored(name), length);
+    }
+
     void MinimisedWindowKeepsItsNormalPlaceInTheSettings() {
         Window->showMinimized();
         Window->move(90, 90);

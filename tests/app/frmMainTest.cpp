@@ -215,6 +215,24 @@ class frmMainTest : public MainWindowTest {
         QVERIFY(MessageTexts.isEmpty());
     }
 
+    void EmbeddedModeShowsNoUsage() {
+        AnswerMessages(1);
+        Window->RunCommandLine({"?", "-EMB"});
+        QVERIFY(MessageTexts.isEmpty());
+        Window->RunCommandLine({"?"});
+        QCOMPARE(MessageTexts.size(), 1);
+        QVERIFY(MessageTexts.front().startsWith("Qorvix command line parameters:"));
+    }
+
+    void TitleOfAPathOfAnotherSystemIsTheBareName() {
+        Window->RunCommandLine({"C:\\x\\lb_act.log"});
+        QCOMPARE(Window->windowTitle(), QString("lb_act - Qorvix"));
+        Window->RunCommandLine(
+            {File("C:\\x\\copied.log", {Header("BERR:    a"), Header("BERR:    b"), Header("RESET:")})});
+        QCOMPARE(Window->windowTitle(), QString("copied - Qorvix"));
+        QCOMPARE(Counts(), QString("3 / 3 Items"));
+    }
+
     void LanguageIsSwitchedAtOnce() {
         Window->RunCommandLine({File("a.log", {Header("BERR:    a"), Header("RESET:")})});
         QCOMPARE(LanguageItem()->text(), QString("&Dialog language..."));
