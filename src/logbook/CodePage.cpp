@@ -3,6 +3,7 @@
 
 #include "logbook/ShortText.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstdlib>
 #include <cstring>
@@ -163,11 +164,15 @@ CodePage::Bytes CodePage::FromUtf8(std::string_view text) const {
     Bytes bytes;
     bytes.Text.reserve(text.size());
     while (!text.empty()) {
+        const auto ascii = std::find_if(text.begin(), text.end(), [](char c) { return (c & 0x80) != 0; });
+        bytes.Text.append(text.begin(), ascii);
+        text.remove_prefix(static_cast<std::size_t>(ascii - text.begin()));
+        if (text.empty())
+            break;
         const char32_t character = TakeCharacter(text);
-        const auto found = bytesOfUpperHalf_.find(character);
         if (character < 0x80)
             bytes.Text += static_cast<char>(character);
-        else if (found != bytesOfUpperHalf_.end())
+        else if (const auto found = bytesOfUpperHalf_.find(character); found != bytesOfUpperHalf_.end())
             bytes.Text += found->second;
         else {
             bytes.Text += '?';

@@ -296,7 +296,7 @@ TEST_F(FiltersFromEntries, ManyChangesAtOnceGiveTheSameFiltersAsOneByOne) {
             otherMemory.Values = Memory.Values;
 
             NumberFilters filters(other, Highlight);
-            for (int step = 0; step < 1500; ++step) {
+            for (int step = 0; step < 500; ++step) {
                 const auto number = static_cast<EntryNumber>(95 + random() % span);
                 if (random() % 3 == 0)
                     EXPECT_EQ(RemoveEntryFromFilter(Settings, number, Highlight), filters.Remove(number));

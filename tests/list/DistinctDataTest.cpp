@@ -13,11 +13,16 @@ namespace {
 
 // Entries whose data text ends in a number below `differing`.
 void Fill(EntryTable& entries, std::size_t count, std::size_t differing) {
+    const CodePage codePage;
     std::mt19937 random(1);
-    std::vector<TestEntry> list;
-    for (std::size_t i = 0; i < count; ++i)
-        list.push_back({EventTypes::Info, "Satz " + std::to_string(random() % differing), "", ""});
-    FillTable(entries, list);
+    entries.Clear();
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::string data = "Satz " + std::to_string(random() % differing);
+        ParsedEntry entry;
+        entry.EventType = EventTypes::Info;
+        entry.Data = data;
+        entries.Append(entry, codePage);
+    }
 }
 
 bool Find(const EntryTable& entries, DistinctData& distinct, const SortHook& hook = {}) {

@@ -81,11 +81,14 @@ std::string KeyOf(const EntryTable& entries, EntryNumber number, LogbookColumn c
     return FoldCase(cell);
 }
 
-LogbookRows PlainlySorted(const EntryTable& entries, LogbookRows rows, LogbookColumn column,
-                          bool descending) {
+std::vector<std::string> KeysOf(const EntryTable& entries, LogbookColumn column) {
     std::vector<std::string> keys;
     for (EntryNumber number = 0; number < entries.Count(); ++number)
         keys.push_back(KeyOf(entries, number, column));
+    return keys;
+}
+
+LogbookRows PlainlySorted(const std::vector<std::string>& keys, LogbookRows rows, bool descending) {
     std::stable_sort(rows.begin(), rows.end(), [&](const LogbookRow& a, const LogbookRow& b) {
         return descending ? keys[b.Entry] < keys[a.Entry] : keys[a.Entry] < keys[b.Entry];
     });
@@ -348,7 +351,7 @@ INSTANTIATE_TEST_SUITE_P(Data, ListSortingAtRandom, testing::Values(Texts::Few, 
 
 TEST_P(ListSortingAtRandom, SortsAsAPlainStableSortDoes) {
     std::mt19937 random(1);
-    for (const std::size_t count : {2U, 9U, 40U, 300U, 3000U, 20000U}) {
+    for (const std::size_t count : {2U, 9U, 40U, 300U, 3000U, 10000U}) {
         EntryTable entries;
         FillAtRandom(entries, count, GetParam(), random);
         LogbookRows rows = AllRows(entries);
@@ -358,24 +361,25 @@ TEST_P(ListSortingAtRandom, SortsAsAPlainStableSortDoes) {
                        rows.end());
         for (LogbookRow& row : rows)
             row.Highlighted = random() % 2 != 0;
-        for (int column = 0; column < LogbookColumnCount; ++column)
+        for (int column = 0; column < LogbookColumnCount; ++column) {
+            const std::vector<std::string> keys = KeysOf(entries, static_cast<LogbookColumn>(column));
             for (const bool descending : {false, true})
                 for (const bool shuffled : {false, true}) {
                     LogbookRows sorted = shuffled ? Shuffled(rows, random) : rows;
-                    const LogbookRows expected =
-                        PlainlySorted(entries, sorted, static_cast<LogbookColumn>(column), descending);
+                    const LogbookRows expected = PlainlySorted(keys, sorted, descending);
                     ListOrder order{-1, descending, {}};
                     ASSERT_TRUE(SortListByColumn(entries, sorted, static_cast<LogbookColumn>(column), order));
                     ASSERT_EQ(sorted, expected)
                         << count << " entries, column " << column << (descending ? " descending" : "");
                 }
+        }
     }
 }
 
 TEST_P(ListSortingAtRandom, TheHookHearsOfTheWayAndMayStopItAnywhere) {
     std::mt19937 random(1);
     EntryTable entries;
-    FillAtRandom(entries, 100000, GetParam(), random);
+    FillAtRandom(entries, 70000, GetParam(), random); // more than two calls of a pass over all
     const LogbookRows before = Shuffled(AllRows(entries), random);
     const ListOrder orderBefore{NumberOf(LogbookColumn::Time), false, LogbookColumn::Time};
     for (int column = 0; column < LogbookColumnCount; ++column) {
@@ -396,7 +400,12 @@ TEST_P(ListSortingAtRandom, TheHookHearsOfTheWayAndMayStopItAnywhere) {
         EXPECT_GE(percents.back(), 90);
         EXPECT_NE(rows, before);
 
-        for (std::size_t stopAt = 1; stopAt <= percents.size(); ++stopAt) {
+        if (GetParam() == Texts::Few && static_cast<LogbookColumn>(column) != LogbookColumn::Data)
+            continue; // sorted the same way whatever the data
+        // Of many calls some, the last among them: each costs a sort.
+        const std::size_t stops = std::min<std::size_t>(percents.size(), 12);
+        for (std::size_t stop = 1; stop <= stops; ++stop) {
+            const std::size_t stopAt = stop * percents.size() / stops;
             rows = before;
             order = orderBefore;
             std::size_t calls = 0;

@@ -6,6 +6,7 @@
 namespace {
 
 void Append(EntryTable& table, const LogbookEntry& entry) {
+    static const CodePage codePage; // costs far more than an entry
     ParsedEntry parsed;
     parsed.EventType = entry.EventType;
     parsed.Sender = entry.Sender;
@@ -13,7 +14,7 @@ void Append(EntryTable& table, const LogbookEntry& entry) {
     parsed.Data = entry.Data;
     parsed.Time = entry.Time;
     parsed.Image = entry.Image;
-    table.Append(parsed, CodePage());
+    table.Append(parsed, codePage);
 }
 
 void Append(EntryTable& table, std::string_view data, std::string_view sender = "",
