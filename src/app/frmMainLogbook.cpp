@@ -12,6 +12,7 @@
 #include "list/LogbookView.h"
 #include "list/QtText.h"
 #include "logbook/Mod_FileHandling.h"
+#include "settings/ReasonText.h"
 #include "sources/CommandLine.h"
 #include "sources/Comments.h"
 #include "sources/LogbookSource.h"
@@ -61,7 +62,8 @@ void frmMain::OfferLostComments() {
 
 void frmMain::NoteComment(EntryNumber number) {
     const std::error_code error = journal_.Note(logbook_.Entries, std::span(&number, 1));
-    ShowNotNoted(error ? QtText(TextId::CommentNotNoted, language_) + ToQString(error.message()) : QString());
+    ShowNotNoted(error ? QtText(TextId::CommentNotNoted, language_) + ToQString(ReasonText(error, language_))
+                       : QString());
 }
 
 CommentsOutcome frmMain::AskToSaveComments() {

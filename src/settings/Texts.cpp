@@ -137,6 +137,7 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::FileTooLarge, "the file is too large", "die Datei ist zu groß"},
     {TextId::LineTooLong, "a line is too long", "eine Zeile ist zu lang"},
     {TextId::TooManyLines, "the file has too many lines", "die Datei hat zu viele Zeilen"},
+    {TextId::UnknownReason, "Unknown error ", "Unbekannter Fehler "},
     // Saving an archive
     {TextId::ArchiveNotSaved, "The archive could not be saved", "Das Archiv konnte nicht gespeichert werden"},
     {TextId::ArchiveCommentsLose, "Entries whose comments have characters that the archive cannot hold: ",

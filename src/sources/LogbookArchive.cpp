@@ -126,7 +126,7 @@ class Saving {
         const FileToPack files[] = {{base + ".log", ToPath(content_.LogbookFile)},
                                     {base + ".fil", filters},
                                     {base + ".cmt", comments}};
-        std::string reason = BuildZip(archive, files, progress);
+        std::string reason = BuildZip(archive, files, language_, progress);
         return reason.empty() ? RefusalOf(archive, language_) : reason;
     }
 

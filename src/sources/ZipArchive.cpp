@@ -4,6 +4,7 @@
 #include "filter/FilterFile.h"
 #include "logbook/AsciiCase.h"
 #include "sources/Comments.h"
+#include "sources/ZipReason.h"
 
 #include <zip.h>
 
@@ -32,7 +33,7 @@ struct CloseMember {
     void operator()(zip_file_t* member) const { zip_fclose(member); }
 };
 
-// In the library's or the system's words only where they tell more than that the archive is no good.
+// By the library's or the system's reason only where it tells more than that the archive is no good.
 std::string ReasonOf(zip_error_t& error, Language language) {
     switch (zip_error_code_zip(&error)) {
     case ZIP_ER_NOZIP:
@@ -47,7 +48,7 @@ std::string ReasonOf(zip_error_t& error, Language language) {
     case ZIP_ER_WRONGPASSWD:
         return std::string(Text(TextId::ZipEncrypted, language));
     default:
-        return zip_error_strerror(&error);
+        return ZipReason(error, language);
     }
 }
 

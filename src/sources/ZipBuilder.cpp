@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "sources/ZipBuilder.h"
 
+#include "settings/ReasonText.h"
+#include "sources/ZipReason.h"
+
 #include <zip.h>
 
 #include <cerrno>
 #include <cstdio>
 #include <memory>
-#include <system_error>
 
 namespace {
 
@@ -19,33 +21,37 @@ using Archive = std::unique_ptr<zip_t, Discard>;
 constexpr zip_uint32_t DeflateLevel = 4;
 constexpr double ProgressStep = 0.01; // of the whole
 
-std::string ErrorOf(int code) {
+std::string ErrorOf(int code, Language language) {
     zip_error_t error;
     zip_error_init_with_code(&error, code);
-    std::string text = zip_error_strerror(&error);
+    std::string text = ZipReason(error, language);
     zip_error_fini(&error);
     return text;
 }
 
-std::string AddFile(zip_t* archive, const FileToPack& file) {
+std::string ErrorOf(zip_t* archive, Language language) {
+    return ZipReason(*zip_get_error(archive), language);
+}
+
+std::string AddFile(zip_t* archive, const FileToPack& file, Language language) {
     errno = 0;
     // The source keeps the file open and closes it.
     std::FILE* const handle = std::fopen(file.File.string().c_str(), "rb");
     if (handle == nullptr)
-        return file.File.string() + ": " + std::generic_category().message(errno);
+        return file.File.string() + ": " + SystemReason(errno, language);
     zip_source_t* const source = zip_source_filep(archive, handle, 0, -1);
     if (source == nullptr) {
         std::fclose(handle);
-        return zip_strerror(archive);
+        return ErrorOf(archive, language);
     }
     const zip_int64_t index = zip_file_add(archive, file.Name.c_str(), source, ZIP_FL_ENC_GUESS);
     if (index < 0) {
         zip_source_free(source);
-        return zip_strerror(archive);
+        return ErrorOf(archive, language);
     }
     if (zip_set_file_compression(archive, static_cast<zip_uint64_t>(index), ZIP_CM_DEFLATE, DeflateLevel) !=
         0)
-        return zip_strerror(archive);
+        return ErrorOf(archive, language);
     return {};
 }
 
@@ -56,13 +62,13 @@ void TellProgress(zip_t*, double part, void* progress) {
 } // namespace
 
 std::string BuildZip(const std::filesystem::path& archive, std::span<const FileToPack> files,
-                     const PackingProgress& progress) {
+                     Language language, const PackingProgress& progress) {
     int code = 0;
     Archive zip(zip_open(archive.string().c_str(), ZIP_CREATE | ZIP_TRUNCATE, &code));
     if (!zip)
-        return ErrorOf(code);
+        return ErrorOf(code, language);
     for (const FileToPack& file : files)
-        if (std::string reason = AddFile(zip.get(), file); !reason.empty())
+        if (std::string reason = AddFile(zip.get(), file, language); !reason.empty())
             return reason;
     PackingProgress tell = progress;
     if (tell)
@@ -71,7 +77,7 @@ std::string BuildZip(const std::filesystem::path& archive, std::span<const FileT
     if (tell)
         tell(0);
     if (!closed)
-        return zip_strerror(zip.get());
+        return ErrorOf(zip.get(), language);
     zip.release();
     return {};
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "settings/Language.h"
+
 #include <filesystem>
 #include <functional>
 #include <span>
@@ -19,6 +21,6 @@ using PackingProgress = std::function<void(double percent)>;
 // Builds a zip archive of files, all deflated, in the place of what `archive` was. Names that are not ASCII
 // are marked as UTF-8. The files go through in pieces, so memory does not grow with them.
 //
-// Returns why that failed, "" when it did not. After a failure the archive is of no use.
+// Returns why that failed, in this language, "" when it did not. After a failure the archive is of no use.
 std::string BuildZip(const std::filesystem::path& archive, std::span<const FileToPack> files,
-                     const PackingProgress& progress = {});
+                     Language language, const PackingProgress& progress = {});

@@ -149,6 +149,15 @@ class LostCommentsTest : public MainWindowTest {
         QCOMPARE(Find<QLabel>("statusText")->text(), QString("Ready"));
     }
 
+    void StateFolderThatCannotBeWrittenIsToldInGerman() {
+        Folder.Write("state", "a file");
+        WriteLanguage(*Settings, {1});
+        OpenWindow();
+        Comment(FileOfErrors(2), 0, "a");
+        QCOMPARE(Find<QLabel>("statusText")->text(),
+                 QString("Kommentare sind nicht gegen einen Absturz gesichert: Kein Ordner"));
+    }
+
   private:
     int Journals() const {
         std::error_code none;

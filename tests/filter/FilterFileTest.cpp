@@ -93,7 +93,7 @@ TEST_F(FilterFile, UnreadableFilesAreToldWithTheReason) {
     EXPECT_EQ(FilterFileMessage(missing, content, {Language::English}),
               "Cannot read filter file  \"" + missing + "\" (No such file or directory)");
     EXPECT_EQ(FilterFileMessage(missing, content, {Language::German}),
-              "Filterdatei \"" + missing + "\" kann nicht gelesen werden (No such file or directory)");
+              "Filterdatei \"" + missing + "\" kann nicht gelesen werden (Datei oder Ordner nicht gefunden)");
     const FilterFileContent folder = ImportFilterFile(Folder.Path().string(), CodePage());
     EXPECT_EQ(folder.Result, Outcome::CannotRead);
     EXPECT_EQ(folder.Error, std::errc::is_a_directory);

@@ -195,7 +195,7 @@ TEST_F(CommentsTest, FileThatCannotBeReadIsTold) {
     EXPECT_EQ(CommentsFileMessage(missing, result, {Language::English}),
               "Cannot read comments file (" + missing + ": No such file or directory)");
     EXPECT_EQ(CommentsFileMessage(missing, result, {Language::German}),
-              "Kommentardatei kann nicht gelesen werden (" + missing + ": No such file or directory)");
+              "Kommentardatei kann nicht gelesen werden (" + missing + ": Datei oder Ordner nicht gefunden)");
     EXPECT_EQ(CommentLogbook(Folder.Path().string(), Entries, CodePage()).Error, std::errc::is_a_directory);
 }
 

@@ -110,9 +110,11 @@ TEST_F(ZipLogbookTest, FailureIsToldWithItsReason) {
     User.File = Folder / "out/missing/a.qorvix";
     EXPECT_EQ(Zip(), ZipOutcome::Failed);
     EXPECT_EQ(Zip({Language::German}), ZipOutcome::Failed);
-    const std::string why = " (" + *User.File + ": No such file or directory)";
-    EXPECT_EQ(User.Messages, (std::vector<std::string>{"The archive could not be saved" + why,
-                                                       "Das Archiv konnte nicht gespeichert werden" + why}));
+    EXPECT_EQ(User.Messages,
+              (std::vector<std::string>{"The archive could not be saved (" + *User.File +
+                                            ": No such file or directory)",
+                                        "Das Archiv konnte nicht gespeichert werden (" + *User.File +
+                                            ": Datei oder Ordner nicht gefunden)"}));
     EXPECT_EQ(User.Icons[0], UserInterface::MessageIcon::Exclamation);
     ExpectNothingSaved();
 }
