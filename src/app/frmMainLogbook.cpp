@@ -72,7 +72,12 @@ CommentsOutcome frmMain::AskToSaveComments() {
 
 bool frmMain::ZipLogbook() {
     const FilterLists lists = LoadFilters(registry_, language_);
-    const ZipLogbookParts parts{logbook_.Entries, lists.Filters, codePage_, tempFolder_, registry_};
+    const ZipLogbookParts parts{.Entries = logbook_.Entries,
+                                .Filters = lists.Filters,
+                                .FileCodePage = codePage_,
+                                .Temp = tempFolder_,
+                                .Settings = registry_,
+                                .ProgramFolder = ProgramFolder() + '/'};
     // The bar is gone before a failure is told.
     const auto showProgress = [this](double percent) {
         if (percent == 0)
@@ -123,7 +128,7 @@ void frmMain::ReplaceFilters(const std::string& filterFile) {
         }
     FilterLists lists = LoadFilters(registry_, language_);
     lists.Filters = std::move(content.Filters);
-    SaveFilters(registry_, lists, registry_.ReadFilterSettingString("InitFilterDir", ""));
+    SaveFilters(registry_, lists, "");
 }
 
 void frmMain::Refresh() {

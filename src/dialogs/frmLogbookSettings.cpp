@@ -29,15 +29,6 @@
 #include <system_error>
 #include <utility>
 
-namespace {
-
-std::string StoredFolder(const Registry& registry) {
-    return registry.ReadFilterSettingString("InitFilterDir",
-                                            QApplication::applicationDirPath().toStdString() + '/');
-}
-
-} // namespace
-
 frmLogbookSettings::frmLogbookSettings(const FilterDialogContext& context, std::function<void()> apply,
                                        QWidget* parent)
     : QDialog(parent),
@@ -45,7 +36,7 @@ frmLogbookSettings::frmLogbookSettings(const FilterDialogContext& context, std::
       apply_(std::move(apply)),
       rows_(context.Labels, context.DialogLanguage),
       lists_(LoadFilters(context.Settings, context.DialogLanguage)),
-      initFilterDir_(StoredFolder(context.Settings)),
+      initFilterDir_(FilterFolder(context.Settings, QApplication::applicationDirPath().toStdString() + '/')),
       lblFilter(new QLabel(this)),
       lvFilter(new DialogList(FilterColumns::Count, this)),
       lblNote(new FieldNote("lblNote", lvFilter)),

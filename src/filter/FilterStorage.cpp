@@ -138,9 +138,18 @@ FilterLists LoadFilters(const Registry& registry, Language language) {
 }
 
 void SaveFilters(Registry& registry, const FilterLists& lists, std::string_view initFilterDir) {
+    const std::string folder =
+        initFilterDir.empty() ? FilterFolder(registry, "") : std::string(initFilterDir);
     const Registry::Transaction transaction(registry);
     registry.DeleteFilterKey();
     WriteList(registry, FilterName, FilterCountName, TextsToStore(lists.Filters));
     WriteList(registry, StringFilterName, StringFilterCountName, TextsToStore(lists.StringFilters));
-    registry.WriteFilterSetting(FolderName, std::string(initFilterDir), SettingType::Text);
+    if (!folder.empty())
+        registry.WriteFilterSetting(FolderName, folder, SettingType::Text);
+}
+
+std::string FilterFolder(const Registry& registry, std::string_view programFolder) {
+    // No folder has an empty name: that was stored where there was none.
+    std::string folder = registry.ReadFilterSettingString(FolderName, "");
+    return folder.empty() ? std::string(programFolder) : folder;
 }

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -30,7 +31,11 @@ FilterLists LoadFilters(const Registry& registry, Language language);
 // Replaces the stored lists and the folder of filter files, in one write of the settings. A filter that fits
 // into a text of the settings only in a form that LoadFilters reads, too, is written in that: without the
 // flag where it is active, with an empty one where it is not; a string filter without what is passed over.
+// Without a folder ("") the stored one stays, or none.
 void SaveFilters(Registry& registry, const FilterLists& lists, std::string_view initFilterDir);
+
+// The folder of filter files, `programFolder` where none is stored.
+std::string FilterFolder(const Registry& registry, std::string_view programFolder);
 
 // The filters alone. IsStored is false when the default list stands in for what the settings hold.
 struct StoredFilters {

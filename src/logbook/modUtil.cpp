@@ -120,6 +120,14 @@ bool FileExists(const std::string& path) {
            std::ifstream(ToPath(path), std::ios::binary).is_open();
 }
 
+bool LiesIn(const std::filesystem::path& file, const std::filesystem::path& folder) {
+    std::error_code error;
+    const std::filesystem::path relative =
+        std::filesystem::weakly_canonical(file, error)
+            .lexically_relative(std::filesystem::weakly_canonical(folder, error));
+    return !error && !relative.empty() && *relative.begin() != "..";
+}
+
 std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder) {
     std::vector<std::filesystem::path> items;
     std::error_code error;

@@ -44,14 +44,6 @@ std::string ListOf(const std::vector<Number>& numbers, std::size_t first) {
     return numbers.size() > MostNamed ? list.append(", …") : list;
 }
 
-bool LiesIn(const std::filesystem::path& file, const std::filesystem::path& folder) {
-    std::error_code error;
-    const std::filesystem::path relative =
-        std::filesystem::weakly_canonical(file, error)
-            .lexically_relative(std::filesystem::weakly_canonical(folder, error));
-    return !error && !relative.empty() && *relative.begin() != "..";
-}
-
 // Why the program would not unpack the archive that was built; "" when it would.
 std::string RefusalOf(const std::filesystem::path& file, Language language) {
     const ZipArchive archive(file, language);

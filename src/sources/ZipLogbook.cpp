@@ -8,17 +8,26 @@ namespace {
 
 constexpr std::string_view ArchiveExtension = ".qorvix";
 
-// The archive that the user names. The name that is proposed has no folder: that of the logbook may be the
-// temporary one.
-std::optional<std::string> AskForArchive(const LogbookState& state, UserInterface& user, Language language) {
-    std::string folder;
+// As it is seen from any folder.
+std::string Absolute(const std::string& path) {
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(ToPath(path), error);
+    return error ? path : absolute.string();
+}
+
+// The archive that the user names. The name that is proposed is that of the logbook.
+std::optional<std::string> AskForArchive(const LogbookState& state, const ZipLogbookParts& parts,
+                                         UserInterface& user, Language language) {
+    std::string logbookFolder;
     std::string fileName;
-    SplitPath(state.CurrentLogbookFile, folder, fileName);
+    SplitPath(Absolute(state.CurrentLogbookFile), logbookFolder, fileName);
+    const bool isFirst = state.InitZipArchiveDir == parts.ProgramFolder;
+    const bool stays = !LiesIn(ToPath(logbookFolder), parts.Temp.Path());
     std::optional<std::string> path =
         user.AskFileToSave({.Title = TextId::SaveArchiveTitle,
                             .Filters = TextId::SaveArchiveFilter,
                             .DefaultExtension = std::string(ArchiveExtension.substr(1)),
-                            .Folder = state.InitZipArchiveDir,
+                            .Folder = isFirst && stays ? logbookFolder : state.InitZipArchiveDir,
                             .Name = ChangeExtension(fileName, ArchiveExtension)});
     if (!path || path->empty())
         return std::nullopt;
@@ -68,7 +77,7 @@ ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, UserInt
                       Language language, const PackingProgress& progress) {
     if (state.CurrentLogbookFile.empty())
         return ZipOutcome::Cancelled;
-    const std::optional<std::string> path = AskForArchive(state, user, language);
+    const std::optional<std::string> path = AskForArchive(state, parts, user, language);
     if (!path)
         return ZipOutcome::Cancelled;
     ArchiveContent content{.LogbookFile = state.CurrentLogbookFile,

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 
 enum class ZipOutcome : std::uint8_t { Saved, Cancelled, Failed };
 
@@ -18,12 +19,15 @@ struct ZipLogbookParts {
     const CodePage& FileCodePage;
     const TempFolder& Temp;
     Registry& Settings;
+    std::string ProgramFolder; // with its trailing separator
 };
 
 // Saves the logbook that is shown, with its comments and the active filters, as an archive that the user
-// names. Before texts lose characters, before a logbook file that has been changed since it was read goes in,
-// and before the archive that it came from is replaced though somebody else has changed it, the user is
-// asked. A failure is told with its reason; an archive of that name is then as it was.
+// names, at first in the folder of the last one. Before there is one, which the program's folder stands for,
+// that is the logbook's own folder, unless it is the temporary one. Before texts lose characters, before a
+// logbook file that has been changed since it was read goes in, and before the archive that it came from is
+// replaced though somebody else has changed it, the user is asked. A failure is told with its reason; an
+// archive of that name is then as it was.
 //
 // Saved: no comments are edited any more, and the archive's folder is stored. Without a logbook nothing
 // happens: Cancelled.

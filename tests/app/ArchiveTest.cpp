@@ -69,6 +69,49 @@ class ArchiveTest : public MainWindowTest {
         QCOMPARE(Column(6), QStringList({"", "", ""}));
     }
 
+    void FirstArchiveIsProposedBesideItsLogbook() {
+        const auto proposed = [this] {
+            QString directory;
+            QTimer::singleShot(0, Person.get(), [&] {
+                auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                QVERIFY(dialog != nullptr);
+                directory = dialog->directory().path();
+                dialog->reject();
+            });
+            Item("mnuFileZipLogbook")->trigger();
+            return directory;
+        };
+        const QString logs = QString::fromStdString(Folder.Path().string());
+        Window->OpenLogbook(FileOfErrors(1));
+        QCOMPARE(proposed(), logs);
+        // The folder that is stored when the window closes is that of the program, and none of an archive.
+        QVERIFY(Window->close());
+        QCOMPARE(Settings->ReadLogbookSettingString("InitZipArchiveDir", ""),
+                 QApplication::applicationDirPath().toStdString() + "/");
+        OpenWindow();
+        Window->OpenLogbook(FileOfErrors(1));
+        QCOMPARE(proposed(), logs);
+
+        std::filesystem::create_directory(Folder / "archives");
+        AnswerFileDialog(QString::fromStdString(Folder / "archives/a.qorvix"));
+        Item("mnuFileZipLogbook")->trigger();
+        QCOMPARE(proposed(), logs + "/archives");
+    }
+
+    void FiltersOfAnArchiveStoreNoFolderOfFilterFiles() {
+        WriteZip(Folder / "own.qorvix",
+                 {{"x.log", Lines({Header("BERR:    a")})}, {"x.fil", "[Filters]\r\nI|4||||1\r\n"}});
+        AnswerQuestion(QMessageBox::Yes);
+        QVERIFY(Window->OpenLogbook(Folder / "own.qorvix"));
+        QCOMPARE(Settings->ReadFilterSettingString("Filter1", ""), "I|4||||1");
+        QCOMPARE(Settings->ReadFilterSettingString("InitFilterDir", "none"), "none");
+        // One that is stored stays.
+        Settings->WriteFilterSetting("InitFilterDir", std::string("/filters/"), SettingType::Text);
+        AnswerQuestion(QMessageBox::Yes);
+        QVERIFY(Window->OpenLogbook(Folder / "own.qorvix"));
+        QCOMPARE(Settings->ReadFilterSettingString("InitFilterDir", "none"), "/filters/");
+    }
+
     void NameWithADotGetsTheExtensionToo() {
         Window->OpenLogbook(FileOfErrors(2));
         AnswerFileDialog(QString::fromStdString(Folder / "Machine 1.2"));

@@ -53,6 +53,19 @@ TEST_F(FilterStorage, ListsComeBack) {
     EXPECT_EQ(lists.StringFilters, (std::vector<StringFilter>{{"N938", "keys"}, {}}));
 }
 
+TEST_F(FilterStorage, WithoutAFolderTheStoredOneStays) {
+    SaveFilters(Settings, {{Errors}, {}}, "");
+    EXPECT_EQ(StoredText("InitFilterDir"), "(none)");
+    EXPECT_EQ(FilterFolder(Settings, "/program/"), "/program/");
+    SaveFilters(Settings, {{Errors}, {}}, "/filters/");
+    SaveFilters(Settings, {{NoN938}, {}}, "");
+    EXPECT_EQ(StoredText("InitFilterDir"), "/filters/");
+    EXPECT_EQ(FilterFolder(Settings, "/program/"), "/filters/");
+    // What an earlier version stored where there was none.
+    StoreText("InitFilterDir", "");
+    EXPECT_EQ(FilterFolder(Settings, "/program/"), "/program/");
+}
+
 TEST_F(FilterStorage, SavingIsOneWrite) {
     SaveFilters(Settings, {std::vector<FilterDefinition>(50, Errors), {}}, "");
     EXPECT_EQ(Store.Writes, 1);

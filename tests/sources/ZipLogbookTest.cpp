@@ -33,7 +33,8 @@ class ZipLogbookTest : public testing::Test {
                                                .Filters = Filters,
                                                .FileCodePage = Code,
                                                .Temp = Temp,
-                                               .Settings = Settings},
+                                               .Settings = Settings,
+                                               .ProgramFolder = "/program/"},
                                               User, language);
         EXPECT_EQ(User.StatusDepth, 0);
         return outcome;
@@ -94,6 +95,28 @@ TEST_F(ZipLogbookTest, FolderOfTheArchiveIsStoredForTheNext) {
     EXPECT_EQ(State.InitZipArchiveDir, Folder / "out/");
     EXPECT_EQ(Zip(), ZipOutcome::Saved);
     EXPECT_EQ(User.FilesToSave[1].Folder, Folder / "out/");
+}
+
+TEST_F(ZipLogbookTest, FirstArchiveIsProposedBesideItsLogbook) {
+    const auto folder = [&](const std::string& logbook) {
+        User.File.reset();
+        State.CurrentLogbookFile = logbook;
+        EXPECT_EQ(Zip(), ZipOutcome::Cancelled);
+        EXPECT_TRUE(User.FilesToSave.back().Name.starts_with("lb")) << User.FilesToSave.back().Name;
+        return User.FilesToSave.back().Folder;
+    };
+    State.InitZipArchiveDir = "/program/"; // as long as none was saved
+    EXPECT_EQ(folder(Folder / "lb.act.log"), Folder.Path().string() + "/");
+    EXPECT_EQ(folder("lb.log"), fs::current_path().string() + "/");
+    // What was unpacked, or links there, goes with the program.
+    EXPECT_EQ(folder((Temp.Path() / "lb.log").string()), "/program/");
+    fs::create_directory_symlink(Temp.Path(), Folder / "link");
+    EXPECT_EQ(folder(Folder / "link/lb.log"), "/program/");
+
+    State.CurrentLogbookFile = Folder / "lb.act.log";
+    User.File = Folder / "out/a.qorvix";
+    EXPECT_EQ(Zip(), ZipOutcome::Saved);
+    EXPECT_EQ(folder(Folder / "lb.act.log"), Folder / "out/");
 }
 
 TEST_F(ZipLogbookTest, CancelAndAnEmptyNameSaveNothing) {
