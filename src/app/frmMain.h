@@ -61,10 +61,12 @@ class frmMain : public QMainWindow {
     // unfinished; the title then stays as it was.
     bool OpenLogbook(std::string name);
 
-    // Reads a logbook file with its comments ("" = none) and fills the list. False when a run-time error left
+    // Reads a logbook file with its comments ("" = none), which messages call by a name, and fills the list.
+    // False when a run-time error left
     // it unfinished, which the user has then been told. A file that cannot be opened gives an empty list
     // without a message.
-    bool ReadAndShowLogbook(const std::string& file, const std::string& commentsFile);
+    bool ReadAndShowLogbook(const std::string& file, const std::string& commentsFile,
+                            const std::string& commentsName = {});
 
     // Filters the entries again with the stored filters, and selects the row of the entry that was selected,
     // or the next one. The rows are then in entry order.
@@ -87,9 +89,9 @@ class frmMain : public QMainWindow {
     void LoadLanguage();
     void Unload();
     bool ExecuteLogbook(std::string& name);
-    void ReplaceFilters(const std::string& filterFile);
+    void ReplaceFilters(const std::string& filterFile, const std::string& name);
     void Refresh();
-    std::string ReadComments(const std::string& commentsFile);
+    std::string ReadComments(const std::string& commentsFile, const std::string& name);
     bool ZipLogbook();
     CommentsOutcome AskToSaveComments();
     void OfferLostComments();

@@ -104,25 +104,26 @@ bool frmMain::ExecuteLogbook(std::string& name) {
     state_.CurrentArchive = IsArchive(name) ? name : "";
     state_.CurrentArchiveStamp = stamp;
     if (!source->FilterFile.empty())
-        ReplaceFilters(source->FilterFile);
+        ReplaceFilters(source->FilterFile, source->FilterName);
     name = source->Name;
-    const bool read = ReadAndShowLogbook(source->LogbookFile, source->CommentsFile);
+    state_.CurrentLogbookName = source->LogbookName;
+    const bool read = ReadAndShowLogbook(source->LogbookFile, source->CommentsFile, source->CommentsName);
     state_.CurrentLogbookFile = read ? source->LogbookFile : "";
     return read;
 }
 
 // The filters of an archive become the active ones. A damaged filter file, or one with a filter that would
 // take the whole list with it, is told, and the active ones stay.
-void frmMain::ReplaceFilters(const std::string& filterFile) {
+void frmMain::ReplaceFilters(const std::string& filterFile, const std::string& name) {
     FilterFileContent content = ImportFilterFile(filterFile, codePage_);
     if (content.Result != FilterFileContent::Outcome::Read) {
-        user_.ShowMessage(FilterFileMessage(filterFile, content, language_),
+        user_.ShowMessage(FilterFileMessage(name, content, language_),
                           UserInterface::MessageIcon::Exclamation);
         return;
     }
     for (const FilterDefinition& filter : content.Filters)
         if (ObstacleOf(filter) != StorageObstacle::None) {
-            user_.ShowMessage(filterFile + ": " + std::string(Text(TextId::FilterTooLong, language_)),
+            user_.ShowMessage(name + ": " + std::string(Text(TextId::FilterTooLong, language_)),
                               UserInterface::MessageIcon::Exclamation);
             return;
         }
@@ -139,7 +140,8 @@ void frmMain::Refresh() {
         ReadAndShowLogbook(state_.CurrentLogbookFile, "");
 }
 
-bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& commentsFile) {
+bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& commentsFile,
+                                 const std::string& commentsName) {
     if (logbook_.Busy)
         return false;
     logbook_.Busy = true;
@@ -164,7 +166,7 @@ bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& com
         if (read)
             sbStatusBar->ShowDescription(ToQString(title));
         if (read && !commentsFile.empty())
-            aboutComments = ReadComments(commentsFile);
+            aboutComments = ReadComments(commentsFile, commentsName);
         if (read)
             filled = FillList();
     }
@@ -187,13 +189,12 @@ bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& com
 }
 
 // The message for a comments file that could not be read; "" when it was.
-std::string frmMain::ReadComments(const std::string& commentsFile) {
+std::string frmMain::ReadComments(const std::string& commentsFile, const std::string& name) {
     user_.ShowStatus(TextId::StatusCommenting);
     const CommentsFileResult result = CommentLogbook(commentsFile, logbook_.Entries, codePage_);
     user_.RestoreStatus();
-    return result.Result == CommentsFileResult::Outcome::Read
-               ? ""
-               : CommentsFileMessage(commentsFile, result, language_);
+    return result.Result == CommentsFileResult::Outcome::Read ? ""
+                                                              : CommentsFileMessage(name, result, language_);
 }
 
 void frmMain::ApplyFilter() {

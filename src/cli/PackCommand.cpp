@@ -53,17 +53,18 @@ int RunPack(const PackOptions& options) {
     if (!ReadSource(options.Source, logbook, tempFolder, user, language, codePage))
         return ExitStatus::Failed;
 
-    const std::string& comments = options.Comments.empty() ? logbook.Source.CommentsFile : options.Comments;
-    if (!comments.empty() && !ReadComments(comments, logbook, language, codePage))
+    const SourceFile comments = logbook.Comments(options.Comments);
+    if (!comments.Path.empty() && !ReadComments(comments, logbook, language, codePage))
         return ExitStatus::Failed;
     std::vector<FilterDefinition> filters = DefaultFilters();
-    const std::string& filterFile = options.Filters.empty() ? logbook.Source.FilterFile : options.Filters;
-    if (!filterFile.empty() && !ReadFilters(filterFile, filters, language, codePage))
+    const SourceFile filterFile = logbook.Filters(options.Filters);
+    if (!filterFile.Path.empty() && !ReadFilters(filterFile, filters, language, codePage))
         return ExitStatus::Failed;
 
     // Filters and comments come out of files in the same code page, so they lose nothing.
     const std::string reason = SaveLogbookArchive(options.Archive,
                                                   {.LogbookFile = logbook.Source.LogbookFile,
+                                                   .LogbookName = logbook.Source.LogbookName,
                                                    .LogbookStamp = logbook.Stamp,
                                                    .Filters = filters,
                                                    .Entries = logbook.Book.Entries,

@@ -38,10 +38,10 @@ bool IsDevice(const std::string& path) {
 }
 
 // The filters that the options name; false when that failed, which has then been told.
-bool ChooseFilters(const ListOptions& options, const std::string& archiveFilters, const CodePage& codePage,
+bool ChooseFilters(const ListOptions& options, const SourceLogbook& logbook, const CodePage& codePage,
                    std::vector<FilterDefinition>& filters) {
-    const std::string& file = archiveFilters.empty() ? options.Filters : archiveFilters;
-    if (!file.empty())
+    const SourceFile file = logbook.Filters(options.Filters);
+    if (!file.Path.empty())
         return ReadFilters(file, filters, options.MessageLanguage, codePage);
     if (options.StoredFilters) {
         const auto settings = MakeUserSettings();
@@ -73,11 +73,11 @@ bool ReadList(const ListOptions& options, SourceLogbook& logbook, LogbookRows& r
     TerminalUser user(options.ArchiveFilters ? Answer::Yes : Answer::No);
     std::vector<FilterDefinition> filters = DefaultFilters();
     if (!ReadSource(options.File, logbook, tempFolder, user, options.MessageLanguage, codePage) ||
-        !ChooseFilters(options, logbook.Source.FilterFile, codePage, filters))
+        !ChooseFilters(options, logbook, codePage, filters))
         return false;
     // Comments that cannot be read are told; the list is printed without them, as the window shows it.
-    if (!logbook.Source.CommentsFile.empty())
-        ReadComments(logbook.Source.CommentsFile, logbook, options.MessageLanguage, codePage);
+    if (const SourceFile comments = logbook.Comments(""); !comments.Path.empty())
+        ReadComments(comments, logbook, options.MessageLanguage, codePage);
     if (ApplyFilters(logbook.Book.Entries, filters, rows))
         return true;
     Fail(std::string(Text(TextId::FilterFailed, options.MessageLanguage)));

@@ -32,23 +32,23 @@ bool ReadSource(const std::string& file, SourceLogbook& logbook, const TempFolde
     return false;
 }
 
-bool ReadComments(const std::string& file, SourceLogbook& logbook, Language language,
+bool ReadComments(const SourceFile& file, SourceLogbook& logbook, Language language,
                   const CodePage& codePage) {
-    const CommentsFileResult result = CommentLogbook(file, logbook.Book.Entries, codePage);
+    const CommentsFileResult result = CommentLogbook(file.Path, logbook.Book.Entries, codePage);
     if (result.Result == CommentsFileResult::Outcome::Read)
         return true;
-    std::string message = CommentsFileMessage(file, result, language);
+    std::string message = CommentsFileMessage(file.Name, result, language);
     if (result.Result == CommentsFileResult::Outcome::NoHeader)
-        message.insert(0, file + ": ");
+        message.insert(0, file.Name + ": ");
     Fail(message);
     return false;
 }
 
-bool ReadFilters(const std::string& file, std::vector<FilterDefinition>& filters, Language language,
+bool ReadFilters(const SourceFile& file, std::vector<FilterDefinition>& filters, Language language,
                  const CodePage& codePage) {
-    FilterFileContent content = ImportFilterFile(file, codePage);
+    FilterFileContent content = ImportFilterFile(file.Path, codePage);
     if (content.Result != FilterFileContent::Outcome::Read) {
-        Fail(FilterFileMessage(file, content, language));
+        Fail(FilterFileMessage(file.Name, content, language));
         return false;
     }
     filters = std::move(content.Filters);

@@ -15,11 +15,26 @@
 // Tells a message on standard error; the exit status of a command that failed.
 int Fail(const std::string& message);
 
+// A file beside a logbook, and what messages call it.
+struct SourceFile {
+    std::string Path; // "" = none
+    std::string Name;
+};
+
 // A source that a command works on, and the logbook in it.
 struct SourceLogbook {
     LogbookSource Source;
     std::optional<FileStamp> Stamp; // of the logbook file before it was read
     Logbook Book;
+
+    // The file that an option names, or that of the source.
+    SourceFile Comments(const std::string& option) const {
+        return option.empty() ? SourceFile{Source.CommentsFile, Source.CommentsName}
+                              : SourceFile{option, option};
+    }
+    SourceFile Filters(const std::string& option) const {
+        return option.empty() ? SourceFile{Source.FilterFile, Source.FilterName} : SourceFile{option, option};
+    }
 };
 
 // Finds the logbook of a source and reads it. False when that failed, which has then been told. Files of an
@@ -28,7 +43,7 @@ bool ReadSource(const std::string& file, SourceLogbook& logbook, const TempFolde
                 TerminalUser& user, Language language, const CodePage& codePage);
 
 // Reads a comments file, and a filter file, of the logbook. False when that failed, which has then been told.
-bool ReadComments(const std::string& file, SourceLogbook& logbook, Language language,
+bool ReadComments(const SourceFile& file, SourceLogbook& logbook, Language language,
                   const CodePage& codePage);
-bool ReadFilters(const std::string& file, std::vector<FilterDefinition>& filters, Language language,
+bool ReadFilters(const SourceFile& file, std::vector<FilterDefinition>& filters, Language language,
                  const CodePage& codePage);

@@ -72,7 +72,7 @@ class Saving {
         std::error_code error;
         const std::optional<FileStamp> now = StampOf(content_.LogbookFile, error);
         if (!now)
-            return WithFile(content_.LogbookFile, error, language_);
+            return WithFile(LogbookName(), error, language_);
         const FileStamp stamp = content_.LogbookStamp.value_or(*now);
         if (stamp != *now)
             return Say(TextId::LogbookChangedMeanwhile);
@@ -100,6 +100,10 @@ class Saving {
     }
 
   private:
+    const std::string& LogbookName() const {
+        return content_.LogbookName.empty() ? content_.LogbookFile : content_.LogbookName;
+    }
+
     std::string Say(TextId reason) const { return std::string(Text(reason, language_)); }
 
     std::string Build(const std::filesystem::path& archive, const PackingProgress& progress) const {
@@ -115,9 +119,9 @@ class Saving {
         error = SaveComments(comments.string(), content_.Entries, content_.FileCodePage);
         if (error)
             return WithFile(comments.string(), error, language_);
-        const FileToPack files[] = {{base + ".log", ToPath(content_.LogbookFile)},
-                                    {base + ".fil", filters},
-                                    {base + ".cmt", comments}};
+        const FileToPack files[] = {{base + ".log", ToPath(content_.LogbookFile), LogbookName()},
+                                    {base + ".fil", filters, filters.string()},
+                                    {base + ".cmt", comments, comments.string()}};
         std::string reason = BuildZip(archive, files, language_, progress);
         return reason.empty() ? RefusalOf(archive, language_) : reason;
     }

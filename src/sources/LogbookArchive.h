@@ -18,6 +18,7 @@
 
 struct ArchiveContent {
     std::string LogbookFile;                   // goes in byte for byte
+    std::string LogbookName = {};              // what messages call that file; "" = its path
     std::optional<FileStamp> LogbookStamp;     // as the logbook file must still be; nothing = as it is now
     std::span<const FilterDefinition> Filters; // the active ones
     const EntryTable& Entries;                 // whose comments go in

@@ -4,6 +4,7 @@
 #include "logbook/AsciiCase.h"
 #include "logbook/TextBeginning.h"
 #include "logbook/modUtil.h"
+#include "sources/OwnArchive.h"
 #include "sources/ZipArchive.h"
 
 #include <algorithm>
@@ -38,42 +39,57 @@ std::string FileBaseOf(const std::string& base) {
     return base.size() <= Longest ? base : std::string(TextBeginning(base, Cut));
 }
 
+// The logbook that an archive has, by its base name, and the members that were unpacked; "" = none.
+struct Unpacked {
+    std::string Base;
+    std::string Logbook;
+    std::string Filters;
+    std::string Comments;
+};
+
 // Unpacks the logbook of an archive, with what belongs to it, into a folder that is empty before.
 class Extraction {
   public:
     Extraction(const std::filesystem::path& archive, std::filesystem::path folder, Language language)
         : language_(language), archive_(archive, language), folder_(std::move(folder)) {}
 
-    // The base name of the logbook, which then lies in the folder as FileBaseOf it with the extension ".log";
-    // nothing when the archive has none or it could not be unpacked whole.
-    std::optional<std::string> Extract() {
+    // The files then lie in the folder as FileBaseOf the base name with their extensions; nothing when the
+    // archive has no logbook or it could not be unpacked whole.
+    std::optional<Unpacked> Extract() {
         if (folder_.empty()) {
             // Without a folder of its own nothing is unpacked: a bare file name would mean the current
             // folder.
             reason_ = Text(TextId::NoTemporaryFolder, language_);
             return std::nullopt;
         }
-        const auto system =
-            std::find_if(archive_.Members().begin(), archive_.Members().end(),
-                         [](const ZipMember& m) { return IsSameWithoutCase(m.Name, SystemArchive); });
+        const std::optional<std::size_t> system = Find(archive_, SystemArchive);
         const std::optional<std::size_t> classic = archive_.FindMember(ClassicLog);
-        if (system == archive_.Members().end() && !classic)
+        if (!system && !classic)
             return ExtractOwn();
 
-        std::optional<std::string> base;
-        if (system != archive_.Members().end() &&
-            ExtractOperationLog(static_cast<std::size_t>(system - archive_.Members().begin())))
-            base = "operation";
+        std::optional<Unpacked> unpacked;
+        if (system)
+            unpacked = ExtractOperationLog(*system);
         // The classic logbook, where both are there, is the one that is shown.
         if (classic && Unpack(archive_, *classic, "lb_act.log"))
-            base = "lb_act";
-        return base;
+            unpacked = Unpacked{"lb_act", archive_.Members()[*classic].Name, "", ""};
+        return unpacked;
     }
 
     // Why it failed; "" when the archive just has no logbook.
     const std::string& Reason() const { return reason_; }
 
   private:
+    static std::optional<std::size_t> Find(const ZipArchive& archive, std::string_view name) {
+        const std::vector<ZipMember>& members = archive.Members();
+        const auto found = std::find_if(members.begin(), members.end(), [&](const ZipMember& member) {
+            return IsSameWithoutCase(member.Name, name);
+        });
+        if (found == members.end())
+            return std::nullopt;
+        return static_cast<std::size_t>(found - members.begin());
+    }
+
     bool Unpack(ZipArchive& archive, std::size_t member, std::string_view fileName) {
         if (archive.Unpack(member, folder_ / ToPath(fileName)))
             return true;
@@ -81,46 +97,41 @@ class Extraction {
         return false;
     }
 
-    bool ExtractOperationLog(std::size_t systemArchive) {
+    std::optional<Unpacked> ExtractOperationLog(std::size_t systemArchive) {
         if (!Unpack(archive_, systemArchive, SystemArchive))
-            return false;
+            return std::nullopt;
         ZipArchive inner(folder_ / SystemArchive, language_);
-        const auto member =
-            std::find_if(inner.Members().begin(), inner.Members().end(),
-                         [](const ZipMember& m) { return IsSameWithoutCase(m.Name, OperationLog); });
-        if (member == inner.Members().end()) {
+        const std::optional<std::size_t> member = Find(inner, OperationLog);
+        if (!member) {
             reason_ = inner.Error();
-            return false;
+            return std::nullopt;
         }
-        return Unpack(inner, static_cast<std::size_t>(member - inner.Members().begin()), "operation.log");
+        if (!Unpack(inner, *member, "operation.log"))
+            return std::nullopt;
+        return Unpacked{"operation",
+                        archive_.Members()[systemArchive].Name + ": " + inner.Members()[*member].Name, "",
+                        ""};
     }
 
-    std::optional<std::string> ExtractOwn() {
-        const std::vector<ZipMember>& members = archive_.Members();
-        const auto log = std::find_if(members.begin(), members.end(), [](const ZipMember& member) {
-            return EndsWith(member.Name, LogExtension);
-        });
-        if (log == members.end()) {
+    std::optional<Unpacked> ExtractOwn() {
+        const std::optional<OwnMembers> own = FindOwnMembers(archive_);
+        if (!own) {
             reason_ = archive_.Error();
             return std::nullopt;
         }
-        const std::string base(log->FileName().substr(0, log->FileName().size() - LogExtension.size()));
-        for (const std::string_view extension : {LogExtension, FilterExtension, CommentsExtension}) {
-            const std::string name = std::string(base).append(extension);
-            const std::string folder = log->Name.substr(0, log->Name.size() - log->FileName().size());
-            // What belongs to the logbook lies beside it; only an archive that keeps it elsewhere gives that.
-            auto part = std::find_if(members.begin(), members.end(), [&](const ZipMember& member) {
-                return IsSameWithoutCase(member.Name, folder + name);
-            });
-            if (part == members.end())
-                part = std::find_if(members.begin(), members.end(), [&](const ZipMember& member) {
-                    return IsSameWithoutCase(member.FileName(), name);
-                });
-            if (part != members.end() && !Unpack(archive_, static_cast<std::size_t>(part - members.begin()),
-                                                 FileBaseOf(base).append(extension)))
-                return std::nullopt;
-        }
-        return base;
+        Unpacked unpacked{own->Base, "", "", ""};
+        const auto unpack = [&](std::optional<std::size_t> member, std::string_view extension,
+                                std::string& name) {
+            if (!member)
+                return true;
+            name = archive_.Members()[*member].Name;
+            return Unpack(archive_, *member, FileBaseOf(own->Base).append(extension));
+        };
+        if (!unpack(own->Logbook, LogExtension, unpacked.Logbook) ||
+            !unpack(own->Filters, FilterExtension, unpacked.Filters) ||
+            !unpack(own->Comments, CommentsExtension, unpacked.Comments))
+            return std::nullopt;
+        return unpacked;
     }
 
     Language language_;
@@ -147,25 +158,26 @@ std::optional<LogbookSource> ResolveArchive(const std::string& path, const TempF
     const std::filesystem::path unpacked = tempFolder.MakeSubfolder();
     user.ShowStatus(TextId::StatusExtracting);
     Extraction extraction(ToPath(path), unpacked, language);
-    const std::optional<std::string> base = extraction.Extract();
+    const std::optional<Unpacked> parts = extraction.Extract();
     user.RestoreStatus();
 
     std::optional<LogbookSource> source;
-    const std::string fileBase = FileBaseOf(base.value_or(""));
+    const std::string fileBase = FileBaseOf(parts ? parts->Base : "");
     const auto fileIn = [&](const std::filesystem::path& folder, std::string_view extension) {
         return (folder / ToPath(std::string(fileBase).append(extension))).string();
     };
     const auto isUnpacked = [&](std::string_view extension) {
         return FileExists(fileIn(unpacked, extension));
     };
-    if (!base) {
+    const auto told = [&](const std::string& member) { return path + ": " + member; };
+    if (!parts) {
         std::string message(Text(TextId::ArchiveWithoutLogbook, language));
         message.append(" (").append(path);
         if (!extraction.Reason().empty())
             message.append(": ").append(extraction.Reason());
         user.ShowMessage(message.append(")"), UserInterface::MessageIcon::Exclamation);
         const std::string fileName = FileNameOf(path);
-        source = LogbookSource{fileName.substr(0, fileName.find('.')), "", "", ""};
+        source = LogbookSource{.Name = fileName.substr(0, fileName.find('.'))};
     } else {
         const UserInterface::Answer answer =
             isUnpacked(FilterExtension) ? user.Ask(TextId::AskReplaceFilters) : UserInterface::Answer::No;
@@ -174,9 +186,13 @@ std::optional<LogbookSource> ResolveArchive(const std::string& path, const TempF
             const bool wantsFilters = answer == UserInterface::Answer::Yes;
             const std::filesystem::path& temp = tempFolder.Path();
             TakeOver(unpacked, temp, fileBase);
-            source = LogbookSource{base->substr(0, base->find('.')), fileIn(temp, LogExtension),
-                                   hasComments ? fileIn(temp, CommentsExtension) : "",
-                                   wantsFilters ? fileIn(temp, FilterExtension) : ""};
+            source = LogbookSource{.Name = parts->Base.substr(0, parts->Base.find('.')),
+                                   .LogbookFile = fileIn(temp, LogExtension),
+                                   .CommentsFile = hasComments ? fileIn(temp, CommentsExtension) : "",
+                                   .FilterFile = wantsFilters ? fileIn(temp, FilterExtension) : "",
+                                   .LogbookName = told(parts->Logbook),
+                                   .CommentsName = hasComments ? told(parts->Comments) : "",
+                                   .FilterName = wantsFilters ? told(parts->Filters) : ""};
         }
     }
     std::error_code ignored;
@@ -195,5 +211,6 @@ std::optional<LogbookSource> ResolveSource(const std::string& path, const TempFo
     const std::string fileName = FileNameOf(path);
     if (IsArchive(fileName))
         return ResolveArchive(path, tempFolder, user, language);
-    return LogbookSource{fileName.substr(0, fileName.find('.')), path, "", ""};
+    return LogbookSource{
+        .Name = fileName.substr(0, fileName.find('.')), .LogbookFile = path, .LogbookName = path};
 }

@@ -10,6 +10,7 @@
 // what is read again from its plain file keeps its archive.
 struct LogbookState {
     std::string CurrentLogbookFile;               // the logbook text file; "" = none
+    std::string CurrentLogbookName;               // what messages call that file; "" = its path
     std::optional<FileStamp> CurrentFileStamp;    // of that file before it was read; nothing = not known
     std::string CurrentArchive;                   // that it came from or was saved as last; "" = none
     std::optional<FileStamp> CurrentArchiveStamp; // of that archive before it was read, or after the saving

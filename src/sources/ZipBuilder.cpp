@@ -38,7 +38,7 @@ std::string AddFile(zip_t* archive, const FileToPack& file, Language language) {
     // The source keeps the file open and closes it.
     std::FILE* const handle = std::fopen(file.File.string().c_str(), "rb");
     if (handle == nullptr)
-        return file.File.string() + ": " + SystemReason(errno, language);
+        return file.Told + ": " + SystemReason(errno, language);
     zip_source_t* const source = zip_source_filep(archive, handle, 0, -1);
     if (source == nullptr) {
         std::fclose(handle);

@@ -12,6 +12,7 @@
 struct FileToPack {
     std::string Name;
     std::filesystem::path File;
+    std::string Told; // what messages call it
 };
 
 // What packing tells its surroundings: a percentage from 0 to 100; 0 at its begin and end, also where it

@@ -81,6 +81,7 @@ ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, UserInt
     if (!path)
         return ZipOutcome::Cancelled;
     ArchiveContent content{.LogbookFile = state.CurrentLogbookFile,
+                           .LogbookName = state.CurrentLogbookName,
                            .LogbookStamp = state.CurrentFileStamp,
                            .Filters = parts.Filters,
                            .Entries = parts.Entries,

@@ -138,6 +138,41 @@ class ArchiveTest : public MainWindowTest {
         QCOMPARE(Counts(), QString("1 / 1 Items"));
     }
 
+    void FilesOfAnArchiveAreToldByItsName() {
+        const std::string archive = Folder / "bad.qorvix";
+        const std::string log = Lines({Header("BERR:    a")});
+        const std::string longLine(std::size_t{17} << 20U, 'x');
+        const auto told = [&](const char* filters, const std::string& comments, int messages) {
+            WriteZip(archive, {{"in/x.log", log}, {"in/x.fil", filters}, {"in/x.cmt", comments}});
+            AnswerQuestion(QMessageBox::Yes);
+            AnswerMessages(messages);
+            MessageTexts.clear();
+            Window->OpenLogbook(archive);
+            MessageTexts.removeFirst(); // Replace active filter list?
+            return MessageTexts;
+        };
+        const QString name = QString::fromStdString(archive);
+        QCOMPARE(told("[Filters]\r\nnonsense\r\n", "[Comments]\r\n 0 " + longLine, 2),
+                 QStringList({name + ": in\\x.fil: invalid filter in line 2",
+                              "Cannot read comments file (" + name + ": in\\x.cmt: a line is too long)"}));
+        const std::string tooLong = "[Filters]\r\nX|3|" + std::string(2000, 'x') + "|||1\r\n";
+        QCOMPARE(
+            told(tooLong.c_str(), "", 1),
+            QStringList({name + ": in\\x.fil: This filter is too long to be stored: the whole list would "
+                                "fall back to the default filter."}));
+        QCOMPARE(Settings->ReadFilterSettingLong("FilterCount", 0), 0);
+
+        // The logbook that was unpacked is told so too.
+        std::filesystem::remove(Temp.Path() / "x.log");
+        AnswerFileDialog(QString::fromStdString(Folder / "new.qorvix"));
+        MessageTexts.clear();
+        QTimer::singleShot(50, Person.get(), [this] { AnswerMessages(1); });
+        Item("mnuFileZipLogbook")->trigger();
+        QCOMPARE(MessageTexts, QStringList({"The archive could not be saved (" +
+                                            QString::fromStdString(Folder / "new.qorvix") + ": " + name +
+                                            ": in\\x.log: No such file or directory)"}));
+    }
+
     void EditedCommentsAreAskedAboutBeforeAnotherLogbook() {
         EditAComment();
         const std::string other = File("other.log", {Header("BERR:    x"), Header("BERR:    y")});

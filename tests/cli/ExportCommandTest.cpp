@@ -209,7 +209,7 @@ TEST_F(ExportCommand, BadFilterFilePrintsNothing) {
     EXPECT_EQ(errors(missing, "en"),
               "qorvix-cli: Cannot read filter file  \"" + missing + "\" (No such file or directory)\n");
     EXPECT_EQ(errors(missing, "de"), "qorvix-cli: Filterdatei \"" + missing +
-                                         "\" kann nicht gelesen werden (No such file or directory)\n");
+                                         "\" kann nicht gelesen werden (Datei oder Ordner nicht gefunden)\n");
     const std::string headless = Folder.Write("headless.fil", "I|0||||1\r\n");
     EXPECT_EQ(errors(headless, "en"), "qorvix-cli: " + headless + ": File includes no filter informaion!\n");
     EXPECT_EQ(errors(headless, "de"),

@@ -100,6 +100,16 @@ TEST_F(PackCommand, DamagedCommentsOfAnArchiveAreToldAndTheListIsPrinted) {
     EXPECT_FALSE(std::filesystem::exists(Out));
 }
 
+TEST_F(PackCommand, FilesOfAnArchiveAreToldByItsName) {
+    const std::string own = Folder / "own.qorvix";
+    WriteZip(own, {{"x.log", Log}, {"x.cmt", "no comments"}});
+    ExpectFailure({own, Out}, own + ": x.cmt: File includes no comment information!");
+    WriteZip(own, {{"x.log", Log}, {"x.fil", "[Filters]\nnonsense\n"}});
+    ExpectFailure({own, Out}, own + ": x.fil: invalid filter in line 2");
+    EXPECT_EQ(RunCommandLineTool({"export", own, "--use-archive-filters"}).Errors,
+              "qorvix-cli: " + own + ": x.fil: invalid filter in line 2\n");
+}
+
 TEST_F(PackCommand, WhatFailsLeavesTheArchive) {
     const std::string log = Folder.Write("a.log", Log);
     const std::string missing = Folder / "missing";

@@ -71,6 +71,24 @@ TEST(IsArchive, IsToldByTheNamesEnd) {
         EXPECT_FALSE(IsArchive(name)) << name;
 }
 
+TEST_F(LogbookSourceTest, MessagesNameTheArchiveAndTheMember) {
+    const std::string plain = Folder.Write("a.log", "plain");
+    EXPECT_EQ(Resolve(plain)->LogbookName, plain);
+    const std::string own =
+        Zip("own.qorvix", {{"x.LOG", "own"}, {"X.fil", "[Filters]"}, {"other/x.cmt", "[Comments]"}});
+    User.Answers = {UserInterface::Answer::Yes};
+    const std::optional<LogbookSource> source = Resolve(own);
+    EXPECT_EQ(source->LogbookName, own + ": x.LOG");
+    EXPECT_EQ(source->FilterName, own + ": X.fil");
+    EXPECT_EQ(source->CommentsName, own + ": other\\x.cmt");
+    const std::string older = Zip("service1.zip", {{"logbook/lb_act.log", "older"}});
+    EXPECT_EQ(Resolve(older)->LogbookName, older + ": logbook\\lb_act.log");
+    const std::string newer =
+        Zip("service2.zip",
+            {{"SysRoot.zip", FileContent(Zip("inner.zip", {{"runtime/operation.log", "newer"}}))}});
+    EXPECT_EQ(Resolve(newer)->LogbookName, newer + ": SysRoot.zip: runtime\\operation.log");
+}
+
 TEST_F(LogbookSourceTest, PlainFileIsItsOwnLogbook) {
     Folder.Write("lb.act.cmt", "[Comments]");
     const std::string path = Folder.Write("lb.act.log", "text");
