@@ -6,6 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <array>
 #include <cerrno>
 #include <utility>
 
@@ -99,7 +100,10 @@ std::error_code CommentJournal::Begin(const EntryTable& entries) {
     if (error)
         return error;
     // Before there is a file: it takes a while for a large logbook, and the program may be killed.
-    const std::string header = Line({{"logbook", LogbookChecksum(entries)}, {"entries", entries.Count()}});
+    const EntryNumber count = entries.Count();
+    const std::array<EntryNumber, 2> counts{count == 0 ? 0 : count - 1, count};
+    const std::vector<std::string> sums = ChecksumsOfBeginnings(entries, counts);
+    const std::string header = Line({{"butLast", sums[0]}, {"entries", count}, {"whole", sums[1]}});
     std::string name = (folder_ / "comments-XXXXXX").string();
     errno = 0;
     handle_ = ::mkostemp(name.data(), O_APPEND | O_CLOEXEC);

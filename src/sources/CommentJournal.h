@@ -16,8 +16,11 @@
 // Comments that were entered and not saved yet, noted in a file so that a crash does not take them. The file
 // is JSON Lines: first the logbook, then each comment as it was entered; an empty one removes.
 //
-//     {"entries":1200,"logbook":"99aa06d3014798d86001c324468d497f"}
+//     {"butLast":"5f0c7a...","entries":1200,"whole":"99aa06..."}
 //     {"comment":"pump replaced","entry":12}
+//
+// The logbook is known by the number of its entries, and the checksums of all of them and of all but the
+// last: the last one may change where a logbook grows, as by a line that belongs to it.
 //
 // A file that is in use is locked. One that is not belongs to a copy of the program that crashed, or that
 // ended although saving had failed.

@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <memory>
 #include <string_view>
+#include <tuple>
+#include <utility>
 
 namespace {
 
@@ -78,17 +80,89 @@ EntryPart PartOf(const EntryTable& entries, EntryNumber number) {
     return part;
 }
 
+// The numbers of what occurs again, in the order of its first use.
+class FirstUses {
+  public:
+    explicit FirstUses(std::size_t count) : numbers_(count, Unused) {}
+
+    // The number, and whether this is the first use.
+    std::pair<std::uint32_t, bool> operator[](std::uint32_t item) {
+        const bool isFirst = numbers_[item] == Unused;
+        if (isFirst)
+            numbers_[item] = next_++;
+        return {numbers_[item], isFirst};
+    }
+
+  private:
+    static constexpr std::uint32_t Unused = ~std::uint32_t{0};
+    std::vector<std::uint32_t> numbers_;
+    std::uint32_t next_ = 0;
+};
+
+void AddKind(Checksum& sum, const EntryKind& kind) {
+    sum.Add(&kind.EventType, sizeof kind.EventType);
+    sum.Add(&kind.Image, sizeof kind.Image);
+    sum.AddText(kind.Sender);
+    sum.AddText(kind.Name);
+}
+
+// Adds entry after entry; kinds and dates where they first occur.
+class Beginning {
+  public:
+    explicit Beginning(const EntryTable& entries)
+        : entries_(entries), kinds_(entries.Kinds().Count()), dates_(entries.Stamps().DateCount()) {}
+
+    void Add(EntryNumber number) {
+        EntryPart part;
+        PackedStamp stamp;
+        const bool hasClock = entries_.PackedTime(number, stamp);
+        const auto [kind, isNewKind] = kinds_[entries_.KindNumber(number)];
+        part.Kind = kind;
+        bool isNewDate = false;
+        if (hasClock) {
+            std::tie(part.Date, isNewDate) = dates_[stamp.Date];
+            part.Clock = stamp.Clock;
+        }
+        part.HasStampInText = hasClock ? 0 : 1;
+        sum_.Add(&part, sizeof part);
+        if (isNewKind)
+            AddKind(sum_, entries_.Kind(number));
+        if (isNewDate)
+            sum_.AddText(entries_.Stamps().DateText(stamp.Date));
+        const std::string_view data = entries_.Data(number);
+        sum_.AddText(data);
+        if (!hasClock)
+            sum_.AddText(TextOf(entries_, number).substr(data.size()));
+    }
+
+    std::string Digits() const { return sum_.Digits(); }
+
+  private:
+    const EntryTable& entries_;
+    Checksum sum_;
+    FirstUses kinds_;
+    FirstUses dates_;
+};
+
 } // namespace
+
+std::vector<std::string> ChecksumsOfBeginnings(const EntryTable& entries,
+                                               std::span<const EntryNumber> counts) {
+    Beginning beginning(entries);
+    std::vector<std::string> sums;
+    EntryNumber next = 0;
+    for (const EntryNumber count : counts) {
+        for (; next < count; ++next)
+            beginning.Add(next);
+        sums.push_back(beginning.Digits());
+    }
+    return sums;
+}
 
 std::string LogbookChecksum(const EntryTable& entries) {
     Checksum sum;
-    for (std::uint32_t i = 0; i < entries.Kinds().Count(); ++i) {
-        const EntryKind& kind = entries.Kinds()[i];
-        sum.Add(&kind.EventType, sizeof kind.EventType);
-        sum.Add(&kind.Image, sizeof kind.Image);
-        sum.AddText(kind.Sender);
-        sum.AddText(kind.Name);
-    }
+    for (std::uint32_t i = 0; i < entries.Kinds().Count(); ++i)
+        AddKind(sum, entries.Kinds()[i]);
     for (std::uint32_t i = 0; i < entries.Stamps().DateCount(); ++i)
         sum.AddText(entries.Stamps().DateText(i));
     for (EntryNumber number = 0; number < entries.Count(); ++number) {

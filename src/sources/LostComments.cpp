@@ -44,20 +44,75 @@ Json NextLine(std::istream& stream) {
     return !nested && line.is_object() ? std::move(line) : Json::object();
 }
 
-// The checksum of this logbook, for which it is looked at when the first journal asks.
-class ChecksumOnDemand {
-  public:
-    explicit ChecksumOnDemand(const EntryTable& entries) : entries_(entries) {}
+// The logbook that a journal belongs to. Journals of version 0.1 know it by one checksum of the whole.
+struct JournalHeader {
+    EntryNumber Entries = 0;
+    std::optional<std::string> Whole;
+    std::optional<std::string> ButLast;
+    std::optional<std::string> OfVersion01;
+};
 
-    const std::string& operator()() {
-        if (sum_.empty())
-            sum_ = LogbookChecksum(entries_);
-        return sum_;
+// Nothing where the next line is no header.
+std::optional<JournalHeader> ReadHeader(std::istream& stream) {
+    const Json line = NextLine(stream);
+    if (!line.is_object())
+        return std::nullopt;
+    const std::optional<EntryNumber> entries = NumberIn(line, "entries");
+    if (!entries || *entries == 0)
+        return std::nullopt;
+    return JournalHeader{*entries, TextIn(line, "whole"), TextIn(line, "butLast"), TextIn(line, "logbook")};
+}
+
+// A logbook that journals may belong to. Its checksums are made when the first one asks, for all of them in
+// one look at the logbook.
+class Candidate {
+  public:
+    explicit Candidate(const EntryTable& entries) : entries_(entries) {}
+
+    // Tells of a journal that will ask.
+    void Expect(const JournalHeader& header) {
+        if (header.Entries > entries_.Count() || !header.Whole)
+            return;
+        sums_[header.Entries];
+        sums_[header.Entries - 1];
+    }
+
+    // True when the entries that the journal knew are the first of the logbook. The last of them may be
+    // another by now, where others before it tell the logbook.
+    bool BeginsAs(const JournalHeader& header) {
+        if (header.OfVersion01)
+            return header.Entries == entries_.Count() && *header.OfVersion01 == SumOfVersion01();
+        return header.Entries <= entries_.Count() &&
+               (header.Whole == Sum(header.Entries) ||
+                (header.Entries > 1 && header.ButLast == Sum(header.Entries - 1)));
     }
 
   private:
+    // Nothing for a beginning that nobody told of: the journal came in between.
+    std::optional<std::string> Sum(EntryNumber count) {
+        if (!summed_) {
+            std::vector<EntryNumber> counts;
+            for (const auto& [beginning, sum] : sums_)
+                counts.push_back(beginning);
+            const std::vector<std::string> sums = ChecksumsOfBeginnings(entries_, counts);
+            for (std::size_t i = 0; i < counts.size(); ++i)
+                sums_[counts[i]] = sums[i];
+            summed_ = true;
+        }
+        const auto found = sums_.find(count);
+        return found == sums_.end() ? std::nullopt : std::optional(found->second);
+    }
+
+    const std::string& SumOfVersion01() {
+        if (sumOfVersion01_.empty())
+            sumOfVersion01_ = LogbookChecksum(entries_);
+        return sumOfVersion01_;
+    }
+
     const EntryTable& entries_;
-    std::string sum_;
+    std::map<EntryNumber, std::string> sums_; // by the number of entries
+    bool summed_ = false;
+    std::string sumOfVersion01_;
 };
 
 // The files of a folder, the one written last behind the others: of two comments of an entry, it counts.
@@ -80,23 +135,30 @@ std::vector<std::filesystem::path> FilesByAge(const std::filesystem::path& folde
 } // namespace
 
 LostComments::LostComments(const std::filesystem::path& folder, const EntryTable& entries) {
-    ChecksumOnDemand checksum(entries);
-    for (const std::filesystem::path& path : FilesByAge(folder)) {
+    const std::vector<std::filesystem::path> files = FilesByAge(folder);
+    Candidate logbook(entries);
+    for (const std::filesystem::path& path : files) {
+        if (!LostJournal::Hold(path))
+            continue;
+        std::ifstream stream(path, std::ios::binary);
+        if (const std::optional<JournalHeader> header = ReadHeader(stream))
+            logbook.Expect(*header);
+    }
+    for (const std::filesystem::path& path : files) {
         if (journals_.size() == MostJournals)
             break;
         std::optional<LostJournal> journal = LostJournal::Hold(path);
         if (!journal)
             continue;
         std::ifstream stream(path, std::ios::binary);
-        const Json header = NextLine(stream);
-        if (!header.is_object() || NumberIn(header, "entries") != entries.Count() ||
-            TextIn(header, "logbook") != checksum())
+        const std::optional<JournalHeader> header = ReadHeader(stream);
+        if (!header || !logbook.BeginsAs(*header))
             continue;
         journals_.push_back(std::move(*journal));
         for (Json line = NextLine(stream); !line.is_discarded(); line = NextLine(stream)) {
             const std::optional<EntryNumber> number = NumberIn(line, "entry");
             std::optional<std::string> comment = TextIn(line, "comment");
-            if (number && *number < entries.Count() && comment)
+            if (number && *number < header->Entries && comment)
                 comments_[*number] = std::move(*comment);
         }
     }

@@ -17,8 +17,8 @@
 // held until the object ends, so that no other copy offers them at the same time.
 class LostComments {
   public:
-    // Looks for the journals of this logbook in a folder; without any journal that costs nothing. Files that
-    // are none, and lines that a crash cut off, are passed over.
+    // Looks for the journals of this logbook in a folder, also of when it had fewer entries; without any
+    // journal that costs nothing. Files that are none, and lines that a crash cut off, are passed over.
     LostComments(const std::filesystem::path& folder, const EntryTable& entries);
 
     // The comments that differ from those of the logbook, by entry number; an empty one was removed.

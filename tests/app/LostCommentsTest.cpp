@@ -34,6 +34,30 @@ class LostCommentsTest : public MainWindowTest {
         QVERIFY(MessageTexts.isEmpty());
     }
 
+    void AreOfferedWhenTheLogbookHasGrown() {
+        Comment(FileOfErrors(3), 2, "of the last");
+        Crash();
+        AnswerQuestion(QMessageBox::Yes);
+        QVERIFY(Window->OpenLogbook(FileOfErrors(6)));
+        QCOMPARE(Column(6), QStringList({"", "", "of the last", "", "", ""}));
+
+        // Also where the last line was still being written.
+        Crash();
+        Folder.Write("errors.log", Lines({Header("BERR:    0")}) + Header("BERR:    ab"));
+        std::filesystem::remove_all(Folder.Path() / "state");
+        Comment(Folder / "errors.log", 0, "of the first");
+        Crash();
+        AnswerQuestion(QMessageBox::Yes);
+        QVERIFY(Window->OpenLogbook(
+            File("errors.log", {Header("BERR:    0"), Header("BERR:    abc"), Header("BERR:    d")})));
+        QCOMPARE(Column(6), QStringList({"of the first", "", ""}));
+
+        // One that was begun anew is another logbook.
+        Crash();
+        QVERIFY(Window->OpenLogbook(File("errors.log", {Header("BERR:    x"), Header("BERR:    y")})));
+        QCOMPARE(MessageTexts, QStringList());
+    }
+
     void AreOfferedForTheCommandLineToo() {
         const std::string file = FileOfErrors(2);
         Comment(file, 0, "lost");

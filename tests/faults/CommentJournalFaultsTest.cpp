@@ -53,6 +53,16 @@ TEST_F(CommentJournalFaults, CommentThatWasJustEnteredSurvives) {
     EXPECT_EQ(again.UntilShown().Column(CommentColumn), std::vector<std::string>(5));
 }
 
+TEST_F(CommentJournalFaults, LogbookThatTheControlWentOnWritingHasThemBack) {
+    EnterAndKill({{1, "pump replaced"}, {4, "of the last"}});
+    Folder.Write("work/a.log", LogbookOf(8));
+    ProgramWindow window({LogFile}, Variables());
+    EXPECT_EQ(window.Message(), Question);
+    window.Press("Yes");
+    EXPECT_EQ(window.UntilIdle().Column(CommentColumn),
+              (std::vector<std::string>{"", "pump replaced", "", "", "of the last", "", "", ""}));
+}
+
 TEST_F(CommentJournalFaults, RestoredCommentsSurviveTheNextKillToo) {
     EnterAndKill({{0, "twice"}});
     {

@@ -11,6 +11,7 @@
 
 #include <fstream>
 #include <memory>
+#include <set>
 
 namespace {
 
@@ -73,8 +74,10 @@ TEST_F(CommentJournalTest, EachCommentIsALineBehindTheLogbook) {
     EXPECT_FALSE(Enter(Journal, 3, "pump \"A\"\nreplaced, grün"));
     EXPECT_FALSE(Enter(Journal, 3, ""));
     ASSERT_EQ(Files().size(), 1U);
+    const EntryNumber counts[] = {4, 5};
+    const std::vector<std::string> sums = ChecksumsOfBeginnings(Book, counts);
     EXPECT_EQ(FileContent(Files().front()),
-              "{\"entries\":5,\"logbook\":\"" + LogbookChecksum(Book) +
+              "{\"butLast\":\"" + sums[0] + "\",\"entries\":5,\"whole\":\"" + sums[1] +
                   "\"}\n"
                   "{\"comment\":\"pump \\\"A\\\"\\nreplaced, grün\",\"entry\":3}\n"
                   "{\"comment\":\"\",\"entry\":3}\n");
@@ -199,14 +202,101 @@ TEST_F(CommentJournalTest, KeptCommentsAreNotOfferedElsewhere) {
 
 TEST_F(CommentJournalTest, OtherLogbooksAreNotConcerned) {
     Crash({{1, "a"}});
-    FillTable(Book, Entries(6));
-    EXPECT_FALSE(Offer());
-    std::vector<TestEntry> other = Entries(5);
-    other[4].Data += '!';
+    for (std::size_t changed = 0; changed < 4; ++changed)
+        for (const int count : {5, 7}) {
+            std::vector<TestEntry> other = Entries(count);
+            other[changed].Data += '!';
+            FillTable(Book, other);
+            EXPECT_FALSE(Offer()) << changed << " of " << count;
+        }
+    std::vector<TestEntry> other = Entries(6);
+    other.erase(other.begin());
     FillTable(Book, other);
     EXPECT_FALSE(Offer());
+    // A logbook that was begun anew, and has fewer entries.
+    for (const int count : {0, 1, 4}) {
+        FillTable(Book, Entries(count));
+        EXPECT_FALSE(Offer()) << count;
+    }
     EXPECT_THAT(User.Questions, IsEmpty());
     EXPECT_EQ(Files().size(), 1U);
+}
+
+TEST_F(CommentJournalTest, LogbookThatHasGrownIsOfferedItsComments) {
+    for (const int count : {6, 8, 500}) {
+        Crash({{0, "a"}, {4, "of the last"}});
+        std::vector<TestEntry> grown = Entries(count);
+        grown[5] = {EventTypes::Error, "new", "new sender", "new name", "05.01.2010 00:00:00"};
+        FillTable(Book, grown);
+        EXPECT_TRUE(Offer({UserInterface::Answer::Yes})) << count;
+        EXPECT_THAT(Book.Comments(), ElementsAre(Pair(0, "a"), Pair(4, "of the last")));
+        // The next is noted for the logbook as it is now.
+        EXPECT_FALSE(Enter(Journal, 5, "more"));
+        Journal.Saved();
+        EXPECT_THAT(Files(), IsEmpty());
+        FillTable(Book, Entries(5));
+    }
+}
+
+TEST_F(CommentJournalTest, LastEntryMayChangeWhereALogbookGrows) {
+    for (const int count : {5, 6}) {
+        Crash({{0, "a"}, {4, "of the last"}});
+        std::vector<TestEntry> grown = Entries(count);
+        grown[4].Data += " | a line that belongs to it";
+        grown[4].Sender = "PLC";
+        grown[4].Time = "05.01.2010 00:00:00";
+        FillTable(Book, grown);
+        EXPECT_TRUE(Offer({UserInterface::Answer::Yes})) << count;
+        EXPECT_THAT(Book.Comments(), ElementsAre(Pair(0, "a"), Pair(4, "of the last")));
+        Journal.Saved();
+        FillTable(Book, Entries(5));
+    }
+}
+
+TEST_F(CommentJournalTest, SingleEntryIsKnownAsItWasOnly) {
+    const auto crash = [&] {
+        FillTable(Book, Entries(1));
+        CommentJournal journal(State);
+        EXPECT_FALSE(Enter(journal, 0, "a"));
+    };
+    crash();
+    FillTable(Book,
+              {{EventTypes::Info, "another", "NC", "name"}, {EventTypes::Info, "data 1", "NC", "name"}});
+    EXPECT_FALSE(Offer());
+    FillTable(Book, Entries(2));
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    EXPECT_THAT(Book.Comments(), ElementsAre(Pair(0, "a")));
+}
+
+TEST_F(CommentJournalTest, JournalsOfSeveralStatesOfALogbookAreOfferedTogether) {
+    for (const int count : {3, 5, 4}) {
+        FillTable(Book, Entries(count));
+        CommentJournal journal(State);
+        EXPECT_FALSE(Enter(journal, static_cast<EntryNumber>(count - 1), std::to_string(count)));
+    }
+    FillTable(Book, Entries(9));
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    EXPECT_THAT(Book.Comments(), ElementsAre(Pair(2, "3"), Pair(3, "4"), Pair(4, "5")));
+    Journal.Saved();
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
+// As version 0.1 wrote them: known by the logbook as it was.
+TEST_F(CommentJournalTest, JournalsOfTheFirstVersionAreOffered) {
+    fs::create_directories(State);
+    const auto leave = [&] {
+        std::ofstream(State / "comments-Ab12cd")
+            << "{\"entries\":5,\"logbook\":\"e08d88aeb856d58bdd3fc5c27818a84f\"}\n{\"comment\":\"a\","
+               "\"entry\":1}\n";
+    };
+    leave();
+    FillTable(Book, Entries(6));
+    EXPECT_FALSE(Offer());
+    FillTable(Book, Entries(5));
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "a")));
+    Journal.Saved();
+    EXPECT_THAT(Files(), IsEmpty());
 }
 
 TEST_F(CommentJournalTest, CopyThatRunsKeepsItsCommentsToItself) {
@@ -365,12 +455,21 @@ TEST_F(CommentJournalTest, RestoredCommentsAreNotedAgainWithTheNextOne) {
     EXPECT_NE(content.find("\"b\""), std::string::npos);
 }
 
-TEST(LogbookChecksumTest, TellsEveryFieldOfEveryEntry) {
+// Of all entries.
+std::string Whole(const EntryTable& table) {
+    const EntryNumber count = table.Count();
+    return ChecksumsOfBeginnings(table, std::span(&count, 1)).front();
+}
+
+class LogbookChecksumTest : public testing::TestWithParam<std::string (*)(const EntryTable&)> {};
+INSTANTIATE_TEST_SUITE_P(Both, LogbookChecksumTest, testing::Values(&Whole, &LogbookChecksum));
+
+TEST_P(LogbookChecksumTest, TellsEveryFieldOfEveryEntry) {
     const std::vector<TestEntry> plain = Entries(3);
     const auto sumOf = [](const std::vector<TestEntry>& entries) {
         EntryTable table;
         FillTable(table, entries);
-        return LogbookChecksum(table);
+        return GetParam()(table);
     };
     const std::string sum = sumOf(plain);
     EXPECT_EQ(sum.size(), 32U);
@@ -390,7 +489,7 @@ TEST(LogbookChecksumTest, TellsEveryFieldOfEveryEntry) {
 }
 
 // The same bytes give other letters, of other lengths, with another code page.
-TEST(LogbookChecksumTest, IsTheSameUnderAnotherCodePage) {
+TEST_P(LogbookChecksumTest, IsTheSameUnderAnotherCodePage) {
     const auto sumOf = [](const char* locale) {
         EntryTable table;
         ParsedEntry entry;
@@ -402,18 +501,18 @@ TEST(LogbookChecksumTest, IsTheSameUnderAnotherCodePage) {
         entry.Time = "kein Datum \xE4";
         table.Append(entry, CodePage::ForLocale(locale));
         table.Append(entry, CodePage::ForLocale(locale));
-        return LogbookChecksum(table);
+        return GetParam()(table);
     };
     const std::string german = sumOf("de_DE.UTF-8");
     for (const char* locale : {"ru_RU", "cs_CZ", "el_GR", "tr_TR", "lt_LT"})
         EXPECT_EQ(sumOf(locale), german) << locale;
 }
 
-TEST(LogbookChecksumTest, TellsWhereATextEnds) {
+TEST_P(LogbookChecksumTest, TellsWhereATextEnds) {
     const auto sumOf = [](const std::string& first, const std::string& second) {
         EntryTable table;
         FillTable(table, {{EventTypes::Info, first, "NC", "name"}, {EventTypes::Info, second, "NC", "name"}});
-        return LogbookChecksum(table);
+        return GetParam()(table);
     };
     EXPECT_NE(sumOf("ab", "c"), sumOf("a", "bc"));
     const std::string large(40000, 'x');
@@ -421,12 +520,28 @@ TEST(LogbookChecksumTest, TellsWhereATextEnds) {
     EXPECT_NE(sumOf(large + 'a', "b"), sumOf(large + 'b', "b"));
 }
 
-TEST(LogbookChecksumTest, CommentsDoNotCount) {
+TEST_P(LogbookChecksumTest, CommentsDoNotCount) {
     EntryTable table;
     FillTable(table, Entries(3));
-    const std::string sum = LogbookChecksum(table);
+    const std::string sum = GetParam()(table);
     table.SetComment(1, "a");
-    EXPECT_EQ(LogbookChecksum(table), sum);
+    EXPECT_EQ(GetParam()(table), sum);
+}
+
+TEST(ChecksumsOfBeginnings, DoNotDependOnWhatFollows) {
+    std::vector<TestEntry> entries = Entries(6);
+    entries[1] = {EventTypes::Error, "b", "PLC", "other", "no clock"};
+    entries[3] = {EventTypes::Error, "d", "PLC", "other", "06.01.2010 10:00:00"};
+    EntryTable all;
+    FillTable(all, entries);
+    const std::vector<EntryNumber> counts{0, 1, 2, 3, 4, 5, 6};
+    const std::vector<std::string> sums = ChecksumsOfBeginnings(all, counts);
+    for (const EntryNumber count : counts) {
+        EntryTable beginning;
+        FillTable(beginning, {entries.begin(), entries.begin() + count});
+        EXPECT_EQ(Whole(beginning), sums[count]) << count;
+    }
+    EXPECT_EQ(std::set<std::string>(sums.begin(), sums.end()).size(), counts.size());
 }
 
 } // namespace
