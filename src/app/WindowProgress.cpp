@@ -31,8 +31,11 @@ void WindowProgress::PaintValue(double percent) {
 }
 
 void WindowProgress::ProcessPendingEvents() {
-    if (sinceEvents_.elapsed() < FrameTime)
-        return;
+    if (sinceEvents_.elapsed() >= FrameTime)
+        TakePendingEvents();
+}
+
+void WindowProgress::TakePendingEvents() {
     bar_->setValue(static_cast<int>(value_));
     QCoreApplication::processEvents();
     sinceEvents_.start();

@@ -20,7 +20,12 @@ class WindowProgress : public ReadingProgress {
     // The same for a step that lets no events run: only the bar is painted.
     void PaintValue(double percent);
 
+    // Passes over calls that follow the last one within a frame.
     void ProcessPendingEvents() override;
+
+    // The same at any time: whether the window was closed until now is known afterwards.
+    void TakePendingEvents();
+
     bool StopWanted() const override { return stopRequested_; }
     void ShowMessage(std::string_view text) override;
 

@@ -172,16 +172,19 @@ bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& com
     }
     sbStatusBar->HideProgressBar();
     ShowLogbookStatus();
+    // A window behind a message cannot be closed, and what has closed it until now would be lost.
+    if (!aboutComments.empty() || logbook_.LoadState != LoadStates::Done)
+        progress_.TakePendingEvents();
     logbook_.Busy = false;
+    if (progress_.StopWanted()) {
+        // The window was closed while it was reading. Whoever closes it wants to be told nothing more.
+        close();
+        return false;
+    }
     if (!aboutComments.empty())
         user_.ShowMessage(aboutComments, UserInterface::MessageIcon::None);
     if (!filled)
         user_.ShowMessage(Text(TextId::FilterFailed, language_), UserInterface::MessageIcon::Exclamation);
-    if (progress_.StopWanted()) {
-        // The window was closed while it was reading.
-        close();
-        return false;
-    }
     if (logbook_.LoadState == LoadStates::Done)
         return true;
     ShowLogbookError(logbook_.LoadState);

@@ -28,12 +28,6 @@ void ReadDataAndTime(std::string_view line, ParsedEntry& entry, clsFile&, Readin
     entry.Time = ClassicTime(line);
 }
 
-void LetEventsRun(ReadingProgress& progress) {
-    progress.ProcessPendingEvents();
-    if (progress.StopWanted())
-        throw RunTimeError("the read was stopped");
-}
-
 // The block never ends when the file does before a "PC" line has come, which users of such logbooks know.
 // What it would still append can never be seen, so it waits, and costs neither memory nor much time, until it
 // is stopped.
@@ -46,13 +40,10 @@ void LetEventsRun(ReadingProgress& progress) {
 
 void ReadRegisters(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingProgress& progress,
                    KnownHeaders&) {
-    constexpr int ProgressStep = 1000; // lines
     entry.Time = ClassicTime(line);
-    for (int lines = 1; line.find("PC") == std::string_view::npos; ++lines) {
+    while (line.find("PC") == std::string_view::npos) {
         if (file.EndOfFile())
             WaitForStop(progress);
-        if (lines % ProgressStep == 0)
-            LetEventsRun(progress);
         file.ReadPassingLine(line);
         entry.AppendToData(Trim(line));
         entry.AppendToData(LineSeparator);

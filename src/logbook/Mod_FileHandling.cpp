@@ -91,9 +91,7 @@ class Reading {
         if (position >= File.FileSize())
             return;
         Progress.SetValue(static_cast<double>(position) / static_cast<double>(File.FileSize()) * 100.0);
-        Progress.ProcessPendingEvents();
-        if (Progress.StopWanted())
-            throw RunTimeError("the read was stopped");
+        LetEventsRun(Progress);
     }
 
     clsFile& File;
@@ -126,6 +124,7 @@ bool ReadLogbook(const std::string& path, Logbook& logbook, std::string& title, 
     // File and headers outlive the collector: the last entry's texts may still point into them when the error
     // exit hands it to the table.
     clsFile file;
+    file.TellProgress(progress);
     KnownHeaders headers;
     EntryCollector entries(logbook.Entries, codePage);
     try {

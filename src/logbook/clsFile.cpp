@@ -108,6 +108,11 @@ bool clsFile::ReadBlock() {
         throw RunTimeError("the file has become shorter while it was read");
     BlockLength = static_cast<std::size_t>(got);
     Block[BlockLength] = '\n';
+    BytesSinceEvents += got;
+    if (Progress != nullptr && BytesSinceEvents >= EventStep) {
+        BytesSinceEvents = 0;
+        LetEventsRun(*Progress);
+    }
     return true;
 }
 

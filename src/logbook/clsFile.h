@@ -2,6 +2,7 @@
 #pragma once
 
 #include "logbook/LineBreak.h"
+#include "logbook/ReadingProgress.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -23,6 +24,7 @@ class clsFile {
   public:
     static constexpr int ChunkSize = 2048;
     static constexpr std::size_t DefaultBlockSize = 256U * 1024U;
+    static constexpr std::int64_t EventStep = 1024 * 1024;
 
     explicit clsFile(std::size_t blockSize = DefaultBlockSize);
 
@@ -36,6 +38,11 @@ class clsFile {
     // Opens a regular file. False, with nothing reported, when it is missing or cannot be read, when it is
     // empty and `closeIfEmpty` is set, and when this object has been used before.
     bool OpenFile(const std::string& path, bool closeIfEmpty);
+
+    // From now on pending events run each time that EventStep further bytes have come from the file: however
+    // long a line is, and whatever is made of it. A wish to stop then ends what is being read by a
+    // RunTimeError. `progress` must live as long as there is anything to read.
+    void TellProgress(ReadingProgress& progress) { Progress = &progress; }
 
     void CloseFile();
 
@@ -51,7 +58,7 @@ class clsFile {
 
     // The next line without its LF; a CR is dropped wherever it stands. One byte is one character. False only
     // when the file is exhausted and the line is empty. `line` stays valid until ReleaseLines. Throws
-    // RunTimeError when the file has become shorter or fails.
+    // RunTimeError when the file has become shorter or fails, and when the read shall end.
     bool ReadLine(std::string_view& line) {
         BlockHasKeptLines = true;
         return ReadLineWithin(line) ? !line.empty() || !EndOfFile() : ReadKeptLineAcrossBlocks(line);
@@ -109,6 +116,8 @@ class clsFile {
     std::int64_t LinesReadCount = 0;
     int PassChunkSize = ChunkSize; // of this pass through the file; its last chunk may be shorter
     Place Saved;
+    ReadingProgress* Progress = nullptr; // whom TellProgress named
+    std::int64_t BytesSinceEvents = 0;
 
     using BlockMemory = std::unique_ptr<char[]>;
     BlockMemory NewBlock() const;

@@ -93,6 +93,37 @@ class frmMainTest : public MainWindowTest {
         QVERIFY(MessageTexts.isEmpty());
     }
 
+    void ClosingEndsAReadThatStoresNothing() {
+        // Without events until its end it would be told as a logbook without entries.
+        CloseSoon();
+        AnswerMessages(1);
+        Window->RunCommandLine({Folder.Write("a.log", std::string(32U << 20U, '\n'))});
+        QVERIFY(!Window->isVisible());
+        QVERIFY(!Book->Busy);
+        QCOMPARE(Book->LoadState, LoadStates::Reading);
+        QVERIFY(MessageTexts.isEmpty());
+    }
+
+    void ClosingComesBeforeWhateverTheReadHasToTell() {
+        const std::string noEvent = File("a.log", {"nothing"});
+        const std::string broken = File("b.log", {Header("BERR:    a"), "RESET:", std::string(100, ' ')});
+        for (const std::string& file : {noEvent, broken}) {
+            StartAfresh();
+            CloseSoon();
+            AnswerMessages(1);
+            Window->RunCommandLine({file});
+            QVERIFY(!Window->isVisible());
+            QVERIFY(MessageTexts.isEmpty());
+        }
+        const std::string comments = File("a.cmt", {"no comments"});
+        StartAfresh();
+        CloseSoon();
+        AnswerMessages(1);
+        Window->ReadAndShowLogbook(FileOfErrors(2), comments);
+        QVERIFY(!Window->isVisible());
+        QVERIFY(MessageTexts.isEmpty());
+    }
+
     void StoredFiltersDecideWhatIsShown() {
         SaveFilters(*Settings, {{Filter("I|0||||1"), Filter("X|7||||1")}, {}}, "");
         Window->RunCommandLine(
@@ -283,6 +314,11 @@ class frmMainTest : public MainWindowTest {
     }
 
   private:
+    // Closes the window as soon as events run.
+    void CloseSoon() {
+        QTimer::singleShot(0, Window.get(), [this] { Window->close(); });
+    }
+
     QAction* LanguageItem() const { return Item("mnuExtrasDialogLanguage"); }
 
     // Opens the language dialog by its menu item, selects a row and presses a button.

@@ -200,6 +200,64 @@ TEST(ReadLogbook, StopEndsTheReadThroughItsErrorExit) {
     EXPECT_EQ(result.Book.Entries.Count(), 303U);
 }
 
+TEST(ReadLogbook, StopIsSeenWithEveryMegabyteWhateverItHolds) {
+    constexpr std::size_t Size = 4U << 20U;
+    const auto repeated = [](const std::string& text) {
+        std::string all;
+        while (all.size() < Size)
+            all += text;
+        return all;
+    };
+    const std::string restart = Header("RESET:") + '\n';
+    const std::string operation = "Operation Logbook Version 1.0\n" + Header("Stib: ON") + '\n';
+    const std::string separated = "_________Mon Jan 04 2010___\nReset\n";
+    const std::string stored[] = {"7 8 [] [] [04.01.2010 12:34:56.789] \n",
+                                  "5 1 [] [] [04.01.2010 12:34:56.789] ON\n"};
+    const struct {
+        const char* Name;
+        std::string Text;
+        std::string Stored;
+        bool Ends = true;
+    } texts[] = {
+        {"line ends", restart + repeated("\n"), stored[0]},
+        {"carriage returns", restart + repeated("\r"), stored[0]},
+        {"lines that are no events", restart + repeated("nothing\n"), stored[0]},
+        {"one line", restart + repeated("x"), stored[0]},
+        {"message of one line", restart + Header("INFO:") + '\n' + repeated("x"), stored[0]},
+        {"continuation lines", restart + Header("INFO:") + "\na\n" + repeated(" b\n"), stored[0]},
+        {"register block", restart + Header("BREG:") + '\n' + repeated(" D0=1\n"), stored[0], false},
+        {"restarts that fold", repeated(restart), stored[0]},
+        {"operation messages", operation + Header("Info: A") + '\n' + repeated("  b\n"), stored[1]},
+        {"separators", separated + repeated("_________Mon Jan 04 2010___\n"), ""},
+    };
+    for (const auto& [name, text, before, ends] : texts) {
+        ReadResult stopped;
+        stopped.Progress.StopAfterRounds = 2;
+        ReadText(text, stopped);
+        EXPECT_FALSE(stopped.Read) << name;
+        EXPECT_EQ(stopped.Book.LoadState, LoadStates::Reading) << name;
+        EXPECT_EQ(stopped.Progress.EventRounds, 2) << name;
+        EXPECT_EQ(Dump(stopped.Book.Entries), before) << name;
+        EXPECT_TRUE(stopped.Progress.Values.empty()) << name;
+        if (!ends)
+            continue;
+        // What moves the progress bar are stored entries alone.
+        ReadResult whole;
+        ReadText(text, whole);
+        EXPECT_TRUE(whole.Read) << name;
+        EXPECT_EQ(whole.Progress.EventRounds, 4) << name;
+        EXPECT_EQ(whole.Progress.Values, std::vector{0.0}) << name;
+    }
+}
+
+TEST(ReadLogbook, StopIsSeenInTheFirstLine) {
+    ReadResult result;
+    result.Progress.StopAfterRounds = 1;
+    ReadText(std::string(4U << 20U, 'x'), result);
+    EXPECT_FALSE(result.Read);
+    EXPECT_EQ(result.Book.LoadState, LoadStates::Opening);
+}
+
 TEST(ReadLogbook, KeyStrokeBeforeAnErrorIsKeptWhole) {
     const std::string key = Header("Key:     ENT down code 0x000D");
     const std::string kept = std::string("6 5 [] [] ") + At + " ENT down code 0x000D\n";
