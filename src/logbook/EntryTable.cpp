@@ -13,10 +13,11 @@ void EntryTable::Clear(std::size_t entries, std::size_t textBytes) {
     text_.Expect(textBytes);
 }
 
-void EntryTable::ResetToOneEmpty(std::int16_t eventType) {
+void EntryTable::ResetToOneEmpty(std::int16_t eventType, std::int16_t image) {
     Clear();
     ParsedEntry empty;
     empty.EventType = eventType;
+    empty.Image = image;
     Append(empty, CodePage());
 }
 

@@ -31,8 +31,8 @@ class EntryTable {
     // The figures are estimates that cost address space only.
     void Clear(std::size_t entries = 0, std::size_t textBytes = 0);
 
-    // Empties the table down to one empty entry with this event type.
-    void ResetToOneEmpty(std::int16_t eventType);
+    // Empties the table down to one empty entry with this event type and icon number.
+    void ResetToOneEmpty(std::int16_t eventType, std::int16_t image);
 
     // Stores an entry behind the others. Throws RunTimeError when there is no memory, or no number left.
     void Append(const ParsedEntry& entry, const CodePage& codePage);

@@ -20,6 +20,7 @@ inline constexpr std::int16_t Keystr = 9; // a run of key strokes folded into on
 
 // Icon numbers of the list.
 namespace Images {
+inline constexpr std::int16_t None = 0;
 inline constexpr std::int16_t Info = 1;
 inline constexpr std::int16_t Warning = 2;
 inline constexpr std::int16_t Error = 3;

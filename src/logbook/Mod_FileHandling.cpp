@@ -130,7 +130,7 @@ bool ReadLogbook(const std::string& path, Logbook& logbook, std::string& title, 
     try {
         if (!file.OpenFile(path, true)) {
             logbook.LoadState = LoadStates::Done;
-            logbook.Entries.ResetToOneEmpty(0);
+            logbook.Entries.ResetToOneEmpty(0, Images::None);
             return false;
         }
         entries.Begin(file.FileSize());
@@ -150,7 +150,7 @@ bool ReadLogbook(const std::string& path, Logbook& logbook, std::string& title, 
     }
     logbook.LoadState = LoadStates::Done;
     if (logbook.Entries.Count() == 0)
-        logbook.Entries.ResetToOneEmpty(EventTypes::None);
+        logbook.Entries.ResetToOneEmpty(EventTypes::None, Images::Info);
     logbook.EntryCount = logbook.Entries.Count();
     progress.SetValue(0);
     return true;

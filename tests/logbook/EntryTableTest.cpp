@@ -191,8 +191,9 @@ TEST(EntryTable, GrowsBeyondWhatItWasPreparedFor) {
 TEST(EntryTable, EmptiesToOneEntry) {
     EntryTable table;
     Append(table, "x");
-    table.ResetToOneEmpty(EventTypes::None);
+    table.ResetToOneEmpty(EventTypes::None, Images::Warning);
     ASSERT_EQ(table.Count(), 1U);
     EXPECT_EQ(table[0].EventType, -1);
+    EXPECT_EQ(table[0].Image, Images::Warning);
     EXPECT_EQ(table[0].Data, "");
 }
