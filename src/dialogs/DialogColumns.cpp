@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/DialogColumns.h"
 
+#include "dialogs/ScreenRoom.h"
 #include "list/Twips.h"
 #include "settings/Registry.h"
 
 #include <QHeaderView>
 
-#include <algorithm>
 #include <string>
 
 namespace {
@@ -16,9 +16,8 @@ std::string WidthName(std::size_t column) { return "FilterCol(" + std::to_string
 void LoadDialogColumns(const Registry& registry, std::string_view subKey,
                        std::span<const std::int32_t> defaults, QHeaderView& header) {
     for (std::size_t column = 0; column < defaults.size(); ++column)
-        header.resizeSection(
-            static_cast<int>(column),
-            std::max(0, PixelsOf(registry.ReadSettingLong(WidthName(column), defaults[column], subKey))));
+        header.resizeSection(static_cast<int>(column), ColumnWidth(registry.ReadSettingLong(
+                                                           WidthName(column), defaults[column], subKey)));
 }
 
 void SaveDialogColumns(Registry& registry, std::string_view subKey, std::span<const std::int32_t> defaults,
@@ -27,7 +26,7 @@ void SaveDialogColumns(Registry& registry, std::string_view subKey, std::span<co
     for (std::size_t column = 0; column < defaults.size(); ++column) {
         const int stored = registry.ReadSettingLong(WidthName(column), defaults[column], subKey);
         registry.WriteSetting(WidthName(column),
-                              TwipsToStore(header.sectionSize(static_cast<int>(column)), stored),
+                              ColumnTwips(header.sectionSize(static_cast<int>(column)), stored),
                               SettingType::Integer, subKey);
     }
 }

@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/FieldNote.h"
 
-#include <QAccessible>
-#include <QLayout>
+#include "dialogs/FittedDialog.h"
 
-FieldNote::FieldNote(const char* name, QWidget* field) : QLabel(field->parentWidget()), field_(field) {
+#include <QAccessible>
+
+namespace {
+constexpr int MostLines = 4; // a note holds a file's name, too
+} // namespace
+
+FieldNote::FieldNote(const char* name, QWidget* field)
+    : ElidedLabel(MostLines, field->parentWidget()), field_(field) {
     setObjectName(name);
-    setTextFormat(Qt::PlainText);
-    setWordWrap(true);
     hide();
 }
 
@@ -22,7 +26,6 @@ void FieldNote::Say(const QString& text) {
     QAccessibleEvent event(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
     // A window does not grow by itself for text that breaks into lines.
-    QWidget* const dialog = window();
-    dialog->layout()->activate();
-    dialog->resize(dialog->size().expandedTo({0, dialog->layout()->totalHeightForWidth(dialog->width())}));
+    if (auto* const dialog = qobject_cast<FittedDialog*>(window()))
+        dialog->GrowToContent();
 }

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLabel>
+#include "dialogs/ElidedLabel.h"
 
-// What a dialog has to say about the field above it. Takes room only while it says something; the dialog then
-// grows where that is needed, and a screen reader speaks it.
-class FieldNote : public QLabel {
+// What a dialog has to say about the field above it. Takes room only while it says something, and then some
+// lines at most; the dialog grows where that is needed, and a screen reader speaks it. Stands in a
+// FittedDialog.
+class FieldNote : public ElidedLabel {
     Q_OBJECT
 
   public:

@@ -77,7 +77,7 @@ std::string VersionText(std::string_view version) {
 
 frmAbout::frmAbout(Language language, std::string_view version, const std::vector<LibraryVersion>& libraries,
                    QWidget* parent)
-    : QDialog(parent),
+    : FittedDialog(parent),
       language_(language),
       imgIcon(new QLabel(this)),
       lblDesignation(new QLabel(this)),

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialogs/FittedDialog.h"
 #include "settings/Language.h"
-
-#include <QDialog>
 
 #include <string>
 #include <string_view>
@@ -25,7 +24,7 @@ struct LibraryVersion {
 std::string VersionText(std::string_view version);
 
 // The about box: what the program is, its version, its licence and the libraries in it.
-class frmAbout : public QDialog {
+class frmAbout : public FittedDialog {
     Q_OBJECT
 
   public:

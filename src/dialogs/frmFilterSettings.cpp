@@ -53,7 +53,7 @@ bool HasNameAndSender(int filterType) { return filterType >= 1 && filterType < F
 
 frmFilterSettings::frmFilterSettings(const FilterDialogContext& context,
                                      std::vector<StringFilter>& stringFilters, QWidget* parent)
-    : QDialog(parent),
+    : FittedDialog(parent),
       context_(context),
       stringFilters_(stringFilters),
       lblFilterType(new QLabel(this)),
@@ -130,11 +130,11 @@ void frmFilterSettings::MakeLayout() {
     for (QRadioButton* const option : {obExcludeFilter, obIncludeFilter, obHighlightFilter})
         options->addWidget(option);
 
-    auto* const layout = new QVBoxLayout(this);
+    auto* const layout = new QVBoxLayout;
     layout->addLayout(fields);
     layout->addWidget(frFilterAction);
     layout->addStretch();
-    layout->addWidget(OkAndCancel(context_.DialogLanguage, *this));
+    LayOut(layout, OkAndCancel(context_.DialogLanguage, *this));
 }
 
 void frmFilterSettings::LoadLanguage() {

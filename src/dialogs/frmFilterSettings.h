@@ -2,8 +2,7 @@
 #pragma once
 
 #include "dialogs/FilterDialogContext.h"
-
-#include <QDialog>
+#include "dialogs/FittedDialog.h"
 
 #include <span>
 #include <vector>
@@ -17,7 +16,7 @@ class QRadioButton;
 class QTimer;
 
 // Defines one filter: which entries it matches and what becomes of them.
-class frmFilterSettings : public QDialog {
+class frmFilterSettings : public FittedDialog {
     Q_OBJECT
 
   public:

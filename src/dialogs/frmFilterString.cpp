@@ -11,7 +11,7 @@
 #include <QGridLayout>
 
 frmFilterString::frmFilterString(Language language, const StringFilter& filter, QWidget* parent)
-    : QDialog(parent),
+    : FittedDialog(parent),
       language_(language),
       lblString(new QLabel(this)),
       tbString(new SelectingLineEdit(this)),
@@ -26,14 +26,14 @@ frmFilterString::frmFilterString(Language language, const StringFilter& filter, 
     lblComment->setBuddy(tbComment);
     tbComment->setObjectName("tbComment");
 
-    auto* layout = new QGridLayout(this);
+    auto* layout = new QGridLayout;
     layout->addWidget(lblString, 0, 0);
     layout->addWidget(tbString, 0, 1);
     layout->addWidget(lblComment, 1, 0);
     layout->addWidget(tbComment, 1, 1);
     layout->addWidget(lblNote, 2, 1);
     layout->setRowStretch(3, 1);
-    layout->addWidget(OkAndCancel(language, *this), 4, 0, 1, 2);
+    LayOut(layout, OkAndCancel(language, *this));
 
     LoadLanguage();
     tbString->setText(ToQString(filter.FilterString));

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialogs/FittedDialog.h"
 #include "filter/FilterDefinition.h"
-
-#include <QDialog>
 
 class FieldNote;
 class QLabel;
 class QLineEdit;
 
 // Edits one predefined string and its comment.
-class frmFilterString : public QDialog {
+class frmFilterString : public FittedDialog {
     Q_OBJECT
 
   public:

@@ -21,7 +21,7 @@ constexpr std::array<TextId, 11> Rows{
 } // namespace
 
 frmLanguageDialog::frmLanguageDialog(Language language, QWidget* parent)
-    : QDialog(parent),
+    : FittedDialog(parent),
       language_(language),
       lblDialogLanguage(new QLabel(this)),
       cbDialogLanguage(new QComboBox(this)),
@@ -45,12 +45,12 @@ frmLanguageDialog::frmLanguageDialog(Language language, QWidget* parent)
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = new QVBoxLayout;
     layout->addWidget(lblDialogLanguage);
     layout->addWidget(cbDialogLanguage);
     layout->addWidget(lblNote);
     layout->addStretch();
-    layout->addWidget(buttons);
+    LayOut(layout, buttons);
 
     LoadLanguage();
     resize(sizeHint().expandedTo({360, 0}));

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialogs/FittedDialog.h"
 #include "settings/Language.h"
-
-#include <QDialog>
 
 #include <optional>
 
@@ -12,7 +11,7 @@ class QLabel;
 class QPushButton;
 
 // Lets the user choose the dialog language.
-class frmLanguageDialog : public QDialog {
+class frmLanguageDialog : public FittedDialog {
     Q_OBJECT
 
   public:

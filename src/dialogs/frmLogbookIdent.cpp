@@ -16,6 +16,7 @@ namespace {
 
 constexpr int LinesOfData = 4;
 constexpr int LinesOfComment = 10;
+constexpr int FewestLines = 3; // of either, where the screen has no room for more
 
 QLabel* MakeLabel(const char* name, QWidget* parent) {
     auto* label = new QLabel(parent);
@@ -30,25 +31,38 @@ QLineEdit* MakeField(const char* name, QWidget* parent) {
     return field;
 }
 
-QPlainTextEdit* MakeTextBox(const char* name, int lines, QWidget* parent) {
-    auto* box = new QPlainTextEdit(parent);
-    box->setObjectName(name);
-    box->setTabChangesFocus(true);
-    const int frame = 2 * box->frameWidth() + qRound(2 * box->document()->documentMargin());
-    box->setMinimumHeight(box->fontMetrics().lineSpacing() * lines + frame);
-    return box;
-}
+// Asks for the room of some lines, and makes do with fewer on a small screen.
+class TextBox : public QPlainTextEdit {
+  public:
+    TextBox(const char* name, int lines, QWidget* parent) : QPlainTextEdit(parent), lines_(lines) {
+        setObjectName(name);
+        setTabChangesFocus(true);
+    }
+
+    QSize sizeHint() const override { return QPlainTextEdit::sizeHint().expandedTo({0, HeightOf(lines_)}); }
+    QSize minimumSizeHint() const override {
+        return {QPlainTextEdit::minimumSizeHint().width(), HeightOf(FewestLines)};
+    }
+
+  private:
+    int HeightOf(int lines) const {
+        const int frame = 2 * frameWidth() + qRound(2 * document()->documentMargin());
+        return fontMetrics().lineSpacing() * lines + frame;
+    }
+
+    int lines_;
+};
 
 } // namespace
 
 frmLogbookIdent::frmLogbookIdent(Language language, Proposal propose, QWidget* parent)
-    : QDialog(parent),
+    : FittedDialog(parent),
       language_(language),
       propose_(std::move(propose)),
       lbEvent(MakeLabel("lbEvent", this)),
       tbEvent(MakeField("tbEvent", this)),
       lbIdent(MakeLabel("lbIdent", this)),
-      tbIdent(MakeTextBox("tbIdent", LinesOfData, this)),
+      tbIdent(new TextBox("tbIdent", LinesOfData, this)),
       lbEmitter(MakeLabel("lbEmitter", this)),
       tbEmitter(MakeField("tbEmitter", this)),
       lbName(MakeLabel("lbName", this)),
@@ -60,7 +74,7 @@ frmLogbookIdent::frmLogbookIdent(Language language, Proposal propose, QWidget* p
       lbEventID(MakeLabel("lbEventID", this)),
       tbEventID(MakeField("tbEventID", this)),
       lbComment(MakeLabel("lbComment", this)),
-      tbComment(MakeTextBox("tbComment", LinesOfComment, this)),
+      tbComment(new TextBox("tbComment", LinesOfComment, this)),
       cmdOK(new QPushButton(this)),
       cmdCancel(new QPushButton(this)) {
     setObjectName("frmLogbookIdent");
@@ -80,7 +94,7 @@ frmLogbookIdent::frmLogbookIdent(Language language, Proposal propose, QWidget* p
     auto* accept = new QShortcut(Qt::CTRL | Qt::Key_Return, this);
     connect(accept, &QShortcut::activated, this, &frmLogbookIdent::OK);
 
-    auto* layout = new QGridLayout(this);
+    auto* layout = new QGridLayout;
     const std::pair<QLabel*, QWidget*> rows[] = {
         {lbEvent, tbEvent}, {lbIdent, tbIdent}, {lbEmitter, tbEmitter}, {lbName, tbName},
         {lbTime, tbTime},   {lbIndex, tbIndex}, {lbEventID, tbEventID}, {lbComment, tbComment}};
@@ -94,8 +108,8 @@ frmLogbookIdent::frmLogbookIdent(Language language, Proposal propose, QWidget* p
         layout->setRowStretch(row, field == tbComment ? 3 : field == tbIdent ? 1 : 0);
         ++row;
     }
-    layout->addWidget(buttons, row, 0, 1, 2);
     layout->setColumnStretch(1, 1);
+    LayOut(layout, buttons);
 
     LoadLanguage();
     resize(sizeHint().expandedTo({560, 0}));

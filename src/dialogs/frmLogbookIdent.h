@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialogs/FittedDialog.h"
 #include "settings/Language.h"
-
-#include <QDialog>
 
 #include <functional>
 #include <string>
@@ -28,7 +27,7 @@ struct LogbookIdent {
 
 // The event entry dialog: one entry field by field, and its comment to be written. Where the entry has none,
 // the control's own error text is proposed, selected as a whole so that typing replaces it.
-class frmLogbookIdent : public QDialog {
+class frmLogbookIdent : public FittedDialog {
     Q_OBJECT
 
   public:

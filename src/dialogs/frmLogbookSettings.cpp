@@ -31,7 +31,7 @@
 
 frmLogbookSettings::frmLogbookSettings(const FilterDialogContext& context, std::function<void()> apply,
                                        QWidget* parent)
-    : QDialog(parent),
+    : FittedDialog(parent),
       context_(context),
       apply_(std::move(apply)),
       rows_(context.Labels, context.DialogLanguage),

@@ -3,8 +3,7 @@
 
 #include "dialogs/FilterDialogContext.h"
 #include "dialogs/FilterRows.h"
-
-#include <QDialog>
+#include "dialogs/FittedDialog.h"
 
 #include <functional>
 #include <string>
@@ -18,7 +17,7 @@ class QTimer;
 class QTreeWidgetItem;
 
 // Edits the active filter list. The rows are a working copy: the settings change with OK and Apply alone.
-class frmLogbookSettings : public QDialog {
+class frmLogbookSettings : public FittedDialog {
     Q_OBJECT
 
   public:

@@ -14,7 +14,7 @@
 #include <QRadioButton>
 
 frmSearchForString::frmSearchForString(const SearchState& last, Language language, QWidget* parent)
-    : QDialog(parent),
+    : FittedDialog(parent),
       lblSearchString(new QLabel(this)),
       tbSearchString(new QLineEdit(this)),
       checkboxWholeWord(new QCheckBox(this)),
@@ -58,7 +58,7 @@ void frmSearchForString::LayControlsOut() {
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
-    auto* layout = new QGridLayout(this);
+    auto* layout = new QGridLayout;
     layout->addWidget(lblSearchString, 0, 0);
     layout->addWidget(tbSearchString, 0, 1, 1, 2);
     layout->addWidget(checkboxWholeWord, 1, 0, 1, 2);
@@ -66,7 +66,7 @@ void frmSearchForString::LayControlsOut() {
     layout->addWidget(frameDirection, 1, 2, 2, 1);
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(3, 1);
-    layout->addWidget(buttons, 4, 0, 1, 3);
+    LayOut(layout, buttons);
 }
 
 void frmSearchForString::LoadLanguage(Language language) {

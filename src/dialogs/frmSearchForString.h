@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialogs/FittedDialog.h"
 #include "list/RowMatches.h"
 #include "settings/Language.h"
-
-#include <QDialog>
 
 #include <optional>
 
@@ -16,7 +15,7 @@ class QPushButton;
 class QRadioButton;
 
 // Asks what to search the list for. All of the text is selected whenever its box gets the focus.
-class frmSearchForString : public QDialog {
+class frmSearchForString : public FittedDialog {
     Q_OBJECT
 
   public:

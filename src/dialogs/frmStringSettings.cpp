@@ -36,7 +36,7 @@ StringFilter Read(const QTreeWidgetItem& row) {
 
 frmStringSettings::frmStringSettings(Registry& registry, Language language,
                                      std::vector<StringFilter>& stringFilters, QWidget* parent)
-    : QDialog(parent),
+    : FittedDialog(parent),
       registry_(registry),
       language_(language),
       stringFilters_(stringFilters),

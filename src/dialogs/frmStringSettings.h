@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dialogs/FittedDialog.h"
 #include "filter/FilterDefinition.h"
-
-#include <QDialog>
 
 #include <cstdint>
 #include <vector>
@@ -13,7 +12,7 @@ class QLabel;
 class Registry;
 
 // The list of predefined strings: the person edits it and picks one.
-class frmStringSettings : public QDialog {
+class frmStringSettings : public FittedDialog {
     Q_OBJECT
 
   public:

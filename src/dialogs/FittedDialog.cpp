@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "dialogs/FittedDialog.h"
+
+#include "dialogs/ScreenRoom.h"
+
+#include <QApplication>
+#include <QLayout>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace {
+
+// Shows the whole content where there is room.
+class ScrolledContent : public QScrollArea {
+  public:
+    explicit ScrolledContent(QWidget* parent) : QScrollArea(parent) {
+        setFrameShape(NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setWidgetResizable(true);
+        setWidget(new QWidget(this));
+        // Qt does this for Tab alone, not for access keys.
+        connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, QWidget* focused) {
+            if (focused != nullptr && isAncestorOf(focused))
+                ensureWidgetVisible(focused);
+        });
+    }
+
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+    QSize minimumSizeHint() const override {
+        const int line = fontMetrics().lineSpacing();
+        return widget()->minimumSizeHint().boundedTo({12 * line, 3 * line});
+    }
+};
+
+} // namespace
+
+void FittedDialog::LayOut(QLayout* content, QWidget* buttons) {
+    // The widgets never leave this window, where they would lose their places for the Tab key.
+    content_ = new ScrolledContent(this);
+    content->setContentsMargins(0, 0, 0, 0);
+    content_->widget()->setLayout(content);
+    buttons_ = buttons;
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(content_, 1);
+    layout->addWidget(buttons);
+}
+
+// The size, as high as the content needs at its width.
+QSize FittedDialog::WithContent(QSize size) const {
+    const QMargins margins = layout()->contentsMargins();
+    const QLayout& content = content_ == nullptr ? *layout() : *content_->widget()->layout();
+    int width = size.width();
+    int height = 0;
+    if (content_ != nullptr) {
+        width -= margins.left() + margins.right();
+        height = margins.top() + margins.bottom() + layout()->spacing() + buttons_->sizeHint().height();
+    }
+    height += content.hasHeightForWidth() ? content.totalHeightForWidth(width)
+                                          : content.totalMinimumSize().height();
+    return size.expandedTo({0, height});
+}
+
+void FittedDialog::GrowToContent() {
+    if (isVisible())
+        ResizeOnScreen(*this, WithContent(size()));
+}
+
+void FittedDialog::setVisible(bool visible) {
+    if (visible && !isVisible()) {
+        ensurePolished();
+        ResizeOnScreen(*this, WithContent(testAttribute(Qt::WA_Resized) ? size() : sizeHint()));
+    }
+    QDialog::setVisible(visible);
+}
