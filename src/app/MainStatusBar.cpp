@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainStatusBar.h"
 
+#include "dialogs/ElidedLabel.h"
 #include "list/QtText.h"
 #include "list/Twips.h"
 
@@ -9,15 +10,16 @@
 #include <QProgressBar>
 
 namespace {
-constexpr int CountsWidth = 3300;   // twips; room for two numbers of eight digits
-constexpr int ProgressWidth = 2700; // twips
-constexpr int ProgressTop = 25;     // twips below the top of the status bar
+constexpr int LeastTextWidth = 1500; // twips
+constexpr int CountsWidth = 3300;    // twips; room for two numbers of eight digits
+constexpr int ProgressWidth = 2700;  // twips
+constexpr int ProgressTop = 25;      // twips below the top of the status bar
 } // namespace
 
 MainStatusBar::MainStatusBar(QWidget* window)
     : QStatusBar(window),
-      statusText_(new QLabel(this)),
-      statusCounts_(new QLabel(this)),
+      statusText_(new ElidedLabel(1, this)),
+      statusCounts_(new ElidedLabel(1, this)),
       statusProgress_(new QLabel(this)),
       ProgressBar(new QProgressBar(window)) {
     setObjectName("sbStatusBar");
@@ -26,6 +28,9 @@ MainStatusBar::MainStatusBar(QWidget* window)
     statusProgress_->setObjectName("statusProgress");
     statusCounts_->setMinimumWidth(PixelsOf(CountsWidth));
     statusProgress_->setMinimumWidth(PixelsOf(ProgressWidth));
+    // It has what the counts leave, whatever its text.
+    statusText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    statusText_->setMinimumWidth(PixelsOf(LeastTextWidth));
     addWidget(statusText_, 1);
     addPermanentWidget(statusCounts_);
     addPermanentWidget(statusProgress_);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/WindowPlacement.h"
 
+#include "dialogs/ScreenRoom.h"
 #include "list/LogbookColumns.h"
 #include "list/Twips.h"
 #include "settings/Registry.h"
@@ -19,18 +20,12 @@ struct Length {
     int Default; // twips
 };
 
-constexpr Length Left{"Main.Left", 100};
-constexpr Length Top{"Main.Top", 100};
-constexpr Length Width{"Main.Width", 14000};
-constexpr Length Height{"Main.Height", 12000};
+constexpr std::array<Length, 4> Lengths{
+    {{"Main.Left", 100}, {"Main.Top", 100}, {"Main.Width", 14000}, {"Main.Height", 12000}}};
+constexpr QPoint DefaultPlace(PixelsOf(Lengths[0].Default), PixelsOf(Lengths[1].Default));
 
-int Load(const Registry& registry, const Length& length) {
-    return PixelsOf(registry.ReadLogbookSettingLong(length.Name, length.Default));
-}
-
-void Save(Registry& registry, const Length& length, int pixels) {
-    const int stored = registry.ReadLogbookSettingLong(length.Name, length.Default);
-    registry.WriteLogbookSetting(length.Name, TwipsToStore(pixels, stored), SettingType::Integer);
+std::array<int, 4> LengthsOf(const QWidget& window) {
+    return {window.x(), window.y(), window.width(), window.height()};
 }
 
 // The part of the window that a person drags it by must be on a screen.
@@ -43,42 +38,49 @@ bool CanBeReached(QPoint place, QSize size) {
     });
 }
 
-Length LengthOf(const LogbookColumnInfo& column) { return {column.WidthSetting, column.DefaultWidth}; }
-
 } // namespace
 
-void LoadPlacement(const Registry& registry, QWidget& window) {
-    QPoint place(Load(registry, Left), Load(registry, Top));
-    const QSize size = QSize(Load(registry, Width), Load(registry, Height)).expandedTo({1, 1});
+void WindowPlacement::Load(const Registry& registry, QWidget& window) {
+    for (std::size_t i = 0; i < Lengths.size(); ++i)
+        loaded_[i] = registry.ReadLogbookSettingLong(Lengths[i].Name, Lengths[i].Default);
+    QPoint place(PixelsOf(loaded_[0]), PixelsOf(loaded_[1]));
+    const QSize size = QSize(PixelsOf(loaded_[2]), PixelsOf(loaded_[3])).expandedTo({1, 1});
     if (!CanBeReached(place, size))
-        place = {PixelsOf(Left.Default), PixelsOf(Top.Default)};
-    window.move(place);
-    window.resize(size);
+        place = DefaultPlace;
+    const QRect shown = PlaceOnScreens(QRect(place, size));
+    window.move(shown.topLeft());
+    window.resize(shown.size());
+    shown_ = LengthsOf(window);
     if (registry.ReadLogbookSettingLong("MainIsMaximized", 0) == 1)
         window.setWindowState(Qt::WindowMaximized);
+}
+
+void WindowPlacement::Save(Registry& registry, const QWidget& window) const {
+    if (window.isMinimized() || window.isMaximized())
+        return;
+    const std::array<int, 4> now = LengthsOf(window);
+    for (std::size_t i = 0; i < Lengths.size(); ++i)
+        registry.WriteLogbookSetting(Lengths[i].Name,
+                                     now[i] == shown_[i] ? loaded_[i] : TwipsToStore(now[i], loaded_[i]),
+                                     SettingType::Integer);
 }
 
 void LoadColumnWidths(const Registry& registry, QHeaderView& header) {
     for (int column = 0; column < LogbookColumnCount; ++column) {
         const LogbookColumnInfo& info = LogbookColumns[static_cast<std::size_t>(column)];
         header.resizeSection(column, info.WidthSetting.empty() ? PixelsOf(info.DefaultWidth)
-                                                               : std::max(0, Load(registry, LengthOf(info))));
+                                                               : ColumnWidth(registry.ReadLogbookSettingLong(
+                                                                     info.WidthSetting, info.DefaultWidth)));
     }
-}
-
-void SavePlacement(Registry& registry, const QWidget& window) {
-    if (window.isMinimized() || window.isMaximized())
-        return;
-    Save(registry, Left, window.x());
-    Save(registry, Top, window.y());
-    Save(registry, Width, window.width());
-    Save(registry, Height, window.height());
 }
 
 void SaveColumnWidths(Registry& registry, const QHeaderView& header) {
     for (int column = 0; column < LogbookColumnCount; ++column) {
         const LogbookColumnInfo& info = LogbookColumns[static_cast<std::size_t>(column)];
-        if (!info.WidthSetting.empty())
-            Save(registry, LengthOf(info), header.sectionSize(column));
+        if (info.WidthSetting.empty())
+            continue;
+        const int stored = registry.ReadLogbookSettingLong(info.WidthSetting, info.DefaultWidth);
+        registry.WriteLogbookSetting(info.WidthSetting, ColumnTwips(header.sectionSize(column), stored),
+                                     SettingType::Integer);
     }
 }

@@ -8,7 +8,6 @@
 #include "app/MainStatusBar.h"
 #include "app/MainToolBar.h"
 #include "app/WaitPointer.h"
-#include "app/WindowPlacement.h"
 #include "app/WindowSearch.h"
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmLanguageDialog.h"
@@ -101,7 +100,7 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFol
         else
             Run(Command::Filters);
     });
-    LoadPlacement(registry_, *this);
+    placement_.Load(registry_, *this);
     LoadColumnWidths(registry_, *lvLogbook->horizontalHeader());
     LoadLanguage();
     sbStatusBar->StatusText()->setText(QtText(TextId::StatusReady, language_));
@@ -378,7 +377,7 @@ void frmMain::Unload() {
     // Before the first activation has come to its end, the pane is as it was left the last time.
     const bool viewed = menus_.Item(Command::ViewContent).isChecked() || (ViewContents && !Activated);
     registry_.WriteLogbookSetting("MainViewContents", viewed ? 1 : 0, SettingType::Integer);
-    SavePlacement(registry_, *this);
+    placement_.Save(registry_, *this);
     SaveColumnWidths(registry_, *lvLogbook->horizontalHeader());
     registry_.WriteLogbookSetting("InitZipArchiveDir", state_.InitZipArchiveDir, SettingType::Text);
 }

@@ -4,6 +4,7 @@
 #include "app/Commands.h"
 #include "app/MainMenus.h"
 #include "app/QtCatalogue.h"
+#include "app/WindowPlacement.h"
 #include "app/WindowProgress.h"
 #include "app/WindowUser.h"
 #include "dialogs/HTMLHelp.h"
@@ -125,6 +126,7 @@ class frmMain : public QMainWindow {
     LogbookState state_;
     QString lookupMessage_; // these two stand in the status bar
     QString notNoted_;
+    WindowPlacement placement_;
     bool ViewContents;
     bool Activated = false;
     LogbookModel* model_;

@@ -3,6 +3,7 @@
 
 #include "app/MainArea.h"
 #include "list/Twips.h"
+#include "support/Screens.h"
 
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -125,8 +126,55 @@ class MainWindowLayoutTest : public MainWindowTest {
         StoreNumber("Column(2).Width", -2147483647);
         OpenWindow();
         QVERIFY(Window->width() > 0);
-        QVERIFY(Window->height() <= LongestLength);
+        QVERIFY(Window->height() <= Screen(0).height());
         QVERIFY(List()->columnWidth(1) >= 0);
+    }
+
+    void NothingIsLargerThanTheScreens() {
+        const int widest = Screen(0).width() + Screen(1).width();
+        for (const char* name : {"Main.Width", "Main.Height", "Column(2).Width"})
+            StoreNumber(name, 2147483647);
+        for (const int place : {100, 2147483647, -2147483647}) {
+            StoreNumber("Main.Left", place);
+            StoreNumber("Main.Top", place);
+            OpenWindow();
+            QVERIFY(Screen(0).contains(Window->frameGeometry()));
+            QCOMPARE(List()->columnWidth(1), widest);
+            Window->close();
+            // The person has changed nothing.
+            for (const char* name : {"Main.Width", "Main.Height", "Column(2).Width"})
+                QCOMPARE(Stored(name), 2147483647);
+            QCOMPARE(Stored("Main.Left"), place);
+        }
+        OpenWindow();
+        Window->resize(700, Window->height());
+        List()->setColumnWidth(1, 90);
+        Window->close();
+        QCOMPARE(Stored("Main.Width"), 10500);
+        QCOMPARE(Stored("Main.Height"), 2147483647);
+        QCOMPARE(Stored("Column(2).Width"), 1350);
+    }
+
+    // The default size on a screen of 1920 x 1080 pixels at a scale of 2.
+    void SmallScreenShowsTheWholeWindow() {
+        StoreNumber("Main.Left", TwipsOf(Screen(1).left() + 30));
+        OpenWindow();
+        QVERIFY(Screen(1).contains(Window->frameGeometry()));
+        QVERIFY(Window->width() > 900 && Window->height() > 450);
+        Window->close();
+        QCOMPARE(Stored("Main.Width"), 14000);
+        QCOMPARE(Stored("Main.Height"), 12000);
+        QCOMPARE(Stored("Main.Left"), TwipsOf(Screen(1).left() + 30));
+    }
+
+    void WindowAcrossTwoScreensStays() {
+        const QRect across(Screen(0).right() - 500, 20, 1000, 400);
+        StoreNumber("Main.Left", TwipsOf(across.x()));
+        StoreNumber("Main.Top", TwipsOf(across.y()));
+        StoreNumber("Main.Width", TwipsOf(across.width()));
+        StoreNumber("Main.Height", TwipsOf(across.height()));
+        OpenWindow();
+        QCOMPARE(QRect(Window->pos(), Window->size()), across);
     }
 
     void ListFillsTheWindow() {
@@ -248,6 +296,8 @@ class MainWindowLayoutTest : public MainWindowTest {
     }
 
   private:
+    static QRect Screen(int number) { return QGuiApplication::screens()[number]->availableGeometry(); }
+
     const std::string LogbookKey = std::string(ApplicationKey) + "\\Logbook";
 
     QWidget* Area() const { return Window->centralWidget(); }
@@ -264,5 +314,10 @@ class MainWindowLayoutTest : public MainWindowTest {
     }
 };
 
-QTEST_MAIN(MainWindowLayoutTest)
+int main(int argc, char** argv) {
+    const Screens screens({{1920, 1080}, {960, 540}});
+    QApplication application(argc, argv);
+    MainWindowLayoutTest test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "MainWindowLayoutTest.moc"
