@@ -12,7 +12,8 @@ namespace {
 constexpr qint64 FrameTime = 20; // milliseconds
 } // namespace
 
-WindowProgress::WindowProgress(QWidget* window, QProgressBar* bar) : window_(window), bar_(bar) {
+WindowProgress::WindowProgress(QWidget* window, QProgressBar* bar, QString title)
+    : window_(window), bar_(bar), title_(std::move(title)) {
     sinceEvents_.start();
 }
 
@@ -42,8 +43,7 @@ void WindowProgress::TakePendingEvents() {
 }
 
 void WindowProgress::ShowMessage(std::string_view text) {
-    QMessageBox box(QMessageBox::Information, window_->windowTitle(), ToQString(text), QMessageBox::Ok,
-                    window_);
+    QMessageBox box(QMessageBox::Information, title_, ToQString(text), QMessageBox::Ok, window_);
     box.setTextFormat(Qt::PlainText); // it holds what the file says
     box.exec();
 }

@@ -4,6 +4,7 @@
 #include "logbook/ReadingProgress.h"
 
 #include <QElapsedTimer>
+#include <QString>
 
 class QProgressBar;
 class QWidget;
@@ -11,7 +12,8 @@ class QWidget;
 // Reading in a window: the progress bar moves, the window stays alive, and closing it ends the read.
 class WindowProgress : public ReadingProgress {
   public:
-    WindowProgress(QWidget* window, QProgressBar* bar);
+    // `title` is that of its messages.
+    WindowProgress(QWidget* window, QProgressBar* bar, QString title);
 
     void RequestStop() { stopRequested_ = true; }
 
@@ -32,6 +34,7 @@ class WindowProgress : public ReadingProgress {
   private:
     QWidget* window_;
     QProgressBar* bar_;
+    QString title_;
     QElapsedTimer sinceEvents_;
     double value_ = 0;
     bool stopRequested_ = false;

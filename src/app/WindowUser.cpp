@@ -7,16 +7,18 @@
 #include <QLabel>
 #include <QMessageBox>
 
-void WindowUser::ShowMessage(std::string_view text, MessageIcon icon) {
-    QMessageBox box(icon == MessageIcon::Exclamation ? QMessageBox::Warning : QMessageBox::NoIcon,
-                    window_->windowTitle(), ToQString(text), QMessageBox::Ok, window_);
+void WindowUser::ShowMessage(std::string_view text, MessageIcon icon) { ShowMessage(text, title_, icon); }
+
+void WindowUser::ShowMessage(std::string_view text, const QString& title, MessageIcon icon) {
+    QMessageBox box(icon == MessageIcon::Exclamation ? QMessageBox::Warning : QMessageBox::NoIcon, title,
+                    ToQString(text), QMessageBox::Ok, window_);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
 
 bool WindowUser::Confirm(std::string_view question) {
-    QMessageBox box(QMessageBox::Warning, window_->windowTitle(), ToQString(question),
-                    QMessageBox::Yes | QMessageBox::No, window_);
+    QMessageBox box(QMessageBox::Warning, title_, ToQString(question), QMessageBox::Yes | QMessageBox::No,
+                    window_);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
@@ -32,7 +34,7 @@ std::optional<std::string> WindowUser::AskFileToSave(const FileQuestion& questio
 
 UserInterface::Answer WindowUser::Ask(TextId question) {
     const auto answer =
-        QMessageBox::question(window_, window_->windowTitle(), QtText(question, language_),
+        QMessageBox::question(window_, title_, QtText(question, language_),
                               QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
     return answer == QMessageBox::Yes ? Answer::Yes : answer == QMessageBox::No ? Answer::No : Answer::Cancel;
 }

@@ -3,6 +3,10 @@
 
 #include "sources/UserInterface.h"
 
+#include <QString>
+
+#include <utility>
+
 class QLabel;
 class QWidget;
 
@@ -10,11 +14,14 @@ class QWidget;
 // the status bar.
 class WindowUser : public UserInterface {
   public:
-    WindowUser(QWidget* window, QLabel* statusText) : window_(window), statusText_(statusText) {}
+    // `title` is that of its messages and questions.
+    WindowUser(QWidget* window, QLabel* statusText, QString title)
+        : window_(window), statusText_(statusText), title_(std::move(title)) {}
 
     void SetLanguage(Language language) { language_ = language; }
 
     void ShowMessage(std::string_view text, MessageIcon icon) override;
+    void ShowMessage(std::string_view text, const QString& title, MessageIcon icon);
     Answer Ask(TextId question) override;
     bool Confirm(std::string_view question) override;
     std::optional<std::string> AskFileToOpen(const FileQuestion& question) override;
@@ -25,6 +32,7 @@ class WindowUser : public UserInterface {
   private:
     QWidget* window_;
     QLabel* statusText_;
+    QString title_;
     Language language_;
     std::string savedStatusText_;
 };

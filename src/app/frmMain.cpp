@@ -70,8 +70,8 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFol
       tbToolBar(new MainToolBar(this)),
       sbStatusBar(new MainStatusBar(this)),
       menus_(*this, [this](Command command) { Run(command); }),
-      progress_(this, sbStatusBar->Progress()),
-      user_(this, sbStatusBar->StatusText()),
+      progress_(this, sbStatusBar->Progress(), BaseCaption),
+      user_(this, sbStatusBar->StatusText(), BaseCaption),
       tmExtrasFilters(new QTimer(this)),
       search_(new WindowSearch(*lvLogbook, logbook.Entries, user_, *this)),
       help_(this, HelpReader(ProgramFolder())) {

@@ -100,6 +100,7 @@ class frmMain : public QMainWindow {
     bool FillList();
     void ShowLogbookStatus();
     void ShowLogbookError(std::int16_t code);
+    void ShowFilterFailed();
     void ShowContentPane(bool shown);
     void ChooseLanguage();
     void CopySelectedRows();

@@ -184,7 +184,7 @@ bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& com
     if (!aboutComments.empty())
         user_.ShowMessage(aboutComments, UserInterface::MessageIcon::None);
     if (!filled)
-        user_.ShowMessage(Text(TextId::FilterFailed, language_), UserInterface::MessageIcon::Exclamation);
+        ShowFilterFailed();
     if (logbook_.LoadState == LoadStates::Done)
         return true;
     ShowLogbookError(logbook_.LoadState);
@@ -211,7 +211,7 @@ void frmMain::ApplyFilter() {
     }
     sbStatusBar->HideProgressBar();
     if (!filled)
-        user_.ShowMessage(Text(TextId::FilterFailed, language_), UserInterface::MessageIcon::Exclamation);
+        ShowFilterFailed();
     ShowLogbookStatus();
 }
 
@@ -238,6 +238,11 @@ bool frmMain::FillList() {
     user_.RestoreStatus();
     return filled;
 }
+void frmMain::ShowFilterFailed() {
+    user_.ShowMessage(Text(TextId::FilterFailed, language_), QtText(TextId::FilterError, language_),
+                      UserInterface::MessageIcon::Exclamation);
+}
+
 
 void frmMain::ShowLogbookStatus() {
     sbStatusBar->ShowLogbookStatus(model_->rowCount(), logbook_.EntryCount, language_);

@@ -178,7 +178,7 @@ class CommonDialogTest : public QObject {
     TemporaryFolder Folder;
     QWidget Window;
     QLabel Status;
-    WindowUser User{&Window, &Status};
+    WindowUser User{&Window, &Status, "Qorvix"};
     QStringList Titles;
     QStringList Questions;
 };

@@ -37,6 +37,7 @@ class MainWindowTest : public QObject {
         Window->show();
         QVERIFY(QTest::qWaitForWindowExposed(Window.get()));
         MessageTexts.clear();
+        MessageTitles.clear();
     }
 
     void StartAfresh() {
@@ -98,7 +99,7 @@ class MainWindowTest : public QObject {
         return filter;
     }
 
-    // Confirms the next message boxes and remembers their texts.
+    // Confirms the next message boxes and remembers their texts and titles.
     void AnswerMessages(int count) {
         if (count == 0)
             return;
@@ -107,18 +108,20 @@ class MainWindowTest : public QObject {
             if (box == nullptr)
                 return AnswerMessages(count);
             MessageTexts << box->text();
+            MessageTitles << box->windowTitle();
             box->accept();
             AnswerMessages(count - 1);
         });
     }
 
-    // Presses a button of the next question and remembers its text.
+    // Presses a button of the next question and remembers its text and title.
     void AnswerQuestion(QMessageBox::StandardButton button) {
         QTimer::singleShot(0, Person.get(), [this, button] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (box == nullptr)
                 return AnswerQuestion(button);
             MessageTexts << box->text();
+            MessageTitles << box->windowTitle();
             box->button(button)->click();
         });
     }
@@ -168,4 +171,5 @@ class MainWindowTest : public QObject {
     std::unique_ptr<CommentJournal> Journal;
     std::unique_ptr<frmMain> Window;
     QStringList MessageTexts;
+    QStringList MessageTitles;
 };

@@ -41,6 +41,15 @@ class frmMainTest : public MainWindowTest {
         QCOMPARE(Counts(), QString("0 / 2 Items"));
     }
 
+    void EmptySlotOfAFileThatCannotBeOpenedLooksLikeNoEvent() {
+        Window->RunCommandLine({Folder / "missing.log"});
+        Window->ApplyFilter();
+        QCOMPARE(List()->model()->rowCount(), 1);
+        QCOMPARE(Cell(0, 0), QString());
+        const QModelIndex first = List()->model()->index(0, 0);
+        QCOMPARE(first.data(LogbookModel::ImageRole).toInt(), 0);
+    }
+
     void ReadErrorIsToldAndLeavesTheListEmpty() {
         AnswerMessages(1);
         Window->RunCommandLine({File("a.log", {Header("BERR:    a"), "RESET:", std::string(100, ' ')})});
@@ -53,6 +62,7 @@ class frmMainTest : public MainWindowTest {
         AnswerMessages(2);
         Window->RunCommandLine({File("a.log", {"nothing"})});
         QCOMPARE(MessageTexts, QStringList({"Error applying filters", "Filter error"}));
+        QCOMPARE(MessageTitles, QStringList({"Filter error", "Qorvix"}));
         QCOMPARE(Counts(), QString("0 / 1 Items"));
     }
 
@@ -165,7 +175,33 @@ class frmMainTest : public MainWindowTest {
         AnswerMessages(1);
         Window->ApplyFilter();
         QCOMPARE(MessageTexts, QStringList({"Error applying filters"}));
+        QCOMPARE(MessageTitles, QStringList({"Filter error"}));
         QCOMPARE(Counts(), QString("2 / 2 Items"));
+
+        // Also in German, and when the filter dialog applies its filters.
+        ChooseInDialog(1, "cmdOK");
+        QTimer::singleShot(0, Person.get(), [this] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            AnswerMessages(1);
+            QTest::mouseClick(dialog->findChild<QPushButton*>("cmdApply"), Qt::LeftButton);
+            QTest::mouseClick(dialog->findChild<QPushButton*>("cmdCancel"), Qt::LeftButton);
+        });
+        Item("mnuExtrasFilters")->trigger();
+        QCOMPARE(MessageTexts.back(), QString("Fehler beim Anwenden der Filtereinstellungen"));
+        QCOMPARE(MessageTitles.back(), QString("Fehler beim Filtern der Datei"));
+    }
+
+    void MessagesHaveTheNameOfTheProgramAsTitle() {
+        const std::string log = File("a.log", {Header("BERR:    a"), Header("RESET:")});
+        AnswerMessages(1);
+        Window->RunCommandLine({log, "-y"});
+        AnswerMessages(1);
+        Window->RunCommandLine({File("b.log", {"Operation Logbook Version 2.0", Header("Stib: ON")})});
+        WriteZip(Folder / "own.qorvix", {{"x.log", Lines({Header("RESET:")})}, {"x.fil", "[Filters]\r\n"}});
+        AnswerQuestion(QMessageBox::Cancel);
+        Window->OpenLogbook(Folder / "own.qorvix");
+        QCOMPARE(Window->windowTitle(), QString("b - Qorvix"));
+        QCOMPARE(MessageTitles, QStringList({"Qorvix", "Qorvix", "Qorvix"}));
     }
 
     void ArchivesAreOpened() {
