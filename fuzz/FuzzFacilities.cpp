@@ -69,7 +69,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const FacilityFileContent facilities = ReadFacilityFile(path);
     const bool isWrong =
         facilities.Result == Outcome::InvalidLine || facilities.Result == Outcome::TooManyRows;
-    Check(FacilityFileMessage(path, facilities, {}).empty() != isWrong);
+    Check(FacilityFileMessage({path, facilities.Result, facilities.Line}, {}).empty() != isWrong);
     if (facilities.Result == Outcome::Read)
         CheckTable(facilities.Table);
     static const FacilityTable builtIn = InitFacilityTable();
@@ -79,7 +79,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool looksUp = text.find("Event: ") != std::string_view::npos;
     for (const std::int32_t language : {Language::English, Language::German}) {
         const ProposedComment comment = AutoFillComment(text, {language}, folder.Path().string());
-        Check(comment.StatusMessage.empty() == !(isWrong && looksUp));
+        Check((comment.Mistake == FacilityFileMistake()) == !(isWrong && looksUp));
+        Check(FacilityFileMessage(comment.Mistake, {language}).empty() == !(isWrong && looksUp));
         Check(!comment.Text || IsUtf8(*comment.Text));
     }
     return 0;

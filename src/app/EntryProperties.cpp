@@ -30,7 +30,7 @@ void ShowEntryDialogs(const RowRanges& rows, Logbook& logbook, LogbookModel& mod
         [&](const QString& data) {
             const ProposedComment proposed =
                 AutoFillComment(data.toStdString(), language, GetErrorInfoPath());
-            events.StatusMessage(ToQString(proposed.StatusMessage));
+            events.LookedUp(proposed.Mistake);
             return ToQString(proposed.Text.value_or(""));
         },
         parent);

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "eventinfo/FacilityFile.h"
 #include "list/RowRanges.h"
 #include "settings/Language.h"
-
-#include <QString>
 
 #include <functional>
 
@@ -15,7 +14,7 @@ struct Logbook;
 // What the event entry dialog tells the window.
 struct EntryPropertiesEvents {
     std::function<void(int row)> CommentChanged;
-    std::function<void(const QString& text)> StatusMessage; // of each lookup of error texts; may be empty
+    std::function<void(const FacilityFileMistake& mistake)> LookedUp; // each lookup of error texts
 };
 
 // Shows the event entry dialog for each of these rows, from the first to the last, and writes a changed

@@ -41,7 +41,8 @@ MainToolBar::MainToolBar(QWidget* parent) : QToolBar(parent) {
 }
 
 void MainToolBar::LoadLanguage(Language language) {
-    setWindowTitle(QtPlainText(TextId::mnuViewToolbar, language));
+    // Not as the title: a screen reader would keep the first one.
+    setAccessibleName(QtPlainText(TextId::mnuViewToolbar, language));
     for (const ButtonRow& row : Buttons) {
         QAction* const button = findChild<QAction*>(row.Key);
         button->setText(QtPlainText(row.Tip, language));

@@ -21,6 +21,7 @@
 #include "list/QtText.h"
 #include "list/RowsAsText.h"
 #include "list/TagViewer.h"
+#include "settings/ReasonText.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -103,7 +104,7 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFol
     placement_.Load(registry_, *this);
     LoadColumnWidths(registry_, *lvLogbook->horizontalHeader());
     LoadLanguage();
-    sbStatusBar->StatusText()->setText(QtText(TextId::StatusReady, language_));
+    ShowStandingMessage();
     lvLogbook->setFocus();
 }
 
@@ -268,7 +269,7 @@ void frmMain::ChooseLanguage() {
         return;
     WriteLanguage(registry_, *choice);
     LoadLanguage();
-    sbStatusBar->StatusText()->setText(QtText(TextId::StatusReady, language_));
+    ShowStandingMessage();
     if (sbStatusBar->HasCounts())
         ShowLogbookStatus();
 }
@@ -299,33 +300,41 @@ void frmMain::CopySelectedRows() {
 }
 
 void frmMain::ShowEntryProperties() {
-    ShowEntryDialogs(lvLogbook->SelectedRanges(), logbook_, *model_, language_, this,
-                     {.CommentChanged =
-                          [this](int row) {
-                              state_.CommentsEdited = true;
-                              NoteComment(model_->Rows()[static_cast<std::size_t>(row)].Entry);
-                              RefreshContentText(row);
-                          },
-                      .StatusMessage = [this](const QString& text) { ShowLookupMessage(text); }});
+    ShowEntryDialogs(
+        lvLogbook->SelectedRanges(), logbook_, *model_, language_, this,
+        {.CommentChanged =
+             [this](int row) {
+                 state_.CommentsEdited = true;
+                 NoteComment(model_->Rows()[static_cast<std::size_t>(row)].Entry);
+                 RefreshContentText(row);
+             },
+         .LookedUp = [this](const FacilityFileMistake& mistake) { ShowLookupMistake(mistake); }});
 }
 
 // A mistake in the language files is told until a lookup finds none.
-void frmMain::ShowLookupMessage(const QString& text) {
-    if (!text.isEmpty() || !lookupMessage_.isEmpty())
-        ShowStanding(lookupMessage_, text);
+void frmMain::ShowLookupMistake(const FacilityFileMistake& mistake) {
+    if (mistake == lookupMistake_)
+        return;
+    lookupMistake_ = mistake;
+    ShowStandingMessage();
 }
 
-void frmMain::ShowNotNoted(const QString& text) {
-    if (text != notNoted_)
-        ShowStanding(notNoted_, text);
+void frmMain::ShowNotNoted(std::error_code error) {
+    if (error == notNoted_)
+        return;
+    notNoted_ = error;
+    ShowStandingMessage();
 }
 
 // What stands in the status bar while nothing is done: comments that a crash would take come first.
-void frmMain::ShowStanding(QString& message, const QString& text) {
-    message = text;
-    sbStatusBar->StatusText()->setText(!notNoted_.isEmpty()        ? notNoted_
-                                       : !lookupMessage_.isEmpty() ? lookupMessage_
-                                                                   : QtText(TextId::StatusReady, language_));
+void frmMain::ShowStandingMessage() {
+    const std::string mistake = FacilityFileMessage(lookupMistake_, language_);
+    std::string message(Text(TextId::StatusReady, language_));
+    if (notNoted_)
+        message = std::string(Text(TextId::CommentNotNoted, language_)) + ReasonText(notNoted_, language_);
+    else if (!mistake.empty())
+        message = mistake;
+    sbStatusBar->StatusText()->setText(ToQString(message));
 }
 
 void frmMain::EditFilters() {

@@ -8,6 +8,7 @@
 #include "app/WindowProgress.h"
 #include "app/WindowUser.h"
 #include "dialogs/HTMLHelp.h"
+#include "eventinfo/FacilityFile.h"
 #include "filter/FilterDefinition.h"
 #include "logbook/CodePage.h"
 #include "logbook/Logbook.h"
@@ -21,6 +22,7 @@
 #include <QMainWindow>
 
 #include <string>
+#include <system_error>
 #include <vector>
 
 class LogbookModel;
@@ -98,16 +100,16 @@ class frmMain : public QMainWindow {
     void OfferLostComments();
     void NoteComment(EntryNumber number);
     bool FillList();
+    void ShowFilterFailed();
     void ShowLogbookStatus();
     void ShowLogbookError(std::int16_t code);
-    void ShowFilterFailed();
     void ShowContentPane(bool shown);
     void ChooseLanguage();
     void CopySelectedRows();
     void ShowEntryProperties();
-    void ShowLookupMessage(const QString& text);
-    void ShowNotNoted(const QString& text);
-    void ShowStanding(QString& message, const QString& text);
+    void ShowLookupMistake(const FacilityFileMistake& mistake);
+    void ShowNotNoted(std::error_code error);
+    void ShowStandingMessage();
     void EditFilters();
     void RemoveSelectedEntries();
     void ToggleSelectedEntries();
@@ -125,8 +127,8 @@ class frmMain : public QMainWindow {
     QtCatalogue qtCatalogue_;
     QString BaseCaption;
     LogbookState state_;
-    QString lookupMessage_; // these two stand in the status bar
-    QString notNoted_;
+    FacilityFileMistake lookupMistake_; // these two stand in the status bar
+    std::error_code notNoted_;
     WindowPlacement placement_;
     bool ViewContents;
     bool Activated = false;

@@ -12,7 +12,6 @@
 #include "list/LogbookView.h"
 #include "list/QtText.h"
 #include "logbook/Mod_FileHandling.h"
-#include "settings/ReasonText.h"
 #include "sources/CommandLine.h"
 #include "sources/Comments.h"
 #include "sources/LogbookSource.h"
@@ -61,9 +60,7 @@ void frmMain::OfferLostComments() {
 }
 
 void frmMain::NoteComment(EntryNumber number) {
-    const std::error_code error = journal_.Note(logbook_.Entries, std::span(&number, 1));
-    ShowNotNoted(error ? QtText(TextId::CommentNotNoted, language_) + ToQString(ReasonText(error, language_))
-                       : QString());
+    ShowNotNoted(journal_.Note(logbook_.Entries, std::span(&number, 1)));
 }
 
 CommentsOutcome frmMain::AskToSaveComments() {
@@ -89,7 +86,7 @@ bool frmMain::ZipLogbook() {
     const ZipOutcome outcome = ::ZipLogbook(state_, parts, user_, language_, showProgress);
     if (outcome == ZipOutcome::Saved) {
         journal_.Saved();
-        ShowNotNoted(QString());
+        ShowNotNoted({});
     }
     return outcome == ZipOutcome::Saved;
 }
@@ -147,7 +144,7 @@ bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& com
     logbook_.Busy = true;
     state_.CommentsEdited = false;
     journal_.Dropped();
-    ShowNotNoted(QString());
+    ShowNotNoted({});
     std::error_code noFile;
     state_.CurrentFileStamp = StampOf(file, noFile);
     model_->ClearRows();
@@ -238,11 +235,11 @@ bool frmMain::FillList() {
     user_.RestoreStatus();
     return filled;
 }
+
 void frmMain::ShowFilterFailed() {
     user_.ShowMessage(Text(TextId::FilterFailed, language_), QtText(TextId::FilterError, language_),
                       UserInterface::MessageIcon::Exclamation);
 }
-
 
 void frmMain::ShowLogbookStatus() {
     sbStatusBar->ShowLogbookStatus(model_->rowCount(), logbook_.EntryCount, language_);

@@ -31,8 +31,9 @@ int RunLookup(const LookupOptions& options) {
     const std::string folder = options.Folder.empty() ? GetErrorInfoPath() : options.Folder;
     // As the entry's dialog has it: the lines below each other.
     ProposedComment proposed = AutoFillComment(WithLineBreaks(options.Data), options.TextLanguage, folder);
-    if (!proposed.StatusMessage.empty())
-        std::cerr << "qorvix-cli: " << proposed.StatusMessage << std::endl;
+    if (const std::string mistake = FacilityFileMessage(proposed.Mistake, options.TextLanguage);
+        !mistake.empty())
+        std::cerr << "qorvix-cli: " << mistake << std::endl;
     if (!proposed.Text)
         return ExitStatus::Failed;
     std::erase(*proposed.Text, '\r');

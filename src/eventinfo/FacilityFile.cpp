@@ -69,12 +69,11 @@ FacilityFileContent ReadFacilityFile(const std::string& path) {
     return ends(rows == 0 ? Outcome::NotThere : Outcome::Read);
 }
 
-std::string FacilityFileMessage(const std::string& path, const FacilityFileContent& content,
-                                Language language) {
+std::string FacilityFileMessage(const FacilityFileMistake& mistake, Language language) {
     using Outcome = FacilityFileContent::Outcome;
-    const bool invalid = content.Result == Outcome::InvalidLine;
-    if (!invalid && content.Result != Outcome::TooManyRows)
+    const bool invalid = mistake.Result == Outcome::InvalidLine;
+    if (!invalid && mistake.Result != Outcome::TooManyRows)
         return {};
     const TextId text = invalid ? TextId::FacilityFileLine : TextId::FacilityFileTooLong;
-    return path + ": " + std::string(Text(text, language)) + std::to_string(content.Line);
+    return mistake.Path + ": " + std::string(Text(text, language)) + std::to_string(mistake.Line);
 }

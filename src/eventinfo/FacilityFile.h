@@ -30,6 +30,14 @@ struct FacilityFileContent {
 
 FacilityFileContent ReadFacilityFile(const std::string& path);
 
+// What is wrong with a facility file; nothing with Read and NotThere.
+struct FacilityFileMistake {
+    std::string Path;
+    FacilityFileContent::Outcome Result = FacilityFileContent::Outcome::NotThere;
+    std::size_t Line = 0;
+
+    bool operator==(const FacilityFileMistake&) const = default;
+};
+
 // The status text for a file with a line that is wrong; "" for every other.
-std::string FacilityFileMessage(const std::string& path, const FacilityFileContent& content,
-                                Language language);
+std::string FacilityFileMessage(const FacilityFileMistake& mistake, Language language);

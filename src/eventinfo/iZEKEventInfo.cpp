@@ -69,8 +69,10 @@ ProposedComment AutoFillCommentNCK(std::string_view data, Language language, con
 
     const std::string facilityFile = FindInFolder(folder, "facilities.csv");
     const FacilityFileContent facilities = ReadFacilityFile(facilityFile);
-    proposed.StatusMessage = FacilityFileMessage(facilityFile, facilities, language);
-    const bool own = facilities.Result == FacilityFileContent::Outcome::Read;
+    using Outcome = FacilityFileContent::Outcome;
+    const bool own = facilities.Result == Outcome::Read;
+    if (!own && facilities.Result != Outcome::NotThere)
+        proposed.Mistake = {facilityFile, facilities.Result, facilities.Line};
     const FacilityTable table = own ? facilities.Table : InitFacilityTable();
 
     const std::optional<EventCode> code = ParseEventCode(data.substr(mark + EventMark.size()), table);

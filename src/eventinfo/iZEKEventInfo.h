@@ -2,6 +2,7 @@
 #pragma once
 
 #include "eventinfo/EventTextRecord.h"
+#include "eventinfo/FacilityFile.h"
 #include "eventinfo/Mod_Facility.h"
 #include "settings/Language.h"
 
@@ -38,16 +39,16 @@ struct EventCode {
 // is not in the table.
 std::optional<EventCode> ParseEventCode(std::string_view code, const FacilityTable& table);
 
-// A comment with CR LF line breaks, UTF-8, and what the status bar should tell; "" = nothing.
+// A comment with CR LF line breaks, UTF-8, and what the status bar should tell of a facilities.csv that has a
+// mistake, in whose place the built-in facilities stand.
 struct ProposedComment {
     std::optional<std::string> Text;
-    std::string StatusMessage;
+    FacilityFileMistake Mistake;
 
     bool operator==(const ProposedComment&) const = default;
 };
 
-// The comment for a data text with "Event: " and a code in it. The message tells of a facilities.csv that has
-// a mistake, in which case the built-in facilities stand.
+// The comment for a data text with "Event: " and a code in it.
 ProposedComment AutoFillCommentNCK(std::string_view data, Language language, const std::string& folder);
 
 // The comment for a data text that begins with "N" or "P", a number and a blank. A word there instead of a

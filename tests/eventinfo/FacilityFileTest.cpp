@@ -88,20 +88,18 @@ TEST(FacilityFile, MissingAndEmptyFilesAreNotThere) {
 }
 
 TEST(FacilityFile, MessageNamesFileAndLine) {
-    FacilityFileContent content;
-    const auto message = [&](std::int32_t language) {
-        return FacilityFileMessage("/l/facilities.csv", content, {language});
-    };
-    content.Result = Outcome::InvalidLine;
-    content.Line = 3;
+    FacilityFileMistake mistake{.Path = "/l/facilities.csv"};
+    const auto message = [&](std::int32_t language) { return FacilityFileMessage(mistake, {language}); };
+    mistake.Result = Outcome::InvalidLine;
+    mistake.Line = 3;
     EXPECT_EQ(message(Language::English), "/l/facilities.csv: invalid facility in line 3");
     EXPECT_EQ(message(Language::German), "/l/facilities.csv: ungültiges Modul in Zeile 3");
-    content.Result = Outcome::TooManyRows;
-    content.Line = 221;
+    mistake.Result = Outcome::TooManyRows;
+    mistake.Line = 221;
     EXPECT_EQ(message(Language::English), "/l/facilities.csv: one facility too many in line 221");
     EXPECT_EQ(message(Language::German), "/l/facilities.csv: ein Modul zu viel in Zeile 221");
     for (const Outcome silent : {Outcome::Read, Outcome::NotThere}) {
-        content.Result = silent;
+        mistake.Result = silent;
         EXPECT_EQ(message(Language::English), "");
     }
 }

@@ -25,7 +25,7 @@ SampleTexts LookUp(const std::string& sample, Language language) {
     for (EntryNumber number = 0; number < result.Book.Entries.Count(); ++number) {
         const std::string data(result.Book.Entries.Data(number));
         const ProposedComment proposed = AutoFillComment(data, language, std::string(Samples) + "language");
-        EXPECT_EQ(proposed.StatusMessage, "");
+        EXPECT_EQ(proposed.Mistake, FacilityFileMistake());
         EXPECT_FALSE(proposed.Text.value_or("").starts_with("\r\n")) << data;
         (proposed.Text ? texts.With : texts.Without).insert(data);
     }

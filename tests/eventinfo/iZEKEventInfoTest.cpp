@@ -105,7 +105,7 @@ TEST(GetErrorInfoPath, IsTheLanguageFolderBesideTheProgram) {
 TEST_F(AutoFillNCK, LayoutInEnglish) {
     Write("OPERATION_EN.XMT", XmlEntry(5, "Key"));
     EXPECT_EQ(Coded("Event: 232-0005").Text, "Key\r\nReason:\r\nKey cause\r\nFix:\r\nKey fix");
-    EXPECT_EQ(Coded("Event: 232-0005").StatusMessage, "");
+    EXPECT_EQ(Coded("Event: 232-0005").Mistake, FacilityFileMistake());
 }
 
 TEST_F(AutoFillNCK, LayoutInGermanWithReaction) {
@@ -184,7 +184,7 @@ TEST_F(AutoFillNCK, FacilityFileReplacesTheBuiltInTable) {
     Write("OWN_EN.XMT", XmlEntry(5, "Own"));
     Write("FIRST_EN.XMT", XmlEntry(5, "never"));
     Write("OPERATION_EN.XMT", XmlEntry(5, "Key"));
-    EXPECT_EQ(Coded("Event: 999-5"), (ProposedComment{Comment("Own"), ""}));
+    EXPECT_EQ(Coded("Event: 999-5"), (ProposedComment{Comment("Own"), {}}));
     EXPECT_EQ(Coded("Event: 1-5"), ProposedComment());
     EXPECT_EQ(Coded("Event: 232-5"), ProposedComment());
     std::filesystem::remove(Folder / "facilities.csv");
@@ -196,11 +196,12 @@ TEST_F(AutoFillNCK, WrongFacilityFileIsToldAndTheBuiltInTableStands) {
     Write("OWN_EN.XMT", XmlEntry(5, "Own"));
     Write("OPERATION_EN.XMT", XmlEntry(5, "Key"));
     const std::string file = Folder / "Facilities.CSV";
-    EXPECT_EQ(Coded("Event: 232-5"),
-              (ProposedComment{Comment("Key"), file + ": invalid facility in line 2"}));
-    EXPECT_EQ(Coded("Event: 999-5"), (ProposedComment{std::nullopt, file + ": invalid facility in line 2"}));
+    const FacilityFileMistake mistake{file, FacilityFileContent::Outcome::InvalidLine, 2};
+    EXPECT_EQ(Coded("Event: 232-5"), (ProposedComment{Comment("Key"), mistake}));
+    EXPECT_EQ(Coded("Event: 999-5"), (ProposedComment{std::nullopt, mistake}));
     EXPECT_EQ(Coded("no code"), ProposedComment());
-    EXPECT_EQ(Coded("Event: 1", German).StatusMessage, file + ": ungültiges Modul in Zeile 2");
+    EXPECT_EQ(FacilityFileMessage(Coded("Event: 1", German).Mistake, German),
+              file + ": ungültiges Modul in Zeile 2");
 }
 
 TEST_F(AutoFilliZEK, LayoutInBothLanguages) {
@@ -275,12 +276,13 @@ TEST_F(AutoFill, ClassicTextWinsOverTheCodedOne) {
     EXPECT_EQ(AutoFillComment("N939 Event: 232-5", English, Path()).Text, Comment("Key"));
 }
 
-TEST_F(AutoFill, StatusMessageStaysWithAClassicText) {
+TEST_F(AutoFill, MistakeStaysWithAClassicText) {
     Write("facilities.csv", "wrong\n");
     Write("ENGLISH/qx_error_help.txt", NcBlock(938, "Classic"));
     const ProposedComment proposed = AutoFillComment("N938 Event: 232-5", English, Path());
     EXPECT_EQ(proposed.Text, Comment("Classic"));
-    EXPECT_EQ(proposed.StatusMessage, (Folder / "facilities.csv") + ": invalid facility in line 1");
+    EXPECT_EQ(FacilityFileMessage(proposed.Mistake, English),
+              (Folder / "facilities.csv") + ": invalid facility in line 1");
 }
 
 TEST_F(AutoFill, MissingFilesAndFoldersAreSilent) {
