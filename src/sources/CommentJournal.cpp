@@ -2,6 +2,8 @@
 #include "sources/CommentJournal.h"
 
 #include "logbook/AtomicFile.h"
+#include "logbook/FileHandles.h"
+#include "sources/JournalName.h"
 #include "sources/LogbookChecksum.h"
 
 #include <nlohmann/json.hpp>
@@ -11,7 +13,6 @@
 #include <utility>
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -104,17 +105,18 @@ std::error_code CommentJournal::Begin(const EntryTable& entries) {
     const std::array<EntryNumber, 2> counts{count == 0 ? 0 : count - 1, count};
     const std::vector<std::string> sums = ChecksumsOfBeginnings(entries, counts);
     const std::string header = Line({{"butLast", sums[0]}, {"entries", count}, {"whole", sums[1]}});
-    std::string name = (folder_ / "comments-XXXXXX").string();
+    std::string name = (folder_ / JournalNamePattern()).string();
     errno = 0;
     handle_ = ::mkostemp(name.data(), O_APPEND | O_CLOEXEC);
     if (handle_ < 0)
         return LastError();
     file_ = name;
-    // A file system without locks: another copy could take the file for one that a crash left.
-    if (::flock(handle_, LOCK_EX | LOCK_NB) != 0)
-        error = LastError();
-    else
+    // Where the disk has no locks the name tells others that the file is in use.
+    const LockOutcome lock = TryLock(handle_);
+    if (lock == LockOutcome::Held || lock == LockOutcome::Unsupported)
         error = Append(header);
+    else
+        error = LastError();
     if (error)
         RemoveFile();
     else
@@ -128,9 +130,9 @@ std::error_code CommentJournal::Append(std::string_view lines) {
     errno = 0;
     if (::fstat(handle_, &before) != 0)
         return LastError();
-    if (WriteAll(handle_, lines) && ::fsync(handle_) == 0)
+    const std::error_code error = WriteAll(handle_, lines) ? Flush(handle_) : LastError();
+    if (!error)
         return {};
-    const std::error_code error = LastError();
     (void)!::ftruncate(handle_, before.st_size);
     return error;
 }

@@ -22,8 +22,8 @@
 // The logbook is known by the number of its entries, and the checksums of all of them and of all but the
 // last: the last one may change where a logbook grows, as by a line that belongs to it.
 //
-// A file that is in use is locked. One that is not belongs to a copy of the program that crashed, or that
-// ended although saving had failed.
+// A file that is in use is locked; where the disk has no locks, its name tells (JournalName). One that is not
+// belongs to a copy of the program that crashed, or that ended although saving had failed.
 class CommentJournal {
   public:
     explicit CommentJournal(std::filesystem::path folder = StateFolder());

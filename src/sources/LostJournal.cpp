@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "sources/LostJournal.h"
 
+#include "sources/JournalName.h"
+
 #include <array>
 #include <cstring>
 #include <system_error>
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -26,29 +27,18 @@ bool IsOrdinaryFile(int handle) {
 } // namespace
 
 std::optional<LostJournal> LostJournal::Hold(const std::filesystem::path& file) {
-    const int handle = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
-    if (handle < 0)
+    LostJournal journal(file, OpenToLock(file, O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
+    if (!journal.handle_.IsOpen() || !IsOrdinaryFile(journal.handle_.Number()) ||
+        !BeginsLikeAJournal(journal.handle_.Number()))
         return std::nullopt;
-    LostJournal journal(file, handle);
-    if (!IsOrdinaryFile(handle) || !BeginsLikeAJournal(handle) || ::flock(handle, LOCK_EX | LOCK_NB) != 0)
-        return std::nullopt;
-    return journal;
-}
-
-LostJournal::~LostJournal() {
-    if (handle_ >= 0)
-        ::close(handle_);
+    const LockOutcome lock = TryLock(journal.handle_.Number());
+    const bool isLost = lock == LockOutcome::Held ||
+                        (lock == LockOutcome::Unsupported && !MayBeInUse(file.filename().string()));
+    return isLost ? std::optional(std::move(journal)) : std::nullopt;
 }
 
 void LostJournal::Remove() const {
     std::error_code ignored;
-    if (IsNameOf(file_, handle_))
+    if (IsNameOf(file_, handle_.Number()))
         std::filesystem::remove(file_, ignored);
-}
-
-bool IsNameOf(const std::filesystem::path& name, int handle) {
-    struct stat opened {};
-    struct stat named {};
-    return handle >= 0 && ::fstat(handle, &opened) == 0 && ::lstat(name.c_str(), &named) == 0 &&
-           opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/FileHandles.h"
+
 #include <filesystem>
 #include <optional>
 #include <utility>
@@ -9,18 +11,10 @@
 // of the program offers it at the same time, until the object ends.
 class LostJournal {
   public:
-    // Nothing where a program that runs has the file, or where it is no journal: only one whose first line is
-    // short is looked at. Links are not followed, and only ordinary files are opened.
+    // Nothing where a program that runs has the file, or may have it on a disk without locks (JournalName),
+    // or where it is no journal: only one whose first line is short is looked at. Links are not followed, and
+    // only ordinary files are opened.
     static std::optional<LostJournal> Hold(const std::filesystem::path& file);
-
-    ~LostJournal();
-    LostJournal(LostJournal&& other) noexcept
-        : file_(std::move(other.file_)), handle_(std::exchange(other.handle_, -1)) {}
-    LostJournal& operator=(LostJournal&& other) noexcept {
-        std::swap(file_, other.file_);
-        std::swap(handle_, other.handle_);
-        return *this;
-    }
 
     const std::filesystem::path& File() const { return file_; }
 
@@ -28,11 +22,9 @@ class LostJournal {
     void Remove() const;
 
   private:
-    LostJournal(std::filesystem::path file, int handle) : file_(std::move(file)), handle_(handle) {}
+    LostJournal(std::filesystem::path file, FileHandle handle)
+        : file_(std::move(file)), handle_(std::move(handle)) {}
 
     std::filesystem::path file_;
-    int handle_;
+    FileHandle handle_;
 };
-
-// True while a name is that of an open file.
-bool IsNameOf(const std::filesystem::path& name, int handle);
