@@ -6,6 +6,8 @@
 #include "filter/Filter.h"
 #include "filter/FilterStorage.h"
 #include "logbook/AtomicFile.h"
+#include "logbook/FileProblem.h"
+#include "logbook/FollowLinks.h"
 #include "logbook/modUtil.h"
 #include "settings/ReasonText.h"
 #include "settings/Registry.h"
@@ -90,7 +92,14 @@ int PrintRows(const ListOptions& options, const EntryTable& entries, const Logbo
         WriteRows(entries, rows, options, std::cout);
         return std::cout ? ExitStatus::Done : Fail(text(TextId::ListNotWritten));
     }
+    const auto cannotWrite = [&](const std::error_code& error) {
+        return Fail(options.Output + ": " + ReasonText(error, options.MessageLanguage));
+    };
     if (IsDevice(options.Output)) {
+        std::error_code error;
+        FollowLinks(ToPath(options.Output), error);
+        if (error == FileProblem::ForeignLink)
+            return cannotWrite(error);
         std::ofstream stream(ToPath(options.Output), std::ios::binary);
         WriteRows(entries, rows, options, stream);
         return stream ? ExitStatus::Done : Fail(options.Output + text(TextId::FileNotWritten));
@@ -98,6 +107,6 @@ int PrintRows(const ListOptions& options, const EntryTable& entries, const Logbo
     AtomicFile file(options.Output);
     WriteRows(entries, rows, options, file.Stream());
     if (const std::error_code error = file.Commit())
-        return Fail(options.Output + ": " + ReasonText(error, options.MessageLanguage));
+        return cannotWrite(error);
     return ExitStatus::Done;
 }

@@ -2,12 +2,14 @@
 #include "logbook/AtomicFile.h"
 
 #include "logbook/FileProblem.h"
+#include "logbook/FollowLinks.h"
 #include "logbook/modUtil.h"
 
 #include <cerrno>
 
 #if defined(__unix__) || defined(__APPLE__)
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -15,35 +17,45 @@ namespace {
 
 std::error_code LastError() { return {errno != 0 ? errno : EIO, std::generic_category()}; }
 
-std::error_code FlushToDisk([[maybe_unused]] const std::filesystem::path& file) {
 #if defined(__unix__) || defined(__APPLE__)
-    const int handle = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
-    if (handle < 0)
-        return LastError();
-    const std::error_code error = ::fsync(handle) == 0 ? std::error_code{} : LastError();
-    ::close(handle);
-    return error;
-#else
-    return {};
-#endif
+
+// A part file is for its owner only, whatever this gives or fails to give it.
+void GivePermissionsOf(const std::filesystem::path& target, int handle) {
+    constexpr mode_t Unmasked = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+    constexpr mode_t OfGroup = S_IRWXG;
+    struct stat replaced {};
+    struct stat part {};
+    if (::fstat(handle, &part) != 0)
+        return;
+    if (::stat(target.c_str(), &replaced) != 0) {
+        // It can be asked for only by setting it; meanwhile nothing is made that others may read.
+        const mode_t mask = ::umask(S_IRWXG | S_IRWXO);
+        ::umask(mask);
+        (void)::fchmod(handle, Unmasked & ~mask);
+        return;
+    }
+    mode_t mode = replaced.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
+    // What a group may do is for that group alone; another one gets no more than all others.
+    if (part.st_gid != replaced.st_gid && ::fchown(handle, static_cast<uid_t>(-1), replaced.st_gid) != 0)
+        mode &= ~OfGroup | ((mode & S_IRWXO) << 3U);
+    (void)::fchmod(handle, mode);
 }
 
-// The file that a link names in the end, also when it does not exist yet.
-std::filesystem::path FollowLinks(std::filesystem::path path, std::error_code& error) {
-    constexpr int MostLinks = 40;
-    std::error_code noLink;
-    for (int links = 0; std::filesystem::is_symlink(path, noLink); ++links) {
-        if (links == MostLinks) {
-            error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
-            return path;
-        }
-        const std::filesystem::path link = std::filesystem::read_symlink(path, error);
-        if (error)
-            return path;
-        path = path.parent_path() / link;
-    }
-    return path;
+// Makes the part file ready for its place.
+std::error_code Finish(const std::filesystem::path& part, const std::filesystem::path& target) {
+    errno = 0;
+    const FileHandle handle(::open(part.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC));
+    if (!handle.IsOpen())
+        return LastError();
+    GivePermissionsOf(target, handle.Number());
+    return Flush(handle.Number());
 }
+
+#else
+
+std::error_code Finish(const std::filesystem::path&, const std::filesystem::path&) { return {}; }
+
+#endif
 
 } // namespace
 
@@ -52,17 +64,11 @@ AtomicFile::AtomicFile(const std::string& path) : target_(FollowLinks(ToPath(pat
         error_ = FileProblem::NoRegularFile;
     if (error_)
         return;
-    inUse_.emplace(target_);
-    std::error_code ignored;
-    temporary_ = MakePartFile(target_, error_);
-    if (temporary_.empty())
+    part_ = MakePartFile(target_, error_);
+    if (part_.Path.empty())
         return;
-    error_.clear();
-    const std::filesystem::file_status status = std::filesystem::status(target_, ignored);
-    if (std::filesystem::exists(status))
-        std::filesystem::permissions(temporary_, status.permissions(), ignored);
     errno = 0;
-    stream_.open(temporary_, std::ios::binary | std::ios::trunc);
+    stream_.open(part_.Path, std::ios::binary | std::ios::trunc);
     if (!stream_)
         error_ = LastError();
 }
@@ -70,8 +76,8 @@ AtomicFile::AtomicFile(const std::string& path) : target_(FollowLinks(ToPath(pat
 AtomicFile::~AtomicFile() {
     stream_.close();
     std::error_code ignored;
-    if (!temporary_.empty())
-        std::filesystem::remove(temporary_, ignored);
+    if (!part_.Path.empty())
+        std::filesystem::remove(part_.Path, ignored);
 }
 
 std::error_code AtomicFile::Commit() {
@@ -81,22 +87,21 @@ std::error_code AtomicFile::Commit() {
     stream_.close();
     if (!stream_)
         return error_ = LastError();
-    if (error_ = FlushToDisk(temporary_); error_)
+    if (error_ = Finish(part_.Path, target_); error_)
         return error_;
-    std::filesystem::rename(temporary_, target_, error_);
+    std::filesystem::rename(part_.Path, target_, error_);
     if (error_)
         return error_;
-    temporary_.clear();
+    part_.Path.clear();
     FlushFolder(target_.parent_path());
     return {};
 }
 
 void FlushFolder([[maybe_unused]] const std::filesystem::path& folder) {
 #if defined(__unix__) || defined(__APPLE__)
-    const int handle = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0)
-        return;
-    ::fsync(handle);
-    ::close(handle);
+    const FileHandle handle(
+        ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (handle.IsOpen())
+        (void)Flush(handle.Number());
 #endif
 }

@@ -5,18 +5,18 @@
 
 #include <filesystem>
 #include <fstream>
-#include <optional>
 #include <ostream>
 #include <string>
 #include <system_error>
 
 // A file that is written beside its place and put there when it is whole, so that whoever looks there finds
 // the old file or the new one and nothing between. Without Commit nothing changes. What a killed program left
-// beside the place is removed by the next that writes there.
+// beside the place is removed by the next that writes there. Until it is in its place only this user may read
+// it; there it has the permissions of the file that it replaces, or those that a new file has.
 class AtomicFile {
   public:
-    // A link is followed: the file that it names is replaced, not the link. A device or a pipe is not
-    // replaced.
+    // A link is followed: the file that it names is replaced, not the link; one that another user may have
+    // planted is refused (FollowLinks). A device or a pipe is not replaced.
     explicit AtomicFile(const std::string& path);
     ~AtomicFile();
     AtomicFile(const AtomicFile&) = delete;
@@ -25,9 +25,10 @@ class AtomicFile {
     // Where to write. A failure is told by Commit.
     std::ostream& Stream() { return stream_; }
 
-    // The file that is written, for a writer that wants a path in place of a stream; such a writer may also
-    // replace it. Empty when it could not be made, which Commit tells.
-    const std::filesystem::path& Path() const { return temporary_; }
+    // The file that is written, for a writer that wants a path in place of a stream. One that replaces it in
+    // place of writing into it may lose it to another copy of the program, as its lock is then gone. Empty
+    // when it could not be made, which Commit tells.
+    const std::filesystem::path& Path() const { return part_.Path; }
 
     // Flushes the file to the disk and puts it in its place. The error tells why that failed; the old file is
     // then as it was.
@@ -36,8 +37,7 @@ class AtomicFile {
   private:
     std::error_code error_;
     std::filesystem::path target_;
-    std::optional<PartFilesInUse> inUse_;
-    std::filesystem::path temporary_;
+    PartFile part_;
     std::ofstream stream_;
 };
 

@@ -19,6 +19,8 @@ class Category : public std::error_category {
             return "a line is too long";
         case FileProblem::TooManyLines:
             return "the file has too many lines";
+        case FileProblem::ForeignLink:
+            return "another user's link in a folder that all may write to";
         }
         return "unknown";
     }

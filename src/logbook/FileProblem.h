@@ -11,6 +11,7 @@ enum class FileProblem {
     TooLarge,
     LineTooLong,
     TooManyLines,
+    ForeignLink, // on the way to the file is a link that another user may have planted (FollowLinks)
 };
 
 // The problems as errors; their messages are English.

@@ -3,96 +3,109 @@
 
 #include "logbook/modUtil.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <random>
+#include <string>
 
 #if defined(__unix__) || defined(__APPLE__)
 #include <fcntl.h>
-#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
 namespace {
 
-constexpr std::string_view Extension = ".part";
+constexpr std::string_view Mark = ".qorvix-part-";
+constexpr std::string_view Digits = "0123456789abcdef";
+constexpr std::size_t DigitCount = 16;
 
-// What the names of the part files begin with, before a ".". The longest names leave no room behind them.
-std::filesystem::path StemOf(const std::filesystem::path& target) {
+// What the names of the part files begin with. The longest names leave no room behind them.
+std::string BeginOf(const std::filesystem::path& target) {
     constexpr std::size_t LongestStem = 200;
-    return target.filename().native().substr(0, LongestStem);
+    return target.filename().string().substr(0, LongestStem).append(Mark);
 }
 
-} // namespace
-
-std::filesystem::path MakePartFile(const std::filesystem::path& target, std::error_code& error) {
-    constexpr int Attempts = 100;
+std::filesystem::path NewPath(const std::filesystem::path& target) {
     std::random_device random;
-    for (int i = 0; i < Attempts; ++i) {
-        std::filesystem::path part = target.parent_path() / StemOf(target);
-        part += ToPath("." + std::to_string(random()).append(Extension));
-        errno = 0;
-        if (std::FILE* file = std::fopen(part.string().c_str(), "wbx"); file != nullptr) {
-            std::fclose(file);
-            return part;
-        }
-        error = {errno != 0 ? errno : EIO, std::generic_category()};
-        if (error != std::errc::file_exists)
-            return {};
-    }
-    return {};
+    std::uniform_int_distribution<std::size_t> digit(0, Digits.size() - 1);
+    std::string name = BeginOf(target);
+    for (std::size_t i = 0; i < DigitCount; ++i)
+        name += Digits[digit(random)];
+    return target.parent_path() / name;
 }
 
 #if defined(__unix__) || defined(__APPLE__)
 
-namespace {
-
-bool IsPartFile(std::string_view name, const std::string& stem) {
-    if (!name.starts_with(stem + '.'))
-        return false;
-    name.remove_prefix(stem.size() + 1);
-    const std::size_t digits = name.find_first_not_of("0123456789");
-    if (digits == 0 || digits == std::string_view::npos)
-        return false;
-    name.remove_prefix(digits);
-    return name == Extension || name.starts_with(std::string(Extension) + '.');
+// Makes a file that was not there, for its owner only.
+FileHandle MakeFile(const std::filesystem::path& path) {
+    return FileHandle(
+        ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
 }
 
-std::filesystem::path FolderOf(const std::filesystem::path& target) {
-    return target.has_parent_path() ? target.parent_path() : ".";
+// Somebody who removes what was left may have come before this lock. A lock that fails keeps nobody from
+// writing.
+bool IsKept(const PartFile& part) {
+    return TryLock(part.Handle.Number()) != LockOutcome::InUse && IsNameOf(part.Path, part.Handle.Number());
 }
 
-void RemovePartFiles(const std::filesystem::path& target) {
-    std::error_code ignored;
-    for (const std::filesystem::path& item : ItemsIn(FolderOf(target)))
-        if (IsPartFile(item.filename().native(), StemOf(target)))
-            std::filesystem::remove(item, ignored);
-}
-
-} // namespace
-
-PartFilesInUse::PartFilesInUse(const std::filesystem::path& target)
-    : handle_(::open(FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-    if (handle_ < 0)
+void RemoveIfLeft(const std::filesystem::path& file) {
+    struct stat status {};
+    // Looked at before it is opened, too: opening a device may do something.
+    if (::lstat(file.c_str(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_uid != ::geteuid())
         return;
-    if (::flock(handle_, LOCK_EX | LOCK_NB) == 0)
-        RemovePartFiles(target);
-    // Who holds the folder alone is removing, which takes a moment. A lock of another kind of program is not
-    // waited for.
-    constexpr int Attempts = 100;
-    constexpr useconds_t Pause = 1000;
-    for (int i = 0; i < Attempts && ::flock(handle_, LOCK_SH | LOCK_NB) != 0; ++i)
-        ::usleep(Pause);
-}
-
-PartFilesInUse::~PartFilesInUse() {
-    if (handle_ >= 0)
-        ::close(handle_);
+    const FileHandle handle(::open(file.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (handle.IsOpen() && ::fstat(handle.Number(), &status) == 0 && S_ISREG(status.st_mode) &&
+        status.st_uid == ::geteuid() && TryLock(handle.Number()) == LockOutcome::Held &&
+        IsNameOf(file, handle.Number()))
+        ::unlink(file.c_str());
 }
 
 #else
 
-PartFilesInUse::PartFilesInUse(const std::filesystem::path&) {}
-PartFilesInUse::~PartFilesInUse() = default;
+FileHandle MakeFile(const std::filesystem::path& path) {
+    std::FILE* const file = std::fopen(path.string().c_str(), "wbx");
+    if (file == nullptr)
+        return {};
+    std::fclose(file);
+    return FileHandle(0);
+}
+
+bool IsKept(const PartFile&) { return true; }
+void RemoveIfLeft(const std::filesystem::path&) {}
 
 #endif
+
+} // namespace
+
+PartFile MakePartFile(const std::filesystem::path& target, std::error_code& error) {
+    constexpr int Attempts = 100;
+    RemoveLeftPartFiles(target);
+    for (int i = 0; i < Attempts; ++i) {
+        errno = 0;
+        PartFile part{NewPath(target), {}};
+        part.Handle = MakeFile(part.Path);
+        error = {errno != 0 ? errno : EIO, std::generic_category()};
+        if (part.Handle.IsOpen() && IsKept(part)) {
+            error.clear();
+            return part;
+        }
+        if (!part.Handle.IsOpen() && error != std::errc::file_exists)
+            break;
+    }
+    return {};
+}
+
+void RemoveLeftPartFiles(const std::filesystem::path& target) {
+    const std::filesystem::path folder = target.has_parent_path() ? target.parent_path() : ".";
+    for (const std::filesystem::path& item : ItemsIn(folder))
+        if (IsPartFileOf(item.filename().string(), target))
+            RemoveIfLeft(item);
+}
+
+bool IsPartFileOf(std::string_view name, const std::filesystem::path& target) {
+    const std::string begin = BeginOf(target);
+    return name.starts_with(begin) && name.size() == begin.size() + DigitCount &&
+           name.find_first_not_of(Digits, begin.size()) == std::string_view::npos;
+}

@@ -1,24 +1,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/FileHandles.h"
+
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 
-// The files that AtomicFile writes beside their places: "<name>.<number>.part". One that writes such a file
-// by its path may make further ones of it, "<name>.<number>.part.<anything>".
+// The files that AtomicFile writes beside their places: "<name>.qorvix-part-<16 hexadecimal digits>", for
+// their owner only. Who writes one holds its lock, so that one whose lock is free is what a killed program
+// left.
 
-// A new, empty one for the file `target`; empty where it could not be made.
-std::filesystem::path MakePartFile(const std::filesystem::path& target, std::error_code& error);
-
-// Lives while part files of a folder are in use. Its begin removes those that a killed program left for the
-// file `target`, unless somebody writes in this folder at that time, or the file system knows no locks.
-class PartFilesInUse {
-  public:
-    explicit PartFilesInUse(const std::filesystem::path& target);
-    ~PartFilesInUse();
-    PartFilesInUse(const PartFilesInUse&) = delete;
-    PartFilesInUse& operator=(const PartFilesInUse&) = delete;
-
-  private:
-    int handle_ = -1; // of the folder, with a lock
+// A part file that is being written.
+struct PartFile {
+    std::filesystem::path Path; // "" = it could not be made
+    FileHandle Handle;          // open for writing; its lock is held, where the disk has locks
 };
+
+// A new, empty one for the file `target`. Those that killed programs left for this target are removed first.
+PartFile MakePartFile(const std::filesystem::path& target, std::error_code& error);
+
+// Removes the part files of a target that killed programs left: regular files of this user whose whole name
+// is that of a part file and whose lock is free. On a disk without locks none is.
+void RemoveLeftPartFiles(const std::filesystem::path& target);
+
+// True for the name, without a folder, of a part file of the target.
+bool IsPartFileOf(std::string_view name, const std::filesystem::path& target);

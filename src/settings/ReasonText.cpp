@@ -99,6 +99,8 @@ std::string_view ProblemText(FileProblem problem, Language language) {
         return Text(TextId::LineTooLong, language);
     case FileProblem::TooManyLines:
         return Text(TextId::TooManyLines, language);
+    case FileProblem::ForeignLink:
+        return Text(TextId::ForeignLink, language);
     }
     return {};
 }

@@ -137,6 +137,8 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::FileTooLarge, "the file is too large", "die Datei ist zu groß"},
     {TextId::LineTooLong, "a line is too long", "eine Zeile ist zu lang"},
     {TextId::TooManyLines, "the file has too many lines", "die Datei hat zu viele Zeilen"},
+    {TextId::ForeignLink, "another user's link in a folder that all may write to",
+     "Verknüpfung eines anderen Benutzers in einem Ordner, in den alle schreiben dürfen"},
     {TextId::UnknownReason, "Unknown error ", "Unbekannter Fehler "},
     // Saving an archive
     {TextId::ArchiveNotSaved, "The archive could not be saved", "Das Archiv konnte nicht gespeichert werden"},

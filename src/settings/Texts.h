@@ -116,6 +116,7 @@ enum class TextId : std::uint16_t {
     FileTooLarge,
     LineTooLong,
     TooManyLines,
+    ForeignLink,
     UnknownReason,
     // Saving an archive
     ArchiveNotSaved,

@@ -3,6 +3,7 @@
 
 #include "settings/ReasonText.h"
 #include "sources/ZipReason.h"
+#include "sources/ZipTarget.h"
 
 #include <zip.h>
 
@@ -20,14 +21,6 @@ using Archive = std::unique_ptr<zip_t, Discard>;
 // Of 1 to 9: half the time of the usual 6 on a logbook, for an archive that is a twelfth larger.
 constexpr zip_uint32_t DeflateLevel = 4;
 constexpr double ProgressStep = 0.01; // of the whole
-
-std::string ErrorOf(int code, Language language) {
-    zip_error_t error;
-    zip_error_init_with_code(&error, code);
-    std::string text = ZipReason(error, language);
-    zip_error_fini(&error);
-    return text;
-}
 
 std::string ErrorOf(zip_t* archive, Language language) {
     return ZipReason(*zip_get_error(archive), language);
@@ -63,10 +56,10 @@ void TellProgress(zip_t*, double part, void* progress) {
 
 std::string BuildZip(const std::filesystem::path& archive, std::span<const FileToPack> files,
                      Language language, const PackingProgress& progress) {
-    int code = 0;
-    Archive zip(zip_open(archive.string().c_str(), ZIP_CREATE | ZIP_TRUNCATE, &code));
+    ZipTarget target(archive);
+    Archive zip(target.Open());
     if (!zip)
-        return ErrorOf(code, language);
+        return target.Error(language);
     for (const FileToPack& file : files)
         if (std::string reason = AddFile(zip.get(), file, language); !reason.empty())
             return reason;

@@ -19,8 +19,8 @@ struct FileToPack {
 // fails.
 using PackingProgress = std::function<void(double percent)>;
 
-// Builds a zip archive of files, all deflated, in the place of what `archive` was. Names that are not ASCII
-// are marked as UTF-8. The files go through in pieces, so memory does not grow with them.
+// Builds a zip archive of files, all deflated, in the file `archive`, in place of what it held. Names that
+// are not ASCII are marked as UTF-8. The files go through in pieces, so memory does not grow with them.
 //
 // Returns why that failed, in this language, "" when it did not. After a failure the archive is of no use.
 std::string BuildZip(const std::filesystem::path& archive, std::span<const FileToPack> files,

@@ -3,11 +3,15 @@
 
 #include "logbook/FileProblem.h"
 #include "support/OddFiles.h"
+#include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <iterator>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -53,16 +57,40 @@ TEST(AtomicFile, MayBeWrittenByItsPath) {
 TEST(AtomicFile, WhatAKilledProgramLeftIsRemoved) {
     const TemporaryFolder folder;
     const std::string path = folder.Write("a.txt", "old");
-    for (const char* left : {"a.txt.1234.part", "a.txt.5.part.Xy12Zz"})
-        folder.Write(left, "half");
-    const auto others = {"a.txt.part",     "a.txt.12.party", "a.txt.12a.part", "b.txt.12.part",
-                         "a.txt.12.part1", "xa.txt.12.part", "a.txt..part"};
+    folder.Write("a.txt.qorvix-part-0123456789abcdef", "half");
+    const auto others = {"a.txt.1234.part",
+                         "a.txt.qorvix-part-",
+                         "a.txt.qorvix-part-0123456789abcde",
+                         "a.txt.qorvix-part-0123456789abcdef0",
+                         "a.txt.qorvix-part-0123456789abcdeF",
+                         "a.txt.qorvix-part-0123456789abcdef.bak",
+                         "b.txt.qorvix-part-0123456789abcdef",
+                         "xa.txt.qorvix-part-0123456789abcdef"};
     for (const char* other : others)
         folder.Write(other, "precious");
     EXPECT_FALSE(AtomicFile(path).Commit());
     EXPECT_EQ(FilesIn(folder), 1 + std::ssize(others));
     for (const char* other : others)
         EXPECT_EQ(FileContent(folder / other), "precious") << other;
+}
+
+TEST(AtomicFile, OnlyFilesAreRemoved) {
+    const TemporaryFolder folder;
+    const std::string name = folder / "a.txt.qorvix-part-0123456789abcde";
+    std::filesystem::create_directory(name + "0");
+    std::filesystem::create_symlink("a.txt", name + "1");
+    MakePipe(folder, "a.txt.qorvix-part-0123456789abcde2");
+    EXPECT_FALSE(AtomicFile(folder / "a.txt").Commit());
+    EXPECT_EQ(FilesIn(folder), 4);
+}
+
+TEST(AtomicFile, LongestNameHasAPartFileToo) {
+    const TemporaryFolder folder;
+    const std::string path = folder / std::string(255, 'x');
+    folder.Write(std::string(200, 'x') + ".qorvix-part-0123456789abcdef", "half");
+    EXPECT_FALSE(AtomicFile(path).Commit());
+    EXPECT_TRUE(std::filesystem::is_regular_file(path));
+    EXPECT_EQ(FilesIn(folder), 1);
 }
 
 TEST(AtomicFile, WhatAnotherIsWritingStays) {
@@ -72,11 +100,50 @@ TEST(AtomicFile, WhatAnotherIsWritingStays) {
     first.Stream() << "first";
     AtomicFile second(path);
     second.Stream() << "second";
-    folder.Write("a.txt.1234.part", "half");
+    folder.Write("a.txt.qorvix-part-0123456789abcdef", "half");
     { const AtomicFile third(path); }
+    EXPECT_EQ(FilesIn(folder), 2);
     EXPECT_FALSE(second.Commit());
     EXPECT_FALSE(first.Commit());
     EXPECT_EQ(FileContent(path), "first");
+}
+
+TEST(AtomicFile, IsItsOwnersAloneUntilItIsInItsPlace) {
+    using std::filesystem::perms;
+    constexpr perms ForOwner = perms::owner_read | perms::owner_write;
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a.txt", "old");
+    for (const perms mode : {perms(0600), perms(0644), perms(0666)}) {
+        std::filesystem::permissions(path, mode);
+        AtomicFile file(path);
+        EXPECT_EQ(std::filesystem::status(file.Path()).permissions(), ForOwner);
+        EXPECT_FALSE(file.Commit());
+        EXPECT_EQ(std::filesystem::status(path).permissions(), mode);
+    }
+    const mode_t before = umask(027);
+    EXPECT_FALSE(AtomicFile(folder / "new.txt").Commit());
+    EXPECT_EQ(umask(before), mode_t(027));
+    EXPECT_EQ(std::filesystem::status(folder / "new.txt").permissions(), perms(0640));
+}
+
+TEST(AtomicFile, GroupOfTheFileStaysOrHasNoMoreThanAllOthers) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can give a file to any group";
+    const TemporaryFolder folder;
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms::all);
+    const std::string path = folder.Write("a.txt", "old");
+    EXPECT_EQ(chown(path.c_str(), 0, 1), 0);
+    std::filesystem::permissions(path, std::filesystem::perms(0660));
+    EXPECT_FALSE(AtomicFile(path).Commit());
+    struct stat status {};
+    EXPECT_EQ(stat(path.c_str(), &status), 0);
+    EXPECT_EQ(status.st_gid, gid_t(1));
+    EXPECT_EQ(status.st_mode & 07777U, 0660U);
+    // This user is not in that group, so the file cannot stay its.
+    const OrdinaryUser user;
+    EXPECT_FALSE(AtomicFile(path).Commit());
+    EXPECT_EQ(stat(path.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777U, status.st_gid == 1 ? 0660U : 0600U);
 }
 
 TEST(AtomicFile, APipeIsNotReplaced) {

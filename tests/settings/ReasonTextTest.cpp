@@ -33,14 +33,15 @@ constexpr int OfFiles[] = {
 
 TEST(ReasonText, ProblemsOfFilesAreToldInBothLanguages) {
     std::set<std::string> texts;
-    for (const FileProblem problem : {FileProblem::NoRegularFile, FileProblem::TooLarge,
-                                      FileProblem::LineTooLong, FileProblem::TooManyLines}) {
+    for (const FileProblem problem :
+         {FileProblem::NoRegularFile, FileProblem::TooLarge, FileProblem::LineTooLong,
+          FileProblem::TooManyLines, FileProblem::ForeignLink}) {
         const std::error_code error = problem;
         EXPECT_EQ(ReasonText(error, {Language::English}), error.message());
         texts.insert(ReasonText(error, {Language::English}));
         texts.insert(ReasonText(error, {Language::German}));
     }
-    EXPECT_EQ(texts.size(), 8U);
+    EXPECT_EQ(texts.size(), 10U);
     EXPECT_EQ(ReasonText(FileProblem::NoRegularFile, {Language::German}), "keine gewöhnliche Datei");
 }
 

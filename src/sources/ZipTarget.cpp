@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "sources/ZipTarget.h"
+
+#include "sources/ZipReason.h"
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+ZipTarget::ZipTarget(const std::filesystem::path& file) {
+    zip_error_init(&error_);
+    errno = 0;
+    handle_ = FileHandle(::open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    if (!handle_.IsOpen())
+        zip_error_set(&error_, ZIP_ER_OPEN, errno);
+}
+
+ZipTarget::~ZipTarget() { zip_error_fini(&error_); }
+
+zip_t* ZipTarget::Open() {
+    if (!handle_.IsOpen())
+        return nullptr;
+    zip_source_t* const source = zip_source_function_create(Handle, this, &error_);
+    if (source == nullptr)
+        return nullptr;
+    zip_t* const archive = zip_open_from_source(source, ZIP_CREATE | ZIP_TRUNCATE, &error_);
+    if (archive == nullptr)
+        zip_source_free(source);
+    return archive;
+}
+
+std::string ZipTarget::Error(Language language) { return ZipReason(error_, language); }
+
+zip_int64_t ZipTarget::Handle(void* target, void* data, zip_uint64_t size, zip_source_cmd_t command) {
+    return static_cast<ZipTarget*>(target)->Do(data, size, command);
+}
+
+zip_int64_t ZipTarget::Do(void* data, zip_uint64_t size, zip_source_cmd_t command) {
+    switch (command) {
+    case ZIP_SOURCE_SUPPORTS:
+        return zip_source_make_command_bitmap(
+            ZIP_SOURCE_OPEN, ZIP_SOURCE_READ, ZIP_SOURCE_CLOSE, ZIP_SOURCE_STAT, ZIP_SOURCE_ERROR,
+            ZIP_SOURCE_FREE, ZIP_SOURCE_SEEK, ZIP_SOURCE_TELL, ZIP_SOURCE_BEGIN_WRITE,
+            ZIP_SOURCE_COMMIT_WRITE, ZIP_SOURCE_ROLLBACK_WRITE, ZIP_SOURCE_WRITE, ZIP_SOURCE_SEEK_WRITE,
+            ZIP_SOURCE_TELL_WRITE, ZIP_SOURCE_REMOVE, -1);
+    case ZIP_SOURCE_STAT: {
+        // What the file held before is of no interest: it reads as one that is not there.
+        zip_error_set(&error_, ZIP_ER_READ, ENOENT);
+        return -1;
+    }
+    case ZIP_SOURCE_ERROR:
+        return zip_error_to_data(&error_, data, size);
+    case ZIP_SOURCE_BEGIN_WRITE:
+        return Begin();
+    case ZIP_SOURCE_WRITE:
+        return Write(static_cast<const char*>(data), size);
+    case ZIP_SOURCE_SEEK_WRITE:
+        return Seek(data, size);
+    case ZIP_SOURCE_TELL_WRITE:
+        return place_;
+    default:
+        return 0; // nothing is read, and closing and removing the file are its owner's
+    }
+}
+
+zip_int64_t ZipTarget::Begin() {
+    place_ = 0;
+    return ::ftruncate(handle_.Number(), 0) == 0 ? 0 : Fail(errno);
+}
+
+zip_int64_t ZipTarget::Write(const char* data, zip_uint64_t size) {
+    for (zip_uint64_t done = 0; done < size;) {
+        errno = 0;
+        const ssize_t count = ::pwrite(handle_.Number(), data + done, size - done, place_);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return Fail(errno != 0 ? errno : EIO);
+        done += static_cast<zip_uint64_t>(count);
+        place_ += count;
+    }
+    return static_cast<zip_int64_t>(size);
+}
+
+zip_int64_t ZipTarget::Seek(void* data, zip_uint64_t size) {
+    struct stat status {};
+    if (::fstat(handle_.Number(), &status) != 0)
+        return Fail(errno);
+    const zip_int64_t place = zip_source_seek_compute_offset(
+        static_cast<zip_uint64_t>(place_), static_cast<zip_uint64_t>(status.st_size), data, size, &error_);
+    if (place < 0)
+        return -1;
+    place_ = place;
+    return 0;
+}
+
+zip_int64_t ZipTarget::Fail(int error) {
+    zip_error_set(&error_, ZIP_ER_WRITE, error);
+    return -1;
+}

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "logbook/FileHandles.h"
+#include "settings/Language.h"
+
+#include <zip.h>
+
+#include <filesystem>
+#include <string>
+
+// The file that libzip builds an archive in. The library on its own would build it in a file beside, which it
+// names and puts in place itself; here the file that is there is written into, with its permissions and its
+// lock.
+class ZipTarget {
+  public:
+    // Opens the file, which is made for its owner only where it is not there.
+    explicit ZipTarget(const std::filesystem::path& file);
+    ~ZipTarget();
+    ZipTarget(const ZipTarget&) = delete;
+    ZipTarget& operator=(const ZipTarget&) = delete;
+
+    // An empty archive that is built in the file; the object must outlive it. Null where that failed, and
+    // Error tells why.
+    zip_t* Open();
+
+    std::string Error(Language language);
+
+  private:
+    static zip_int64_t Handle(void* target, void* data, zip_uint64_t size, zip_source_cmd_t command);
+    zip_int64_t Do(void* data, zip_uint64_t size, zip_source_cmd_t command);
+    zip_int64_t Begin();
+    zip_int64_t Write(const char* data, zip_uint64_t size);
+    zip_int64_t Seek(void* data, zip_uint64_t size);
+    zip_int64_t Fail(int error);
+
+    FileHandle handle_;
+    zip_int64_t place_ = 0;
+    zip_error_t error_;
+};
