@@ -1,15 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppIcons.h"
 #include "app/frmMain.h"
+#include "eventinfo/ProgramFolder.h"
+#include "logbook/modUtil.h"
+#include "sources/CommandLine.h"
 
 #include <QApplication>
 #include <QTimer>
 
 #include <algorithm>
 #include <csignal>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
+
+namespace {
+
+// What the program must not remove when it clears up: the logbooks that it is to open, and its own place.
+std::vector<std::filesystem::path> KeptFiles(const std::vector<std::string>& arguments) {
+    std::vector<std::filesystem::path> kept{ToPath(ProgramFolder())};
+    for (const std::string& word : arguments)
+        kept.push_back(ToPath(word));
+    for (const std::string& source : ParseCommandLine(JoinArguments(arguments), IsSlashFile).Sources)
+        kept.push_back(ToPath(source));
+    return kept;
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
 #ifdef SIGXFSZ
@@ -29,7 +47,7 @@ int main(int argc, char** argv) {
 
     const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
     Registry registry(*settings);
-    const TempFolder tempFolder;
+    const TempFolder tempFolder(TempFolder::SystemFolder(), KeptFiles(arguments));
     CommentJournal journal;
     Logbook logbook;
     frmMain window(logbook, registry, tempFolder, journal, CodePage::OfUser());

@@ -47,7 +47,8 @@ CLI::App* AddPackCommand(CLI::App& app, PackOptions& options) {
 int RunPack(const PackOptions& options) {
     const Language language = options.MessageLanguage;
     const CodePage codePage = CodePage::OfUser();
-    const TempFolder tempFolder;
+    const TempFolder tempFolder(TempFolder::SystemFolder(), KeptFiles({options.Source, options.Archive,
+                                                                       options.Filters, options.Comments}));
     TerminalUser user(UserInterface::Answer::Yes);
     SourceLogbook logbook;
     if (!ReadSource(options.Source, logbook, tempFolder, user, language, codePage))

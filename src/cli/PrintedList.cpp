@@ -71,7 +71,8 @@ bool ReadList(const ListOptions& options, SourceLogbook& logbook, LogbookRows& r
         return false;
     }
     const CodePage codePage = CodePage::OfUser();
-    const TempFolder tempFolder;
+    const TempFolder tempFolder(TempFolder::SystemFolder(),
+                                KeptFiles({options.File, options.Filters, options.Output}));
     TerminalUser user(options.ArchiveFilters ? Answer::Yes : Answer::No);
     std::vector<FilterDefinition> filters = DefaultFilters();
     if (!ReadSource(options.File, logbook, tempFolder, user, options.MessageLanguage, codePage) ||

@@ -3,8 +3,10 @@
 
 #include "cli/ExitStatus.h"
 #include "cli/TerminalProgress.h"
+#include "eventinfo/ProgramFolder.h"
 #include "filter/FilterFile.h"
 #include "logbook/Mod_FileHandling.h"
+#include "logbook/modUtil.h"
 #include "settings/Texts.h"
 #include "sources/Comments.h"
 
@@ -13,6 +15,13 @@
 int Fail(const std::string& message) {
     std::cerr << "qorvix-cli: " << message << std::endl;
     return ExitStatus::Failed;
+}
+
+std::vector<std::filesystem::path> KeptFiles(const std::vector<std::string>& files) {
+    std::vector<std::filesystem::path> kept{ToPath(ProgramFolder())};
+    for (const std::string& file : files)
+        kept.push_back(ToPath(file));
+    return kept;
 }
 
 bool ReadSource(const std::string& file, SourceLogbook& logbook, const TempFolder& tempFolder,

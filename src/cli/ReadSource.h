@@ -8,12 +8,16 @@
 #include "sources/FileStamp.h"
 #include "sources/LogbookSource.h"
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
 
 // Tells a message on standard error; the exit status of a command that failed.
 int Fail(const std::string& message);
+
+// What the program must not remove when it clears up: the files that a command is about, and its own place.
+std::vector<std::filesystem::path> KeptFiles(const std::vector<std::string>& files);
 
 // A file beside a logbook, and what messages call it.
 struct SourceFile {

@@ -120,14 +120,6 @@ bool FileExists(const std::string& path) {
            std::ifstream(ToPath(path), std::ios::binary).is_open();
 }
 
-bool LiesIn(const std::filesystem::path& file, const std::filesystem::path& folder) {
-    std::error_code error;
-    const std::filesystem::path relative =
-        std::filesystem::weakly_canonical(file, error)
-            .lexically_relative(std::filesystem::weakly_canonical(folder, error));
-    return !error && !relative.empty() && *relative.begin() != "..";
-}
-
 std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder) {
     std::vector<std::filesystem::path> items;
     std::error_code error;
@@ -136,6 +128,16 @@ std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder) 
          item.increment(error))
         items.push_back(item->path());
     return items;
+}
+
+bool LiesIn(const std::filesystem::path& path, const std::filesystem::path& folder) {
+    std::error_code error;
+    const auto whole = [&](const std::filesystem::path& part) {
+        return error ? part
+                     : std::filesystem::weakly_canonical(std::filesystem::absolute(part, error), error);
+    };
+    const std::filesystem::path relative = whole(path).lexically_relative(whole(folder));
+    return !error && !relative.empty() && *relative.begin() != "..";
 }
 
 std::string ChangeExtension(std::string_view fileName, std::string_view newExtension) {

@@ -60,11 +60,11 @@ void SplitPath(std::string_view path, std::string& folder, std::string& fileName
 // end.
 bool FileExists(const std::string& path);
 
-// True when a path leads into a folder, or a folder below it; links on the way count as what they name.
-bool LiesIn(const std::filesystem::path& file, const std::filesystem::path& folder);
-
 // The paths of what lies in a folder, as far as the system lists it; a failing disk raises nothing here.
 std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder);
+
+// True for a path that names something below a folder, or the folder itself, links followed.
+bool LiesIn(const std::filesystem::path& path, const std::filesystem::path& folder);
 
 // The name with everything from its last "." on replaced by `newExtension`, which is appended when there is
 // no ".". A "." in the folder part of a path does not count.

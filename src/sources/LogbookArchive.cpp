@@ -19,18 +19,16 @@ namespace {
 // those of the logbook that is shown.
 class Workplace {
   public:
-    explicit Workplace(const TempFolder& tempFolder) : path_(tempFolder.MakeSubfolder()) {}
-    ~Workplace() {
-        std::error_code ignored;
-        if (!path_.empty())
-            std::filesystem::remove_all(path_, ignored);
-    }
+    explicit Workplace(const TempFolder& tempFolder)
+        : tempFolder_(tempFolder), path_(tempFolder.MakeSubfolder()) {}
+    ~Workplace() { tempFolder_.RemoveSubfolder(path_); }
     Workplace(const Workplace&) = delete;
     Workplace& operator=(const Workplace&) = delete;
 
     const std::filesystem::path& Path() const { return path_; }
 
   private:
+    const TempFolder& tempFolder_;
     std::filesystem::path path_;
 };
 
@@ -77,7 +75,7 @@ class Saving {
         if (stamp != *now)
             return Say(TextId::LogbookChangedMeanwhile);
         if (workplace_.Path().empty())
-            return Say(TextId::NoTemporaryFolder);
+            return Say(tempFolder_.Path().empty() ? TextId::NoTemporaryFolder : TextId::ZipNotUnpacked);
         if (std::filesystem::equivalent(ToPath(path_), ToPath(content_.LogbookFile), error))
             return Say(TextId::ArchiveInPlaceOfLogbook);
         if (LiesIn(ToPath(path_), tempFolder_.Path()))
@@ -113,6 +111,8 @@ class Saving {
         const std::string base = ChangeExtension(fileName, "");
         const std::filesystem::path filters = workplace_.Path() / "filters";
         const std::filesystem::path comments = workplace_.Path() / "comments";
+        if (!tempFolder_.Note({filters, comments}))
+            return Say(TextId::ZipNotUnpacked);
         std::error_code error = ExportFilterFile(filters.string(), content_.Filters, content_.FileCodePage);
         if (error)
             return WithFile(filters.string(), error, language_);

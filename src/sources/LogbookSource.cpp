@@ -50,8 +50,13 @@ struct Unpacked {
 // Unpacks the logbook of an archive, with what belongs to it, into a folder that is empty before.
 class Extraction {
   public:
-    Extraction(const std::filesystem::path& archive, std::filesystem::path folder, Language language)
-        : language_(language), archive_(archive, language), folder_(std::move(folder)) {}
+    // The folder is a subfolder of the temporary one; "" = it could not be made.
+    Extraction(const std::filesystem::path& archive, const TempFolder& tempFolder,
+               std::filesystem::path folder, Language language)
+        : language_(language),
+          archive_(archive, language),
+          tempFolder_(tempFolder),
+          folder_(std::move(folder)) {}
 
     // The files then lie in the folder as FileBaseOf the base name with their extensions; nothing when the
     // archive has no logbook or it could not be unpacked whole.
@@ -59,7 +64,8 @@ class Extraction {
         if (folder_.empty()) {
             // Without a folder of its own nothing is unpacked: a bare file name would mean the current
             // folder.
-            reason_ = Text(TextId::NoTemporaryFolder, language_);
+            reason_ = Text(tempFolder_.Path().empty() ? TextId::NoTemporaryFolder : TextId::ZipNotUnpacked,
+                           language_);
             return std::nullopt;
         }
         const std::optional<std::size_t> system = Find(archive_, SystemArchive);
@@ -91,9 +97,11 @@ class Extraction {
     }
 
     bool Unpack(ZipArchive& archive, std::size_t member, std::string_view fileName) {
-        if (archive.Unpack(member, folder_ / ToPath(fileName)))
+        const std::filesystem::path file = folder_ / ToPath(fileName);
+        const bool isNoted = tempFolder_.Note({file});
+        if (isNoted && archive.Unpack(member, file))
             return true;
-        reason_ = archive.Error();
+        reason_ = isNoted ? archive.Error() : std::string(Text(TextId::ZipNotUnpacked, language_));
         return false;
     }
 
@@ -136,19 +144,33 @@ class Extraction {
 
     Language language_;
     ZipArchive archive_;
+    const TempFolder& tempFolder_;
     std::filesystem::path folder_;
     std::string reason_;
 };
 
-// Puts the unpacked files in the place of all files of that base name from an earlier archive.
-void TakeOver(const std::filesystem::path& from, const std::filesystem::path& folder,
-              const std::string& fileBase) {
+// Puts the unpacked files in the place of all files of that base name from an earlier archive. False where
+// somebody else has put a file of such a name there; nothing is changed then.
+bool TakeOver(const std::filesystem::path& from, const TempFolder& tempFolder, const std::string& fileBase) {
+    std::vector<std::filesystem::path> unpacked;
+    std::vector<std::filesystem::path> places;
     for (const std::string_view extension : {LogExtension, FilterExtension, CommentsExtension}) {
-        const std::filesystem::path file = ToPath(std::string(fileBase).append(extension));
+        const std::filesystem::path name = ToPath(std::string(fileBase).append(extension));
         std::error_code error;
-        std::filesystem::remove(folder / file, error);
-        std::filesystem::rename(from / file, folder / file, error);
+        if (std::filesystem::exists(from / name, error)) {
+            unpacked.push_back(from / name);
+            places.push_back(tempFolder.Path() / name);
+        }
     }
+    if (!tempFolder.Note(places))
+        return false;
+    for (const std::string_view extension : {LogExtension, FilterExtension, CommentsExtension})
+        tempFolder.RemoveFile(tempFolder.Path() / ToPath(std::string(fileBase).append(extension)));
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        std::error_code error;
+        std::filesystem::rename(unpacked[i], places[i], error);
+    }
+    return true;
 }
 
 std::optional<LogbookSource> ResolveArchive(const std::string& path, const TempFolder& tempFolder,
@@ -157,11 +179,12 @@ std::optional<LogbookSource> ResolveArchive(const std::string& path, const TempF
     // replaces it.
     const std::filesystem::path unpacked = tempFolder.MakeSubfolder();
     user.ShowStatus(TextId::StatusExtracting);
-    Extraction extraction(ToPath(path), unpacked, language);
+    Extraction extraction(ToPath(path), tempFolder, unpacked, language);
     const std::optional<Unpacked> parts = extraction.Extract();
     user.RestoreStatus();
 
     std::optional<LogbookSource> source;
+    bool staysApart = false;
     const std::string fileBase = FileBaseOf(parts ? parts->Base : "");
     const auto fileIn = [&](const std::filesystem::path& folder, std::string_view extension) {
         return (folder / ToPath(std::string(fileBase).append(extension))).string();
@@ -184,8 +207,8 @@ std::optional<LogbookSource> ResolveArchive(const std::string& path, const TempF
         if (answer != UserInterface::Answer::Cancel) {
             const bool hasComments = isUnpacked(CommentsExtension);
             const bool wantsFilters = answer == UserInterface::Answer::Yes;
-            const std::filesystem::path& temp = tempFolder.Path();
-            TakeOver(unpacked, temp, fileBase);
+            staysApart = !TakeOver(unpacked, tempFolder, fileBase);
+            const std::filesystem::path& temp = staysApart ? unpacked : tempFolder.Path();
             source = LogbookSource{.Name = parts->Base.substr(0, parts->Base.find('.')),
                                    .LogbookFile = fileIn(temp, LogExtension),
                                    .CommentsFile = hasComments ? fileIn(temp, CommentsExtension) : "",
@@ -195,8 +218,8 @@ std::optional<LogbookSource> ResolveArchive(const std::string& path, const TempF
                                    .FilterName = wantsFilters ? told(parts->Filters) : ""};
         }
     }
-    std::error_code ignored;
-    std::filesystem::remove_all(unpacked, ignored);
+    if (!staysApart)
+        tempFolder.RemoveSubfolder(unpacked);
     return source;
 }
 

@@ -3,24 +3,45 @@
 
 #include "logbook/modUtil.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <random>
+#include <string>
+#include <string_view>
 #include <system_error>
 
-#include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
-constexpr const char* OwnPrefix = "Qorvix-temp-";
+constexpr std::string_view Characters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
+constexpr std::size_t CharacterCount = 6;
+constexpr const char* SharedName = "Qorvix";
+constexpr std::string_view OwnPrefix = "Qorvix-temp-";
 
-// True while the name leads to the folder that the handle was opened for.
-bool IsFolderOf(int handle, const std::filesystem::path& name) {
-    struct stat opened {};
-    struct stat named {};
-    return ::fstat(handle, &opened) == 0 && ::lstat(name.c_str(), &named) == 0 &&
-           opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
+// Others may come in between; none of them comes for ever.
+constexpr int Attempts = 20;
+
+std::string RandomName(std::string_view prefix) {
+    std::random_device random;
+    std::uniform_int_distribution<std::size_t> character(0, Characters.size() - 1);
+    std::string name(prefix);
+    for (std::size_t i = 0; i < CharacterCount; ++i)
+        name += Characters[character(random)];
+    return name;
+}
+
+bool HasOwnName(const std::filesystem::path& folder) {
+    const std::string name = folder.filename().string();
+    return name == SharedName ||
+           (name.starts_with(OwnPrefix) && name.size() == OwnPrefix.size() + CharacterCount &&
+            name.find_first_not_of(Characters, OwnPrefix.size()) == std::string::npos);
+}
+
+// The name of something below a folder, as its mark has it.
+std::string NameIn(const std::filesystem::path& folder, const std::filesystem::path& path) {
+    return path.lexically_relative(folder).generic_string();
 }
 
 } // namespace
@@ -31,91 +52,96 @@ std::filesystem::path TempFolder::SystemFolder() {
     return error ? std::filesystem::path() : folder;
 }
 
-TempFolder::TempFolder(const std::filesystem::path& parent) : parent_(parent) { Make(); }
-
-void TempFolder::Make() const {
-    Release();
+TempFolder::TempFolder(const std::filesystem::path& parent, const std::vector<std::filesystem::path>& kept)
+    : parent_(parent) {
     if (parent_.empty())
         return;
-    RemoveLeft();
-    // A copy that ends may remove the folder between its making and its taking.
-    constexpr int Attempts = 100;
-    const std::filesystem::path shared = parent_ / "Qorvix";
-    for (int i = 0; i < Attempts; ++i) {
-        ::mkdir(shared.c_str(), S_IRWXU);
-        const Taking taking = Take(shared);
-        if (taking == Taking::Held)
-            return Empty();
-        if (taking == Taking::Refused)
-            break;
-    }
-    // Another copy that begins may take a new folder for a left one.
-    for (int i = 0; i < Attempts && lock_ < 0; ++i) {
-        std::string own = (parent_ / OwnPrefix).string() + "XXXXXX";
-        if (::mkdtemp(own.data()) == nullptr)
-            break;
-        if (Take(own) != Taking::Held)
-            ::rmdir(own.c_str());
-    }
-}
-
-void TempFolder::RemoveLeft() const {
-    for (const std::filesystem::path& item : ItemsIn(parent_))
-        if (item.filename().string().starts_with(OwnPrefix) && Take(item) == Taking::Held)
-            Remove();
-}
-
-// Holds the folder when it is this user's, no link, and free.
-TempFolder::Taking TempFolder::Take(const std::filesystem::path& folder) const {
-    const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-    if (handle < 0)
-        return errno == ENOENT ? Taking::Gone : Taking::Refused;
-    struct stat status {};
-    const bool held = ::fstat(handle, &status) == 0 && status.st_uid == ::geteuid() &&
-                      ::flock(handle, LOCK_EX | LOCK_NB) == 0 && ::fchmod(handle, S_IRWXU) == 0;
-    if (held && IsFolderOf(handle, folder)) {
-        path_ = folder;
-        lock_ = handle;
-        return Taking::Held;
-    }
-    ::close(handle);
-    return held ? Taking::Gone : Taking::Refused;
-}
-
-bool TempFolder::IsHeld() const { return lock_ >= 0 && IsFolderOf(lock_, path_); }
-
-void TempFolder::Release() const {
-    if (lock_ >= 0)
-        ::close(lock_);
-    lock_ = -1;
-    path_.clear();
+    RemoveLeft(kept);
+    Make();
 }
 
 TempFolder::~TempFolder() {
     // Another copy may have made a folder of that name since this one's was removed.
-    if (IsHeld())
-        Remove();
-    Release();
+    if (mark_ && mark_->IsThere())
+        mark_->Remove();
 }
 
-void TempFolder::Remove() const {
-    Empty();
-    std::error_code ignored;
-    std::filesystem::remove(path_, ignored);
-    Release();
+void TempFolder::RemoveLeft(const std::vector<std::filesystem::path>& kept) const {
+    for (const std::filesystem::path& folder : ItemsIn(parent_)) {
+        if (!HasOwnName(folder) ||
+            std::any_of(kept.begin(), kept.end(), [&](const auto& path) { return LiesIn(path, folder); }))
+            continue;
+        if (const std::optional<TempFolderMark> left = TempFolderMark::Take(folder))
+            left->Remove();
+    }
 }
 
-void TempFolder::Empty() const {
-    std::error_code ignored;
-    for (const std::filesystem::path& item : ItemsIn(path_))
-        std::filesystem::remove_all(item, ignored);
+void TempFolder::Make() const {
+    mark_.reset();
+    path_.clear();
+    if (parent_.empty())
+        return;
+    for (int i = 0; i < Attempts; ++i) {
+        const bool isMade = ::mkdir((parent_ / SharedName).c_str(), S_IRWXU) == 0;
+        if (isMade && Mark(parent_ / SharedName))
+            return;
+        if (!isMade)
+            break;
+    }
+    for (int i = 0; i < Attempts; ++i) {
+        const std::filesystem::path own = parent_ / RandomName(OwnPrefix);
+        const bool isMade = ::mkdir(own.c_str(), S_IRWXU) == 0;
+        if (isMade && Mark(own))
+            return;
+        if (!isMade && errno != EEXIST)
+            return;
+    }
+}
+
+// A folder that was just made; it goes where it cannot be marked.
+bool TempFolder::Mark(const std::filesystem::path& folder) const {
+    mark_ = TempFolderMark::Make(folder);
+    if (mark_)
+        path_ = folder;
+    else
+        ::rmdir(folder.c_str());
+    return mark_.has_value();
 }
 
 std::filesystem::path TempFolder::MakeSubfolder() const {
-    if (!IsHeld())
+    if (!mark_ || !mark_->IsThere())
         Make();
-    if (path_.empty())
-        return {};
-    std::string folder = (path_ / "new-XXXXXX").string();
-    return ::mkdtemp(folder.data()) != nullptr ? std::filesystem::path(folder) : std::filesystem::path();
+    for (int i = 0; i < Attempts && mark_; ++i) {
+        const std::string name = RandomName("new-");
+        std::error_code ignored;
+        if (std::filesystem::exists(std::filesystem::symlink_status(path_ / name, ignored)))
+            continue;
+        if (mark_->Note(name + '/') && ::mkdir((path_ / name).c_str(), S_IRWXU) == 0)
+            return path_ / name;
+        break;
+    }
+    return {};
+}
+
+void TempFolder::RemoveSubfolder(const std::filesystem::path& folder) const {
+    if (mark_ && !folder.empty())
+        mark_->RemoveFolder(NameIn(path_, folder) + '/');
+}
+
+bool TempFolder::IsForeign(const std::filesystem::path& file) const {
+    std::error_code ignored;
+    return !mark_->HasNoted(NameIn(path_, file)) &&
+           std::filesystem::exists(std::filesystem::symlink_status(file, ignored));
+}
+
+bool TempFolder::Note(const std::vector<std::filesystem::path>& files) const {
+    return mark_ &&
+           std::none_of(files.begin(), files.end(), [&](const auto& file) { return IsForeign(file); }) &&
+           std::all_of(files.begin(), files.end(),
+                       [&](const auto& file) { return mark_->Note(NameIn(path_, file)); });
+}
+
+void TempFolder::RemoveFile(const std::filesystem::path& file) const {
+    if (mark_ && mark_->HasNoted(NameIn(path_, file)))
+        ::unlink(file.c_str());
 }

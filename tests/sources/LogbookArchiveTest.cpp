@@ -34,10 +34,12 @@ std::string Noise(std::size_t size) {
     return noise;
 }
 
+// The mark of a temporary folder is none.
 std::vector<std::string> FilesIn(const fs::path& folder) {
     std::vector<std::string> names;
     for (const auto& item : fs::directory_iterator(folder))
-        names.push_back(item.path().filename().string());
+        if (item.path().filename() != TempFolderMark::FileName)
+            names.push_back(item.path().filename().string());
     std::sort(names.begin(), names.end());
     return names;
 }

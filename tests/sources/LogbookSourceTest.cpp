@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <vector>
 
 namespace {
@@ -297,7 +299,26 @@ TEST_F(LogbookSourceTest, NothingIsLeftBesideTheLogbook) {
     std::vector<std::string> names;
     for (const auto& item : std::filesystem::directory_iterator(Temp.Path()))
         names.push_back(item.path().filename().string());
-    EXPECT_EQ(names, std::vector<std::string>{"base.log"});
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (std::vector<std::string>{TempFolderMark::FileName, "base.log"}));
+}
+
+TEST_F(LogbookSourceTest, FileThatAPersonPutIntoTheTemporaryFolderStays) {
+    Folder.Write("Qorvix/base.cmt", "the person's");
+    const auto source = Resolve(Zip("a.qorvix", {{"base.log", "text"}, {"base.cmt", "[Comments]\r\n"}}));
+    EXPECT_EQ(Logbook(source), "text");
+    EXPECT_EQ(FileContent(source->CommentsFile), "[Comments]\r\n");
+    EXPECT_EQ(FileContent(InTemp("base.cmt")), "the person's");
+    // What does not come in its way does not.
+    EXPECT_EQ(Resolve(Zip("b.qorvix", {{"base.log", "other"}}))->LogbookFile, InTemp("base.log"));
+    EXPECT_EQ(FileContent(InTemp("base.cmt")), "the person's");
+}
+
+TEST_F(LogbookSourceTest, FilesOfAnEarlierArchiveGo) {
+    Resolve(Zip("a.qorvix", {{"base.log", "text"}, {"base.cmt", "[Comments]\r\n"}}));
+    EXPECT_TRUE(std::filesystem::exists(InTemp("base.cmt")));
+    Resolve(Zip("b.qorvix", {{"base.log", "other"}}));
+    EXPECT_FALSE(std::filesystem::exists(InTemp("base.cmt")));
 }
 
 TEST_F(LogbookSourceTest, MemberOfTheSystemArchiveIsFoundInAnyCase) {
