@@ -37,17 +37,16 @@ std::optional<std::string> Attribute(std::string_view line, std::string_view nam
     return LanguageFileText(value.substr(0, end));
 }
 
-// The text between two tags, searched for from `place` on, which then is the end of it.
+// The text between the first of each of two tags from `place` on, which then is the end of it. Without one of
+// them, or with the end before the begin, the text is empty and the place stays.
 std::string TextBetween(std::string_view text, std::string_view beginTag, std::string_view endTag,
                         std::size_t& place) {
     const std::size_t begin = text.find(beginTag, place);
-    if (begin == std::string_view::npos)
-        return {};
-    const std::size_t first = begin + beginTag.size();
-    const std::size_t end = text.find(endTag, first);
-    if (end == std::string_view::npos)
+    const std::size_t end = text.find(endTag, place);
+    if (begin == std::string_view::npos || end == std::string_view::npos || end < begin)
         return {};
     place = end;
+    const std::size_t first = begin + beginTag.size();
     return std::string(text.substr(first, end - first));
 }
 

@@ -17,9 +17,9 @@
 //     </string>
 
 // The text of the event, searched for from the file's beginning; nothing when the number is not in the file
-// or the file cannot be read. An entry that lacks a text, or the end of one, has it empty. The lines between
-// the first and the last of an entry are joined without anything between, and the first line is not taken
-// for them: an entry all in one line goes on in the next.
+// or the file cannot be read. An entry that lacks a text, or the end of one, or has the end before the
+// begin, has it empty. The lines between the first and the last of an entry are joined without anything
+// between, and the first line is not taken for them: an entry all in one line goes on in the next.
 std::optional<EventTextRecord> ReadXmlErrorText(const std::string& fileName, std::int64_t number);
 
 // Repairs the umlauts of UTF-8 bytes that were read as Windows-1252 (ä, ö, ü and ß, no capitals), and

@@ -114,6 +114,24 @@ TEST(XmlErrorText, TextsWithoutTheirTagsAreEmpty) {
     EXPECT_EQ(texts("<text></text><text1></text1><text2></text2>"), (Three{"", "", ""}));
 }
 
+TEST(XmlErrorText, TextWithAnEndTagBeforeItsBeginIsEmpty) {
+    const auto texts = [](const std::string& inside) {
+        EventTextRecord record =
+            Read("<string id=\"a\" value=\"5\">\n" + inside + "\n</string>\n", 5).value();
+        return std::array{record.Message, record.Cause, record.Fix};
+    };
+    using Three = std::array<std::string, 3>;
+    EXPECT_EQ(texts("</text><text>x</text><text1>y</text1><text2>z</text2>"), (Three{"", "y", "z"}));
+    EXPECT_EQ(texts("<text>x</text></text1><text1>y</text1><text2>z</text2>"), (Three{"x", "", "z"}));
+    EXPECT_EQ(texts("<text>x</text><text1>y</text1></text2><text2>z</text2>"), (Three{"x", "y", ""}));
+    // The place that counts for a text is the end of the one before it.
+    EXPECT_EQ(texts("</text1></text2><text>x</text></text2><text1>y</text1><text2>z</text2>"),
+              (Three{"x", "y", "z"}));
+    // An empty text has no end: the next is searched for from where this one was.
+    EXPECT_EQ(texts("<text>x</text></text1></text2><text1>y</text1><text2>z</text2>"), (Three{"x", "", ""}));
+    EXPECT_EQ(texts("</text1></text><text>x</text><text1>y</text1>"), (Three{"", "", ""}));
+}
+
 TEST(XmlErrorText, TextsAreSearchedInTheirOrder) {
     // A cause before or in the message and a fix before the cause are passed over.
     EXPECT_EQ(Read("<string id=\"a\" value=\"5\">\n<text><text1>y</text1>x</text>\n</string>\n", 5),
