@@ -3,7 +3,8 @@
 // which tells removal from addition; below it stands the list.
 #include "FuzzSupport.h"
 #include "filter/NumberList.h"
-#include "filter/NumberLists.h"
+#include "filter/NumberListEditor.h"
+#include "filter/WrappedNumberList.h"
 #include "settings/Registry.h"
 
 #include <algorithm>
@@ -51,27 +52,36 @@ void CheckChange(std::string_view before, const std::string& after, EntryNumber 
     Check(MatchNumberList(number, before) == removed || after == before);
 }
 
-void CheckLists(std::string_view changes, std::string_view list) {
-    constexpr std::size_t LeastRoom = 24; // for any range
-    const std::size_t room = std::max(LeastRoom, list.size());
-    NumberLists lists(room);
-    lists.Append(list, room);
+// The list as texts with little room names the same numbers and, empty parts aside, is made from them again.
+void CheckWrapped(const std::string& list) {
+    constexpr std::size_t FirstRoom = 12;
+    constexpr std::size_t Room = 24; // for any range
+    const std::vector<std::string> texts = WrapNumberList(list, FirstRoom, Room);
+    std::string joined;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const std::size_t room = i == 0 ? FirstRoom : Room;
+        Check(Registry::CharacterCount(texts[i]) <= room || texts[i].find(',') == std::string::npos);
+        Check(i + 1 == texts.size() || texts[i + 1].empty() || GoesOnIn(texts[i], room, texts[i + 1]));
+        joined += (joined.empty() ? "" : ",") + texts[i];
+    }
+    Check(ParseNumberList(joined) == ParseNumberList(list));
+    Check(joined.size() <= list.size());
+    Check(WrapNumberList(joined, FirstRoom, Room) == texts || joined.size() < list.size());
+}
+
+void CheckEditor(std::string_view changes, std::string_view list) {
+    NumberListEditor editor;
+    editor.Append(list);
     for (const char change : changes) {
         const auto byte = static_cast<unsigned char>(change);
         const EntryNumber number = NumberOf(byte);
         const bool removes = (byte & 1U) != 0;
-        if (removes)
-            Check(lists.Remove(number));
-        else
-            lists.Add(number);
-        bool isIn = false;
-        for (std::size_t place = 0; place < lists.Count(); ++place) {
-            const std::string text = lists.Text(place);
-            Check(Registry::CharacterCount(text) <= room);
-            isIn = isIn || MatchNumberList(number, text);
-        }
-        Check(isIn != removes);
+        const std::string before = editor.Text();
+        const bool changed = removes ? editor.Remove(number) : editor.Add(number);
+        Check(changed == (editor.Text() != before));
+        Check(MatchNumberList(number, editor.Text()) != removes);
     }
+    CheckWrapped(editor.Text());
 }
 
 } // namespace
@@ -92,6 +102,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         list = after;
     }
     CheckRanges(list);
-    CheckLists(changes, rest);
+    CheckEditor(changes, rest);
+    CheckWrapped(std::string(rest));
     return 0;
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "filter/FilterStorage.h"
-#include "filter/NumberLists.h"
+#include "filter/NumberListEditor.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -20,9 +20,12 @@ class Registry;
 // a new filter is stored behind the default filter, so that everything else stays on the screen.
 //
 // The settings give no text back that is longer than Registry::LongestText, and a list with such a filter
-// would fall back to the default list as a whole. So no filter is made that long: a number for which the
-// first one has no room goes to the next active number filter of the action that has, or to a new one; and a
-// number is taken out of every active number filter of the action that holds it.
+// would fall back to the default list as a whole. So a number list that has no room in its filter goes on in
+// further ones, see filter/WrappedNumberList.h: active filters of type 8 with the action, without name and
+// sender, behind the first one. Such a filter goes on with the list only when those before it that do are so
+// full that its own beginning would have found no room there, or when it is empty. Any other number filter
+// of the action is a list of its own, which is not touched. Where numbers are taken out, what stands behind
+// moves up, so that the filters stay full up to the last one that has numbers; those behind it stay, empty.
 
 // Adds the entry to the filter of the action (see FilterActions), which is written also when it held it
 // already. True on success.
@@ -33,22 +36,28 @@ bool AddEntryToFilter(Registry& registry, EntryNumber number, std::int16_t actio
 bool RemoveEntryFromFilter(Registry& registry, EntryNumber number, std::int16_t action);
 
 // The number filters of one action for a change of many entries: gives the same filters as one of the calls
-// above for each entry in this order, and writes the settings once. The filters are read when it is made;
-// nothing else may change the stored filters until it is written.
+// above for each entry in this order, and writes the settings once. The calls may leave more empty filters,
+// where a list was longer in between. The filters are read, and those that go on with the first one's list
+// are found, when it is made; nothing else may change the stored filters until it is written.
 class NumberFilters {
   public:
     NumberFilters(Registry& registry, std::int16_t action);
 
     bool Add(EntryNumber number);
-    bool Remove(EntryNumber number) { return lists_.Remove(number); }
+    bool Remove(EntryNumber number);
 
-    // Nothing is written before, and nothing when no entry was added or removed.
+    // Nothing is written before, and nothing when no entry was added or removed. The first filter is written
+    // also when it did not change.
     void Write();
 
   private:
+    void FindPlaces();
+
     Registry& registry_;
     std::int16_t action_;
     StoredFilters stored_;
-    std::vector<std::size_t> places_; // in the list of filters, of those that lists_ comes from
-    NumberLists lists_;
+    std::vector<std::size_t> places_; // in the list of filters, of those that the number list stands in
+    NumberListEditor list_;
+    bool used_ = false;
+    bool changed_ = false;
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "filter/NumberList.h"
 
-#include "filter/NumberLists.h"
+#include "filter/NumberListEditor.h"
 #include "logbook/Blanks.h"
 
 #include <algorithm>
@@ -19,16 +19,6 @@ std::optional<EntryNumber> ParseNumber(std::string_view text) {
     if (text.empty() || rest != end || error == std::errc::invalid_argument)
         return std::nullopt;
     return error == std::errc::result_out_of_range ? std::numeric_limits<EntryNumber>::max() : number;
-}
-
-// The list as changed by `change`.
-template <typename Change>
-std::string Changed(std::string_view list, Change change) {
-    constexpr std::size_t NoLimit = std::numeric_limits<std::size_t>::max();
-    NumberLists lists(NoLimit);
-    lists.Append(list, NoLimit);
-    change(lists);
-    return lists.Text(0);
 }
 
 } // namespace
@@ -75,9 +65,15 @@ std::string FormatNumberRange(NumberRange range) {
 }
 
 std::string AddToNumberList(std::string_view list, EntryNumber number) {
-    return Changed(list, [&](NumberLists& lists) { lists.Add(number); });
+    NumberListEditor editor;
+    editor.Append(list);
+    editor.Add(number);
+    return editor.Text();
 }
 
 std::string RemoveFromNumberList(std::string_view list, EntryNumber number) {
-    return Changed(list, [&](NumberLists& lists) { lists.Remove(number); });
+    NumberListEditor editor;
+    editor.Append(list);
+    editor.Remove(number);
+    return editor.Text();
 }

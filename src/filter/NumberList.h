@@ -32,8 +32,10 @@ bool MatchNumberList(EntryNumber entry, std::string_view list);
 std::string FormatNumberRange(NumberRange range);
 
 // The list with the number added. One that matches the number stays as it is. Otherwise every part that ends
-// or begins next to the number is extended to it, and no parts are merged (3,5 with 4 is 3-4,4-5); when there
-// is none, the number comes behind the others. Parts that are not extended keep their text, whatever it is.
+// or begins next to the number is extended to it, and the two are not merged (3,5 with 4 is 3-4,4-5); when
+// there is none, the number comes behind the others. Where more than two parts end next to the number, or
+// begin there, the widest takes the place of them all, extended and behind the others. Parts that are not
+// extended keep their text, whatever it is.
 std::string AddToNumberList(std::string_view list, EntryNumber number);
 
 // The list without the number: what remains of a part that holds it is written as one part or two (4-9

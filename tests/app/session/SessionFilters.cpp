@@ -88,12 +88,25 @@ QString WithNumber(const QString& list, int number) {
         return list;
     QStringList parts = list.split(',');
     bool extended = false;
-    for (QString& text : parts) {
-        const Part part = PartOf(text);
-        if (!part.IsReadable() || (part.First != number + 1 && part.Last != number - 1))
-            continue;
-        text = TextOf(std::min(part.First, number), std::max(part.Last, number));
-        extended = true;
+    for (const bool below : {true, false}) {
+        QList<qsizetype> touching;
+        Part widest{number, number};
+        for (qsizetype i = 0; i < parts.size(); ++i) {
+            const Part part = PartOf(parts[i]);
+            if (!part.IsReadable() || (below ? part.Last + 1 : part.First - 1) != number)
+                continue;
+            touching << i;
+            widest = {std::min(part.First, widest.First), std::max(part.Last, widest.Last)};
+        }
+        extended = extended || !touching.isEmpty();
+        if (touching.size() > 2) // become one, at the end
+            parts << TextOf(widest.First, widest.Last);
+        for (auto i = touching.rbegin(); i != touching.rend(); ++i) {
+            const Part part = PartOf(parts[*i]);
+            parts[*i] = TextOf(std::min(part.First, number), std::max(part.Last, number));
+            if (touching.size() > 2)
+                parts.removeAt(*i);
+        }
     }
     if (!extended)
         parts << QString::number(number);

@@ -29,6 +29,13 @@ bool CellMatches(QString cell, const SessionSearch& search) {
            cell.indexOf(' ' + text) + 1 == cell.size() - text.size();
 }
 
+// The filters that numbers are collected in.
+auto IsCollecting(char action) {
+    return [action](const SessionFilter& filter) {
+        return filter.Action == action && filter.Type == 8 && filter.Active;
+    };
+}
+
 } // namespace
 
 void SessionModel::Read(const SessionEntries& entries, const QString& name) {
@@ -121,30 +128,23 @@ void SessionModel::ToggleSelected() {
 
 void SessionModel::Add(int entry, char action) {
     SessionFilters filters = Filters();
-    const auto isCollecting = [&](const SessionFilter& filter) {
-        return filter.Action == action && filter.Type == 8 && filter.Active;
-    };
-    auto filter = std::find_if(filters.begin(), filters.end(), isCollecting);
+    auto filter = std::find_if(filters.begin(), filters.end(), IsCollecting(action));
     if (filter == filters.end())
         filter = filters.insert(filters.end(), SessionFilter{action, 8, "", "", "", true});
     filter->Text = WithNumber(filter->Text, entry);
     Store(filters);
 }
 
-// Out of every collecting filter: a list that became too long has gone on in another one.
+// Of the first one only: any other is a list of its own, unless the first is longer than lists get here.
 bool SessionModel::TakeOut(int entry, char action) {
     SessionFilters filters = Filters();
-    bool found = false;
-    for (SessionFilter& filter : filters) {
-        if (filter.Action != action || filter.Type != 8 || !filter.Active)
-            continue;
-        found = true;
-        if (NamesNumber(filter.Text, entry))
-            filter.Text = WithoutNumber(filter.Text, entry);
-    }
-    if (found)
-        Store(filters);
-    return found;
+    const auto filter = std::find_if(filters.begin(), filters.end(), IsCollecting(action));
+    if (filter == filters.end())
+        return false;
+    if (NamesNumber(filter->Text, entry))
+        filter->Text = WithoutNumber(filter->Text, entry);
+    Store(filters);
+    return true;
 }
 
 void SessionModel::Store(const SessionFilters& filters) {
