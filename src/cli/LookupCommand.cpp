@@ -2,12 +2,13 @@
 #include "cli/LookupCommand.h"
 
 #include "cli/ExitStatus.h"
+#include "cli/Messages.h"
+#include "cli/Output.h"
 #include "eventinfo/iZEKEventInfo.h"
 #include "list/ContentText.h"
+#include "logbook/VisibleControls.h"
 
 #include <CLI/CLI.hpp>
-
-#include <iostream>
 
 CLI::App* AddLookupCommand(CLI::App& app, LookupOptions& options) {
     CLI::App* command = app.add_subcommand("lookup", "Print the control's own text for an event or error");
@@ -33,10 +34,13 @@ int RunLookup(const LookupOptions& options) {
     ProposedComment proposed = AutoFillComment(WithLineBreaks(options.Data), options.TextLanguage, folder);
     if (const std::string mistake = FacilityFileMessage(proposed.Mistake, options.TextLanguage);
         !mistake.empty())
-        std::cerr << "qorvix-cli: " << mistake << std::endl;
+        TellMessage(mistake);
     if (!proposed.Text)
         return ExitStatus::Failed;
     std::erase(*proposed.Text, '\r');
-    std::cout << *proposed.Text << std::endl;
-    return std::cout ? ExitStatus::Done : ExitStatus::Failed;
+    Output output;
+    if (output.IsTerminal())
+        proposed.Text = WithVisibleControls(*proposed.Text, "\n\t");
+    output.Stream() << *proposed.Text << std::endl;
+    return output.Stream() ? ExitStatus::Done : ExitStatus::Failed;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PrintedList.h"
 
+#include "cli/Output.h"
 #include "cli/ReadSource.h"
 #include "cli/RowWriter.h"
 #include "filter/Filter.h"
@@ -8,24 +9,27 @@
 #include "logbook/AtomicFile.h"
 #include "logbook/FileProblem.h"
 #include "logbook/FollowLinks.h"
+#include "logbook/StopRequest.h"
 #include "logbook/modUtil.h"
 #include "settings/ReasonText.h"
 #include "settings/Registry.h"
 #include "settings/Texts.h"
 
 #include <filesystem>
-#include <fstream>
-#include <iostream>
 
 namespace {
 
 void WriteRows(const EntryTable& entries, const LogbookRows& rows, const ListOptions& options,
-               std::ostream& stream) {
-    const auto writer = MakeRowWriter(options.Format, options.Raw);
+               std::ostream& stream, bool isTerminal = false) {
+    const auto writer = MakeRowWriter({.Format = options.Format,
+                                       .Separator = options.Separator,
+                                       .ByteOrderMark = options.ByteOrderMark,
+                                       .Raw = options.Raw,
+                                       .ControlsAreVisible = isTerminal});
     writer->WriteHeader(stream);
     for (const LogbookRow& row : rows) {
         writer->WriteRow(entries, row, stream);
-        if (!stream)
+        if (!stream || StopRequest::IsMade())
             return;
     }
     stream.flush();
@@ -90,8 +94,9 @@ bool ReadList(const ListOptions& options, SourceLogbook& logbook, LogbookRows& r
 int PrintRows(const ListOptions& options, const EntryTable& entries, const LogbookRows& rows) {
     const auto text = [&](TextId id) { return std::string(Text(id, options.MessageLanguage)); };
     if (options.Output.empty()) {
-        WriteRows(entries, rows, options, std::cout);
-        return std::cout ? ExitStatus::Done : Fail(text(TextId::ListNotWritten));
+        Output output;
+        WriteRows(entries, rows, options, output.Stream(), output.IsTerminal());
+        return output.Stream() ? ExitStatus::Done : Fail(text(TextId::ListNotWritten));
     }
     const auto cannotWrite = [&](const std::error_code& error) {
         return Fail(options.Output + ": " + ReasonText(error, options.MessageLanguage));
@@ -101,12 +106,14 @@ int PrintRows(const ListOptions& options, const EntryTable& entries, const Logbo
         FollowLinks(ToPath(options.Output), error);
         if (error == FileProblem::ForeignLink)
             return cannotWrite(error);
-        std::ofstream stream(ToPath(options.Output), std::ios::binary);
-        WriteRows(entries, rows, options, stream);
-        return stream ? ExitStatus::Done : Fail(options.Output + text(TextId::FileNotWritten));
+        Output output(options.Output);
+        WriteRows(entries, rows, options, output.Stream(), output.IsTerminal());
+        return output.Stream() ? ExitStatus::Done : Fail(options.Output + text(TextId::FileNotWritten));
     }
     AtomicFile file(options.Output);
     WriteRows(entries, rows, options, file.Stream());
+    if (StopRequest::IsMade())
+        return ExitStatus::Failed;
     if (const std::error_code error = file.Commit())
         return cannotWrite(error);
     return ExitStatus::Done;

@@ -15,6 +15,8 @@ struct ListOptions {
     std::string File;
     std::string Format = "jsonl"; // or "csv"
     std::string Output;           // "" = standard output
+    char Separator = ',';         // CSV: of fields
+    bool ByteOrderMark = false;   // CSV: at the beginning
     bool Raw = false;             // CSV: no guard against text that a spreadsheet would run
     std::string Filters;          // a filter file; "" = none
     bool StoredFilters = false;   // the filters of the user's settings

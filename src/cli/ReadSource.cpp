@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ReadSource.h"
 
-#include "cli/ExitStatus.h"
 #include "cli/TerminalProgress.h"
 #include "eventinfo/ProgramFolder.h"
 #include "filter/FilterFile.h"
@@ -9,13 +8,6 @@
 #include "logbook/modUtil.h"
 #include "settings/Texts.h"
 #include "sources/Comments.h"
-
-#include <iostream>
-
-int Fail(const std::string& message) {
-    std::cerr << "qorvix-cli: " << message << std::endl;
-    return ExitStatus::Failed;
-}
 
 std::vector<std::filesystem::path> KeptFiles(const std::vector<std::string>& files) {
     std::vector<std::filesystem::path> kept{ToPath(ProgramFolder())};

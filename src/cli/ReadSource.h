@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/Messages.h"
 #include "cli/TerminalUser.h"
 #include "filter/FilterDefinition.h"
 #include "logbook/Logbook.h"
@@ -12,9 +13,6 @@
 #include <optional>
 #include <string>
 #include <vector>
-
-// Tells a message on standard error; the exit status of a command that failed.
-int Fail(const std::string& message);
 
 // What the program must not remove when it clears up: the files that a command is about, and its own place.
 std::vector<std::filesystem::path> KeptFiles(const std::vector<std::string>& files);

@@ -5,7 +5,16 @@
 
 #include <memory>
 #include <ostream>
-#include <string_view>
+#include <string>
+
+// The form that rows are printed in.
+struct RowForm {
+    std::string Format = "jsonl";    // or "csv"; what follows is of CSV only
+    char Separator = ',';            // of fields; or ";" or a TAB
+    bool ByteOrderMark = false;      // at the beginning, which tells some spreadsheets that this is UTF-8
+    bool Raw = false;                // no guard against text that a spreadsheet would run
+    bool ControlsAreVisible = false; // for a terminal, see logbook/VisibleControls.h; a TAB stays
+};
 
 // Writes rows of the list in one of the forms that the tool prints. All are UTF-8 and have the same fields in
 // the same order: index, type, event, data, sender, name, time, icon, highlighted, comment.
@@ -16,6 +25,11 @@ class RowWriter {
     virtual void WriteRow(const EntryTable& entries, const LogbookRow& row, std::ostream& stream) = 0;
 };
 
-// "jsonl": JSON Lines, one object a row. "csv": RFC 4180 with a header line; unless `raw` is set, a text that
-// a spreadsheet would take for a formula begins with an apostrophe.
-std::unique_ptr<RowWriter> MakeRowWriter(std::string_view format, bool raw);
+// "jsonl": JSON Lines, one object a row, with U+007F to U+009F escaped like the other control characters.
+//
+// "csv": RFC 4180 with a header line. A text with any of the separators, a quotation mark or a line break
+// stands in quotation marks. A program may take another character for the separator than the one that the
+// file has, and begin a cell behind it, within a text: so unless Raw is set, an apostrophe stands before each
+// "=", "+", "-", "@", TAB and CR that a cell may begin with, at the beginning of a text and behind ";", ",",
+// TAB and line breaks, also where blanks, quotation marks or control characters are between.
+std::unique_ptr<RowWriter> MakeRowWriter(const RowForm& form);

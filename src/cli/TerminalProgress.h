@@ -1,22 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/Messages.h"
 #include "logbook/ReadingProgress.h"
+#include "logbook/StopRequest.h"
 
-#include <iostream>
+#include <string>
 
-// Reading on a terminal: silent, interrupted by the terminal's own means, messages go to standard error.
+// Reading on a terminal: silent, ended by a signal, messages go to standard error.
 class TerminalProgress : public ReadingProgress {
   public:
     void SetValue(double) override {}
     void ProcessPendingEvents() override {}
-    bool StopWanted() const override { return false; }
+    bool StopWanted() const override { return StopRequest::IsMade(); }
 
     void ShowMessage(std::string_view text) override {
-        std::cerr << "qorvix-cli: ";
-        for (const char c : text)
-            if (c != '\r')
-                std::cerr << c;
-        std::cerr << std::endl;
+        std::string lines(text);
+        std::erase(lines, '\r');
+        TellMessage(lines, "\n");
     }
 };

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/Messages.h"
 #include "sources/UserInterface.h"
-
-#include <iostream>
 
 // Opening logbooks on a terminal: messages go to standard error, and the one question has been answered by an
 // option. What has no option is not agreed to.
@@ -12,7 +11,7 @@ class TerminalUser : public UserInterface {
     explicit TerminalUser(Answer answer) : answer_(answer) {}
 
     void ShowMessage(std::string_view text, MessageIcon) override {
-        std::cerr << "qorvix-cli: " << text << std::endl;
+        TellMessage(text);
         messageShown_ = true;
     }
     Answer Ask(TextId) override { return answer_; }

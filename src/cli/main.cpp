@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ExportCommand.h"
 #include "cli/FindCommand.h"
+#include "cli/Interruption.h"
 #include "cli/LookupCommand.h"
 #include "cli/PackCommand.h"
 #include "logbook/UnicodeCase.h"
+#include "logbook/VisibleControls.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <csignal>
 #include <iostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -28,8 +31,23 @@ void AddListOptions(CLI::App& command, ListOptions& options) {
         ->capture_default_str();
     command.add_option("--output", options.Output, "Write to this file instead of standard output")
         ->check(notEmpty);
+    command
+        .add_option_function<std::string>(
+            "--separator",
+            [&options](const std::string& name) {
+                options.Separator = name == "semicolon" ? ';' : name == "tab" ? '\t' : ',';
+            },
+            "CSV: what stands between the fields: comma (without this option), semicolon or tab")
+        ->check(CLI::IsMember({"comma", "semicolon", "tab"}));
+    command.add_flag("--bom", options.ByteOrderMark,
+                     "CSV: begin with a byte order mark, which tells some spreadsheets that this is UTF-8");
     command.add_flag("--raw", options.Raw,
                      "CSV: leave text that a spreadsheet would take for a formula as it is");
+    command.parse_complete_callback([&command, &options] {
+        for (const char* const option : {"--separator", "--bom"})
+            if (command.count(option) != 0 && options.Format != "csv")
+                throw CLI::ValidationError(option, "is for --format csv only");
+    });
 
     CLI::Option* filters =
         command.add_option("--filters", options.Filters, "Only what this filter file lets through")
@@ -87,24 +105,23 @@ int Tell(const CLI::App& app, const CLI::ParseError& error) {
     const std::vector<std::string> unknown = UnknownWords(app);
     const bool isUsage = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::ExtrasError) ||
                          error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError);
-    if (!isUsage || unknown.empty())
-        return app.exit(error) == 0 ? ExitStatus::Done : ExitStatus::WrongUsage;
-    std::cerr << (unknown.size() > 1 ? "The following arguments were not expected:"
-                                     : "The following argument was not expected:");
-    for (const std::string& word : unknown)
-        std::cerr << ' ' << word;
-    std::cerr << "\nRun with --help for more information." << std::endl;
-    return ExitStatus::WrongUsage;
+    std::ostringstream message;
+    int status = ExitStatus::WrongUsage;
+    if (!isUsage || unknown.empty()) {
+        status = app.exit(error, std::cout, message) == 0 ? ExitStatus::Done : ExitStatus::WrongUsage;
+    } else {
+        message << (unknown.size() > 1 ? "The following arguments were not expected:"
+                                       : "The following argument was not expected:");
+        for (const std::string& word : unknown)
+            message << ' ' << word;
+        message << "\nRun with --help for more information.\n";
+    }
+    std::cerr << WithVisibleControls(message.str(), "\n");
+    return status;
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-#ifdef SIGXFSZ
-    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is told like a full disk
-#endif
-    std::ios::sync_with_stdio(false);
-
+// The exit status.
+int Run(int argc, char** argv) {
     CLI::App app("Reads the event logbook of a ZEK machine-tool control.", "qorvix-cli");
     app.set_version_flag("--version", "qorvix-cli " QORVIX_VERSION);
     app.require_subcommand(1);
@@ -132,4 +149,17 @@ int main(int argc, char** argv) {
     if (lookupCommand->parsed())
         return RunLookup(lookupOptions);
     return find->parsed() ? RunFind(options, search) : RunExport(options);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+#ifdef SIGXFSZ
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is told like a full disk
+#endif
+    std::ios::sync_with_stdio(false);
+    const Interruption interruption;
+    const int status = Run(argc, argv);
+    Interruption::EndBySignal();
+    return status;
 }

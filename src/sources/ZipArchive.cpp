@@ -3,6 +3,7 @@
 
 #include "filter/FilterFile.h"
 #include "logbook/AsciiCase.h"
+#include "logbook/StopRequest.h"
 #include "sources/Comments.h"
 #include "sources/ZipReason.h"
 
@@ -135,6 +136,8 @@ bool ZipArchive::WriteMember(std::size_t member, const std::filesystem::path& ta
             return Fail(ReasonOf(*zip_file_get_error(source.get()), language_));
         if (count == 0)
             break;
+        if (StopRequest::IsMade())
+            return Fail(TextId::ZipNotUnpacked);
         written += static_cast<std::uint64_t>(count);
         // The claim bounds what is unpacked, whatever the packed data says.
         if (written > members_[member].Size)

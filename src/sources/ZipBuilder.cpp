@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/ZipBuilder.h"
 
+#include "logbook/StopRequest.h"
 #include "settings/ReasonText.h"
 #include "sources/ZipReason.h"
 #include "sources/ZipTarget.h"
@@ -52,6 +53,8 @@ void TellProgress(zip_t*, double part, void* progress) {
     (*static_cast<const PackingProgress*>(progress))(part * 100.0);
 }
 
+int IsCancelled(zip_t*, void*) { return StopRequest::IsMade() ? 1 : 0; }
+
 } // namespace
 
 std::string BuildZip(const std::filesystem::path& archive, std::span<const FileToPack> files,
@@ -66,6 +69,7 @@ std::string BuildZip(const std::filesystem::path& archive, std::span<const FileT
     PackingProgress tell = progress;
     if (tell)
         zip_register_progress_callback_with_state(zip.get(), ProgressStep, TellProgress, nullptr, &tell);
+    zip_register_cancel_callback_with_state(zip.get(), IsCancelled, nullptr, nullptr);
     const bool closed = zip_close(zip.get()) == 0;
     if (tell)
         tell(0);

@@ -75,10 +75,10 @@ TEST_F(ExportCommand, CsvQuotesAndGuards) {
     };
     const std::string header = "index,type,event,data,sender,name,time,icon,highlighted,comment\r\n";
     EXPECT_EQ(guarded.Output, header + row(0, "\"a,\"\"b\"\"\"") + row(1, "'=1+1") + row(2, "'+x") +
-                                  row(3, "\"'-x,y\"") + row(4, "'@x") + row(5, "'\tx") + row(6, "x="));
+                                  row(3, "\"'-x,y\"") + row(4, "'@x") + row(5, "\"'\tx\"") + row(6, "x="));
     const ProgramResult raw = RunCommandLineTool({"export", file, "--format", "csv", "--raw"});
     EXPECT_EQ(raw.Output, header + row(0, "\"a,\"\"b\"\"\"") + row(1, "=1+1") + row(2, "+x") +
-                              row(3, "\"-x,y\"") + row(4, "@x") + row(5, "\tx") + row(6, "x="));
+                              row(3, "\"-x,y\"") + row(4, "@x") + row(5, "\"\tx\"") + row(6, "x="));
 }
 
 TEST_F(ExportCommand, OutputFileIsReplacedWhole) {

@@ -14,3 +14,6 @@ struct ProgramResult {
 // none.
 ProgramResult RunCommandLineTool(const std::vector<std::string>& arguments,
                                  const std::string& configFolder = "");
+
+// The same with a terminal as standard output, which makes "\r\n" of each "\n".
+ProgramResult RunOnTerminal(const std::vector<std::string>& arguments);

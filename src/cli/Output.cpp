@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Output.h"
+
+#include "logbook/modUtil.h"
+
+#if defined(__unix__) || defined(__APPLE__)
+
+#include "cli/Interruption.h"
+#include "logbook/StopRequest.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstddef>
+#include <iterator>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+class DescriptorBuffer : public std::streambuf {
+  public:
+    DescriptorBuffer(int descriptor, bool isOwn) : descriptor_(descriptor), isOwn_(isOwn) {
+        struct stat status = {};
+        mayWait_ = ::fstat(descriptor_, &status) != 0 || !S_ISREG(status.st_mode);
+        setp(bytes_.data(), bytes_.data() + bytes_.size());
+    }
+    ~DescriptorBuffer() override {
+        DescriptorBuffer::sync();
+        if (isOwn_)
+            ::close(descriptor_);
+    }
+    DescriptorBuffer(const DescriptorBuffer&) = delete;
+    DescriptorBuffer& operator=(const DescriptorBuffer&) = delete;
+
+  protected:
+    int_type overflow(int_type c) override {
+        if (sync() != 0)
+            return traits_type::eof();
+        if (!traits_type::eq_int_type(c, traits_type::eof()))
+            sputc(traits_type::to_char_type(c));
+        return traits_type::not_eof(c);
+    }
+
+    int sync() override {
+        const char* next = pbase();
+        const bool written = WriteUntil(next);
+        setp(bytes_.data(), bytes_.data() + bytes_.size());
+        return written ? 0 : -1;
+    }
+
+  private:
+    bool WriteUntil(const char* next) {
+        while (next != pptr()) {
+            // What takes part of a write may keep the writer waiting for the rest, but not of so little.
+            const auto left = static_cast<std::size_t>(pptr() - next);
+            const std::size_t count = mayWait_ ? std::min<std::size_t>(left, PIPE_BUF) : left;
+            if (mayWait_ && !WaitForReader())
+                return false;
+            const ssize_t written = ::write(descriptor_, next, count);
+            if (written >= 0)
+                next += written;
+            else if ((errno != EINTR && errno != EAGAIN) || StopRequest::IsMade())
+                return false;
+        }
+        return true;
+    }
+
+    bool WaitForReader() const {
+        pollfd ends[] = {{descriptor_, POLLOUT, 0}, {Interruption::Descriptor(), POLLIN, 0}};
+        while (!StopRequest::IsMade() && ::poll(ends, std::size(ends), -1) < 0 && errno == EINTR) {
+        }
+        return !StopRequest::IsMade();
+    }
+
+    int descriptor_;
+    bool isOwn_;
+    bool mayWait_ = true;
+    std::array<char, 65536> bytes_;
+};
+
+} // namespace
+
+Output::Output()
+    : buffer_(std::make_unique<DescriptorBuffer>(STDOUT_FILENO, false)),
+      isTerminal_(::isatty(STDOUT_FILENO) == 1) {
+    stream_.rdbuf(buffer_.get());
+}
+
+Output::Output(const std::string& device) {
+    const int descriptor = ::open(ToPath(device).c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    buffer_ = std::make_unique<DescriptorBuffer>(descriptor, true);
+    stream_.rdbuf(buffer_.get());
+    isTerminal_ = ::isatty(descriptor) == 1;
+}
+
+#else
+
+#include <fstream>
+#include <iostream>
+
+Output::Output() : stream_(std::cout.rdbuf()) {}
+
+Output::Output(const std::string& device) {
+    auto file = std::make_unique<std::filebuf>();
+    if (file->open(ToPath(device), std::ios::out | std::ios::binary) != nullptr)
+        stream_.rdbuf(file.get());
+    buffer_ = std::move(file);
+}
+
+#endif
+
+Output::~Output() = default;
