@@ -29,12 +29,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         length += source.size();
     }
     Check(length <= line.size());
-    (void)IsSlashFile(line.substr(0, line.find('\0')));
 
     std::vector<std::string> arguments;
     for (std::string_view rest = line; !rest.empty();)
         if (const std::string_view argument = TakeLine(rest); IsPlain(argument))
             arguments.emplace_back(argument);
+    // Each argument is a file, whatever it looks like.
+    std::vector<std::string> files;
+    for (std::string_view rest = line.substr(0, line.find('\0')); !rest.empty();)
+        if (const std::string_view name = TakeLine(rest); !name.empty() && name.front() != '-' && name != "?")
+            files.emplace_back(name);
+    Check(ParseArguments(files, [](const std::string&) { return true; }) == CommandLine{files, false, false});
+
     const CommandLine joined = ParseCommandLine(JoinArguments(arguments), IsFile);
     Check(joined == CommandLine{arguments, false, false});
     return 0;

@@ -12,6 +12,7 @@
 #include "list/LogbookView.h"
 #include "list/QtText.h"
 #include "logbook/Mod_FileHandling.h"
+#include "logbook/modUtil.h"
 #include "sources/CommandLine.h"
 #include "sources/Comments.h"
 #include "sources/LogbookSource.h"
@@ -23,7 +24,7 @@
 #include <optional>
 
 void frmMain::RunCommandLine(const std::vector<std::string>& arguments) {
-    const CommandLine commandLine = ParseCommandLine(JoinArguments(arguments), IsSlashFile);
+    const CommandLine commandLine = ParseArguments(arguments, FileExists);
     bool opened = false;
     for (const std::string& source : commandLine.Sources) {
         std::string name = source;

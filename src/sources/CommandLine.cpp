@@ -2,7 +2,7 @@
 #include "sources/CommandLine.h"
 
 #include "logbook/AsciiCase.h"
-#include "logbook/modUtil.h"
+#include "logbook/Blanks.h"
 #include "settings/Texts.h"
 
 #include <algorithm>
@@ -39,6 +39,24 @@ void ApplyOption(std::string_view text, CommandLine& commandLine) {
         commandLine.ShowUsage = true;
 }
 
+// Stands before and behind the number of a file, in the place of its name in a command line. No argument
+// holds it.
+constexpr char FileMark = '\0';
+
+std::string WithNames(const std::string& source, const std::vector<std::string>& arguments) {
+    std::string text;
+    for (std::size_t i = 0; i < source.size(); ++i) {
+        if (source[i] != FileMark) {
+            text += source[i];
+            continue;
+        }
+        const std::size_t end = source.find(FileMark, i + 1);
+        text += arguments[std::stoul(source.substr(i + 1, end - i - 1))];
+        i = end;
+    }
+    return text;
+}
+
 } // namespace
 
 CommandLine ParseCommandLine(std::string_view line, const std::function<bool(std::string_view)>& isFile) {
@@ -56,6 +74,23 @@ CommandLine ParseCommandLine(std::string_view line, const std::function<bool(std
     return commandLine;
 }
 
+CommandLine ParseArguments(const std::vector<std::string>& arguments,
+                           const std::function<bool(const std::string&)>& fileExists) {
+    std::vector<std::string> words;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& argument = arguments[i];
+        const bool isFile =
+            !argument.empty() && argument.front() != '-' && argument != "?" && fileExists(argument);
+        words.push_back(isFile ? FileMark + std::to_string(i) + FileMark : argument);
+    }
+    CommandLine commandLine = ParseCommandLine(JoinArguments(words), [&](std::string_view word) {
+        return word.find('/', 1) != std::string_view::npos || fileExists(std::string(word));
+    });
+    for (std::string& source : commandLine.Sources)
+        source = WithNames(source, arguments);
+    return commandLine;
+}
+
 std::string JoinArguments(const std::vector<std::string>& arguments) {
     std::string line;
     for (const std::string& argument : arguments) {
@@ -64,10 +99,6 @@ std::string JoinArguments(const std::vector<std::string>& arguments) {
         line += quoted ? '"' + argument + '"' : argument;
     }
     return line;
-}
-
-bool IsSlashFile(std::string_view word) {
-    return word.find('/', 1) != std::string_view::npos || FileExists(std::string(word));
 }
 
 std::string UsageText(Language language) {

@@ -25,11 +25,14 @@ struct CommandLine {
 // `isFile` tells of a word that begins with "/" whether it names a file: file names begin so on some systems.
 CommandLine ParseCommandLine(std::string_view line, const std::function<bool(std::string_view)>& isFile);
 
+// Reads the arguments of the process as one command line, but an argument that names an existing file is that
+// file, whatever blanks and quotes its name has, unless it begins with "-" or is "?". A word that begins with
+// "/" names a file also where it holds a further "/".
+CommandLine ParseArguments(const std::vector<std::string>& arguments,
+                           const std::function<bool(const std::string&)>& fileExists);
+
 // The arguments of the process as one command line; an argument that holds a blank is put in double quotes.
 std::string JoinArguments(const std::vector<std::string>& arguments);
-
-// True for a word that begins with "/" and holds a further one or names an existing file.
-bool IsSlashFile(std::string_view word);
 
 // The message that explains the command line.
 std::string UsageText(Language language);

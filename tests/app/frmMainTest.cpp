@@ -271,6 +271,14 @@ class frmMainTest : public MainWindowTest {
         QCOMPARE(Window->windowTitle(), QString("a - Qorvix"));
     }
 
+    void AFileIsOpenedWhateverItsName() {
+        for (const char* const name : {"my \"press\" log.log", "\"a\".log", " b \".log"}) {
+            Window->RunCommandLine({"-emb", File(name, {Header("BERR:    a"), Header("RESET:")})});
+            QCOMPARE(Counts(), QString("2 / 2 Items"));
+            QCOMPARE(Window->windowTitle(), QString(name).section('.', 0, 0) + " - Qorvix");
+        }
+    }
+
     void UnknownOptionShowsTheUsage() {
         AnswerMessages(1);
         Window->RunCommandLine({"-y", File("my log.log", {Header("BERR:    a"), Header("RESET:")})});

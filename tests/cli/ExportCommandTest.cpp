@@ -81,6 +81,15 @@ TEST_F(ExportCommand, CsvQuotesAndGuards) {
                               row(3, "\"-x,y\"") + row(4, "@x") + row(5, "\"\tx\"") + row(6, "x="));
 }
 
+TEST_F(ExportCommand, NamesOfFilesMayHoldQuotesAndBlanks) {
+    for (const std::string name : {"my \"press\" log.log", " lead.log", "\"a.log", "\"b\"", "'c'.log", " "}) {
+        const std::string file = Folder.Write(name, Lines({Header("BERR:    " + name)}));
+        EXPECT_EQ(RunCommandLineTool({"export", file}).ExitStatus, 0) << name;
+        EXPECT_EQ(RunCommandLineTool({"export", file, "--output", Folder / (name + ".jsonl")}).ExitStatus, 0);
+        EXPECT_THAT(FileContent(Folder / (name + ".jsonl")), HasSubstr("\"type\":4"));
+    }
+}
+
 TEST_F(ExportCommand, OutputFileIsReplacedWhole) {
     const std::string output = Folder.Write("list.csv", "old");
     const ProgramResult result = RunCommandLineTool(

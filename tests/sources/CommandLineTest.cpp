@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 
 CommandLine Parse(std::string_view line) {
@@ -58,8 +60,36 @@ TEST(CommandLine, SlashBeginsAFileOrAnOption) {
     EXPECT_EQ(Parse("/home/a.log").Sources, (Words{"/home/a.log"}));
     EXPECT_EQ(Parse("/log").Sources, (Words{"/log"}));
     EXPECT_TRUE(Parse("/logs").ShowUsage);
-    EXPECT_TRUE(IsSlashFile("/home/a.log"));
-    EXPECT_FALSE(IsSlashFile("/emb"));
+    const auto none = [](const std::string&) { return false; };
+    EXPECT_EQ(ParseArguments({"/home/a.log", "/emb"}, none), (CommandLine{{"/home/a.log"}, true, false}));
+    EXPECT_EQ(ParseArguments({"/emb"}, [](const std::string&) { return true; }),
+              (CommandLine{{"/emb"}, false, false}));
+}
+
+TEST(CommandLine, AnArgumentThatNamesAFileIsThatFile) {
+    const Words files = {
+        "my \"press\" log.log", " lead.log", "\"a.log", "\"\"", "  ", "trail ", "a \" b", "\"q\"", "b.log"};
+    const auto exists = [&](const std::string& name) {
+        return std::find(files.begin(), files.end(), name) != files.end();
+    };
+    EXPECT_EQ(ParseArguments(files, exists), (CommandLine{files, false, false}));
+    EXPECT_EQ(ParseArguments({"-emb", "\"\"", "-y", " lead.log"}, exists),
+              (CommandLine{{"\"\"", " lead.log"}, true, false}));
+}
+
+TEST(CommandLine, OptionsAreNoFilesWhateverThereIs) {
+    const auto all = [](const std::string&) { return true; };
+    EXPECT_EQ(ParseArguments({"-emb", "./-emb"}, all), (CommandLine{{"./-emb"}, true, false}));
+    EXPECT_EQ(ParseArguments({"?"}, all), (CommandLine{{}, false, true}));
+}
+
+TEST(CommandLine, OtherArgumentsAreOneCommandLine) {
+    const auto exists = [](const std::string& name) { return name == "a.log" || name == "my \" log.log"; };
+    const auto parse = [&](const Words& arguments) { return ParseArguments(arguments, exists).Sources; };
+    EXPECT_EQ(parse({"no.log", "two words", "", "\"quoted\""}), (Words{"no.log", "two words", "quoted"}));
+    EXPECT_EQ(parse({"a.log", "\"\"", "a.log", "my \" log.log"}), (Words{"a.log", "\" a.log my \" log.log"}));
+    EXPECT_EQ(parse({"\"no", "a.log\"", "a.log"}), (Words{"no a.log", "a.log"}));
+    EXPECT_EQ(parse({"\"-y", "a.log", "end\"", "a.log"}), (Words{"a.log"}));
 }
 
 TEST(CommandLine, ArgumentsAreJoinedWithQuotesRestored) {
