@@ -2,6 +2,7 @@
 #include "dialogs/FilterRows.h"
 
 #include "list/QtText.h"
+#include "list/ToolTip.h"
 
 #include <QTreeWidgetItem>
 
@@ -41,8 +42,7 @@ void FilterRows::Write(const FilterDefinition& filter, QTreeWidgetItem& row) con
     row.setData(FilterColumns::Type, Qt::AccessibleTextRole, type + ": " + action);
     const auto writeText = [&](int column, const std::string& text) {
         row.setText(column, ToQString(text));
-        const QString shown = ShownInCell(row.text(column));
-        row.setToolTip(column, text.empty() ? QString() : "<qt>" + shown.toHtmlEscaped() + "</qt>");
+        row.setToolTip(column, ToolTipOf(ShownInCell(row.text(column))));
     };
     writeText(FilterColumns::String, filter.StringFilter);
     writeText(FilterColumns::Name, filter.Name);

@@ -3,6 +3,7 @@
 
 #include "list/LogbookModel.h"
 #include "list/QtText.h"
+#include "list/ToolTip.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -56,8 +57,6 @@ bool RowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QS
     const QRect seen = view->style()->subElementRect(QStyle::SE_ItemViewItemText, &cell, view);
     const int margin = view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &cell, view) + 1;
     const bool cut = cell.fontMetrics.horizontalAdvance(cell.text) > seen.width() - 2 * margin;
-    // As plain text: an event may hold what looks like markup.
-    QToolTip::showText(event->globalPos(), cut ? "<qt>" + cell.text.toHtmlEscaped() + "</qt>" : QString(),
-                       view);
+    QToolTip::showText(event->globalPos(), cut ? ToolTipOf(cell.text) : QString(), view);
     return true;
 }

@@ -5,6 +5,7 @@
 #include "list/LogbookModel.h"
 #include "list/LogbookView.h"
 #include "list/QtText.h"
+#include "list/ToolTip.h"
 #include "list/Twips.h"
 
 #include <QHelpEvent>
@@ -100,8 +101,7 @@ QString TagViewer::ToolTipAt(double y) const {
     std::string text;
     for (const LogbookColumn column : {LogbookColumn::Index, LogbookColumn::Time, LogbookColumn::Event})
         text.append(text.empty() ? "" : "  ").append(CellText(entries_, number, column));
-    // As plain text: a time stamp may hold what looks like markup.
-    return "<qt style='white-space:pre'>" + ToQString(text).toHtmlEscaped() + "</qt>";
+    return ToolTipOf(ShownInCell(ToQString(text)));
 }
 
 bool TagViewer::event(QEvent* event) {
