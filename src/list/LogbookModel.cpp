@@ -4,6 +4,7 @@
 #include "list/EntryActions.h"
 #include "list/LogbookColumns.h"
 #include "list/QtText.h"
+#include "list/SpokenRow.h"
 
 #include <unordered_map>
 #include <utility>
@@ -72,11 +73,14 @@ void LogbookModel::SwitchHighlighting(const RowRanges& ranges) {
     ::SwitchHighlighting(rows_, ranges);
     emit dataChanged(index(static_cast<int>(ranges.front().First), 0),
                      index(static_cast<int>(ranges.back().Last), 0));
+    emit SpokenTextChanged(ranges);
 }
 
 void LogbookModel::SetLanguage(Language language) {
     language_ = language;
     emit headerDataChanged(Qt::Horizontal, 0, LogbookColumnCount - 1);
+    if (!rows_.empty())
+        emit SpokenTextChanged({{0, rows_.size() - 1}});
 }
 
 int LogbookModel::rowCount(const QModelIndex& parent) const {
@@ -95,6 +99,8 @@ QVariant LogbookModel::data(const QModelIndex& index, int role) const {
         return ToQString(CellText(entries_, row.Entry, static_cast<LogbookColumn>(index.column())));
     if (role == ImageRole && index.column() == 0)
         return RowImage(row, entries_);
+    if (role == Qt::AccessibleTextRole && index.column() == 0)
+        return ToQString(SpokenRow(entries_, row, language_));
     return {};
 }
 

@@ -10,7 +10,8 @@
 #include <string>
 
 // The logbook list's rows for a view. Nothing is copied or prepared: the text of a cell is made from its
-// entry when the view asks for it, which is when the row is on the screen.
+// entry when the view asks for it, which is when the row is on the screen. The accessible text of a row's
+// first cell is what SpokenRow.h says.
 class LogbookModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -44,13 +45,17 @@ class LogbookModel : public QAbstractTableModel {
     // Plain rows become highlighted, highlighted ones plain.
     void SwitchHighlighting(const RowRanges& ranges);
 
-    // The language of the column headers.
+    // The language of the column headers and of what a screen reader says.
     void SetLanguage(Language language);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+  signals:
+    // A screen reader is to say something else for these rows than before.
+    void SpokenTextChanged(const RowRanges& rows);
 
   private:
     const EntryTable& entries_;

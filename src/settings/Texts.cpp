@@ -84,6 +84,15 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::pbTagViewer, "Overview of highlighted rows", "Übersicht der markierten Zeilen"},
     {TextId::txContent, "Contents of the selected row", "Inhalt der gewählten Zeile"},
     {TextId::ProgressBar, "Progress", "Fortschritt"},
+    // What the icons of the list tell, for screen readers
+    {TextId::IconMouse, "mouse click", "Mausklick"},
+    {TextId::IconStatusOn, "on", "an"},
+    {TextId::IconStatusBlink, "blinking", "blinkend"},
+    {TextId::IconStatusOff, "off", "aus"},
+    {TextId::IconDebugSend, "debugging data sent", "Testdaten gesendet"},
+    {TextId::IconDebugReceive, "debugging data received", "Testdaten empfangen"},
+    {TextId::IconErrorCleared, "error cleared", "Fehler gelöscht"},
+    {TextId::RowHighlighted, "highlighted", "markiert"},
     // The file dialogs of the main window
     {TextId::OpenTitle, "Open", "Öffnen"},
     {TextId::OpenFilter,

@@ -75,6 +75,15 @@ enum class TextId : std::uint16_t {
     pbTagViewer,
     txContent,
     ProgressBar,
+    // What the icons of the list tell, for screen readers
+    IconMouse,
+    IconStatusOn,
+    IconStatusBlink,
+    IconStatusOff,
+    IconDebugSend,
+    IconDebugReceive,
+    IconErrorCleared,
+    RowHighlighted,
     // The file dialogs of the main window
     OpenTitle,
     OpenFilter,

@@ -41,6 +41,23 @@ class LogbookModelTest : public QObject {
         QVERIFY(!model.headerData(LogbookColumnCount, Qt::Horizontal).isValid());
     }
 
+    void FirstCellTellsAScreenReaderOfTheRow() {
+        LogbookModel model(Result.Book.Entries);
+        model.SetRows({{1, 1}, {0, 0}});
+        const auto spoken = [&](int row) {
+            return model.index(row, 0).data(Qt::AccessibleTextRole).toString();
+        };
+        QCOMPARE(spoken(0), QString("Fatal, highlighted"));
+        QCOMPARE(spoken(1), QString("Info"));
+        model.SetLanguage({Language::German});
+        QCOMPARE(spoken(0), QString("Fatal, markiert"));
+        model.SwitchHighlighting({{0, 1}});
+        QCOMPARE(spoken(0), QString("Fatal"));
+        QCOMPARE(spoken(1), QString("Info, markiert"));
+        // The other cells say what they show.
+        QVERIFY(!model.index(0, 1).data(Qt::AccessibleTextRole).isValid());
+    }
+
     void KeptIndexesFollowTheirEntriesThroughASort() {
         LogbookModel model(Result.Book.Entries);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
