@@ -9,8 +9,6 @@
 #include "settings/Texts.h"
 #include "sources/UserInterface.h"
 
-#include <QScrollBar>
-
 #include <algorithm>
 
 WindowSearch::WindowSearch(LogbookView& list, const EntryTable& entries, UserInterface& user, QWidget& window)
@@ -48,11 +46,8 @@ void WindowSearch::FindFromSelection(bool up) {
         return;
     }
     const int row = FoundRow - 1;
-    // The list scrolls to cells, and so also to their column; the person stays where the text is.
-    const int left = list_.horizontalScrollBar()->value();
     list_.SelectRanges({{static_cast<std::size_t>(row), static_cast<std::size_t>(row)}}, row);
     EnsureVisible(FoundRow, up);
-    list_.horizontalScrollBar()->setValue(left);
     emit RowFound(row);
 }
 

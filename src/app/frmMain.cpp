@@ -349,6 +349,7 @@ void frmMain::EditFilters() {
 void frmMain::RemoveSelectedEntries() {
     const WaitPointer wait;
     lvLogbook->RemoveRows(RemoveFromList(registry_, model_->Rows(), lvLogbook->SelectedRanges()));
+    ShowSelectedContent();
     if (sbStatusBar->HasCounts())
         ShowLogbookStatus();
 }

@@ -23,7 +23,7 @@ class CellDelegate : public QStyledItemDelegate {
 
 } // namespace
 
-DialogList::DialogList(int columns, QWidget* parent) : QTreeWidget(parent) {
+DialogList::DialogList(int columns, QWidget* parent) : ListOfRows(parent) {
     setColumnCount(columns);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
@@ -46,8 +46,8 @@ QTreeWidgetItem* DialogList::SelectedRow() const {
 }
 
 void DialogList::SelectAndShow(QTreeWidgetItem* row) {
-    setCurrentItem(row, 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    scrollToItem(row);
+    setCurrentIndex(indexFromItem(row));
+    scrollTo(indexFromItem(row));
 }
 
 void DialogList::RemoveSelectedRows() {
@@ -58,8 +58,7 @@ void DialogList::RemoveSelectedRows() {
             next = next < 0 ? row : next - 1;
         }
     if (next >= 0 && topLevelItemCount() > 0)
-        setCurrentItem(topLevelItem(std::min(next, topLevelItemCount() - 1)), 0,
-                       QItemSelectionModel::NoUpdate);
+        SelectAndShow(topLevelItem(std::min(next, topLevelItemCount() - 1)));
 }
 
 void DialogList::Reorder(std::span<const std::uint32_t> rows) {
@@ -74,34 +73,35 @@ void DialogList::Reorder(std::span<const std::uint32_t> rows) {
     for (QTreeWidgetItem* const row : selected)
         row->setSelected(true);
     if (current != nullptr)
-        scrollToItem(current);
+        scrollTo(indexFromItem(current));
 }
 
 void DialogList::keyPressEvent(QKeyEvent* event) {
-    const bool shiftF10 = event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier;
-    if (event->key() == Qt::Key_Delete)
+    if (event->key() == Qt::Key_Delete) {
         emit RemoveWanted();
-    else if (event->key() == Qt::Key_Menu || shiftF10)
+    } else if (IsPopupKey(*event)) {
+        SelectCurrentIfNone();
         emit PopupWanted(PopupPosition());
-    else
-        return QTreeWidget::keyPressEvent(event);
+    } else {
+        return ListOfRows::keyPressEvent(event);
+    }
     event->accept();
 }
 
 void DialogList::mouseReleaseEvent(QMouseEvent* event) {
-    QTreeWidget::mouseReleaseEvent(event);
+    ListOfRows::mouseReleaseEvent(event);
     if (event->button() == Qt::RightButton)
         emit PopupWanted(event->globalPosition().toPoint());
 }
 
 void DialogList::mouseDoubleClickEvent(QMouseEvent* event) {
     const QPoint place = event->position().toPoint();
-    QTreeWidget::mouseDoubleClickEvent(event);
+    ListOfRows::mouseDoubleClickEvent(event);
     // On a check box it is two clicks, which turn it on and off: nothing is edited.
     if (event->button() != Qt::LeftButton || IsOnCheckBox(place))
         return;
     if (QTreeWidgetItem* const row = itemAt(place); row != nullptr && !row->isSelected())
-        setCurrentItem(row, 0, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        SelectAndShow(row);
     emit EditWanted();
 }
 

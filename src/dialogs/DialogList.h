@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "list/ListOfRows.h"
+
 #include <QTreeWidget>
 
 #include <cstdint>
@@ -8,7 +10,7 @@
 
 // The list of a dialog: a few rows in columns, of which several can be selected. What the person wants done
 // comes out as a signal; the popup menu comes with the mouse-up of the right button and with its keys.
-class DialogList : public QTreeWidget {
+class DialogList : public ListOfRows<QTreeWidget> {
     Q_OBJECT
 
   public:
@@ -21,7 +23,7 @@ class DialogList : public QTreeWidget {
     // Selects this row alone and shows it.
     void SelectAndShow(QTreeWidgetItem* row);
 
-    // The others keep their order; the one behind the last removed becomes current, not selected.
+    // The others keep their order. The one behind the last removed is selected then, or the last of all.
     void RemoveSelectedRows();
 
     // Puts the rows into the order of these numbers, each row's own once. The same rows stay selected.

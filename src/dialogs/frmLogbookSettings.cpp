@@ -48,6 +48,7 @@ frmLogbookSettings::frmLogbookSettings(const FilterDialogContext& context, std::
     MakeControls();
     LoadLanguage();
     ShowRows(lists_.Filters);
+    lvFilter->setFocus();
     resize(sizeHint().expandedTo({480, 340}));
     LoadDialogColumns(context.Settings, SubKeys::FilterDialog, FilterColumnWidths, *lvFilter->header());
 }
@@ -273,6 +274,8 @@ void frmLogbookSettings::ShowRows(const std::vector<FilterDefinition>& filters) 
     lvFilter->clear();
     for (const FilterDefinition& filter : filters)
         rows_.Write(filter, *new QTreeWidgetItem(lvFilter));
+    if (!filters.empty())
+        lvFilter->SelectAndShow(lvFilter->topLevelItem(0));
     ShowNote();
 }
 

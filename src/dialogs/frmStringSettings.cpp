@@ -67,6 +67,10 @@ frmStringSettings::frmStringSettings(Registry& registry, Language language,
     for (const StringFilter& filter : stringFilters)
         if (!filter.FilterString.empty())
             Write(filter, *new QTreeWidgetItem(lvFilterStrings));
+    // The keys begin there. It is not selected: OK gives the string of a row that the person selects.
+    if (lvFilterStrings->topLevelItemCount() > 0)
+        lvFilterStrings->setCurrentItem(lvFilterStrings->topLevelItem(0), 0, QItemSelectionModel::NoUpdate);
+    lvFilterStrings->setFocus();
     resize(sizeHint().expandedTo({420, 300}));
     LoadDialogColumns(registry, SubKeys::StringFilterDialog, StringFilterColumnWidths,
                       *lvFilterStrings->header());

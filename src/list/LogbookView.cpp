@@ -4,16 +4,19 @@
 #include "list/LogbookModel.h"
 #include "list/RowDelegate.h"
 
+#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPainter>
 #include <QScrollBar>
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -26,9 +29,20 @@ std::optional<QString> DroppedFile(const QMimeData& data) {
     return QFileInfo(path).isDir() ? std::nullopt : std::optional(path);
 }
 
+// Knows no current cell but the first of a row, whichever was clicked: that is the one of which a screen
+// reader tells the row.
+class SelectionOfRows : public QItemSelectionModel {
+  public:
+    using QItemSelectionModel::QItemSelectionModel;
+
+    void setCurrentIndex(const QModelIndex& cell, QItemSelectionModel::SelectionFlags command) override {
+        QItemSelectionModel::setCurrentIndex(cell.siblingAtColumn(0), command);
+    }
+};
+
 } // namespace
 
-LogbookView::LogbookView(QWidget* parent) : QTableView(parent) {
+LogbookView::LogbookView(QWidget* parent) : ListOfRows(parent) {
     setObjectName("lvLogbook");
     setItemDelegate(new RowDelegate(this));
     setSelectionBehavior(SelectRows);
@@ -52,6 +66,10 @@ LogbookView::LogbookView(QWidget* parent) : QTableView(parent) {
 void LogbookView::SetLogbook(LogbookModel* model) {
     model_ = model;
     setModel(model);
+    const QItemSelectionModel* const ofCells = selectionModel();
+    setSelectionModel(new SelectionOfRows(model, this));
+    delete ofCells;
+    connect(model, &LogbookModel::SpokenTextChanged, this, &LogbookView::AnnounceRows);
 }
 
 RowRanges LogbookView::SelectedRanges() const {
@@ -77,8 +95,11 @@ void LogbookView::SelectRanges(const RowRanges& ranges, std::optional<int> curre
     for (const RowRange& range : ranges)
         selection.append(QItemSelectionRange(model()->index(static_cast<int>(range.First), 0),
                                              model()->index(static_cast<int>(range.Last), lastColumn)));
-    if (current)
-        selectionModel()->setCurrentIndex(model()->index(*current, 0), QItemSelectionModel::NoUpdate);
+    if (current) {
+        setAutoScroll(false);
+        setCurrentIndex(model()->index(*current, 0));
+        setAutoScroll(true);
+    }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
 
@@ -108,9 +129,7 @@ void LogbookView::RemoveRows(const RowRanges& ranges) {
     verticalScrollBar()->setValue(top);
     const std::size_t next = ranges.back().Last + 1 - RowCount(ranges);
     if (!model_->Rows().empty())
-        selectionModel()->setCurrentIndex(
-            model_->index(static_cast<int>(std::min(next, model_->Rows().size() - 1)), 0),
-            QItemSelectionModel::NoUpdate);
+        SelectAndShow(static_cast<int>(std::min(next, model_->Rows().size() - 1)));
 }
 
 void LogbookView::ShowSortIndicator() {
@@ -126,6 +145,42 @@ void LogbookView::SelectAndShow(int row) {
     scrollTo(model()->index(row, 0));
 }
 
+// What is dropped on the header, a scroll bar or the corner comes to the list itself.
+bool LogbookView::event(QEvent* event) {
+    switch (event->type()) {
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        return viewportEvent(event);
+    default:
+        return ListOfRows::event(event);
+    }
+}
+
+QModelIndex LogbookView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    if (action == MoveHome || action == MoveEnd)
+        return model()->index(action == MoveHome ? 0 : model()->rowCount() - 1, 0);
+    return ListOfRows::moveCursor(action, modifiers);
+}
+
+void LogbookView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    ListOfRows::currentChanged(current, previous);
+    for (const QModelIndex& cell : {current, previous})
+        if (cell.isValid())
+            viewport()->update(RowRect(cell.row()));
+}
+
+// The frame of the focus, in a colour that stands out against the row's own.
+void LogbookView::paintEvent(QPaintEvent* event) {
+    ListOfRows::paintEvent(event);
+    if (!hasFocus() || !currentIndex().isValid())
+        return;
+    const bool selected = selectionModel()->isSelected(currentIndex());
+    QPainter painter(viewport());
+    painter.setPen(palette().color(selected ? QPalette::HighlightedText : QPalette::Text));
+    painter.drawRect(RowRect(currentIndex().row()).adjusted(1, 1, -2, -2));
+}
+
 void LogbookView::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Delete:
@@ -138,25 +193,38 @@ void LogbookView::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Space:
         emit ToggleWanted();
         break;
-    case Qt::Key_Menu:
-        emit PopupWanted(PopupPosition());
+    case Qt::Key_Left:
+        horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepSub);
+        break;
+    case Qt::Key_Right:
+        horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd);
         break;
     default:
-        QTableView::keyPressEvent(event);
-        return;
+        if (!IsPopupKey(*event)) {
+            ListOfRows::keyPressEvent(event);
+            return;
+        }
+        SelectCurrentIfNone();
+        emit PopupWanted(PopupPosition());
     }
     event->accept();
 }
 
 void LogbookView::keyReleaseEvent(QKeyEvent* event) {
-    QTableView::keyReleaseEvent(event);
+    ListOfRows::keyReleaseEvent(event);
     emit KeyUp();
 }
 
+void LogbookView::mousePressEvent(QMouseEvent* event) {
+    ListOfRows::mousePressEvent(event);
+    rowPressed_ = indexAt(event->position().toPoint()).isValid();
+}
+
 void LogbookView::mouseReleaseEvent(QMouseEvent* event) {
-    QTableView::mouseReleaseEvent(event);
+    ListOfRows::mouseReleaseEvent(event);
     const bool right = event->button() == Qt::RightButton;
-    if ((right || event->button() == Qt::LeftButton) && indexAt(event->position().toPoint()).isValid())
+    const bool onRow = std::exchange(rowPressed_, false) || indexAt(event->position().toPoint()).isValid();
+    if ((right || event->button() == Qt::LeftButton) && onRow)
         emit RowClicked();
     if (right)
         emit PopupWanted(event->globalPosition().toPoint());
@@ -164,7 +232,7 @@ void LogbookView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void LogbookView::mouseDoubleClickEvent(QMouseEvent* event) {
-    QTableView::mouseDoubleClickEvent(event);
+    ListOfRows::mouseDoubleClickEvent(event);
     if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid())
         emit PropertiesWanted();
 }
@@ -172,11 +240,41 @@ void LogbookView::mouseDoubleClickEvent(QMouseEvent* event) {
 // The popup menu comes with the mouse-up of the right button and with its key.
 void LogbookView::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
 
+// All of the row, also what is scrolled out of sight.
+QRect LogbookView::RowRect(int row) const {
+    return {columnViewportPosition(0), rowViewportPosition(row), horizontalHeader()->length(),
+            rowHeight(row)};
+}
+
 QPoint LogbookView::PopupPosition() const {
-    const QRect row = visualRect(currentIndex());
-    const QRect seen = row & viewport()->rect();
+    const QRect seen =
+        currentIndex().isValid() ? RowRect(currentIndex().row()) & viewport()->rect() : QRect();
     return viewport()->mapToGlobal(seen.isEmpty() ? QPoint()
                                                   : QPoint(viewport()->rect().left(), seen.bottom()));
+}
+
+// Tells a screen reader of those rows that are on the screen, of which there are few.
+void LogbookView::AnnounceRows(const RowRanges& rows) {
+    if (rowAt(0) < 0)
+        return;
+    const int bottom = rowAt(viewport()->height() - 1);
+    const auto top = static_cast<std::size_t>(rowAt(0));
+    const auto end = static_cast<std::size_t>(bottom < 0 ? model()->rowCount() : bottom + 1);
+    for (auto range = std::lower_bound(rows.begin(), rows.end(), top,
+                                       [](const RowRange&r, std::size_t row) { return r.Last < row; });
+         range != rows.end() && range->First < end; ++range)
+        for (std::size_t row = std::max(top, range->First); row <= range->Last && row < end; ++row)
+            AnnounceRow(static_cast<int>(row));
+}
+
+void LogbookView::AnnounceRow(int row) {
+    QAccessibleInterface* const list =
+        QAccessible::isActive() ? QAccessible::queryAccessibleInterface(this) : nullptr;
+    if (list != nullptr && list->tableInterface() != nullptr) {
+        QAccessibleEvent changed(list->tableInterface()->cellAt(row, 0), QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&changed);
+    }
+    emit RowAnnounced(row);
 }
 
 // Whatever the other program proposes, its file stays where it is.

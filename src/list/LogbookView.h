@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "list/ListOfRows.h"
 #include "list/RowRanges.h"
 
 #include <QTableView>
@@ -10,8 +11,9 @@
 class LogbookModel;
 
 // The logbook list on the screen. It knows what a key, a click or a dropped file means in the list, and tells
-// its window; it changes nothing of the logbook itself.
-class LogbookView : public QTableView {
+// its window; it changes nothing of the logbook itself. The keyboard's focus is on a row, around which it is
+// drawn; Left and Right scroll sideways.
+class LogbookView : public ListOfRows<QTableView> {
     Q_OBJECT
 
   public:
@@ -26,13 +28,15 @@ class LogbookView : public QTableView {
     // The selected row, where one is meant: the current row when it is selected, otherwise the first that is.
     std::optional<int> SelectedRow() const;
 
-    // Selects exactly these rows and makes one of them, or none, the current row. Does not scroll.
+    // Selects exactly these rows and makes one of them, or none, the current row, at which a selection with
+    // Shift begins. Does not scroll.
     void SelectRanges(const RowRanges& ranges, std::optional<int> current);
 
     // Sorts by a column; the selection stays on its entries.
     void SortByColumn(int column);
 
-    // Takes these rows out of the list. The row that follows them becomes the current one, unselected.
+    // Takes these rows out of the list. The row that follows the last of them is selected then, or the last
+    // row of the list.
     void RemoveRows(const RowRanges& ranges);
 
     // Shows by which column the list is sorted, if it is.
@@ -52,14 +56,23 @@ class LogbookView : public QTableView {
     void PopupWanted(const QPoint& globalPosition);
     void FileDropped(const QString& path);
 
-    // The events after which the content pane and the tag viewer are brought up to date.
+    // The events after which the content pane and the tag viewer are brought up to date. A row is clicked
+    // when the mouse button went down on one or comes up on one; a drag may end anywhere.
     void RowClicked();
     void KeyUp();
     void MouseUp();
 
+    // A screen reader has been told to say something else for this row, which is on the screen.
+    void RowAnnounced(int row);
+
   protected:
+    bool event(QEvent* event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -68,8 +81,12 @@ class LogbookView : public QTableView {
     void dropEvent(QDropEvent* event) override;
 
   private:
+    QRect RowRect(int row) const;
     QPoint PopupPosition() const;
+    void AnnounceRows(const RowRanges& rows);
+    void AnnounceRow(int row);
     static void TakeCopy(QDropEvent* event);
 
     LogbookModel* model_ = nullptr;
+    bool rowPressed_ = false; // the mouse button went down on a row
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "list/RowDelegate.h"
 
+#include "list/LogbookColumns.h"
 #include "list/LogbookModel.h"
 #include "list/QtText.h"
 #include "list/ToolTip.h"
@@ -13,9 +14,11 @@
 
 void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
-    // The frame around the current cell only tells something where its row is not selected.
-    if (option->state.testFlag(QStyle::State_Selected))
-        option->state &= ~QStyle::State_HasFocus;
+    // The list shows the focus on the whole row.
+    option->state &= ~QStyle::State_HasFocus;
+    // Of a time stamp without room for all of it the clock stays: the entries beside it are of the same day.
+    if (index.column() == static_cast<int>(LogbookColumn::Time))
+        option->textElideMode = Qt::ElideLeft;
     const QVariant image = index.data(LogbookModel::ImageRole);
     if (!image.isValid())
         return;

@@ -3,9 +3,12 @@
 
 #include "filter/FilterStorage.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QMouseEvent>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QStyledItemDelegate>
 
@@ -104,12 +107,41 @@ class MainWindowListTest : public MainWindowTest {
         List()->SelectRanges({{0, 1}, {4, 6}, {9, 9}}, 4);
         List()->RemoveRows(List()->SelectedRanges());
         QCOMPARE(Column(1), QStringList({"2", "3", "7", "8"}));
-        QVERIFY(List()->SelectedRanges().empty());
-        QCOMPARE(List()->currentIndex().row(), 3);
         List()->selectAll();
         List()->RemoveRows(List()->SelectedRanges());
         QCOMPARE(List()->model()->rowCount(), 0);
         List()->RemoveRows(List()->SelectedRanges());
+    }
+
+    void RowBehindTheRemovedOnesIsSelectedAndShown() {
+        Window->OpenLogbook(FileOfErrors(10));
+        List()->SelectRanges({{0, 1}, {4, 6}}, 4);
+        QTest::keyPress(List(), Qt::Key_Delete);
+        QCOMPARE(Column(1), QStringList({"2", "3", "7", "8", "9"}));
+        QCOMPARE(List()->SelectedRanges(), RowRanges({{2, 2}}));
+        QCOMPARE(List()->currentIndex().row(), 2);
+        QCOMPARE(Content(), QString("7\n"));
+        QTest::keyRelease(List(), Qt::Key_Delete);
+        QTest::keyClick(List(), Qt::Key_Delete);
+        QCOMPARE(Column(1), QStringList({"2", "3", "8", "9"}));
+        QTest::keyClick(List(), Qt::Key_Down);
+        QCOMPARE(List()->SelectedRow(), std::optional(3));
+        // Behind the last row there is none.
+        Item("mnuPopupRemove")->trigger();
+        QCOMPARE(List()->SelectedRanges(), RowRanges({{2, 2}}));
+        QCOMPARE(Content(), QString("8\n"));
+        List()->selectAll();
+        Item("mnuPopupRemove")->trigger();
+        QCOMPARE(List()->model()->rowCount(), 0);
+    }
+
+    void RowBehindTheRemovedOnesIsInView() {
+        Window->OpenLogbook(FileOfErrors(1000));
+        List()->scrollToTop();
+        List()->SelectRanges({{1, 1}, {700, 700}}, 1);
+        QTest::keyClick(List(), Qt::Key_Delete);
+        QCOMPARE(List()->SelectedRow(), std::optional(699));
+        QVERIFY(List()->viewport()->rect().contains(RowPoint(699)));
     }
 
     void SelectedRowsAreCopiedWithTheirHeader() {
@@ -190,21 +222,276 @@ class MainWindowListTest : public MainWindowTest {
         QVERIFY(popup->isVisible());
         QCOMPARE(List()->SelectedRow(), std::optional(1));
         popup->close();
+        for (const auto& [key, modifiers] :
+             {std::pair(Qt::Key_Menu, Qt::NoModifier), {Qt::Key_F10, Qt::ShiftModifier}}) {
+            QTest::keyClick(List(), key, modifiers);
+            QVERIFY(popup->isVisible());
+            popup->close();
+        }
+        QTest::keyClick(List(), Qt::Key_F10, Qt::ControlModifier);
+        QVERIFY(!popup->isVisible());
+    }
+
+    void PopupKeyWithoutASelectedRowIsForTheCurrentOne() {
+        Window->OpenLogbook(FileOfErrors(3));
+        List()->SelectRanges({}, 1);
         QTest::keyClick(List(), Qt::Key_Menu);
-        QVERIFY(popup->isVisible());
+        QVERIFY(Find<QMenu>("mnuPopup")->isVisible());
+        Find<QMenu>("mnuPopup")->close();
+        QCOMPARE(List()->SelectedRanges(), RowRanges({{1, 1}}));
+        // It does not take a selection away.
+        List()->SelectRanges({{0, 0}}, 2);
+        QTest::keyClick(List(), Qt::Key_Menu);
+        Find<QMenu>("mnuPopup")->close();
+        QCOMPARE(List()->SelectedRanges(), RowRanges({{0, 0}}));
+    }
+
+    void PopupOpensAtItsRowAlsoWhereTheListIsScrolledSideways() {
+        OpenWide();
+        List()->SelectRanges({{3, 3}}, 3);
+        List()->horizontalScrollBar()->setValue(600);
+        QTest::keyClick(List(), Qt::Key_Menu);
+        auto* const popup = Find<QMenu>("mnuPopup");
+        const QRect row = List()->visualRect(List()->model()->index(3, 0));
+        const QPoint place = List()->viewport()->mapToGlobal(QPoint(0, row.bottom()));
+        QCOMPARE(popup->pos().y(), place.y());
         popup->close();
     }
 
-    void RightClickOnASelectionKeepsIt() {
+    void SortKeepsTheSidewaysPlace() {
+        OpenWide();
+        List()->selectRow(3);
+        QScrollBar* const bar = List()->horizontalScrollBar();
+        bar->setValue(bar->maximum());
+        for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
+            ClickHeader(6);
+            QCOMPARE(List()->horizontalHeader()->sortIndicatorSection(), 6);
+            QCOMPARE(List()->horizontalHeader()->sortIndicatorOrder(), order);
+            QCOMPARE(bar->value(), bar->maximum());
+        }
+    }
+
+    void ClicksAndKeysKeepTheSidewaysPlace() {
+        OpenWide();
+        QScrollBar* const bar = List()->horizontalScrollBar();
+        bar->setValue(700); // in the midst of the column Data
+        // A view that scrolls after a click does so 100 ms after it can no longer become a double click.
+        const int interval = QApplication::doubleClickInterval();
+        QApplication::setDoubleClickInterval(1);
+        const int width = List()->viewport()->width();
+        for (const int x : {1, width / 2, width - 2})
+            for (const Qt::KeyboardModifier modifier :
+                 {Qt::NoModifier, Qt::ControlModifier, Qt::ShiftModifier}) {
+                for (const int row : {4, 2})
+                    QTest::mouseClick(List()->viewport(), Qt::LeftButton, modifier, RowPointAt(x, row));
+                QTest::qWait(120);
+                QCOMPARE(bar->value(), 700);
+            }
+        QApplication::setDoubleClickInterval(interval);
+        for (const Qt::Key key :
+             {Qt::Key_Down, Qt::Key_PageDown, Qt::Key_End, Qt::Key_Up, Qt::Key_PageUp, Qt::Key_Home}) {
+            QTest::keyClick(List(), key);
+            QCOMPARE(bar->value(), 700);
+        }
+    }
+
+    void JumpsAndFilterRunsKeepTheSidewaysPlace() {
+        OpenWide();
+        QScrollBar* const bar = List()->horizontalScrollBar();
+        bar->setValue(700);
+        auto* const viewer = Find<QWidget>("pbTagViewer");
+        QTest::mouseClick(viewer, Qt::LeftButton, {}, QPoint(5, viewer->height() / 2));
+        QVERIFY(List()->SelectedRow() > 100);
+        QCOMPARE(bar->value(), 700);
+        Window->ApplyFilter();
+        QVERIFY(List()->SelectedRow() > 100);
+        QCOMPARE(bar->value(), 700);
+        QTest::keyClick(List(), Qt::Key_Delete);
+        QCOMPARE(bar->value(), 700);
+    }
+
+    void HomeAndEndGoToTheFirstAndTheLastRow() {
+        Window->OpenLogbook(FileOfErrors(500));
+        for (const Qt::KeyboardModifiers ctrl : {Qt::NoModifier, Qt::ControlModifier}) {
+            List()->SelectAndShow(250);
+            PressAndCompare(Qt::Key_End, ctrl, {{499, 499}});
+            PressAndCompare(Qt::Key_Home, ctrl, {{0, 0}});
+            PressAndCompare(Qt::Key_End, ctrl | Qt::ShiftModifier, {{0, 499}});
+            QVERIFY(List()->viewport()->rect().contains(RowPoint(499)));
+            PressAndCompare(Qt::Key_End, ctrl, {{499, 499}});
+            List()->SelectAndShow(250);
+            PressAndCompare(Qt::Key_Home, ctrl | Qt::ShiftModifier, {{0, 250}});
+            QVERIFY(List()->viewport()->rect().contains(RowPoint(0)));
+            // At the first row already, yet with others.
+            PressAndCompare(Qt::Key_Home, ctrl, {{0, 0}});
+        }
+    }
+
+    void ShiftBeginsWhereTheProgramSelected() {
+        Window->OpenLogbook(FileOfErrors(50));
+        QTest::mouseClick(List()->viewport(), Qt::LeftButton, {}, RowPoint(2));
+        List()->SelectAndShow(20);
+        PressAndCompare(Qt::Key_Down, Qt::ShiftModifier, {{20, 21}});
+        List()->SelectRanges({{30, 30}}, 30);
+        QTest::mouseClick(List()->viewport(), Qt::LeftButton, Qt::ShiftModifier, RowPoint(25));
+        QCOMPARE(List()->SelectedRanges(), RowRanges({{25, 30}}));
+    }
+
+    void ListOfOneRowHasKeys() {
+        Window->OpenLogbook(FileOfErrors(1));
+        for (const Qt::Key key :
+             {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End})
+            for (const Qt::KeyboardModifier modifier : {Qt::NoModifier, Qt::ShiftModifier})
+                for (const bool isCurrent : {false, true}) {
+                    List()->selectionModel()->clear();
+                    if (isCurrent)
+                        List()->SelectRanges({}, 0);
+                    QVERIFY(List()->SelectedRanges().empty());
+                    PressAndCompare(key, modifier, {{0, 0}});
+                }
+        QCOMPARE(Content(), QString("0\n"));
+        // With Ctrl the arrows move without selecting.
+        List()->SelectRanges({}, 0);
+        PressAndCompare(Qt::Key_Down, Qt::ControlModifier, {});
+    }
+
+    void ArrowsBeginAtTheCurrentRow() {
+        Window->OpenLogbook(FileOfErrors(5));
+        List()->SelectRanges({}, 0);
+        PressAndCompare(Qt::Key_Down, Qt::NoModifier, {{0, 0}});
+        PressAndCompare(Qt::Key_Down, Qt::NoModifier, {{1, 1}});
+        PressAndCompare(Qt::Key_Down, Qt::ControlModifier, {{1, 1}});
+        QCOMPARE(List()->currentIndex().row(), 2);
+        PressAndCompare(Qt::Key_Down, Qt::NoModifier, {{3, 3}});
+    }
+
+    void LeftAndRightScrollSideways() {
+        OpenWide();
+        List()->SelectAndShow(1);
+        QScrollBar* const bar = List()->horizontalScrollBar();
+        QTest::keyClick(List(), Qt::Key_Right);
+        QVERIFY(bar->value() > 0);
+        const int step = bar->value();
+        QTest::keyClick(List(), Qt::Key_Right, Qt::ShiftModifier);
+        QCOMPARE(bar->value(), 2 * step);
+        QTest::keyClick(List(), Qt::Key_Left, Qt::ControlModifier);
+        QTest::keyClick(List(), Qt::Key_Left);
+        QCOMPARE(bar->value(), 0);
+        QCOMPARE(List()->SelectedRanges(), RowRanges({{1, 1}}));
+    }
+
+    void ThereIsNoCurrentCell() {
         Window->OpenLogbook(FileOfErrors(3));
-        List()->selectAll();
-        QTest::mouseClick(List()->viewport(), Qt::RightButton, {}, RowPoint(1));
-        QCOMPARE(List()->SelectedRanges(), RowRanges({{0, 2}}));
-        Find<QMenu>("mnuPopup")->close();
+        const int x = List()->columnViewportPosition(4) + 5;
+        QTest::mouseClick(List()->viewport(), Qt::LeftButton, {}, RowPointAt(x, 1));
+        QCOMPARE(List()->currentIndex(), List()->model()->index(1, 0));
+    }
+
+    void FocusIsDrawnAroundTheRow() {
+        Window->OpenLogbook(FileOfErrors(4));
+        QApplication::setActiveWindow(Window.get());
+        List()->setFocus();
+        List()->setColumnWidth(1, 60);
+        const auto colourAt = [this](int x, int row) {
+            const QRect cell = List()->visualRect(List()->model()->index(row, 0));
+            return List()->viewport()->grab().toImage().pixelColor(x, cell.top() + 1).name();
+        };
+        const auto name = [this](QPalette::ColorRole role) { return List()->palette().color(role).name(); };
+        const int last = List()->columnViewportPosition(6) + 20;
+        for (const bool selected : {true, false}) {
+            List()->SelectRanges(selected ? RowRanges{{1, 1}} : RowRanges{}, 1);
+            QVERIFY(List()->hasFocus());
+            const QString frame = name(selected ? QPalette::HighlightedText : QPalette::Text);
+            for (const int x : {30, List()->columnViewportPosition(1) + 20, last}) {
+                QCOMPARE(colourAt(x, 1), frame);
+                QCOMPARE(colourAt(x, 2), name(QPalette::Base));
+            }
+        }
+        Find<QPlainTextEdit>("txContent")->show();
+        Find<QPlainTextEdit>("txContent")->setFocus();
+        QCOMPARE(colourAt(30, 1), name(QPalette::Base));
+    }
+
+    void TypedLettersDoNothing() {
+        Window->OpenLogbook(
+            File("a.log", {Header("BERR:    a"), Header("INFO:    GEO AXIS"), Header("RESET:")}));
+        List()->SelectAndShow(0);
+        const LogbookRows before = List()->Logbook()->Rows();
+        QTest::keyClicks(List(), "rest");
+        QTest::keyClicks(List(), "i");
+        QCOMPARE(List()->SelectedRow(), std::optional(0));
+        QVERIFY(List()->Logbook()->Rows() == before);
+    }
+
+    void DragThatEndsOutsideShowsItsRow() {
+        Window->OpenLogbook(FileOfErrors(4));
+        QWidget* const rows = List()->viewport();
+        QTest::mousePress(rows, Qt::LeftButton, {}, RowPoint(2));
+        Drag(RowPoint(1));
+        QTest::mouseRelease(rows, Qt::LeftButton, {}, QPoint(30, -40));
+        QCOMPARE(List()->SelectedRow(), std::optional(1));
+        QCOMPARE(Content(), QString("1\n"));
+
+        // A click beside the rows is none on a row.
+        Window->RefreshContentText(0);
+        QTest::mouseClick(rows, Qt::LeftButton, Qt::ControlModifier, rows->rect().bottomLeft());
+        QCOMPARE(List()->SelectedRow(), std::optional(1));
+        QCOMPARE(Content(), QString("0\n"));
+    }
+
+    void ScreenReaderIsToldOfHighlighting() {
+        Window->OpenLogbook(FileOfErrors(500));
+        QSignalSpy announced(List(), &LogbookView::RowAnnounced);
+        const auto rows = [&] {
+            QList<int> told;
+            while (!announced.isEmpty())
+                told << announced.takeFirst().front().toInt();
+            return told;
+        };
+        List()->SelectRanges({{1, 1}, {3, 4}, {300, 499}}, 1);
+        QTest::keyClick(List(), Qt::Key_Space);
+        QCOMPARE(rows(), QList<int>({1, 3, 4})); // those on the screen
+        QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(List());
+        QAccessibleTableInterface* const table = list->tableInterface();
+        QCOMPARE(table->cellAt(3, 0)->text(QAccessible::Name), QString("Fatal, highlighted"));
+        QCOMPARE(table->cellAt(2, 0)->text(QAccessible::Name), QString("Fatal"));
+        QCOMPARE(table->cellAt(3, 1)->text(QAccessible::Name), QString("3"));
+        QCOMPARE(list->focusChild()->text(QAccessible::Name), QString("Fatal, highlighted"));
+        List()->SelectRanges({{4, 4}}, 4);
+        QTest::keyClick(List(), Qt::Key_Space);
+        QCOMPARE(rows(), QList<int>({4}));
+        QCOMPARE(table->cellAt(4, 0)->text(QAccessible::Name), QString("Fatal"));
+
+        List()->scrollToBottom();
+        List()->SelectRanges({{0, 499}}, 499);
+        QTest::keyClick(List(), Qt::Key_Space);
+        const QList<int> last = rows();
+        QVERIFY(last.size() > 5 && last.size() < 200);
+        QCOMPARE(last.last(), 499);
+        List()->Logbook()->SetLanguage({Language::German});
+        QCOMPARE(rows(), last);
+        QCOMPARE(table->cellAt(0, 0)->text(QAccessible::Name), QString("Fatal, markiert"));
     }
 
     void DroppedFileIsOpened() {
         Drop({File("first.log", {Header("BERR:    a"), Header("RESET:")})});
+        QTRY_COMPARE(Window->windowTitle(), QString("first - Qorvix"));
+        QCOMPARE(Counts(), QString("2 / 2 Items"));
+    }
+
+    void FileDroppedBesideTheRowsIsOpened_data() {
+        QTest::addColumn<QString>("part");
+        for (const char* part : {"header", "vertical bar", "horizontal bar", "corner"})
+            QTest::newRow(part) << part;
+    }
+
+    void FileDroppedBesideTheRowsIsOpened() {
+        QFETCH(QString, part);
+        QWidget* const target = part == "header"           ? List()->horizontalHeader()->viewport()
+                                : part == "vertical bar"   ? List()->verticalScrollBar()
+                                : part == "horizontal bar" ? List()->horizontalScrollBar()
+                                                           : static_cast<QWidget*>(List());
+        Drop({File("first.log", {Header("BERR:    a"), Header("RESET:")})}, target);
         QTRY_COMPARE(Window->windowTitle(), QString("first - Qorvix"));
         QCOMPARE(Counts(), QString("2 / 2 Items"));
     }
@@ -255,7 +542,32 @@ class MainWindowListTest : public MainWindowTest {
         QCOMPARE(Column(5), QStringList({"0", "1", "2"}));
     }
 
-    void Drop(const std::vector<std::string>& paths) {
+    // So many rows that the list scrolls, in columns that are wider than the window.
+    void OpenWide() {
+        Window->OpenLogbook(FileOfErrors(300));
+        List()->setColumnWidth(1, 3000);
+        QTRY_VERIFY(List()->horizontalScrollBar()->maximum() > 1000);
+    }
+
+    QPoint RowPointAt(int x, int row) const { return {x, RowPoint(row).y()}; }
+
+    // Moves the mouse, whose left button is down.
+    void Drag(QPoint place) const {
+        QMouseEvent move(QEvent::MouseMove, place, List()->viewport()->mapToGlobal(place), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QApplication::sendEvent(List()->viewport(), &move);
+    }
+
+    void PressAndCompare(Qt::Key key, Qt::KeyboardModifiers modifiers, const RowRanges& selected) const {
+        QTest::keyClick(List(), key, modifiers);
+        QCOMPARE(List()->SelectedRanges(), selected);
+    }
+
+    QString Content() const { return Find<QPlainTextEdit>("txContent")->toPlainText(); }
+
+    void Drop(const std::vector<std::string>& paths) { Drop(paths, List()->viewport()); }
+
+    void Drop(const std::vector<std::string>& paths, QWidget* target) {
         QMimeData data;
         QList<QUrl> urls;
         for (const std::string& path : paths)
@@ -263,12 +575,12 @@ class MainWindowListTest : public MainWindowTest {
         data.setUrls(urls);
         const QPoint place(20, 20);
         QDragEnterEvent enter(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(List()->viewport(), &enter);
+        QApplication::sendEvent(target, &enter);
         QCOMPARE(enter.isAccepted(), paths.size() == 1 && paths.front().ends_with(".log"));
         if (enter.isAccepted())
             QCOMPARE(enter.dropAction(), Qt::CopyAction); // the file stays where it is
         QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(List()->viewport(), &drop);
+        QApplication::sendEvent(target, &drop);
     }
 };
 

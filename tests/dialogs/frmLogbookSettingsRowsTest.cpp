@@ -3,6 +3,7 @@
 #include "dialogs/frmFilterSettings.h"
 
 #include <QComboBox>
+#include <QTextDocument>
 
 #include <optional>
 
@@ -11,6 +12,44 @@ class frmLogbookSettingsRowsTest : public LogbookSettingsTest {
 
   private slots:
     void init() { BeginWithoutSettings(); }
+
+    void FirstRowIsSelectedAtOnce() {
+        StoreFilters({"X|3|N938|ABC|PLC|1", "I|0||||1"});
+        Open();
+        QVERIFY(List().hasFocus() || Dialog->focusWidget() == &List());
+        QCOMPARE(List().selectedItems(), QList<QTreeWidgetItem*>({List().topLevelItem(0)}));
+        AnswerFilter(Filter("X|3|N938|ABC|PLC|1"), "H|2|N940||GEO|1");
+        QTest::keyClick(&List(), Qt::Key_Menu);
+        Choose(*Dialog, "mnuFilterEdit");
+        QTRY_COMPARE(Answered, 1);
+        QCOMPARE(Rows(List()), QStringList({"Warning/N940//GEO", "All entries///"}));
+        Find<QMenu>(*Dialog, "mnuPopup")->close();
+        QTest::keyClick(&List(), Qt::Key_Delete);
+        QTest::keyClick(&List(), Qt::Key_Delete);
+        QCOMPARE(Rows(List()), QStringList());
+    }
+
+    void ToolTipsWrapAndShowBlanksAsTheyAre() {
+        const QString numbers = QString("1000,").repeated(60).chopped(1);
+        StoreFilters({"X|3|  two  blanks |A  B| PLC|1", "X|8|" + numbers + "|||1"});
+        Open();
+        const auto tip = [this](int row, int column) {
+            const QString text = List().topLevelItem(row)->toolTip(column);
+            return text;
+        };
+        const auto shown = [&](int row, int column) {
+            QTextDocument document;
+            document.setHtml(tip(row, column));
+            return document.toPlainText().remove(QChar(0x200B));
+        };
+        for (const int column : {FilterColumns::String, FilterColumns::Name, FilterColumns::Emitter})
+            QCOMPARE(shown(0, column), List().topLevelItem(0)->text(column));
+        QCOMPARE(shown(1, FilterColumns::String), numbers);
+        QLabel label(tip(1, FilterColumns::String)); // as the tool tip is one
+        label.setWordWrap(true);
+        QVERIFY(label.sizeHint().width() < 100 * label.fontMetrics().horizontalAdvance('x'));
+        QCOMPARE(tip(1, FilterColumns::Name), QString());
+    }
 
     void SpaceTogglesTheCheckBox() {
         Open();

@@ -112,7 +112,11 @@ void SessionModel::RemoveSelected() {
     for (auto row = Selected.rbegin(); row != Selected.rend(); ++row)
         Rows.erase(Rows.begin() + *row);
     Selected.clear();
-    Current = std::min(next, RowCount() - 1);
+    Current = -1;
+    if (RowCount() == 0)
+        return;
+    SelectAlone(std::min(next, RowCount() - 1));
+    ShowContent();
 }
 
 void SessionModel::ToggleSelected() {

@@ -37,7 +37,8 @@ class SessionModel {
 
     void Sort(int column);
 
-    // The selected entries, into or out of the number filter of their action, in list order.
+    // The selected entries, into or out of the number filter of their action, in list order. The row behind
+    // removed ones is selected and shown.
     void RemoveSelected();
     void ToggleSelected();
 

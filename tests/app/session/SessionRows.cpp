@@ -89,12 +89,23 @@ void Session::ClickBeside() {
 void Session::MoveByKey() {
     if (Model.Current < 0)
         return ClickRow();
-    const bool up = Chance(2);
-    const int row = Model.Current + (up ? -1 : 1);
-    Say(up ? "presses Up" : "presses Down");
-    PressInList(up ? Qt::Key_Up : Qt::Key_Down);
-    if (row >= 0 && row < Model.RowCount())
-        Model.SelectAlone(row);
+    struct Move {
+        Qt::Key Key;
+        const char* Name;
+        int Row;
+    };
+    const int last = Model.RowCount() - 1;
+    // With nothing selected, the arrows begin at the current row.
+    const int step = Model.Selected.empty() ? 0 : 1;
+    const Move moves[] = {{Qt::Key_Up, "Up", std::max(0, Model.Current - step)},
+                          {Qt::Key_Down, "Down", std::min(last, Model.Current + step)},
+                          {Qt::Key_Home, "Home", 0},
+                          {Qt::Key_End, "End", last}};
+    const Move move = Chance(3) ? moves[2 + Below(2)] : moves[Below(2)];
+    const bool withControl = (move.Key == Qt::Key_Home || move.Key == Qt::Key_End) && Chance(3);
+    Say(QString(withControl ? "presses Ctrl+%1" : "presses %1").arg(move.Name));
+    PressInList(move.Key, withControl ? Qt::ControlModifier : Qt::NoModifier);
+    Model.SelectAlone(move.Row);
     Model.ShowContent();
 }
 
