@@ -2,7 +2,7 @@
 # Completion of qorvix-cli for bash.
 _qorvix_cli() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]} words
-    local list="--format --output --raw --filters --stored-filters --use-archive-filters --language"
+    local list="--format --output --separator --bom --raw --filters --stored-filters --use-archive-filters --language"
     COMPREPLY=()
     # bash takes "--language=de" for three words.
     if [ "$word" = = ]; then
@@ -12,6 +12,7 @@ _qorvix_cli() {
     fi
     case $before in
     --format) words="jsonl csv" ;;
+    --separator) words="comma semicolon tab" ;;
     --language) words="en de" ;;
     --language-folder) compopt -o dirnames; return ;;
     *)

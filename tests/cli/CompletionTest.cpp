@@ -49,6 +49,8 @@ TEST(Completion, ValuesOfOptionsInBothForms) {
     EXPECT_EQ(CompletionsOf({"export", "--language", "=", "d"}), "de\n");
     EXPECT_EQ(CompletionsOf({"find", "--format", "c"}), "csv\n");
     EXPECT_EQ(CompletionsOf({"find", "--format", "=", "j"}), "jsonl\n");
+    EXPECT_EQ(CompletionsOf({"export", "--separator", ""}), "comma\nsemicolon\ntab\n");
+    EXPECT_EQ(CompletionsOf({"export", "--b"}), "--bom\n");
 }
 
 TEST(Completion, NamesOfFilesAreLeftToTheShell) {
