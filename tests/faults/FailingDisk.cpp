@@ -4,11 +4,16 @@
 //
 //     FAILING_FOLDER  the folder
 //     FAILING_WITH    the error, a number of errno; 0 = the process is killed instead, before the call
-//     FAILING_CALLS   kinds of calls that count: c creates, o opens an existing file for writing, w writes,
-//                     r renames and removes, p permissions, l lists
+//     FAILING_CALLS   kinds of calls that count: c creates, o opens an existing file for writing, w writes
+//     and
+//                     flushes, f flushes, r renames and removes, p permissions, l lists, k locks, n locks of
+//                     files that are not open for writing
 //     FAILING_AFTER   so many calls of these kinds are done before the first that fails; all later ones fail
 //     FAILING_BYTES   so many bytes are written before writes count; unset = all count
 //     FAILING_WHILE   a file: nothing counts unless it is there
+//     FAILING_RECORD  a file elsewhere: each call that was done, whatever its kind, becomes a line in it: the
+//                     kind (w without f), the permissions that the file has then, and its path, with TABs
+//                     between; for a rename the old path behind it
 //
 // It knows the calls that this system's programs make through the C library. Calls within that library cannot
 // be seen, so those of its own that write or make files are here as well.
@@ -21,10 +26,12 @@
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/uio.h>
 #include <unistd.h>
@@ -37,6 +44,9 @@ constexpr char Writes = 'w';
 constexpr char Renames = 'r';
 constexpr char Permissions = 'p';
 constexpr char Lists = 'l';
+constexpr char Flushes = 'f';
+constexpr char Locks = 'k';
+constexpr char LocksUnwritable = 'n';
 
 std::atomic<long long> CallsDone{0};
 std::atomic<long long> BytesDone{0};
@@ -92,10 +102,44 @@ bool Fails(char kind, const std::string& path, std::size_t bytes = 0) {
     return true;
 }
 
-bool FailsToOpen(const std::string& path, int flags) {
+void Record(char kind, const std::string& path, const std::string& from) {
+    const std::string record(Variable("FAILING_RECORD"));
+    if (record.empty() || !LiesInFolder(path))
+        return;
+    const int error = errno;
+    struct stat status {};
+    char mode[16] = "-";
+    if (lstat(path.c_str(), &status) == 0)
+        std::snprintf(mode, sizeof mode, "%04o", static_cast<unsigned>(status.st_mode & 07777U));
+    const std::string line =
+        std::string(1, kind) + '\t' + mode + '\t' + path + (from.empty() ? "" : '\t' + from) + '\n';
+    const int file = NEXT(open)(record.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
+    if (file >= 0) {
+        (void)!NEXT(write)(file, line.data(), line.size());
+        close(file);
+    }
+    errno = error;
+}
+
+// Does a call that did not fail, and records it where it worked; 0 as the kind = it is none that counts.
+template <typename Call>
+auto Do(char kind, const std::string& path, Call call, const std::string& from = "") {
+    const auto result = call();
+    bool worked = false;
+    if constexpr (std::is_pointer_v<std::remove_const_t<decltype(result)>>)
+        worked = result != nullptr;
+    else
+        worked = static_cast<long long>(result) >= 0;
+    if (kind != 0 && worked)
+        Record(kind, path, from);
+    return result;
+}
+
+// The kind that opening a file is of, 0 for none.
+char KindOfOpening(const std::string& path, int flags) {
     if (access(path.c_str(), F_OK) != 0)
-        return (flags & O_CREAT) != 0 && Fails(Creates, path);
-    return (flags & O_ACCMODE) != O_RDONLY && Fails(Opens, path);
+        return (flags & O_CREAT) != 0 ? Creates : '\0';
+    return (flags & O_ACCMODE) != O_RDONLY ? Opens : '\0';
 }
 
 // As fopen takes it.
@@ -120,7 +164,10 @@ extern "C" {
         va_start(arguments, flags);                                                                          \
         const mode_t mode = ModeOf(flags, arguments);                                                        \
         va_end(arguments);                                                                                   \
-        return FailsToOpen(path, flags) ? -1 : NEXT(name)(path, flags, mode);                                \
+        const char kind = KindOfOpening(path, flags);                                                        \
+        if (kind != 0 && Fails(kind, path))                                                                  \
+            return -1;                                                                                       \
+        return Do(kind, path, [&] { return NEXT(name)(path, flags, mode); });                                \
     }
 OPEN(open)
 OPEN(open64)
@@ -131,47 +178,100 @@ OPEN(open64)
         va_start(arguments, flags);                                                                          \
         const mode_t mode = ModeOf(flags, arguments);                                                        \
         va_end(arguments);                                                                                   \
-        return FailsToOpen(PathAt(folder, path), flags) ? -1 : NEXT(name)(folder, path, flags, mode);        \
+        const std::string whole = PathAt(folder, path);                                                      \
+        const char kind = KindOfOpening(whole, flags);                                                       \
+        if (kind != 0 && Fails(kind, whole))                                                                 \
+            return -1;                                                                                       \
+        return Do(kind, whole, [&] { return NEXT(name)(folder, path, flags, mode); });                       \
     }
 OPEN_AT(openat)
 OPEN_AT(openat64)
 
-FILE* fopen(const char* path, const char* mode) {
-    return FailsToOpen(path, FlagsOf(mode)) ? nullptr : NEXT(fopen)(path, mode);
+#define OPEN_STREAM(name)                                                                                    \
+    FILE* name(const char* path, const char* mode) {                                                         \
+        const char kind = KindOfOpening(path, FlagsOf(mode));                                                \
+        if (kind != 0 && Fails(kind, path))                                                                  \
+            return nullptr;                                                                                  \
+        return Do(kind, path, [&] { return NEXT(name)(path, mode); });                                       \
+    }
+OPEN_STREAM(fopen)
+OPEN_STREAM(fopen64)
+
+int mkstemp(char* path) {
+    if (Fails(Creates, path))
+        return -1;
+    const int handle = NEXT(mkstemp)(path);
+    return Do(Creates, path, [&] { return handle; });
 }
-FILE* fopen64(const char* path, const char* mode) {
-    return FailsToOpen(path, FlagsOf(mode)) ? nullptr : NEXT(fopen64)(path, mode);
+int mkostemp(char* path, int flags) {
+    if (Fails(Creates, path))
+        return -1;
+    const int handle = NEXT(mkostemp)(path, flags);
+    return Do(Creates, path, [&] { return handle; });
 }
-int mkstemp(char* path) { return Fails(Creates, path) ? -1 : NEXT(mkstemp)(path); }
-int mkostemp(char* path, int flags) { return Fails(Creates, path) ? -1 : NEXT(mkostemp)(path, flags); }
-int mkstemp64(char* path) { return Fails(Creates, path) ? -1 : NEXT(mkstemp64)(path); }
-char* mkdtemp(char* path) noexcept { return Fails(Creates, path) ? nullptr : NEXT(mkdtemp)(path); }
+int mkstemp64(char* path) {
+    if (Fails(Creates, path))
+        return -1;
+    const int handle = NEXT(mkstemp64)(path);
+    return Do(Creates, path, [&] { return handle; });
+}
+char* mkdtemp(char* path) noexcept {
+    if (Fails(Creates, path))
+        return nullptr;
+    char* const made = NEXT(mkdtemp)(path);
+    return Do(Creates, path, [&] { return made; });
+}
 int mkdir(const char* path, mode_t mode) noexcept {
-    return Fails(Creates, path) ? -1 : NEXT(mkdir)(path, mode);
+    return Fails(Creates, path) ? -1 : Do(Creates, path, [&] { return NEXT(mkdir)(path, mode); });
 }
 
 ssize_t write(int handle, const void* data, size_t size) {
-    return Fails(Writes, PathOf(handle), size) ? -1 : NEXT(write)(handle, data, size);
+    const std::string path = PathOf(handle);
+    return Fails(Writes, path, size) ? -1 : Do(Writes, path, [&] { return NEXT(write)(handle, data, size); });
+}
+ssize_t pwrite(int handle, const void* data, size_t size, off_t place) {
+    const std::string path = PathOf(handle);
+    return Fails(Writes, path, size)
+               ? -1
+               : Do(Writes, path, [&] { return NEXT(pwrite)(handle, data, size, place); });
+}
+ssize_t pwrite64(int handle, const void* data, size_t size, off64_t place) {
+    const std::string path = PathOf(handle);
+    return Fails(Writes, path, size)
+               ? -1
+               : Do(Writes, path, [&] { return NEXT(pwrite64)(handle, data, size, place); });
 }
 ssize_t writev(int handle, const iovec* parts, int count) {
     std::size_t size = 0;
     for (int i = 0; i < count; ++i)
         size += parts[i].iov_len;
-    return Fails(Writes, PathOf(handle), size) ? -1 : NEXT(writev)(handle, parts, count);
+    const std::string path = PathOf(handle);
+    return Fails(Writes, path, size) ? -1
+                                     : Do(Writes, path, [&] { return NEXT(writev)(handle, parts, count); });
 }
 size_t fwrite(const void* data, size_t size, size_t count, FILE* file) {
-    return Fails(Writes, PathOf(fileno(file)), size * count) ? 0 : NEXT(fwrite)(data, size, count, file);
+    const std::string path = PathOf(fileno(file));
+    return Fails(Writes, path, size * count)
+               ? 0
+               : Do(Writes, path, [&] { return NEXT(fwrite)(data, size, count, file); });
 }
-int fsync(int handle) { return Fails(Writes, PathOf(handle)) ? -1 : NEXT(fsync)(handle); }
+int fsync(int handle) {
+    const std::string path = PathOf(handle);
+    if (Fails(Flushes, path) || Fails(Writes, path))
+        return -1;
+    return Do(Flushes, path, [&] { return NEXT(fsync)(handle); });
+}
 int ftruncate(int handle, off_t size) noexcept {
-    return Fails(Writes, PathOf(handle)) ? -1 : NEXT(ftruncate)(handle, size);
+    const std::string path = PathOf(handle);
+    return Fails(Writes, path) ? -1 : Do(Writes, path, [&] { return NEXT(ftruncate)(handle, size); });
 }
 int fclose(FILE* file) {
     // What was buffered is lost with the failure; the file is closed all the same.
     const bool written = (fcntl(fileno(file), F_GETFL) & O_ACCMODE) != O_RDONLY;
-    const bool fails = written && Fails(Writes, PathOf(fileno(file)));
+    const std::string path = PathOf(fileno(file));
+    const bool fails = written && Fails(Writes, path);
     const int error = errno;
-    const int closed = NEXT(fclose)(file);
+    const int closed = Do(written && !fails ? Writes : '\0', path, [&] { return NEXT(fclose)(file); });
     if (!fails)
         return closed;
     errno = error;
@@ -179,23 +279,45 @@ int fclose(FILE* file) {
 }
 
 int rename(const char* from, const char* to) noexcept {
-    return Fails(Renames, to) ? -1 : NEXT(rename)(from, to);
+    return Fails(Renames, to) ? -1
+                              : Do(
+                                    Renames, to, [&] { return NEXT(rename)(from, to); }, from);
 }
-int remove(const char* path) noexcept { return Fails(Renames, path) ? -1 : NEXT(remove)(path); }
-int unlink(const char* path) noexcept { return Fails(Renames, path) ? -1 : NEXT(unlink)(path); }
-int rmdir(const char* path) noexcept { return Fails(Renames, path) ? -1 : NEXT(rmdir)(path); }
+int remove(const char* path) noexcept {
+    return Fails(Renames, path) ? -1 : Do(Renames, path, [&] { return NEXT(remove)(path); });
+}
+int unlink(const char* path) noexcept {
+    return Fails(Renames, path) ? -1 : Do(Renames, path, [&] { return NEXT(unlink)(path); });
+}
+int rmdir(const char* path) noexcept {
+    return Fails(Renames, path) ? -1 : Do(Renames, path, [&] { return NEXT(rmdir)(path); });
+}
 int unlinkat(int folder, const char* path, int flags) noexcept {
-    return Fails(Renames, PathAt(folder, path)) ? -1 : NEXT(unlinkat)(folder, path, flags);
+    const std::string whole = PathAt(folder, path);
+    return Fails(Renames, whole) ? -1
+                                 : Do(Renames, whole, [&] { return NEXT(unlinkat)(folder, path, flags); });
 }
 
 int chmod(const char* path, mode_t mode) noexcept {
-    return Fails(Permissions, path) ? -1 : NEXT(chmod)(path, mode);
+    return Fails(Permissions, path) ? -1 : Do(Permissions, path, [&] { return NEXT(chmod)(path, mode); });
 }
 int fchmod(int handle, mode_t mode) noexcept {
-    return Fails(Permissions, PathOf(handle)) ? -1 : NEXT(fchmod)(handle, mode);
+    const std::string path = PathOf(handle);
+    return Fails(Permissions, path) ? -1 : Do(Permissions, path, [&] { return NEXT(fchmod)(handle, mode); });
 }
 int fchmodat(int folder, const char* path, mode_t mode, int flags) noexcept {
-    return Fails(Permissions, PathAt(folder, path)) ? -1 : NEXT(fchmodat)(folder, path, mode, flags);
+    const std::string whole = PathAt(folder, path);
+    return Fails(Permissions, whole)
+               ? -1
+               : Do(Permissions, whole, [&] { return NEXT(fchmodat)(folder, path, mode, flags); });
+}
+
+int flock(int handle, int operation) noexcept {
+    const std::string path = PathOf(handle);
+    const bool isWritable = (fcntl(handle, F_GETFL) & O_ACCMODE) != O_RDONLY;
+    if (Fails(Locks, path) || (!isWritable && Fails(LocksUnwritable, path)))
+        return -1;
+    return Do(Locks, path, [&] { return NEXT(flock)(handle, operation); });
 }
 
 dirent* readdir(DIR* folder) { return Fails(Lists, PathOf(dirfd(folder))) ? nullptr : NEXT(readdir)(folder); }

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+#include <sstream>
 
 Environment Fault::Variables() const {
     if (Folder.empty())
@@ -21,7 +22,27 @@ Environment Fault::Variables() const {
         {"FAILING_AFTER", std::to_string(After)},
         {"FAILING_BYTES", Bytes},
         {"FAILING_WHILE", While},
+        {"FAILING_RECORD", Record},
         {"ASAN_OPTIONS", std::string(sanitizers == nullptr ? "" : sanitizers) + ":verify_asan_link_order=0"}};
+}
+
+std::vector<DiskCall> ReadRecord(const std::string& file) {
+    std::vector<DiskCall> calls;
+    std::istringstream lines(FileContent(file));
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream fields(line);
+        std::string kind;
+        std::string mode;
+        DiskCall call{};
+        std::getline(fields, kind, '\t');
+        std::getline(fields, mode, '\t');
+        std::getline(fields, call.Path, '\t');
+        std::getline(fields, call.From);
+        call.Kind = kind.at(0);
+        call.Mode = mode == "-" ? 0 : static_cast<unsigned>(std::stoul(mode, nullptr, 8));
+        calls.push_back(std::move(call));
+    }
+    return calls;
 }
 
 Fault FullDisk(const std::string& folder) { return {folder, "cw", ENOSPC}; }

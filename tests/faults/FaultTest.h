@@ -13,14 +13,24 @@
 // What fails below a folder, or kills the program there; FailingDisk.cpp tells how.
 struct Fault {
     std::string Folder;
-    std::string Calls;      // kinds of calls
-    int Error = 0;          // 0 = killed
-    int After = 0;          // so many calls are done before
-    std::string Bytes = ""; // so many bytes are written before
-    std::string While = ""; // only while this file exists
+    std::string Calls;       // kinds of calls
+    int Error = 0;           // 0 = killed
+    int After = 0;           // so many calls are done before
+    std::string Bytes = "";  // so many bytes are written before
+    std::string While = "";  // only while this file exists
+    std::string Record = ""; // every call below the folder becomes a line of this file
 
     Environment Variables() const;
 };
+
+// A call that was done on a disk.
+struct DiskCall {
+    char Kind;        // as FailingDisk.cpp has them
+    unsigned Mode;    // the permissions that the file has then; 0 = there is no file any more
+    std::string Path; // for a rename the new one
+    std::string From; // for a rename the old one
+};
+std::vector<DiskCall> ReadRecord(const std::string& file);
 
 // Faults that people meet. All calls that change a folder are "cowrp".
 Fault FullDisk(const std::string& folder);
@@ -56,7 +66,5 @@ class FaultTest : public testing::Test {
     const std::string State = Folder / "state";
     const std::string Temp = Folder / "temp";
     const std::string Work = Folder / "work";
-
-  private:
     const std::string Runtime = Folder / "runtime"; // of the toolkit
 };

@@ -61,6 +61,7 @@ class TempFolderFaults : public FaultTest {
         EXPECT_EQ(NamesIn(Temp), std::vector<std::string>());
     }
 
+    static constexpr const char* Mark = ".qorvix-temp";
     const std::string Plain = Folder.Write("work/plain.log", LogbookOf(3));
     const std::string Archive = Work + "/a.qorvix";
     const std::string Saved = Work + "/saved.qorvix";
@@ -96,17 +97,47 @@ TEST_F(TempFolderFaults, FolderThatRefusesForAWhile) {
 TEST_F(TempFolderFaults, DiskThatIsFullForAWhile) {
     Fault fault = FullDisk(Temp);
     fault.Calls = "w";
-    fault.While = Folder.Write("refusing", "");
+    fault.While = Work + "/refusing";
     ProgramWindow window({Plain}, Variables(fault));
     EXPECT_EQ(window.UntilShown().Counts, "3 / 3 Items");
-    const std::string part = Temp + "/Qorvix/new-......";
-    EXPECT_THAT(MessageOfSaving(window),
-                MatchesRegex(".*saved.qorvix: " + part + "/filters: No space left on device."));
+    Folder.Write("work/refusing", "");
+    EXPECT_EQ(MessageOfSaving(window), NotSaved("the temporary folder cannot be written to"));
     EXPECT_EQ(MessageOfOpening(window), NotOpened("the temporary folder cannot be written to"));
-    EXPECT_EQ(NamesIn(Temp + "/Qorvix"), std::vector<std::string>());
+    EXPECT_EQ(NamesIn(Temp + "/Qorvix"), std::vector<std::string>{Mark});
     fs::remove(fault.While);
     window.Open(Plain);
     window.UntilRows(3);
+    ExpectToWork(window);
+}
+
+TEST_F(TempFolderFaults, DiskThatFillsWhileTheArchiveIsMade) {
+    Fault fault = FullDisk(Temp);
+    fault.Calls = "w";
+    fault.Bytes = "120"; // room for the names of what is made, which are noted before
+    fault.While = Work + "/filling";
+    ProgramWindow window({Plain}, Variables(fault));
+    window.UntilShown();
+    window.Comment(1, std::string(200, 'x'));
+    Folder.Write("work/filling", "");
+    const std::string part = Temp + "/Qorvix/new-......";
+    EXPECT_THAT(MessageOfSaving(window),
+                MatchesRegex(".*saved.qorvix: " + part + "/comments: No space left on device."));
+    EXPECT_EQ(NamesIn(Temp + "/Qorvix"), std::vector<std::string>{Mark});
+    fs::remove(fault.While);
+    window.SaveAs(Saved);
+    window.UntilIdle();
+    EXPECT_EQ(ReadZip(Saved).size(), 3U);
+}
+
+TEST_F(TempFolderFaults, DiskThatIsFullFromTheBegin) {
+    Fault fault = FullDisk(Temp);
+    fault.Calls = "w";
+    fault.While = Folder.Write("refusing", "");
+    ProgramWindow window({Plain}, Variables(fault));
+    EXPECT_EQ(window.UntilShown().Counts, "3 / 3 Items");
+    EXPECT_EQ(MessageOfSaving(window), NotSaved("there is no temporary folder"));
+    EXPECT_EQ(NamesIn(Temp), std::vector<std::string>());
+    fs::remove(fault.While);
     ExpectToWork(window);
 }
 
@@ -139,8 +170,10 @@ TEST_F(TempFolderFaults, LogbookOfAnArchiveRemovedWhileItIsShown) {
     ExpectToWork(window);
 }
 
+// A folder that is made and not marked yet, or not any more, may be anybody's: empty as it is, it stays.
 TEST_F(TempFolderFaults, KilledAtEveryCallWhileItUnpacks) {
     int killed = 0;
+    int emptyOnes = 0;
     for (bool wasKilled = true; wasKilled; ++killed) {
         std::string errors;
         const ProgramEnd end = RunTool({"export", Archive}, KilledAt(Temp, killed), errors);
@@ -148,10 +181,15 @@ TEST_F(TempFolderFaults, KilledAtEveryCallWhileItUnpacks) {
         EXPECT_TRUE(wasKilled || end == GoodEnd);
         EXPECT_EQ(RunTool({"export", Archive}, {}, errors), GoodEnd);
         EXPECT_EQ(errors, "");
+        if (wasKilled && fs::exists(Temp + "/Qorvix")) {
+            EXPECT_TRUE(fs::remove(Temp + "/Qorvix")) << "it is empty, " << killed;
+            ++emptyOnes;
+        }
         EXPECT_EQ(NamesIn(Temp), std::vector<std::string>()) << killed;
         ASSERT_LT(killed, 200);
     }
     EXPECT_GT(killed, 10);
+    EXPECT_EQ(emptyOnes, 2);
 }
 
 TEST_F(TempFolderFaults, FolderThatCannotBeListedIsUsedAllTheSame) {
@@ -159,9 +197,7 @@ TEST_F(TempFolderFaults, FolderThatCannotBeListedIsUsedAllTheSame) {
     EXPECT_EQ(RunTool({"pack", Archive, Saved}, {Folder.Path().string(), "l", EIO}, errors), GoodEnd);
     EXPECT_EQ(errors, "");
     EXPECT_EQ(ReadZip(Saved)[2].second, "[Comments]\r\n 1 pump\r\n");
-    // Emptying it failed.
-    EXPECT_EQ(NamesIn(Temp), std::vector<std::string>{"Qorvix"});
-    EXPECT_EQ(RunTool({"export", Saved}, {}, errors), GoodEnd);
+    // What was made is known without a list.
     EXPECT_EQ(NamesIn(Temp), std::vector<std::string>());
 }
 
