@@ -22,7 +22,7 @@ std::vector<std::filesystem::path> KeptFiles(const std::vector<std::string>& arg
     std::vector<std::filesystem::path> kept{ToPath(ProgramFolder())};
     for (const std::string& word : arguments)
         kept.push_back(ToPath(word));
-    for (const std::string& source : ParseCommandLine(JoinArguments(arguments), IsSlashFile).Sources)
+    for (const std::string& source : ParseArguments(arguments, FileExists).Sources)
         kept.push_back(ToPath(source));
     return kept;
 }

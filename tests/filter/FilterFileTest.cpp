@@ -181,6 +181,24 @@ TEST_F(FilterFile, WhatCouldNotBeReadAgainIsNotWritten) {
     EXPECT_EQ(ImportFilterFile(path, CodePage()).Result, Outcome::Read);
 }
 
+TEST_F(FilterFile, LargestFileIsWrittenAndReadAgain) {
+    const std::string path = Folder / "a.fil";
+    constexpr std::size_t Lines = 8;
+    constexpr std::size_t HeaderLine = 11; // in bytes, with its end
+    std::vector<FilterDefinition> filters(Lines, Numbered);
+    for (FilterDefinition& filter : filters) {
+        filter.StringFilter.clear();
+        filter.StringFilter.resize(FilterFileBounds::Bytes.File / Lines - FormatFilter(filter).size() - 2,
+                                   '7');
+    }
+    filters.front().StringFilter.resize(filters.front().StringFilter.size() - HeaderLine);
+    ASSERT_FALSE(ExportFilterFile(path, filters, CodePage()));
+    EXPECT_EQ(std::filesystem::file_size(path), FilterFileBounds::Bytes.File);
+    EXPECT_EQ(ImportFilterFile(path, CodePage()).Result, Outcome::Read);
+    filters.front().StringFilter += '7';
+    EXPECT_EQ(ExportFilterFile(path, filters, CodePage()), FileProblem::TooLarge);
+}
+
 TEST_F(FilterFile, WithoutMemoryItCannotBeRead) {
     if (!MemoryCanBeLittle)
         GTEST_SKIP() << "memory cannot be limited here";

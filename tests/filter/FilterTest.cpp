@@ -115,6 +115,19 @@ TEST_F(FilterTest, OtherTypesNeverMatch) {
     EXPECT_EQ(Rows(Entries, {"I|0||||1", "X|10||||1"}), "0 1 2 3 4 5 6 7 8 9 ");
 }
 
+TEST_F(FilterTest, ActionThatIsNoneDoesNothing) {
+    for (const std::int16_t action : std::initializer_list<std::int16_t>{-1, 0, 4}) {
+        std::vector<FilterDefinition> filters = DefaultFilters();
+        LogbookRows all;
+        EXPECT_TRUE(ApplyFilters(Entries, filters, all));
+        filters.emplace_back();
+        filters.back().Action = action;
+        LogbookRows rows;
+        EXPECT_TRUE(ApplyFilters(Entries, filters, rows));
+        EXPECT_EQ(rows, all) << action;
+    }
+}
+
 TEST_F(FilterTest, UnknownEventTypeEndsTheRunAndKeepsTheRows) {
     for (const std::int16_t bad : std::initializer_list<std::int16_t>{-1, 10}) {
         FillTable(Entries, {{1, "a", "", ""}, {bad, "b", "", ""}, {1, "c", "", ""}});

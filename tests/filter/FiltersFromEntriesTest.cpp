@@ -131,6 +131,15 @@ TEST_F(FiltersFromEntries, OnlyTheChangedValuesAreWritten) {
     EXPECT_EQ(Memory.Values, expected);
 }
 
+TEST_F(FiltersFromEntries, NumberFilterThatIsNotChangedIsNotWritten) {
+    // Written anew, the old form of the second filter would get a flag.
+    Store({"X|8|5|||1", "X|8|9||"});
+    auto expected = Memory.Values;
+    AddEntryToFilter(Settings, 7, Exclude);
+    expected[{"Software\\VELTRANDOR\\Qorvix\\Logbook\\Filters", "Filter1"}] = std::string("X|8|5,7|||1");
+    EXPECT_EQ(Memory.Values, expected);
+}
+
 TEST_F(FiltersFromEntries, AnEmptyListTakesNumbersAgain) {
     Store({"X|8||||1"});
     AddEntryToFilter(Settings, 5, Exclude);
