@@ -3,6 +3,7 @@
 
 #include "helpbook/HelpBook.h"
 #include "helpbook/HelpFile.h"
+#include "helpbook/HelpMemberStream.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -17,6 +18,12 @@ namespace {
 const std::filesystem::path EnglishHelp = QORVIX_PROGRAM_FOLDER "/language/en/Qorvix.chm";
 const std::filesystem::path Reader = HelpReader(QORVIX_PROGRAM_FOLDER);
 const std::filesystem::path SourceFolder = QORVIX_SOURCE_FOLDER "/help";
+
+std::string Bytes(const MemberHead& head) { return {reinterpret_cast<const char*>(&head), sizeof head}; }
+
+std::string Member(const std::string& path, const std::string& content) {
+    return Bytes({path.size(), content.size()}) + path + content;
+}
 
 // Opens and walks through the whole book, whatever is in it.
 void ReadAll(const std::string& file) {
@@ -44,6 +51,8 @@ TEST(ChmFile, HoldsEverythingAsItWasCompiled) {
             ++pages;
         }
         EXPECT_GT(pages, 20);
+        for (const auto& [name, content] : *members)
+            EXPECT_FALSE(name.ends_with('/')) << "a folder is no member: " << name;
     }
 }
 
@@ -118,6 +127,37 @@ TEST(ChmFile, WithoutItsReaderIsNone) {
     EXPECT_FALSE(ReadChmFile(EnglishHelp, QORVIX_PROGRAM_FOLDER));
     EXPECT_FALSE(ReadChmFile(EnglishHelp, "/bin/true"));
     EXPECT_FALSE(ReadChmFile(EnglishHelp, "/bin/cat")); // something else than members
+}
+
+// "cat" hands over what a file holds: the reader's stream, as a test writes it.
+TEST(ChmFile, StreamThatIsNotWholeIsNone) {
+    const TemporaryFolder folder;
+    const auto read = [&](const std::string& stream) {
+        return ReadChmFile(folder.Write("stream", stream), "/bin/cat");
+    };
+    const std::string stream = Member("/a.htm", "first") + Member("/b.htm", "") + Bytes(MemberHead{});
+    const auto members = read(stream);
+    ASSERT_TRUE(members);
+    EXPECT_EQ(*members, (HelpMembers{{"/a.htm", "first"}, {"/b.htm", ""}}));
+    for (std::size_t size = 0; size < stream.size(); ++size)
+        EXPECT_FALSE(read(stream.substr(0, size))) << size;
+    // Lengths that no stream has.
+    EXPECT_FALSE(read(Bytes(MemberHead{6, ~std::uint64_t{0}}) + "/a.htm" + Bytes(MemberHead{})));
+    EXPECT_FALSE(read(Bytes(MemberHead{1000, 0}) + "/a.htm" + Bytes(MemberHead{})));
+}
+
+// What is handed over of the largest help is larger than its content.
+TEST(ChmFile, LargestHelpIsRead) {
+    const TemporaryFolder folder;
+    constexpr int EmptyMembers = 9'000;
+    std::string stream = Member("/a.htm", std::string(MostHelpBytes, 'x'));
+    for (int i = 0; i < EmptyMembers; ++i)
+        stream += Member('/' + std::to_string(i) + ".htm", "");
+    stream += Bytes(MemberHead{});
+    const auto members = ReadChmFile(folder.Write("stream", stream), "/bin/cat");
+    ASSERT_TRUE(members);
+    EXPECT_EQ(members->size(), EmptyMembers + 1U);
+    EXPECT_EQ(members->at("/a.htm").size(), MostHelpBytes);
 }
 
 // Other threads hold locks while the reading process is started.

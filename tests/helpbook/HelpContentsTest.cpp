@@ -37,6 +37,12 @@ TEST(HelpContents, HeadingWithoutAPage) {
               "Reference -> \n  Keys -> /keys.html\n");
 }
 
+TEST(HelpContents, CaseOfTheParametersMakesNoDifference) {
+    EXPECT_EQ(Dump(ReadHelpContents("<ul><li><object><param name=\"NAME\" value=\"Keys\">"
+                                    "<PARAM NAME=\"local\" VALUE=\"keys.html\"></object></ul>")),
+              "Keys -> /keys.html\n");
+}
+
 TEST(HelpContents, OddOnes) {
     EXPECT_TRUE(ReadHelpContents("").empty());
     EXPECT_TRUE(ReadHelpContents("no contents at all <b>here").empty());

@@ -16,6 +16,8 @@ TEST(HtmlText, TagsInsideAWordDoNotPartIt) {
     EXPECT_EQ(ReadHtmlText("<td>log</td><td>book</td>").Text, "log book");
 }
 
+TEST(HtmlText, AnyBlanksAreOne) { EXPECT_EQ(ReadHtmlText("a \t\r\n\fb\fc").Text, "a b c"); }
+
 TEST(HtmlText, AnyBytes) {
     EXPECT_EQ(ReadHtmlText("").Text, "");
     EXPECT_EQ(ReadHtmlText("<title>").Title, "");
