@@ -10,6 +10,8 @@
 
 #include <iterator>
 
+#include <sys/resource.h>
+#include <sys/wait.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -198,4 +200,35 @@ TEST(AtomicFile, FollowsLinksAndKeepsPermissions) {
     EXPECT_TRUE(std::filesystem::is_symlink(folder.Path() / "link"));
     EXPECT_EQ(FileContent(path), "new");
     EXPECT_EQ(std::filesystem::status(path).permissions(), std::filesystem::perms(0640));
+}
+
+TEST(AtomicFile, FollowsAsManyLinksAsTheSystemDoes) {
+    const TemporaryFolder folder;
+    const auto name = [](int number) { return "link" + std::to_string(number); };
+    std::filesystem::create_symlink("a.txt", folder.Path() / name(1));
+    for (int number = 2; number <= 41; ++number)
+        std::filesystem::create_symlink(name(number - 1), folder.Path() / name(number));
+    AtomicFile file(folder / name(40));
+    file.Stream() << "new";
+    EXPECT_FALSE(file.Commit());
+    EXPECT_EQ(FileContent(folder / "a.txt"), "new");
+    EXPECT_EQ(AtomicFile(folder / name(41)).Commit(), std::errc::too_many_symbolic_link_levels);
+}
+
+TEST(AtomicFile, WhatCannotBeFlushedDoesNotTakeItsPlace) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a.txt", "old");
+    const pid_t child = fork();
+    if (child == 0) {
+        AtomicFile file(path);
+        file.Stream() << "new";
+        const rlimit noMoreFiles{0, 0};
+        _exit(setrlimit(RLIMIT_NOFILE, &noMoreFiles) == 0 && file.Commit() == std::errc::too_many_files_open
+                  ? 0
+                  : 1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+    EXPECT_EQ(FileContent(path), "old");
 }

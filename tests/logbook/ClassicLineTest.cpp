@@ -34,7 +34,8 @@ TEST(ClassicLine, EachKeywordHasItsTypeAndIcon) {
 }
 
 TEST(ClassicLine, KeywordsAreCaseSensitiveAndStandAtTheStart) {
-    for (const char* line : {"Reset:", "KEY:", "Info:", " RESET:", "xRESET:", "STIB", "Err:", ""})
+    for (const char* line : {"Reset:", "KEY:", "Info:", " RESET:", "xRESET:", "STIB", "Err:", "",
+                             "PLC ERRORS: P12", "PLC MESSAGES: M1"})
         EXPECT_EQ(EntriesOf(Classic({Header(line)})), "-1 1 [] [] [] \n") << line;
 }
 

@@ -23,6 +23,17 @@ TEST(CodePage, ReadsWindows1252) {
     EXPECT_EQ(codePage.ToUtf8("K\xFChlmittel \x80 \x96 \xDF"), "Kühlmittel € – ß");
 }
 
+TEST(CodePage, EveryCharacterOf1252) {
+    const CodePage codePage;
+    EXPECT_EQ(codePage.ToUtf8("\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E"), "€‚ƒ„…†‡ˆ‰Š‹ŒŽ");
+    EXPECT_EQ(codePage.ToUtf8("\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9A\x9B\x9C\x9E\x9F"), "‘’“”•–—˜™š›œžŸ");
+    for (unsigned byte = 0xA0; byte < 0x100; ++byte) {
+        const std::string utf8{static_cast<char>(0xC0U | byte >> 6U),
+                               static_cast<char>(0x80U | (byte & 0x3FU))};
+        EXPECT_EQ(codePage.ToUtf8(std::string(1, static_cast<char>(byte))), utf8);
+    }
+}
+
 TEST(CodePage, UndefinedBytesOf1252ComeBack) {
     const CodePage codePage;
     const std::string text = codePage.ToUtf8("\x81\x8D\x8F\x90\x9D");

@@ -74,6 +74,22 @@ TEST(EntryTable, TimeStampsComeBackAsTheyWere) {
     }
 }
 
+TEST(EntryTable, AClockIsPackedWithADateOrWithout) {
+    EntryTable table;
+    for (const char* stamp : {"12:34:56", "12:34:56.789", "04.01.2010 12:34:56.789", "04.01.2010 12:34:56.7",
+                              "04.01.2010 12:34", "4:56.789"})
+        Append(table, "data", "", "", stamp);
+    PackedStamp stamp;
+    ASSERT_TRUE(table.PackedTime(0, stamp));
+    EXPECT_EQ(stamp.Clock, 123456000U);
+    for (const EntryNumber number : {1U, 2U}) {
+        ASSERT_TRUE(table.PackedTime(number, stamp)) << table.Time(number);
+        EXPECT_EQ(stamp.Clock, 123456789U | PackedStamp::HasMilliseconds);
+    }
+    for (const EntryNumber number : {3U, 4U, 5U})
+        EXPECT_FALSE(table.PackedTime(number, stamp)) << table.Time(number);
+}
+
 TEST(EntryTable, StampTextIsConverted) {
     EntryTable table;
     Append(table, "a", "", "", "M\xE4rz 12:34:56");
@@ -139,8 +155,10 @@ TEST(EntryTable, KindsDifferInEachField) {
     append([](LogbookEntry& e) { e.Sender = "A", e.Name = "BC"; });
     append([](LogbookEntry& e) { e.Sender = "", e.Name = "ABC"; });
     append([](LogbookEntry& e) { e.Sender = "ABC", e.Name = ""; });
+    append([](LogbookEntry& e) { e.Sender = "AB", e.Name = ""; });
+    append([](LogbookEntry& e) { e.Sender = "", e.Name = ""; });
     append([](LogbookEntry& e) { e.Sender = "Ab"; });
-    EXPECT_EQ(table.Kinds().Count(), 7U);
+    EXPECT_EQ(table.Kinds().Count(), 9U);
 }
 
 TEST(EntryTable, SendersOfEveryLengthComeBack) {

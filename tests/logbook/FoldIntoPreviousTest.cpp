@@ -97,6 +97,7 @@ TEST(FoldIntoPrevious, StringGrowsByPrintableStrokes) {
     EXPECT_EQ(Fold(Key("0x0020 -> SPACE"), Event{EventTypes::Keystr, "AB"}), "9 AB ");
     EXPECT_EQ(Fold(Key("0x000D -> ENT"), Event{EventTypes::Keystr, "AB"}), "no");
     EXPECT_EQ(Fold(Key("C down"), Event{EventTypes::Keystr, "AB"}), "no");
+    EXPECT_EQ(Fold(Key("0x0043 down"), Event{EventTypes::Keystr, "AB"}), "no");
     EXPECT_EQ(Fold(Key("43 -> C"), Event{EventTypes::Keystr, "AB"}), "9 ABC");
 }
 

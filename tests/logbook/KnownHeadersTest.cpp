@@ -47,6 +47,13 @@ TEST(KnownHeaders, TheSameInfoMayBeARestart) {
                         At + "MANUAL\n"));
 }
 
+TEST(KnownHeaders, SendersThatDifferInTheirLastColumnAreTwo) {
+    const std::string sender(37, 's');
+    EXPECT_EQ(EntriesOf(Repeated("Operation Logbook Version 1.0", {Header("Info: " + sender + "A"), "  x",
+                                                                   Header("Info: " + sender + "B"), "  x"})),
+              Threefold("1 1 [" + sender + "A] []" + At + "x\n1 1 [" + sender + "B] []" + At + "x\n"));
+}
+
 TEST(KnownHeaders, StrokesOfTheSameKeyMayBecomeAString) {
     const std::string key = Header("Key:     ENT");
     EXPECT_EQ(EntriesOf(Repeated("Operation Logbook Version 1.0",

@@ -169,6 +169,21 @@ TEST_P(clsFileTest, NextLineStartConsumesNothing) {
     EXPECT_EQ(File.LinesRead(), 4);
 }
 
+TEST(clsFileMemory, BlockOfAKeptLineIsKeptBehindAPassingLine) {
+    const TemporaryFolder folder;
+    clsFile file(8);
+    ASSERT_TRUE(file.OpenFile(folder.Write("a.log", "a\nb\nxxxxxxxxxxxxxxxx\nc\n"), false));
+    std::string_view line;
+    file.ReadLine(line); // the first block is read for it
+    file.ReleaseLines();
+    std::string_view kept;
+    EXPECT_TRUE(file.ReadLine(kept));
+    EXPECT_FALSE(file.KeepsLines()) << "it lies in the block that is read from";
+    EXPECT_TRUE(file.ReadPassingLine(line));
+    EXPECT_TRUE(file.KeepsLines());
+    EXPECT_EQ(kept, "b");
+}
+
 // The chunk sizes that the position speaks of, seen at each byte.
 std::vector<int> ChunkSizes(clsFile& file) {
     std::vector<int> sizes;
