@@ -85,10 +85,12 @@ TEST_F(JsonSettingsTest, DamagedFileReadsAsEmptyAndIsKept) {
 
 TEST_F(JsonSettingsTest, ValuesOfOtherKindsReadAsDefaultAndStay) {
     Folder.Write("Qorvix.json", R"({"A": 1.5, "B": true, "C": null, "D": 2147483648, "E": -2147483648,
-                                    "F": -2147483649, "G": [1], "H": {"x": 1}, "I": 18446744073709551615})");
+                                    "F": -2147483649, "G": [1], "H": {"x": 1}, "I": 18446744073709551615,
+                                    "J": 2147483647})");
     for (const char* name : {"A", "B", "C", "D", "F", "G", "H", "I"})
         EXPECT_EQ(Settings.ReadSettingLong(name, 7), 7) << name;
     EXPECT_EQ(Settings.ReadSettingLong("E", 7), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(Settings.ReadSettingLong("J", 7), std::numeric_limits<std::int32_t>::max());
     WriteNumber(File(), "New", 1);
     const auto content = nlohmann::json::parse(FileContent(File()));
     EXPECT_EQ(content["A"], 1.5);
