@@ -239,6 +239,16 @@ TEST_F(ExportCommand, FilterFileThatIsNoFileIsNotWaitedFor) {
     }
 }
 
+TEST_F(ExportCommand, FolderIsNotWrittenTo) {
+    const std::string folder = Folder / "list";
+    std::filesystem::create_directory(folder);
+    const ProgramResult result =
+        RunCommandLineTool({"export", File({Header("BERR:    a")}), "--output", folder});
+    EXPECT_EQ(result.ExitStatus, 1);
+    EXPECT_EQ(result.Errors, "qorvix-cli: " + folder + ": Is a directory\n");
+    EXPECT_TRUE(std::filesystem::is_empty(folder));
+}
+
 TEST_F(ExportCommand, SettingsThatAreNoFileCountAsNone) {
     std::filesystem::create_directories(Folder / "config/VELTRANDOR");
     MakePipe(Folder, "config/VELTRANDOR/Qorvix.json");

@@ -131,6 +131,16 @@ TEST_F(PackCommand, WhatFailsLeavesTheArchive) {
                   "The archive contains no logbook file (" + (Folder / "none.zip") + ")");
 }
 
+TEST_F(PackCommand, ReasonsFollowTheLanguage) {
+    const std::string log = Folder.Write("a.log", Log);
+    std::filesystem::create_symlink(log, Folder / "link.qorvix");
+    const std::string link = Folder / "link.qorvix";
+    ExpectFailure({log, link, "--language", "de"},
+                  "Das Archiv konnte nicht gespeichert werden (" + link +
+                      ": das Archiv würde die Logbuchdatei selbst ersetzen)");
+    EXPECT_EQ(FileContent(log), Log);
+}
+
 TEST_F(PackCommand, WhatIsNoFileIsNeitherReadNorReplaced) {
     const std::string log = Folder.Write("a.log", Log);
     for (const std::string& none : NoFiles(Folder)) {
