@@ -5,9 +5,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <functional>
 #include <random>
 #include <set>
 #include <string>
+#include <unordered_map>
 
 namespace {
 
@@ -57,6 +60,29 @@ TEST(DistinctData, TextsThatDifferInCaseAreDifferent) {
     ASSERT_TRUE(Find(entries, distinct));
     EXPECT_EQ(distinct.Texts, (std::vector<std::string_view>{"on", "On"}));
     EXPECT_EQ(distinct.Numbers[7], 1U);
+}
+
+TEST(DistinctData, TextsWithTheSameHashAreDifferent) {
+    // Two texts that share the 32 bits of the hash which are kept of it.
+    std::unordered_map<std::uint32_t, std::string> byHash;
+    std::string text;
+    std::string other;
+    for (int i = 0; other.empty() && i < 1000000; ++i) {
+        text = "Satz " + std::to_string(i);
+        const auto hash = static_cast<std::uint32_t>(std::hash<std::string_view>{}(text));
+        if (const auto [known, isNew] = byHash.try_emplace(hash, text); !isNew)
+            other = known->second;
+    }
+    ASSERT_NE(other, "");
+    std::vector<TestEntry> list(20, {EventTypes::Info, text, "", ""});
+    list[7].Data = other;
+    EntryTable entries;
+    FillTable(entries, list);
+    DistinctData distinct;
+    ASSERT_TRUE(Find(entries, distinct));
+    EXPECT_EQ(distinct.Texts, (std::vector<std::string_view>{text, other}));
+    EXPECT_EQ(distinct.Numbers[7], 1U);
+    EXPECT_EQ(distinct.Numbers[8], 0U);
 }
 
 TEST(DistinctData, GivesUpWhenTextsDifferTooOften) {

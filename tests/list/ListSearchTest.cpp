@@ -141,6 +141,24 @@ TEST_F(FindInListTest, StartBeyondTheListIsNoFault) {
     EXPECT_EQ(Find(99, "two", Down), -1);
 }
 
+TEST(MatchingRows, AWholeWordIsAlsoAnyDataOfItsLength) {
+    EntryTable entries;
+    const auto find = [&](const std::string& data, const std::string& text) {
+        ParsedEntry entry;
+        entry.EventType = EventTypes::Info;
+        entries.Clear();
+        entry.Data = data;
+        entries.Append(entry, CodePage());
+        return MatchingRows(entries, AllRows(entries), {.SearchText = text, .SearchWholeWord = 1}).size();
+    };
+    EXPECT_EQ(find("xyz", "abc"), 1U);
+    EXPECT_EQ(find("xyzz", "abc"), 0U);
+    EXPECT_EQ(find("xy", "abc"), 0U);
+    // Three bytes each in UTF-8.
+    EXPECT_EQ(find("\x80\x80\x80", "abc"), 1U);
+    EXPECT_EQ(find("\x80\x80\x80\x80", "abc"), 0U);
+}
+
 TEST_F(FindInListTest, EmptyTextIsInEveryRow) {
     EXPECT_EQ(Find(1, "", Down), 2);
     EXPECT_EQ(Find(4, "", Up), 3);
