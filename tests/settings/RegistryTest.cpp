@@ -65,6 +65,8 @@ TEST_F(RegistryTest, WriteConvertsToTheKindThatIsNamed) {
     EXPECT_EQ(Settings.ReadSettingString("A", ""), "5");
     EXPECT_EQ(Settings.ReadSettingLong("B", 0), -17);
     EXPECT_EQ(Settings.ReadSettingLong("C", 3), 3);
+    Settings.WriteSetting("D", std::string("12 rooms"), SettingType::Integer);
+    EXPECT_EQ(Settings.ReadSettingLong("D", 3), 3);
 }
 
 TEST_F(RegistryTest, OtherTypeCodesStoreAndReadNothing) {

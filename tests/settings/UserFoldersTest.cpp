@@ -45,6 +45,14 @@ TEST_F(UserFoldersTest, FollowTheEnvironment) {
     EXPECT_EQ(StateFolder(), "/somewhere/state/VELTRANDOR/Qorvix");
 }
 
+TEST_F(UserFoldersTest, WithoutAHomeInTheEnvironmentTheSystemKnowsIt) {
+    ::unsetenv("HOME");
+    const std::filesystem::path folder = StateFolder();
+    EXPECT_TRUE(folder.is_absolute()) << folder;
+    ::setenv("HOME", "", 1);
+    EXPECT_EQ(StateFolder(), folder);
+}
+
 TEST_F(UserFoldersTest, RelativeNamesCountAsNone) {
     ::setenv("XDG_CONFIG_HOME", "relative", 1);
     ::setenv("XDG_STATE_HOME", "relative", 1);
