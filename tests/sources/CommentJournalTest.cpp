@@ -372,6 +372,30 @@ TEST_F(CommentJournalTest, FullDiskIsToldAndLeavesNoHalfLine) {
                                           "{\"comment\":\"room again\",\"entry\":3}\n");
 }
 
+TEST_F(CommentJournalTest, JournalThatCouldNotBeBegunIsNotLeft) {
+    {
+        const SmallFiles full(10);
+        EXPECT_EQ(Enter(Journal, 1, "a"), std::errc::file_too_large);
+    }
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
+TEST_F(CommentJournalTest, FileWithoutAWholeLineIsNotHeld) {
+    EXPECT_FALSE(LostJournal::Hold(Folder.Write("begun", "{\"entries\":")));
+    EXPECT_FALSE(LostJournal::Hold(Folder.Write("long", std::string(300, ' ') + "\n")));
+    EXPECT_TRUE(LostJournal::Hold(Folder.Write("whole", "{\"entries\":5}\n")));
+}
+
+TEST_F(CommentJournalTest, FileThatTookTheNameOfALostOneIsNotRemoved) {
+    Crash({{1, "a"}});
+    const fs::path file = Files().front();
+    const std::optional<LostJournal> journal = LostJournal::Hold(file);
+    ASSERT_TRUE(journal);
+    fs::rename(Folder.Write("other", "of another copy"), file);
+    journal->Remove();
+    EXPECT_EQ(FileContent(file), "of another copy");
+}
+
 TEST_F(CommentJournalTest, CommentsThatCouldNotBeNotedAreNotedWithTheNext) {
     auto journal = std::make_unique<CommentJournal>(State);
     fs::create_directories(State.parent_path());
@@ -514,7 +538,13 @@ TEST_P(LogbookChecksumTest, TellsWhereATextEnds) {
         FillTable(table, {{EventTypes::Info, first, "NC", "name"}, {EventTypes::Info, second, "NC", "name"}});
         return GetParam()(table);
     };
+    const auto sumOfKind = [](const std::string& sender, const std::string& name) {
+        EntryTable table;
+        FillTable(table, {{EventTypes::Info, "data", sender, name}});
+        return LogbookChecksum(table);
+    };
     EXPECT_NE(sumOf("ab", "c"), sumOf("a", "bc"));
+    EXPECT_NE(sumOfKind("ab", "c"), sumOfKind("a", "bc"));
     const std::string large(40000, 'x');
     EXPECT_NE(sumOf(large + 'a', "b"), sumOf(large, "ab"));
     EXPECT_NE(sumOf(large + 'a', "b"), sumOf(large + 'b', "b"));

@@ -163,6 +163,7 @@ TEST_F(LogbookArchiveTest, LogbookThatIsNotAsItWasReadFails) {
     Content.LogbookStamp = StampOf(Content.LogbookFile, error);
     EXPECT_EQ(Save(Folder / "out/a.qorvix"), "");
     fs::remove(Folder / "out/a.qorvix");
+    Progress = [](double) { ADD_FAILURE() << "packed, though it is known to be in vain"; };
     Folder.Write("logs/a.log", "the logbook\r\nand more\r\n");
     ExpectFailure("the logbook file was changed meanwhile");
     Folder.Write("logs/a.log", "THE LOGBOOK\r\n");

@@ -332,6 +332,10 @@ TEST_F(LogbookSourceTest, WhatLiesBesideTheLogbookBelongsToIt) {
         Resolve(Zip("own9.qorvix", {{"a.log", "log"}, {"B/a.cmt", "other folder"}, {"a.cmt", "right"}}));
     ASSERT_TRUE(source);
     EXPECT_EQ(FileContent(source->CommentsFile), "right");
+    const auto below =
+        Resolve(Zip("own10.qorvix", {{"a.cmt", "above"}, {"B/a.log", "log"}, {"B/a.cmt", "right, too"}}));
+    ASSERT_TRUE(below);
+    EXPECT_EQ(FileContent(below->CommentsFile), "right, too");
 }
 
 TEST_F(LogbookSourceTest, ReasonsAreGermanToo) {

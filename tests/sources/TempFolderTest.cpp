@@ -229,6 +229,14 @@ TEST(TempFolder, FolderWithWhatIsKeptStays) {
     EXPECT_EQ(folder.Path(), parent.Path() / "Qorvix");
 }
 
+TEST(TempFolder, FolderThatWasOpenToOthersIsClosed) {
+    const TemporaryFolder parent;
+    fs::create_directory(parent.Path() / "Qorvix");
+    fs::permissions(parent.Path() / "Qorvix", fs::perms::all);
+    const TempFolder folder(parent.Path());
+    EXPECT_EQ(fs::status(folder.Path()).permissions(), fs::perms::owner_all);
+}
+
 TEST(TempFolder, RunningCopyKeepsItsFolder) {
     const TemporaryFolder parent;
     const TempFolder first(parent.Path());
