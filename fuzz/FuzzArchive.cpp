@@ -24,6 +24,9 @@ class AnsweringUser : public UserInterface {
         ++Questions;
         return answer_;
     }
+    std::optional<std::size_t> Choose(std::string_view, std::span<const AnswerButton>) override {
+        return std::nullopt;
+    }
     bool Confirm(std::string_view) override { return false; }
     std::optional<std::string> AskFileToOpen(const FileQuestion&) override { return std::nullopt; }
     std::optional<std::string> AskFileToSave(const FileQuestion&) override { return std::nullopt; }

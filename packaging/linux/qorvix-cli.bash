@@ -23,7 +23,7 @@ _qorvix_cli() {
             export) words="$list --help" ;;
             find) words="$list --whole-word --case-sensitive --help" ;;
             lookup) words="--language --language-folder --help" ;;
-            pack) words="--filters --comments --language --help" ;;
+            pack) words="--filters --comments --keep-comments --drop-comments --language --help" ;;
             esac
         else
             # readline's own names of files, which it knows how to quote.

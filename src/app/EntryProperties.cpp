@@ -43,11 +43,12 @@ void ShowEntryDialogs(const RowRanges& rows, Logbook& logbook, LogbookModel& mod
             const QString& comment = dialog.Comment();
             if (comment.isEmpty())
                 continue;
-            logbook.Entries.SetComment(entry, comment == frmLogbookIdent::ClearMark
-                                                  ? std::string()
-                                                  : OnOneLine(comment).toStdString());
+            const std::string text =
+                comment == frmLogbookIdent::ClearMark ? std::string() : OnOneLine(comment).toStdString();
+            const bool differs = logbook.Entries.Comment(entry) != text;
+            logbook.Entries.SetComment(entry, text);
             model.ShowComment(static_cast<int>(row));
-            events.CommentChanged(static_cast<int>(row));
+            events.CommentChanged(static_cast<int>(row), differs);
         }
     }
 }

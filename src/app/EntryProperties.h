@@ -13,7 +13,7 @@ struct Logbook;
 
 // What the event entry dialog tells the window.
 struct EntryPropertiesEvents {
-    std::function<void(int row)> CommentChanged;
+    std::function<void(int row, bool differs)> CommentChanged;        // `differs` from what it was before
     std::function<void(const FacilityFileMistake& mistake)> LookedUp; // each lookup of error texts
 };
 

@@ -6,6 +6,11 @@
 
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
 
 void WindowUser::ShowMessage(std::string_view text, MessageIcon icon) { ShowMessage(text, title_, icon); }
 
@@ -14,6 +19,29 @@ void WindowUser::ShowMessage(std::string_view text, const QString& title, Messag
                     ToQString(text), QMessageBox::Ok, window_);
     box.setTextFormat(Qt::PlainText);
     box.exec();
+}
+
+std::optional<std::size_t> WindowUser::Choose(std::string_view question,
+                                              std::span<const AnswerButton> answers) {
+    QMessageBox box(QMessageBox::Warning, window_->windowTitle(), ToQString(question), QMessageBox::Cancel,
+                    window_);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Cancel);
+    std::vector<QAbstractButton*> buttons;
+    bool hasSafe = false;
+    for (const AnswerButton& answer : answers) {
+        QPushButton* const button =
+            box.addButton(QtText(answer.Text, language_),
+                          answer.Loses ? QMessageBox::DestructiveRole : QMessageBox::AcceptRole);
+        buttons.push_back(button);
+        if (!answer.Loses && !std::exchange(hasSafe, true))
+            box.setDefaultButton(button);
+    }
+    box.exec();
+    const auto clicked = std::find(buttons.begin(), buttons.end(), box.clickedButton());
+    if (clicked == buttons.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(clicked - buttons.begin());
 }
 
 bool WindowUser::Confirm(std::string_view question) {

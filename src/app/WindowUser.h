@@ -23,6 +23,8 @@ class WindowUser : public UserInterface {
     void ShowMessage(std::string_view text, MessageIcon icon) override;
     void ShowMessage(std::string_view text, const QString& title, MessageIcon icon);
     Answer Ask(TextId question) override;
+    std::optional<std::size_t> Choose(std::string_view question,
+                                      std::span<const AnswerButton> answers) override;
     bool Confirm(std::string_view question) override;
     std::optional<std::string> AskFileToOpen(const FileQuestion& question) override;
     std::optional<std::string> AskFileToSave(const FileQuestion& question) override;

@@ -303,9 +303,12 @@ void frmMain::ShowEntryProperties() {
     ShowEntryDialogs(
         lvLogbook->SelectedRanges(), logbook_, *model_, language_, this,
         {.CommentChanged =
-             [this](int row) {
+             [this](int row, bool differs) {
+                 const EntryNumber entry = model_->Rows()[static_cast<std::size_t>(row)].Entry;
                  state_.CommentsEdited = true;
-                 NoteComment(model_->Rows()[static_cast<std::size_t>(row)].Entry);
+                 if (differs)
+                     state_.ChangedComments.insert(entry);
+                 NoteComment(entry);
                  RefreshContentText(row);
              },
          .LookedUp = [this](const FacilityFileMistake& mistake) { ShowLookupMistake(mistake); }});

@@ -85,11 +85,15 @@ bool frmMain::ZipLogbook() {
         progress_.PaintValue(percent);
     };
     const ZipOutcome outcome = ::ZipLogbook(state_, parts, user_, language_, showProgress);
-    if (outcome == ZipOutcome::Saved) {
-        journal_.Saved();
-        ShowNotNoted({});
+    if (outcome == ZipOutcome::Cancelled || outcome == ZipOutcome::Failed)
+        return false;
+    journal_.Saved();
+    ShowNotNoted({});
+    if (outcome == ZipOutcome::SavedWithMore) {
+        model_->ShowComments();
+        ShowSelectedContent();
     }
-    return outcome == ZipOutcome::Saved;
+    return true;
 }
 
 // Opens one source; the name becomes that of the logbook.
@@ -144,6 +148,7 @@ bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& com
         return false;
     logbook_.Busy = true;
     state_.CommentsEdited = false;
+    state_.ChangedComments.clear();
     journal_.Dropped();
     ShowNotNoted({});
     std::error_code noFile;

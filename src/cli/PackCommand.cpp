@@ -5,9 +5,12 @@
 #include "cli/ReadSource.h"
 #include "logbook/AsciiCase.h"
 #include "settings/Texts.h"
+#include "sources/ArchivedComments.h"
 #include "sources/LogbookArchive.h"
 
 #include <CLI/CLI.hpp>
+
+#include <set>
 
 CLI::App* AddPackCommand(CLI::App& app, PackOptions& options) {
     const CLI::Validator notEmpty(
@@ -33,6 +36,13 @@ CLI::App* AddPackCommand(CLI::App& app, PackOptions& options) {
         ->check(notEmpty);
     command->add_option("--comments", options.Comments, "The comments of this comments file instead")
         ->check(notEmpty);
+    CLI::Option* const keep =
+        command->add_flag("--keep-comments", options.KeepComments,
+                          "Keep the comments of the archive that is replaced, too, on entries that get none");
+    command
+        ->add_flag("--drop-comments", options.DropComments,
+                   "Let the comments of the archive that is replaced go")
+        ->excludes(keep);
     command
         ->add_option_function<std::string>(
             "--language",
@@ -43,6 +53,37 @@ CLI::App* AddPackCommand(CLI::App& app, PackOptions& options) {
         ->check(CLI::IsMember({"en", "de"}));
     return command;
 }
+
+namespace {
+
+// Deals with comments that would be lost with the archive that is there, as the options say. The reason why
+// it may not be replaced; "" when it may.
+std::string ReasonToKeep(const PackOptions& options, SourceLogbook& logbook, const CodePage& codePage,
+                         const TempFolder& tempFolder) {
+    if (options.DropComments)
+        return {};
+    const std::set<EntryNumber> noneChanged;
+    EntryTable& entries = logbook.Book.Entries;
+    const ArchivedComments lost = CommentsLostWith(options.Archive,
+                                                   {.Entries = entries,
+                                                    .Changed = noneChanged,
+                                                    .LogbookFile = logbook.Source.LogbookFile,
+                                                    .FileCodePage = codePage},
+                                                   tempFolder, options.MessageLanguage);
+    if (lost.What == ArchivedComments::Kind::None)
+        return {};
+    const bool canKeep = lost.What == ArchivedComments::Kind::OfThisLogbook;
+    if (!canKeep || !options.KeepComments)
+        return TellArchivedComments(lost, options.MessageLanguage) +
+               std::string(Text(canKeep ? TextId::KeepOrDropComments : TextId::DropComments,
+                                options.MessageLanguage));
+    for (const auto& [number, comment] : lost.Comments)
+        if (entries.Comment(number).empty())
+            entries.SetComment(number, comment);
+    return {};
+}
+
+} // namespace
 
 int RunPack(const PackOptions& options) {
     const Language language = options.MessageLanguage;
@@ -62,15 +103,20 @@ int RunPack(const PackOptions& options) {
     if (!filterFile.Path.empty() && !ReadFilters(filterFile, filters, language, codePage))
         return ExitStatus::Failed;
 
+    std::error_code noFile;
+    const SeenFile replaced{StampOf(options.Archive, noFile)};
+    std::string reason = ReasonToKeep(options, logbook, codePage, tempFolder);
     // Filters and comments come out of files in the same code page, so they lose nothing.
-    const std::string reason = SaveLogbookArchive(options.Archive,
-                                                  {.LogbookFile = logbook.Source.LogbookFile,
-                                                   .LogbookName = logbook.Source.LogbookName,
-                                                   .LogbookStamp = logbook.Stamp,
-                                                   .Filters = filters,
-                                                   .Entries = logbook.Book.Entries,
-                                                   .FileCodePage = codePage},
-                                                  tempFolder, language);
+    if (reason.empty())
+        reason = SaveLogbookArchive(options.Archive,
+                                    {.LogbookFile = logbook.Source.LogbookFile,
+                                     .LogbookName = logbook.Source.LogbookName,
+                                     .LogbookStamp = logbook.Stamp,
+                                     .Filters = filters,
+                                     .Entries = logbook.Book.Entries,
+                                     .FileCodePage = codePage,
+                                     .Replaced = replaced},
+                                    tempFolder, language);
     if (reason.empty())
         return ExitStatus::Done;
     return Fail(std::string(Text(TextId::ArchiveNotSaved, language)) + " (" + options.Archive + ": " +

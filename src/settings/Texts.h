@@ -136,6 +136,15 @@ enum class TextId : std::uint16_t {
     AskArchiveChangedLogbook,
     LogbookChangedMeanwhile,
     AskReplaceChangedArchive,
+    ArchiveWasChanged,
+    ArchiveHasComments,
+    AskKeepComments,
+    ArchiveHasOtherComments,
+    AskReplaceComments,
+    ArchiveToReplaceUnreadable,
+    AskReplaceUnreadable,
+    ButtonKeepComments,
+    ButtonReplaceArchive,
     ArchiveChangedMeanwhile,
     ArchiveInPlaceOfLogbook,
     ArchiveInTemporaryFolder,
@@ -190,6 +199,8 @@ enum class TextId : std::uint16_t {
     StringWithSeparator,
     StringTooLong,
     // The command-line tool
+    KeepOrDropComments,
+    DropComments,
     ListNotWritten,
     FileNotWritten,
     ListInPlaceOfSource,
@@ -276,6 +287,7 @@ enum class AccessKeyGroup : std::uint8_t {
     StringListDialog,
     StringDialog,
     HelpWindow,
+    ArchiveQuestion,
 };
 
 struct TextRow {

@@ -99,35 +99,43 @@ std::string FormatText(const std::string& comment) {
     return quoted + Quote;
 }
 
+using TakeComment = std::function<void(std::int64_t, std::string)>;
+
 // False for a file without the header.
-bool ReadComments(TextFile& file, EntryTable& entries, const CodePage& codePage) {
+bool ReadComments(TextFile& file, const CodePage& codePage, const TakeComment& take) {
     std::string_view line;
     if (!file.ReadLine(line))
         return true;
     if (line != Header)
         return false;
-    while (file.ReadLine(line)) {
-        const std::optional<CommentLine> comment = ParseLine(line);
-        if (comment && comment->Number >= 0 && comment->Number < entries.Count())
-            entries.SetComment(static_cast<EntryNumber>(comment->Number), codePage.ToUtf8(comment->Text));
-    }
+    while (file.ReadLine(line))
+        if (const std::optional<CommentLine> comment = ParseLine(line))
+            take(comment->Number, codePage.ToUtf8(comment->Text));
     return true;
 }
 
 } // namespace
 
-CommentsFileResult CommentLogbook(const std::string& path, EntryTable& entries, const CodePage& codePage) {
+CommentsFileResult ReadCommentsFile(const std::string& path, const CodePage& codePage,
+                                    const TakeComment& take) {
     using Outcome = CommentsFileResult::Outcome;
     TextFile file(path, CommentsFileBounds);
     std::error_code error;
     try {
-        if (!ReadComments(file, entries, codePage))
+        if (!ReadComments(file, codePage, take))
             return {Outcome::NoHeader, {}};
         error = file.Error();
     } catch (const std::bad_alloc&) {
         error = std::make_error_code(std::errc::not_enough_memory);
     }
     return {error ? Outcome::CannotRead : Outcome::Read, error};
+}
+
+CommentsFileResult CommentLogbook(const std::string& path, EntryTable& entries, const CodePage& codePage) {
+    return ReadCommentsFile(path, codePage, [&](std::int64_t number, const std::string& comment) {
+        if (number >= 0 && number < entries.Count())
+            entries.SetComment(static_cast<EntryNumber>(number), comment);
+    });
 }
 
 std::string CommentsFileMessage(const std::string& path, const CommentsFileResult& result,
@@ -151,6 +159,10 @@ std::vector<EntryNumber> CommentsThatLose(const EntryTable& entries, const CodeP
         if (codePage.FromUtf8(comment).Lost != 0)
             losing.push_back(number);
     return losing;
+}
+
+std::string CommentAsStored(std::string_view comment, const CodePage& codePage) {
+    return codePage.ToUtf8(WithoutLineBreaks(codePage.FromUtf8(comment).Text));
 }
 
 std::error_code SaveComments(const std::string& path, const EntryTable& entries, const CodePage& codePage) {

@@ -6,7 +6,9 @@
 #include "settings/Language.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <vector>
 
@@ -34,6 +36,11 @@ struct CommentsFileResult {
     std::error_code Error;
 };
 
+// Hands over each number and comment of a file, whatever logbook they are for, as they stand in it; a comment
+// may be empty, and a later one of the same number counts. The result as of CommentLogbook.
+CommentsFileResult ReadCommentsFile(const std::string& path, const CodePage& codePage,
+                                    const std::function<void(std::int64_t, std::string)>& take);
+
 // Sets the comments of the entries that the file names; the others keep theirs. Without Read none is set,
 // except where the file cannot be read to its end, as when memory runs out. An empty file is read as one
 // without comments.
@@ -49,6 +56,9 @@ std::string CommentsFileMessage(const std::string& path, const CommentsFileResul
 // The entries whose comments have characters that the code page lacks; a file gets "?" for each. Whoever
 // saves comments tells the user before.
 std::vector<EntryNumber> CommentsThatLose(const EntryTable& entries, const CodePage& codePage);
+
+// A comment as it comes back from a file.
+std::string CommentAsStored(std::string_view comment, const CodePage& codePage);
 
 // Writes the comments of all entries; an existing file is replaced when the new one is whole. Fails for
 // comments beyond the bounds, too.

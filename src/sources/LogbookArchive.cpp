@@ -7,6 +7,7 @@
 #include "settings/ReasonText.h"
 #include "settings/Texts.h"
 #include "sources/Comments.h"
+#include "sources/Workplace.h"
 #include "sources/ZipArchive.h"
 
 #include <algorithm>
@@ -14,23 +15,6 @@
 #include <vector>
 
 namespace {
-
-// A folder in the temporary folder, removed with all in it. The files in the temporary folder itself are
-// those of the logbook that is shown.
-class Workplace {
-  public:
-    explicit Workplace(const TempFolder& tempFolder)
-        : tempFolder_(tempFolder), path_(tempFolder.MakeSubfolder()) {}
-    ~Workplace() { tempFolder_.RemoveSubfolder(path_); }
-    Workplace(const Workplace&) = delete;
-    Workplace& operator=(const Workplace&) = delete;
-
-    const std::filesystem::path& Path() const { return path_; }
-
-  private:
-    const TempFolder& tempFolder_;
-    std::filesystem::path path_;
-};
 
 // "3, 17, 20", or the first ten and "…"; `first` is what the number 0 is shown as.
 template <typename Number>
@@ -83,7 +67,8 @@ class Saving {
         if (const ZipMember logbook{"", stamp.Size, stamp.Size}; !logbook.Refusal(language_).empty())
             return std::string(logbook.Refusal(language_));
 
-        const std::optional<FileStamp> replaced = StampOf(path_, error);
+        const std::optional<FileStamp> replaced =
+            content_.Replaced ? content_.Replaced->Stamp : StampOf(path_, error);
         AtomicFile archive(path_);
         if (archive.Path().empty())
             return ReasonText(archive.Commit(), language_);

@@ -16,6 +16,11 @@
 // The program's own archive (*.qorvix): a zip archive of three members at its top level that have the
 // archive's own base name, as "a.log", "a.fil" and "a.cmt" in "a.qorvix".
 
+// A file name that was looked at.
+struct SeenFile {
+    std::optional<FileStamp> Stamp; // nothing = there was no file
+};
+
 struct ArchiveContent {
     std::string LogbookFile;                   // goes in byte for byte
     std::string LogbookName = {};              // what messages call that file; "" = its path
@@ -23,6 +28,7 @@ struct ArchiveContent {
     std::span<const FilterDefinition> Filters; // the active ones
     const EntryTable& Entries;                 // whose comments go in
     const CodePage& FileCodePage;              // of filters and comments
+    std::optional<SeenFile> Replaced = {};     // as what is replaced must still be; nothing = as it is now
 };
 
 // Names the comments and filters with characters that an archive cannot hold, which become "?" in it, in

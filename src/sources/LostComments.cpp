@@ -186,6 +186,7 @@ bool OfferLostComments(EntryTable& entries, LogbookState& state, CommentJournal&
             restored.push_back(number);
         }
         journal.Keep(lost.TakeJournals(), restored);
+        state.ChangedComments.insert(restored.begin(), restored.end());
         state.CommentsEdited = true;
         return true;
     }

@@ -3,7 +3,9 @@
 
 #include "settings/Texts.h"
 
+#include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -27,6 +29,17 @@ class UserInterface {
 
     virtual void ShowMessage(std::string_view text, MessageIcon icon) = 0;
     virtual Answer Ask(TextId question) = 0;
+
+    // An answer to a question: what stands on its button, and whether something is lost with it.
+    struct AnswerButton {
+        TextId Text;
+        bool Loses = false;
+    };
+
+    // A question with answers of its own, and Cancel: the place of the answer, from 0; nothing for Cancel.
+    // Who only presses Enter gives the first answer that loses nothing, or else Cancel.
+    virtual std::optional<std::size_t> Choose(std::string_view question,
+                                              std::span<const AnswerButton> answers) = 0;
 
     // A question with Yes and No that names what it is about; true for Yes.
     virtual bool Confirm(std::string_view question) = 0;

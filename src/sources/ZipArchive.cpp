@@ -116,20 +116,27 @@ bool ZipArchive::Fail(std::string_view reason) {
 bool ZipArchive::Unpack(std::size_t member, const std::filesystem::path& target) {
     if (const std::string_view refusal = members_[member].Refusal(language_); !refusal.empty())
         return Fail(refusal);
-    if (WriteMember(member, target))
+    std::ofstream stream(target, std::ios::binary | std::ios::trunc);
+    const bool isRead = Read(member, [&](std::string_view piece) {
+        return static_cast<bool>(stream.write(piece.data(), static_cast<std::streamsize>(piece.size())));
+    });
+    stream.close();
+    if (isRead && stream)
         return true;
     std::error_code ignored;
     std::filesystem::remove(target, ignored);
-    return false;
+    return stream ? false : Fail(TextId::ZipNotUnpacked);
 }
 
-bool ZipArchive::WriteMember(std::size_t member, const std::filesystem::path& target) {
+bool ZipArchive::Read(std::size_t member, const std::function<bool(std::string_view)>& take) {
+    error_.clear();
+    if (const std::string_view refusal = members_[member].Refusal(language_); !refusal.empty())
+        return Fail(refusal);
     const std::unique_ptr<zip_file_t, CloseMember> source(zip_fopen_index(archive_.get(), member, 0));
     if (!source)
         return Fail(ReasonOf(*zip_get_error(archive_.get()), language_));
-    std::ofstream stream(target, std::ios::binary | std::ios::trunc);
     std::array<char, 65536> buffer;
-    std::uint64_t written = 0;
+    std::uint64_t read = 0;
     for (;;) {
         const zip_int64_t count = zip_fread(source.get(), buffer.data(), buffer.size());
         if (count < 0)
@@ -138,14 +145,12 @@ bool ZipArchive::WriteMember(std::size_t member, const std::filesystem::path& ta
             break;
         if (StopRequest::IsMade())
             return Fail(TextId::ZipNotUnpacked);
-        written += static_cast<std::uint64_t>(count);
+        read += static_cast<std::uint64_t>(count);
         // The claim bounds what is unpacked, whatever the packed data says.
-        if (written > members_[member].Size)
+        if (read > members_[member].Size)
             return Fail(TextId::ZipDamaged);
-        stream.write(buffer.data(), static_cast<std::streamsize>(count));
+        if (!take({buffer.data(), static_cast<std::size_t>(count)}))
+            return false;
     }
-    stream.close();
-    if (!stream)
-        return Fail(TextId::ZipNotUnpacked);
-    return written == members_[member].Size || Fail(TextId::ZipDamaged);
+    return read == members_[member].Size || Fail(TextId::ZipDamaged);
 }

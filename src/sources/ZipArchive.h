@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -43,6 +44,10 @@ class ZipArchive {
     // The first member that is called so.
     std::optional<std::size_t> FindMember(std::string_view name) const;
 
+    // Hands a member over piece by piece, as long as `take` wants more. False where it did not want all; and
+    // where the member could not be read or is damaged, which Error then tells.
+    bool Read(std::size_t member, const std::function<bool(std::string_view)>& take);
+
     // Unpacks a member to a file, whole or not at all.
     bool Unpack(std::size_t member, const std::filesystem::path& target);
 
@@ -53,7 +58,6 @@ class ZipArchive {
 
     bool Fail(std::string_view reason);
     bool Fail(TextId reason) { return Fail(Text(reason, language_)); }
-    bool WriteMember(std::size_t member, const std::filesystem::path& target);
 
     Language language_;
     std::unique_ptr<zip, Close> archive_;

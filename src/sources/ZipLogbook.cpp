@@ -3,6 +3,9 @@
 
 #include "logbook/AsciiCase.h"
 #include "logbook/modUtil.h"
+#include "sources/ArchivedComments.h"
+
+#include <map>
 
 namespace {
 
@@ -58,17 +61,81 @@ bool AgreesToLogbook(ArchiveContent& content, UserInterface& user, Language lang
     return user.Confirm(Text(TextId::AskArchiveChangedLogbook, language));
 }
 
-// True when what is replaced is the archive as this user knows it, or the user wants it replaced all the
-// same: another running copy of the program may have saved comments into it.
-bool AgreesToArchive(const LogbookState& state, const std::string& path, UserInterface& user,
-                     Language language) {
+// True when the archive that is replaced is the one that this user knows, and somebody else has changed it
+// since: another running copy of the program may have saved comments into it.
+bool IsChangedByOthers(const LogbookState& state, const std::string& path,
+                       const std::optional<FileStamp>& now) {
     std::error_code ignored;
-    if (!state.CurrentArchiveStamp ||
-        !std::filesystem::equivalent(ToPath(path), ToPath(state.CurrentArchive), ignored))
-        return true;
-    const std::optional<FileStamp> now = StampOf(path, ignored);
-    return !now || *now == *state.CurrentArchiveStamp ||
-           user.Confirm(Text(TextId::AskReplaceChangedArchive, language));
+    return state.CurrentArchiveStamp && now && *now != *state.CurrentArchiveStamp &&
+           std::filesystem::equivalent(ToPath(path), ToPath(state.CurrentArchive), ignored);
+}
+
+enum class Agreement : std::uint8_t { Replace, Keep, Cancel };
+
+// What is to become of the comments that would be lost.
+Agreement AgreementOn(const ArchivedComments& lost, bool changedByOthers, UserInterface& user,
+                      Language language) {
+    using Kind = ArchivedComments::Kind;
+    static constexpr UserInterface::AnswerButton Keep{TextId::ButtonKeepComments};
+    static constexpr UserInterface::AnswerButton Replace{TextId::ButtonReplaceArchive, true};
+    const auto text = [&](TextId id) { return std::string(Text(id, language)); };
+    if (lost.What == Kind::None)
+        return !changedByOthers || user.Confirm(text(TextId::AskReplaceChangedArchive)) ? Agreement::Replace
+                                                                                        : Agreement::Cancel;
+    std::string question = changedByOthers ? text(TextId::ArchiveWasChanged) + "\r\n\r\n" : "";
+    question += TellArchivedComments(lost, language) + "\r\n\r\n";
+    if (lost.What == Kind::OfThisLogbook) {
+        const UserInterface::AnswerButton answers[] = {Keep, Replace};
+        const std::optional<std::size_t> answer =
+            user.Choose(question + text(TextId::AskKeepComments), answers);
+        return !answer ? Agreement::Cancel : *answer == 0 ? Agreement::Keep : Agreement::Replace;
+    }
+    question +=
+        text(lost.What == Kind::Unreadable ? TextId::AskReplaceUnreadable : TextId::AskReplaceComments);
+    return user.Choose(question, std::span(&Replace, 1)) ? Agreement::Replace : Agreement::Cancel;
+}
+
+// Comments that the entries have until its end, and for good once they are saved.
+class AddedComments {
+  public:
+    AddedComments(EntryTable& entries, const std::map<EntryNumber, std::string>& comments)
+        : entries_(entries) {
+        for (const auto& [number, comment] : comments) {
+            before_[number] = entries.Comment(number);
+            entries.SetComment(number, comment);
+        }
+    }
+    ~AddedComments() {
+        for (const auto& [number, comment] : before_)
+            entries_.SetComment(number, comment);
+    }
+    AddedComments(const AddedComments&) = delete;
+    AddedComments& operator=(const AddedComments&) = delete;
+
+    // They stay; true when there are any.
+    bool Stay() {
+        const bool any = !before_.empty();
+        before_.clear();
+        return any;
+    }
+
+  private:
+    EntryTable& entries_;
+    std::map<EntryNumber, std::string> before_;
+};
+
+// Looks into what would be replaced, under a status text: a large logbook takes a while.
+ArchivedComments LookInto(const std::string& path, const LogbookState& state, const ZipLogbookParts& parts,
+                          UserInterface& user, Language language) {
+    user.ShowStatus(TextId::StatusExtracting);
+    ArchivedComments lost = CommentsLostWith(path,
+                                             {.Entries = parts.Entries,
+                                              .Changed = state.ChangedComments,
+                                              .LogbookFile = state.CurrentLogbookFile,
+                                              .FileCodePage = parts.FileCodePage},
+                                             parts.Temp, language);
+    user.RestoreStatus();
+    return lost;
 }
 
 } // namespace
@@ -80,16 +147,24 @@ ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, UserInt
     const std::optional<std::string> path = AskForArchive(state, parts, user, language);
     if (!path)
         return ZipOutcome::Cancelled;
+    std::error_code ignored;
+    const std::optional<FileStamp> replaced = StampOf(*path, ignored);
     ArchiveContent content{.LogbookFile = state.CurrentLogbookFile,
                            .LogbookName = state.CurrentLogbookName,
                            .LogbookStamp = state.CurrentFileStamp,
                            .Filters = parts.Filters,
                            .Entries = parts.Entries,
-                           .FileCodePage = parts.FileCodePage};
-    if (!AgreesToArchive(state, *path, user, language) || !AgreesToLosses(content, user, language) ||
+                           .FileCodePage = parts.FileCodePage,
+                           .Replaced = SeenFile{replaced}};
+    const ArchivedComments lost =
+        replaced ? LookInto(*path, state, parts, user, language) : ArchivedComments{};
+    const Agreement agreement = AgreementOn(lost, IsChangedByOthers(state, *path, replaced), user, language);
+    if (agreement == Agreement::Cancel || !AgreesToLosses(content, user, language) ||
         !AgreesToLogbook(content, user, language))
         return ZipOutcome::Cancelled;
 
+    AddedComments kept(parts.Entries,
+                       agreement == Agreement::Keep ? lost.Comments : std::map<EntryNumber, std::string>{});
     user.ShowStatus(TextId::StatusZipping);
     const std::string reason = SaveLogbookArchive(*path, content, parts.Temp, language, progress);
     user.RestoreStatus();
@@ -102,9 +177,9 @@ ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, UserInt
     std::string fileName;
     SplitPath(*path, state.InitZipArchiveDir, fileName);
     parts.Settings.WriteLogbookSetting("InitZipArchiveDir", state.InitZipArchiveDir, SettingType::Text);
-    std::error_code ignored;
     state.CurrentArchive = *path;
     state.CurrentArchiveStamp = StampOf(*path, ignored);
     state.CommentsEdited = false;
-    return ZipOutcome::Saved;
+    state.ChangedComments.clear();
+    return kept.Stay() ? ZipOutcome::SavedWithMore : ZipOutcome::Saved;
 }

@@ -10,11 +10,16 @@
 #include <span>
 #include <string>
 
-enum class ZipOutcome : std::uint8_t { Saved, Cancelled, Failed };
+enum class ZipOutcome : std::uint8_t {
+    Saved,
+    SavedWithMore, // comments of the archive that was replaced are now those of the entries, too
+    Cancelled,
+    Failed,
+};
 
 // What saves the logbook that is shown, besides its state.
 struct ZipLogbookParts {
-    const EntryTable& Entries;
+    EntryTable& Entries;
     std::span<const FilterDefinition> Filters; // the active ones
     const CodePage& FileCodePage;
     const TempFolder& Temp;
@@ -28,6 +33,10 @@ struct ZipLogbookParts {
 // logbook file that has been changed since it was read goes in, and before the archive that it came from is
 // replaced though somebody else has changed it, the user is asked. A failure is told with its reason; an
 // archive of that name is then as it was.
+//
+// Comments that would be lost with an archive of that name, other than by a change of this user, can be kept
+// too, where that archive holds the same logbook, or the beginning of it; the user is asked. Without Saved
+// the entries have the comments that they had.
 //
 // Saved: no comments are edited any more, and the archive's folder is stored. Without a logbook nothing
 // happens: Cancelled.

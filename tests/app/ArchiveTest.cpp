@@ -112,6 +112,61 @@ class ArchiveTest : public MainWindowTest {
         QCOMPARE(Settings->ReadFilterSettingString("InitFilterDir", "none"), "/filters/");
     }
 
+    void CommentsThatRefreshTookAwayAreKept() {
+        const QString archive = SaveTwoCommentsAndRefresh();
+        EnterComment(2, "third");
+        SaveOver(archive, "Keep them too");
+        QCOMPARE(MessageTexts.back(),
+                 QString("Comments in the archive that the list does not have, or has otherwise: 2\r\n\r\n"
+                         "Keep them too? If they are replaced, they are lost."));
+        QCOMPARE(Column(6), QStringList({"first", "second", "third"}));
+        QVERIFY(Window->close()); // nothing is left to save
+        OpenWindow();
+        AnswerQuestion(QMessageBox::No); // Replace active filter list?
+        QVERIFY(Window->OpenLogbook(archive.toStdString()));
+        QCOMPARE(Column(6), QStringList({"first", "second", "third"}));
+    }
+
+    void CommentsThatRefreshTookAwayCanBeReplaced() {
+        const QString archive = SaveTwoCommentsAndRefresh();
+        EnterComment(2, "third");
+        SaveOver(archive, "Replace");
+        QCOMPARE(Column(6), QStringList({"", "", "third"}));
+        AnswerQuestion(QMessageBox::No);
+        QVERIFY(Window->OpenLogbook(archive.toStdString()));
+        QCOMPARE(Column(6), QStringList({"", "", "third"}));
+    }
+
+    void CancelAndEscapeReplaceNothing() {
+        const QString archive = SaveTwoCommentsAndRefresh();
+        const std::string before = FileContent(archive.toStdString());
+        EnterComment(0, "mine");
+        EnterComment(2, "third");
+        SaveOver(archive, "Cancel");
+        QVERIFY(MessageTexts.back().contains(": 1\r\n")); // the other was changed here
+        SaveOver(archive, "");                            // Escape
+        QCOMPARE(FileContent(archive.toStdString()), before);
+        QCOMPARE(Column(6), QStringList({"mine", "", "third"}));
+        AnswerQuestion(QMessageBox::Cancel);
+        QVERIFY(!Window->close());
+        QCOMPARE(MessageTexts.back(), QString("Comments edited. Save into logbook archive?"));
+    }
+
+    void QuestionAboutArchivedCommentsIsGermanToo() {
+        WriteLanguage(*Settings, {1});
+        const QString archive = SaveTwoCommentsAndRefresh();
+        QStringList buttons;
+        QString preferred;
+        QTimer::singleShot(0, Person.get(), [&] {
+            AnswerFileDialog(archive);
+            LookAtChoice(buttons, preferred);
+        });
+        Item("mnuFileZipLogbook")->trigger();
+        buttons.sort();
+        QCOMPARE(buttons, QStringList({"Abbrechen", "Auch behalten", "Ersetzen"}));
+        QCOMPARE(preferred, QString("Auch behalten")); // Enter loses nothing
+    }
+
     void NameWithADotGetsTheExtensionToo() {
         Window->OpenLogbook(FileOfErrors(2));
         AnswerFileDialog(QString::fromStdString(Folder / "Machine 1.2"));
@@ -232,6 +287,53 @@ class ArchiveTest : public MainWindowTest {
     }
 
   private:
+    // Saves comments on the first two of three entries, and reads the logbook again; the archive.
+    QString SaveTwoCommentsAndRefresh() {
+        OpenWindow();
+        const QString archive = QString::fromStdString(Folder / "ev.qorvix");
+        std::filesystem::remove(archive.toStdString());
+        Window->OpenLogbook(FileOfErrors(3));
+        EnterComment(0, "first");
+        EnterComment(1, "second");
+        AnswerFileDialog(archive);
+        Item("mnuFileZipLogbook")->trigger();
+        Item("mnuViewRefresh")->trigger();
+        [&] { QCOMPARE(Column(6), QStringList({"", "", ""})); }();
+        return archive;
+    }
+
+    // Saves as an archive that is there; the file dialog asks whether to replace it. A button "" is Escape.
+    void SaveOver(const QString& archive, const QString& button) {
+        AnswerFileDialog(archive);
+        QTimer::singleShot(50, Person.get(), [this, button] {
+            AnswerQuestion(QMessageBox::Yes);
+            QTimer::singleShot(50, Person.get(), [this, button] {
+                if (button.isEmpty())
+                    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+                else
+                    AnswerChoice(button);
+            });
+        });
+        Item("mnuFileZipLogbook")->trigger();
+    }
+
+    // Cancels the question, which comes behind that of the file dialog.
+    void LookAtChoice(QStringList& buttons, QString& preferred) {
+        QTimer::singleShot(0, Person.get(), [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr)
+                return LookAtChoice(buttons, preferred);
+            if (QAbstractButton* const yes = box->button(QMessageBox::Yes)) {
+                yes->click();
+                return LookAtChoice(buttons, preferred);
+            }
+            for (QAbstractButton* const button : box->buttons())
+                buttons << button->text().remove('&');
+            preferred = box->defaultButton()->text().remove('&');
+            box->reject();
+        });
+    }
+
     void EditAComment() {
         QVERIFY(Window->OpenLogbook(FileOfErrors(2)));
         EnterComment(0, "edited");

@@ -126,6 +126,21 @@ class MainWindowTest : public QObject {
         });
     }
 
+    // Presses a button of the next question by what stands on it.
+    void AnswerChoice(const QString& text) {
+        QTimer::singleShot(0, Person.get(), [this, text] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr)
+                return AnswerChoice(text);
+            MessageTexts << box->text();
+            for (QAbstractButton* const button : box->buttons())
+                if (button->text().remove('&') == text)
+                    return button->click();
+            box->reject();
+            QFAIL("no such button");
+        });
+    }
+
     // Chooses a path in the next file dialog, or cancels it.
     void AnswerFileDialog(const QString& path, QString* title = nullptr, QStringList* filters = nullptr) {
         QTimer::singleShot(0, Person.get(), [=, this] {

@@ -65,8 +65,9 @@ TEST_F(PackCommand, FiltersAndCommentsOfAnOwnArchiveAreTakenOver) {
               (Members{{"out.log", Log}, {"out.fil", filters}, {"out.cmt", comments}}));
     const std::string otherFilters = "[Filters]\r\nX|4||||0\r\n";
     EXPECT_EQ(
-        Pack(Folder / "own.qorvix", {"--filters", Folder.Write("a.fil", otherFilters), "--comments",
-                                     Folder.Write("a.cmt", "[Comments]\n2,other\n9,none\n")}),
+        Pack(Folder / "own.qorvix",
+             {"--filters", Folder.Write("a.fil", otherFilters), "--comments",
+              Folder.Write("a.cmt", "[Comments]\n2,other\n9,none\n"), "--drop-comments"}),
         (Members{{"out.log", Log}, {"out.fil", otherFilters}, {"out.cmt", "[Comments]\r\n 2 other\r\n"}}));
 }
 
@@ -74,6 +75,53 @@ TEST_F(PackCommand, ArchiveMayReplaceItsSource) {
     WriteZip(Out, {{"old name.log", Log}, {"old name.cmt", "[Comments]\r\n 0 a\r\n"}});
     EXPECT_EQ(Pack(Out),
               (Members{{"out.log", Log}, {"out.fil", AllFilters}, {"out.cmt", "[Comments]\r\n 0 a\r\n"}}));
+}
+
+TEST_F(PackCommand, CommentsOfTheReplacedArchiveAreNotLostUnasked) {
+    const std::string log = Folder.Write("a.log", Log + Lines({Header("BERR:    new")}));
+    const std::string comments = Folder.Write("a.cmt", "[Comments]\n0,new\n2,also\n");
+    WriteZip(Out, {{"a.log", Log}, {"a.cmt", "[Comments]\r\n 0 old\r\n 1 \"oil, filter\"\r\n"}});
+    const std::string before = FileContent(Out);
+    const auto refused = [&](std::vector<std::string> options) {
+        options.insert(options.begin(), {"pack", log, Out});
+        const ProgramResult result = RunCommandLineTool(options);
+        EXPECT_EQ(result.ExitStatus, 1);
+        EXPECT_EQ(FileContent(Out), before);
+        return result.Errors;
+    };
+    const std::string notSaved = "qorvix-cli: The archive could not be saved (" + Out + ": ";
+    EXPECT_EQ(refused({}), notSaved +
+                               "Comments in the archive that the list does not have, or has otherwise: 2; "
+                               "--keep-comments keeps them too, --drop-comments lets them go)\n");
+    EXPECT_EQ(refused({"--comments", comments, "--language", "de"}),
+              "qorvix-cli: Das Archiv konnte nicht gespeichert werden (" + Out +
+                  ": Kommentare im Archiv, die in der Liste fehlen oder dort anders lauten: 2; "
+                  "--keep-comments behält sie, --drop-comments gibt sie auf)\n");
+    EXPECT_EQ(Pack(log, {"--comments", comments, "--keep-comments"})[2].second,
+              "[Comments]\r\n 0 new\r\n 1 \"oil, filter\"\r\n 2 also\r\n");
+    // Nothing is lost with what is the same.
+    EXPECT_EQ(Pack(Out)[2].second, "[Comments]\r\n 0 new\r\n 1 \"oil, filter\"\r\n 2 also\r\n");
+    EXPECT_EQ(Pack(log, {"--drop-comments"})[2].second, "[Comments]\r\n");
+}
+
+TEST_F(PackCommand, CommentsOfAnotherLogbookCanOnlyBeDropped) {
+    const std::string log = Folder.Write("a.log", Log);
+    for (const bool damaged : {false, true}) {
+        WriteZip(Out, {{"a.log", "another"}, {"a.cmt", "[Comments]\r\n 0 old\r\n"}});
+        if (damaged)
+            Folder.Write("out.qorvix", "damaged");
+        const std::string before = FileContent(Out);
+        const ProgramResult result = RunCommandLineTool({"pack", log, Out, "--keep-comments"});
+        EXPECT_EQ(result.ExitStatus, 1);
+        EXPECT_EQ(
+            result.Errors,
+            "qorvix-cli: The archive could not be saved (" + Out + ": " +
+                (damaged ? "The archive that is there cannot be read (not a zip archive)"
+                         : "Comments in the archive on another logbook, or on another state of this one: 1") +
+                "; --drop-comments lets comments in it go)\n");
+        EXPECT_EQ(FileContent(Out), before);
+        EXPECT_EQ(Pack(log, {"--drop-comments"})[2].second, "[Comments]\r\n");
+    }
 }
 
 TEST_F(PackCommand, ExportPrintsTheCommentsOfAnArchive) {
@@ -155,14 +203,16 @@ TEST_F(PackCommand, WhatIsNoFileIsNeitherReadNorReplaced) {
 }
 
 TEST_F(PackCommand, WrongUsageIsStatusTwo) {
-    const std::vector<std::string> wrong[] = {{"pack"},
-                                              {"pack", "a.log"},
-                                              {"pack", "a.log", "a.zip"},
-                                              {"pack", "a.log", "qorvix"},
-                                              {"pack", "a.log", "a.qorvix", "b"},
-                                              {"pack", "a.log", "a.qorvix", "--filters", ""},
-                                              {"pack", "a.log", "a.qorvix", "--comments", ""},
-                                              {"pack", "a.log", "a.qorvix", "--language", "fr"}};
+    const std::vector<std::string> wrong[] = {
+        {"pack"},
+        {"pack", "a.log"},
+        {"pack", "a.log", "a.zip"},
+        {"pack", "a.log", "qorvix"},
+        {"pack", "a.log", "a.qorvix", "b"},
+        {"pack", "a.log", "a.qorvix", "--filters", ""},
+        {"pack", "a.log", "a.qorvix", "--comments", ""},
+        {"pack", "a.log", "a.qorvix", "--keep-comments", "--drop-comments"},
+        {"pack", "a.log", "a.qorvix", "--language", "fr"}};
     for (const std::vector<std::string>& arguments : wrong)
         EXPECT_EQ(RunCommandLineTool(arguments).ExitStatus, 2);
     EXPECT_THAT(RunCommandLineTool({"pack", "--help"}).Output, HasSubstr("--comments"));

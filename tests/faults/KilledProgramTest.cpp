@@ -34,7 +34,8 @@ class KilledProgram : public FaultTest {
     ProgramEnd Pack(const std::string& comment, const Fault& fault) {
         std::string errors;
         const std::string comments = Folder.Write("work/a.cmt", "[Comments]\r\n 1 " + comment + "\r\n");
-        const ProgramEnd end = RunTool({"pack", LogFile, Archive, "--comments", comments}, fault, errors);
+        const ProgramEnd end =
+            RunTool({"pack", LogFile, Archive, "--comments", comments, "--drop-comments"}, fault, errors);
         EXPECT_EQ(errors, "");
         return end;
     }

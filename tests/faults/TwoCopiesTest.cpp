@@ -9,9 +9,13 @@
 
 namespace {
 
+// The other copy saved one comment that this one does not have.
 constexpr const char* ChangedQuestion =
-    "The archive has been changed since you opened or saved it, perhaps in another window. Its comments and "
-    "filters would be replaced. Save all the same?";
+    "The archive has been changed since you opened or saved it, perhaps in another window. Its filters will "
+    "be "
+    "replaced.\r\n\r\n"
+    "Comments in the archive that the list does not have, or has otherwise: 1\r\n\r\n"
+    "Keep them too? If they are replaced, they are lost.";
 
 class TwoCopies : public FaultTest {
   protected:
@@ -62,7 +66,7 @@ TEST_F(TwoCopies, SecondSavingAsksBeforeItReplacesTheFirst) {
 
     Save(copies.Second);
     copies.Second.Until([](const Sight& sight) { return sight.Text == ChangedQuestion; }, "the question");
-    copies.Second.Press("No");
+    copies.Second.Press("Cancel");
     copies.Second.UntilIdle();
     EXPECT_EQ(Comments(), OfFirst);
 
@@ -84,13 +88,46 @@ TEST_F(TwoCopies, SecondSavingAsksBeforeItReplacesTheFirst) {
     EXPECT_EQ(NamesIn(Temp), std::vector<std::string>());
 }
 
-TEST_F(TwoCopies, YesReplaces) {
+TEST_F(TwoCopies, CommentsOfBothCanBeKept) {
     Copies copies(*this);
     Save(copies.First);
     copies.First.UntilIdle();
     Save(copies.Second);
     copies.Second.Until([](const Sight& sight) { return sight.Text == ChangedQuestion; }, "the question");
-    copies.Second.Press("Yes");
+    copies.Second.Press("Keep them too");
+    EXPECT_EQ(copies.Second.UntilIdle().Column(6), (std::vector<std::string>{"pump", "first", "second"}));
+    EXPECT_EQ(Comments(), OfFirst + " 2 second\r\n");
+    ExpectToClose(copies.First);
+    ExpectToClose(copies.Second);
+}
+
+TEST_F(TwoCopies, FiltersOfTheOtherAreAskedAboutToo) {
+    ProgramWindow window({Archive}, Variables());
+    window.UntilRows(3);
+    window.Comment(1, "mine");
+    WriteZip(Archive, {{"a.log", LogbookOf(3)},
+                       {"a.fil", "[Filters]\r\nI|4||||1\r\n"},
+                       {"a.cmt", "[Comments]\r\n 0 pump\r\n"}});
+    Save(window);
+    window.Until(
+        [](const Sight& sight) {
+            return sight.Text == "The archive has been changed since you opened or saved it, perhaps in "
+                                 "another window. Its comments and filters would be replaced. Save all the "
+                                 "same?";
+        },
+        "the question");
+    window.Press("No");
+    window.UntilIdle();
+    EXPECT_EQ(Comments(), "[Comments]\r\n 0 pump\r\n");
+}
+
+TEST_F(TwoCopies, ReplaceReplaces) {
+    Copies copies(*this);
+    Save(copies.First);
+    copies.First.UntilIdle();
+    Save(copies.Second);
+    copies.Second.Until([](const Sight& sight) { return sight.Text == ChangedQuestion; }, "the question");
+    copies.Second.Press("Replace");
     copies.Second.UntilIdle();
     EXPECT_EQ(Comments(), OfSecond);
     ExpectToClose(copies.First);
@@ -139,8 +176,10 @@ TEST_F(TwoCopies, ManyAtOnceLeaveAWholeArchive) {
         comments.push_back(Folder.Write(std::string("work/") + name + ".cmt",
                                         std::string("[Comments]\r\n 1 ") + name + "\r\n"));
     for (int round = 0; round < Rounds; ++round) {
-        RunningProgram one(Tool, {"pack", log, Archive, "--comments", comments[0]}, Variables());
-        RunningProgram two(Tool, {"pack", log, Archive, "--comments", comments[1]}, Variables());
+        RunningProgram one(Tool, {"pack", log, Archive, "--comments", comments[0], "--drop-comments"},
+                           Variables());
+        RunningProgram two(Tool, {"pack", log, Archive, "--comments", comments[1], "--drop-comments"},
+                           Variables());
         const ProgramEnd ends[] = {one.WaitForEnd(), two.WaitForEnd()};
         // One of them is there; the other came before it, or was told that it came too late.
         EXPECT_TRUE(Comments() == FileContent(comments[0]) || Comments() == FileContent(comments[1]));

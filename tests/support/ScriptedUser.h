@@ -4,6 +4,7 @@
 #include "sources/UserInterface.h"
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +22,18 @@ class ScriptedUser : public UserInterface {
             return Answer::Cancel;
         const Answer answer = Answers.front();
         Answers.pop_front();
+        return answer;
+    }
+    std::optional<std::size_t> Choose(std::string_view question,
+                                      std::span<const AnswerButton> answers) override {
+        Choices.emplace_back(question);
+        ChoiceCounts.push_back(answers.size());
+        if (WhileChoosing)
+            WhileChoosing();
+        if (Chosen.empty())
+            return std::nullopt;
+        const std::optional<std::size_t> answer = Chosen.front();
+        Chosen.pop_front();
         return answer;
     }
     bool Confirm(std::string_view question) override {
@@ -41,14 +54,18 @@ class ScriptedUser : public UserInterface {
     }
     void RestoreStatus() override { --StatusDepth; }
 
-    // The answers: to Ask in their order, then Cancel; to Confirm; to a question for a file.
+    // The answers: to Ask, and to Choose, in their order, then Cancel; to Confirm; to a question for a file.
     std::deque<Answer> Answers;
+    std::deque<std::optional<std::size_t>> Chosen;
+    std::function<void()> WhileChoosing; // what happens meanwhile
     bool Agrees = false;
     std::optional<std::string> File;
 
     std::vector<std::string> Messages;
     std::vector<MessageIcon> Icons;
     std::vector<TextId> Questions;
+    std::vector<std::string> Choices;
+    std::vector<std::size_t> ChoiceCounts; // of the answers that were offered, besides Cancel
     std::vector<std::string> Confirmations;
     std::vector<FileQuestion> FilesToOpen;
     std::vector<FileQuestion> FilesToSave;

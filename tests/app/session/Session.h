@@ -69,6 +69,7 @@ class Session : public MainWindowTest {
     enum class Leave { Go, Stay };
     Leave PlanLeaving(bool closing = false);
     bool PlanArchive();
+    bool PlanReplacing(const Source& old);
     void PlanRestoring();
     void LetLostGo();
     void LoseComments();

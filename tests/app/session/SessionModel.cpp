@@ -43,6 +43,7 @@ void SessionModel::Read(const SessionEntries& entries, const QString& name) {
     Title = name + " - Qorvix";
     CommentsEdited = false;
     Noted.clear();
+    Changed.clear();
     Content.clear();
     Fill();
 }
@@ -175,8 +176,10 @@ bool SessionModel::IsHit(int row) const {
 }
 
 void SessionModel::Comment(int row, const QString& comment) {
-    Entries[Rows[row].Entry].Comment =
-        comment == "!!Clear!!" ? QString() : QString(comment).replace("\n", " | ");
+    const QString text = comment == "!!Clear!!" ? QString() : QString(comment).replace("\n", " | ");
+    if (Entries[Rows[row].Entry].Comment != text)
+        Changed.insert(Rows[row].Entry);
+    Entries[Rows[row].Entry].Comment = text;
     CommentsEdited = true;
     Noted[Rows[row].Entry] = Entries[Rows[row].Entry].Comment;
     ShowContentOf(row);

@@ -86,7 +86,8 @@ class SessionModel {
     int LabelLanguage = 0;
     bool CommentsEdited = false;
     std::map<int, QString>
-        Noted; // the comments that were entered and are neither saved nor dropped, by entry
+        Noted;             // the comments that were entered and are neither saved nor dropped, by entry
+    std::set<int> Changed; // entries whose comments the person changed since they were read or saved
     bool ContentShown = false;
     QString Title;
     QString Content;

@@ -53,6 +53,65 @@ void Session::LoseComments() {
         lost_.push_back({Model.BareEntries(), Model.Noted});
 }
 
+// What comes when comments would be lost with the archive that is replaced; false when it stays.
+bool Session::PlanReplacing(const Source& old) {
+    SessionEntries oldEntries = old.Entries;
+    for (SessionEntry& entry : oldEntries)
+        entry.Comment.clear();
+    const bool isSame = oldEntries == Model.BareEntries();
+    std::map<int, QString> comments;
+    bool anyDiffers = false;
+    for (int i = 0; i < old.Entries.size(); ++i) {
+        const QString& comment = old.Entries[i].Comment;
+        const bool isHere = i < Model.Entries.size() && Model.Entries[i].Comment == comment;
+        if (comment.isEmpty() || isHere)
+            continue;
+        anyDiffers = true;
+        if (!isSame || !Model.Changed.contains(i))
+            comments[i] = comment;
+    }
+    if (!anyDiffers || comments.empty())
+        return true;
+    enum class Fate { Keep, Replace, Cancel };
+    static constexpr Fate Fates[] = {Fate::Keep, Fate::Replace, Fate::Cancel};
+    Fate fate = dice_.Pick(Fates);
+    if (!isSame && fate == Fate::Keep)
+        fate = Fate::Replace;
+    Say(fate == Fate::Keep ? "keeps archived comments" : fate == Fate::Replace ? "replaces them" : "cancels");
+    const QString number = QString::number(comments.size());
+    const QString text =
+        isSame ? Localised("Comments in the archive that the list does not have, or has otherwise: ",
+                           "Kommentare im Archiv, die in der Liste fehlen oder dort anders lauten: ") +
+                     number + "\r\n\r\n" +
+                     Localised("Keep them too? If they are replaced, they are lost.",
+                               "Sollen sie auch erhalten bleiben? Werden sie ersetzt, sind sie verloren.")
+               : Localised(
+                     "Comments in the archive on another logbook, or on another state of this one: ",
+                     "Kommentare im Archiv zu einem anderen Logbuch oder einem anderen Stand von diesem: ") +
+                     number + "\r\n\r\n" +
+                     Localised("They cannot be kept with this logbook. Replace the archive?",
+                               "Mit diesem Logbuch können sie nicht erhalten bleiben. Das Archiv ersetzen?");
+    const QString button = fate == Fate::Keep      ? Localised("Keep them too", "Auch behalten")
+                           : fate == Fate::Replace ? Localised("Replace", "Ersetzen")
+                                                   : Localised("Cancel", "Abbrechen");
+    Answers.Expect("QMessageBox", [=, this](QWidget& dialog) {
+        auto& box = static_cast<QMessageBox&>(dialog);
+        if (box.text() != text)
+            Answers.Blame("question \"" + box.text() + "\" instead of \"" + text + '"');
+        for (QAbstractButton* const each : box.buttons())
+            if (each->text().remove('&') == button)
+                return each->click();
+        Answers.Blame("question without the button " + button);
+        box.reject();
+    });
+    if (fate == Fate::Keep) {
+        for (const auto& [entry, comment] : comments)
+            Model.Entries[entry].Comment = comment;
+        Model.ShowContent();
+    }
+    return fate != Fate::Cancel;
+}
+
 // What comes when an archive is saved; false when it is not saved after all.
 bool Session::PlanArchive() {
     const QString title = Localised("Save Archive", "Archiv speichern");
@@ -65,7 +124,6 @@ bool Session::PlanArchive() {
     Source archive = shown_;
     archive.File = replaces ? archives_.back().File : QString("Archiv-%1.qorvix").arg(++archivesMade_);
     archive.Name = archive.File.section('.', 0, 0);
-    archive.Entries = Model.Entries;
     archive.Filters.clear();
     for (const SessionFilter& filter : Model.Filters())
         archive.Filters << TextForm(filter);
@@ -76,13 +134,17 @@ bool Session::PlanArchive() {
         Answers.Expect("QMessageBox", [](QWidget& box) {
             static_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click();
         });
+        if (!PlanReplacing(archives_.back()))
+            return false;
         archives_.pop_back();
     }
+    archive.Entries = Model.Entries;
     archives_.push_back(std::move(archive));
     if (archives_.size() > MostArchives)
         archives_.erase(archives_.begin());
     Model.CommentsEdited = false;
     Model.Noted.clear();
+    Model.Changed.clear();
     lost_.removeIf([](const Lost& lost) { return lost.Held; });
     return true;
 }
@@ -153,6 +215,8 @@ void Session::PlanRestoring() {
         Model.Entries[entry].Comment = comment;
     Model.CommentsEdited = true;
     Model.Noted = comments;
+    for (const auto& [entry, comment] : comments)
+        Model.Changed.insert(entry);
 }
 
 // Opens what was planned, and asks about the filters of an archive.
