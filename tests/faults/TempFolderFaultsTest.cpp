@@ -161,7 +161,7 @@ TEST_F(TempFolderFaults, LogbookOfAnArchiveRemovedWhileItIsShown) {
     ProgramWindow window({Archive}, Variables());
     window.UntilRows(4);
     fs::remove_all(Temp + "/Qorvix");
-    EXPECT_EQ(MessageOfSaving(window), NotSaved(Temp + "/Qorvix/a.log: No such file or directory"));
+    EXPECT_EQ(MessageOfSaving(window), NotSaved(Archive + ": a.log: No such file or directory"));
     EXPECT_EQ(window.See().Cells.size(), 4U);
     window.Trigger("mnuViewRefresh");
     EXPECT_EQ(window.UntilRows(0).Counts, "0 / 4 Items");
