@@ -166,7 +166,7 @@ class frmLogbookSettingsFilesTest : public LogbookSettingsTest {
         AnswerMessage(QMessageBox::Ok);
         Dialog->GetFilterFromFile(path.toStdString());
         QCOMPARE(MessageTexts.last(),
-                 "Filterdatei \"" + path + "\" kann nicht gelesen werden (No such file or directory)");
+                 "Filterdatei \"" + path + "\" kann nicht gelesen werden (Datei oder Ordner nicht gefunden)");
         AnswerMessage(QMessageBox::Ok);
         Dialog->GetFilterFromFile(Folder->Path().string());
         QCOMPARE(Answered, 3);
