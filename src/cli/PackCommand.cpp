@@ -74,7 +74,7 @@ std::string ReasonToKeep(const PackOptions& options, SourceLogbook& logbook, con
         return {};
     const bool canKeep = lost.What == ArchivedComments::Kind::OfThisLogbook;
     if (!canKeep || !options.KeepComments)
-        return TellArchivedComments(lost, options.MessageLanguage) +
+        return TellArchivedComments(lost, options.MessageLanguage) + "; " +
                std::string(Text(canKeep ? TextId::KeepOrDropComments : TextId::DropComments,
                                 options.MessageLanguage));
     for (const auto& [number, comment] : lost.Comments)

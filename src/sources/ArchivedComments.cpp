@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/ArchivedComments.h"
 
+#include "logbook/FollowLinks.h"
 #include "logbook/modUtil.h"
 #include "settings/ReasonText.h"
 #include "settings/Texts.h"
@@ -130,8 +131,13 @@ class Look {
 
 ArchivedComments CommentsLostWith(const std::string& archive, const ArchiveSuccessor& successor,
                                   const TempFolder& tempFolder, Language language) {
-    // What is no file is not replaced, which saving tells; opening a pipe may never end.
+    // What is not replaced, which saving tells, is not looked into: another user's link, the logbook file
+    // itself, and what is no file; opening a pipe may never end.
+    std::error_code error;
+    const std::filesystem::path file = FollowLinks(ToPath(archive), error);
     std::error_code noFile;
+    if (error || std::filesystem::equivalent(file, ToPath(successor.LogbookFile), noFile))
+        return {};
     const std::optional<FileStamp> stamp = StampOf(archive, noFile);
     if (!stamp || stamp->Size == 0)
         return {};
