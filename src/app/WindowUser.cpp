@@ -23,8 +23,7 @@ void WindowUser::ShowMessage(std::string_view text, const QString& title, Messag
 
 std::optional<std::size_t> WindowUser::Choose(std::string_view question,
                                               std::span<const AnswerButton> answers) {
-    QMessageBox box(QMessageBox::Warning, window_->windowTitle(), ToQString(question), QMessageBox::Cancel,
-                    window_);
+    QMessageBox box(QMessageBox::Warning, title_, ToQString(question), QMessageBox::Cancel, window_);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Cancel);
     std::vector<QAbstractButton*> buttons;

@@ -36,9 +36,9 @@ CLI::App* AddPackCommand(CLI::App& app, PackOptions& options) {
         ->check(notEmpty);
     command->add_option("--comments", options.Comments, "The comments of this comments file instead")
         ->check(notEmpty);
-    CLI::Option* const keep =
-        command->add_flag("--keep-comments", options.KeepComments,
-                          "Keep the comments of the archive that is replaced, too, on entries that get none");
+    CLI::Option* const keep = command->add_flag(
+        "--keep-comments", options.KeepComments,
+        "Keep the comments of the archive that is replaced, too, behind others of the same entry");
     command
         ->add_flag("--drop-comments", options.DropComments,
                    "Let the comments of the archive that is replaced go")
@@ -78,8 +78,7 @@ std::string ReasonToKeep(const PackOptions& options, SourceLogbook& logbook, con
                std::string(Text(canKeep ? TextId::KeepOrDropComments : TextId::DropComments,
                                 options.MessageLanguage));
     for (const auto& [number, comment] : lost.Comments)
-        if (entries.Comment(number).empty())
-            entries.SetComment(number, comment);
+        entries.SetComment(number, comment);
     return {};
 }
 

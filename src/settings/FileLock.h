@@ -21,7 +21,7 @@ class FileLock {
     bool IsHeld() const { return handle_.IsOpen(); }
 
   private:
-    bool Take(unsigned mode) const;
+    bool Take() const;
 
     FileHandle handle_;
 };

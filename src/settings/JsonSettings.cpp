@@ -17,6 +17,12 @@
 
 namespace {
 
+// A link that leads nowhere takes a name, too.
+bool IsTaken(const std::string& file) {
+    std::error_code error;
+    return std::filesystem::exists(std::filesystem::symlink_status(ToPath(file), error));
+}
+
 using Json = JsonSettings::Json;
 
 // In bytes. Five million entries removed from the list one by one make a sixth of it.
@@ -211,7 +217,7 @@ bool JsonSettings::KeepDamaged() const {
     constexpr int MostKept = 1000;
     std::error_code error;
     std::string kept = file_ + ".damaged";
-    for (int number = 1; number < MostKept && std::filesystem::exists(ToPath(kept), error); ++number)
+    for (int number = 1; number < MostKept && IsTaken(kept); ++number)
         kept = file_ + ".damaged." + std::to_string(number);
     return std::filesystem::copy_file(ToPath(file_), ToPath(kept), error);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/ArchivedComments.h"
 
+#include "logbook/EventLines.h"
 #include "logbook/FollowLinks.h"
 #include "logbook/modUtil.h"
 #include "settings/ReasonText.h"
@@ -110,11 +111,17 @@ class Look {
         return archive_.Error().empty() ? std::optional(false) : std::nullopt;
     }
 
+    // Both, where the entry has a comment of its own.
+    std::string WithOwn(std::int64_t number, std::string archived) const {
+        std::string own(successor_.Entries.Comment(static_cast<EntryNumber>(number)));
+        return own.empty() ? std::move(archived) : own.append(LineSeparator).append(archived);
+    }
+
     ArchivedComments OfThisLogbook(ByNumber& comments) const {
         ArchivedComments lost;
         for (auto& [number, comment] : comments)
             if (HasEntry(number) && !successor_.Changed.contains(static_cast<EntryNumber>(number)))
-                lost.Comments[static_cast<EntryNumber>(number)] = std::move(comment);
+                lost.Comments[static_cast<EntryNumber>(number)] = WithOwn(number, std::move(comment));
         lost.Count = lost.Comments.size();
         lost.What = lost.Count == 0 ? Kind::None : Kind::OfThisLogbook;
         return lost;

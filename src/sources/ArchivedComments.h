@@ -30,7 +30,7 @@ struct ArchivedComments {
     };
 
     Kind What = Kind::None;
-    std::map<EntryNumber, std::string> Comments; // of this logbook, by entries that have none or another
+    std::map<EntryNumber, std::string> Comments; // of this logbook, behind what the entries have
     std::size_t Count = 0;
     std::string Reason; // why the archive is unreadable, in the language of the user
 };

@@ -98,9 +98,9 @@ TEST_F(PackCommand, CommentsOfTheReplacedArchiveAreNotLostUnasked) {
                   ": Kommentare im Archiv, die in der Liste fehlen oder dort anders lauten: 2; "
                   "--keep-comments behält sie, --drop-comments gibt sie auf)\n");
     EXPECT_EQ(Pack(log, {"--comments", comments, "--keep-comments"})[2].second,
-              "[Comments]\r\n 0 new\r\n 1 \"oil, filter\"\r\n 2 also\r\n");
+              "[Comments]\r\n 0 new | old\r\n 1 \"oil, filter\"\r\n 2 also\r\n");
     // Nothing is lost with what is the same.
-    EXPECT_EQ(Pack(Out)[2].second, "[Comments]\r\n 0 new\r\n 1 \"oil, filter\"\r\n 2 also\r\n");
+    EXPECT_EQ(Pack(Out)[2].second, "[Comments]\r\n 0 new | old\r\n 1 \"oil, filter\"\r\n 2 also\r\n");
     EXPECT_EQ(Pack(log, {"--drop-comments"})[2].second, "[Comments]\r\n");
 }
 

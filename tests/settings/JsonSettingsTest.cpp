@@ -215,6 +215,28 @@ TEST_F(JsonSettingsTest, WithoutAFileToLockNothingIsWritten) {
     EXPECT_EQ(std::filesystem::status(lock).permissions(), std::filesystem::perms(0600));
 }
 
+TEST_F(JsonSettingsTest, LinkInPlaceOfTheLockIsNotFollowed) {
+    WriteNumber(File(), "A", 5);
+    const std::string secret = Folder.Write("secret", "secret");
+    std::filesystem::permissions(secret, std::filesystem::perms(0600));
+    std::filesystem::remove(File() + ".lock");
+    std::filesystem::create_symlink(secret, File() + ".lock");
+    WriteNumber(File(), "A", 6);
+    EXPECT_EQ(ReadNumber(File(), "A"), 5);
+    EXPECT_EQ(FileContent(secret), "secret");
+    EXPECT_EQ(std::filesystem::status(secret).permissions(), std::filesystem::perms(0600));
+}
+
+TEST_F(JsonSettingsTest, DamagedFileIsKeptBesideALinkThatLeadsNowhere) {
+    Folder.Write("Qorvix.json", "{bad");
+    std::filesystem::create_symlink("nowhere", File() + ".damaged");
+    WriteNumber(File(), "A", 5);
+    EXPECT_EQ(ReadNumber(File(), "A"), 5);
+    EXPECT_EQ(FileContent(File() + ".damaged.1"), "{bad");
+    EXPECT_TRUE(std::filesystem::is_symlink(File() + ".damaged"));
+    EXPECT_FALSE(std::filesystem::exists(Folder / "nowhere"));
+}
+
 TEST_F(JsonSettingsTest, EmptyFileIsNoDamage) {
     Folder.Write("Qorvix.json", "");
     WriteNumber(File(), "A", 5);

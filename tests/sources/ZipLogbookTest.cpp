@@ -292,13 +292,14 @@ TEST_F(ZipLogbookTest, ChangesOfThePersonAreNotAskedAbout) {
     EXPECT_EQ(User.Choices.size(), 1U);
 }
 
-TEST_F(ZipLogbookTest, OfACommentThatWasNotChangedHereTheArchivedOneIsKept) {
+TEST_F(ZipLogbookTest, WhereNeitherCommentWasChangedHereBothAreKept) {
     WriteOld(" 3 better\r\n 5 mine too\r\n");
     Entries.SetComment(5, "changed here");
     State.ChangedComments = {5};
     User.Chosen = {0};
     EXPECT_EQ(Zip(), ZipOutcome::SavedWithMore);
-    EXPECT_EQ(Archived(), " 3 better\r\n 5 changed here\r\n");
+    EXPECT_EQ(Archived(), " 3 pump | better\r\n 5 changed here\r\n");
+    EXPECT_EQ(Entries.Comment(3), "pump | better");
 }
 
 TEST_F(ZipLogbookTest, WhatTheCodePageLackedIsNoOtherComment) {

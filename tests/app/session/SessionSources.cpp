@@ -105,8 +105,10 @@ bool Session::PlanReplacing(const Source& old) {
         box.reject();
     });
     if (fate == Fate::Keep) {
-        for (const auto& [entry, comment] : comments)
-            Model.Entries[entry].Comment = comment;
+        for (const auto& [entry, comment] : comments) {
+            QString& own = Model.Entries[entry].Comment;
+            own = own.isEmpty() ? comment : own + " | " + comment;
+        }
         Model.ShowContent();
     }
     return fate != Fate::Cancel;
