@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/ElidedLabel.h"
 
+#include "list/ToolTip.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -12,11 +14,6 @@
 namespace {
 
 constexpr int FewestCharacters = 4; // that a label is made wide enough for
-
-// As a tool tip that breaks into lines; without markup of its own it would be one line as long as the text.
-QString WrappedToolTip(const QString& text) {
-    return "<p style=\"white-space: pre-wrap\">" + text.toHtmlEscaped() + "</p>";
-}
 
 } // namespace
 
@@ -95,7 +92,7 @@ bool ElidedLabel::event(QEvent* event) {
     if (whole)
         QToolTip::hideText();
     else
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), WrappedToolTip(text()), this);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), ToolTipOf(text()), this);
     return true;
 }
 

@@ -57,7 +57,7 @@ class ElidedLabelTest : public QObject {
         ToolTipOf(label, "short");
         QVERIFY(!QToolTip::isVisible());
         const QString markup = "<b>" + QString(300, 'x') + "</b>";
-        const QString tip = ToolTipOf(label, markup);
+        const QString tip = ToolTipOf(label, markup).remove(QChar(0x200B)); // where lines may end
         QVERIFY(tip.contains("pre-wrap"));
         QVERIFY(tip.contains(markup.toHtmlEscaped()));
         label.resize(10000, 20);
