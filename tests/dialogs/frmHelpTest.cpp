@@ -1,65 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "dialogs/frmHelp.h"
-
 #include "dialogs/HTMLHelp.h"
-#include "dialogs/HelpBrowser.h"
+#include "dialogs/HelpTest.h"
 #include "dialogs/TabWalk.h"
-#include "helpbook/HelpFile.h"
 #include "support/TemporaryFolder.h"
 
 #include <QAction>
-#include <QBuffer>
-#include <QDesktopServices>
 #include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
 #include <QTabWidget>
-#include <QTest>
 #include <QTreeWidget>
-#include <QWheelEvent>
 
-namespace {
-
-// The folder of the built programs, or of those that the environment names, such as installed ones.
-std::filesystem::path Programs() {
-    const QByteArray folder = qgetenv("QORVIX_PROGRAM_FOLDER");
-    return folder.isEmpty() ? QORVIX_PROGRAM_FOLDER : folder.toStdString();
-}
-
-std::filesystem::path HelpOf(std::int32_t number) { return HelpFile(Programs(), {number}); }
-
-HelpBook SmallBook() {
-    return {
-        "Small help",
-        "/a.html",
-        {{"A", "/a.html", {{"A below", "/sub/c.html", {}}}}, {"B", "/b.html#place", {}}},
-        {{"/a.html", "<h1>A</h1><p><a href=\"b.html\">to B</a> <a href=\"sub/c.html\">to C</a> "
-                     "<a href=\"gone.html\">to nothing</a> <a href=\"https://example.com/x\">out</a></p>"},
-         {"/b.html", "<h1>B</h1><p>Öffnen, and open the word twice: open</p><a name=\"place\">here</a>"},
-         {"/sub/c.html", "<h1>C</h1><p><a href=\"../a.html\">to A</a></p>"}}};
-}
-
-template <typename Control>
-Control* Find(const QWidget& window, const char* name) {
-    return window.findChild<Control*>(name);
-}
-
-HelpBrowser* PageOf(const QWidget& window) { return window.findChild<HelpBrowser*>("txPage"); }
-
-std::vector<frmHelp*> HelpWindows() {
-    std::vector<frmHelp*> windows;
-    for (QWidget* widget : QApplication::topLevelWidgets())
-        if (auto* help = qobject_cast<frmHelp*>(widget))
-            windows.push_back(help);
-    return windows;
-}
-
-} // namespace
-
-class frmHelpTest : public QObject {
+class frmHelpTest : public HelpTest {
     Q_OBJECT
 
   private slots:
@@ -179,260 +132,6 @@ class frmHelpTest : public QObject {
         QVERIFY(HelpWindows().front()->isVisible());
     }
 
-    void LinksBackAndForward() {
-        frmHelp window(SmallBook(), {Language::English});
-        auto* back = Find<QAction>(window, "actBack");
-        auto* forward = Find<QAction>(window, "actForward");
-        QVERIFY(!back->isEnabled());
-        QVERIFY(!forward->isEnabled());
-        emit PageOf(window)->anchorClicked(QUrl("sub/c.html"));
-        QCOMPARE(PageOf(window)->Page(), std::string("/sub/c.html"));
-        QVERIFY(PageOf(window)->toPlainText().startsWith("C"));
-        QCOMPARE(Find<QTreeWidget>(window, "tvContents")->currentItem()->text(0), QString("A below"));
-        emit PageOf(window)->anchorClicked(QUrl("../a.html"));
-        QCOMPARE(PageOf(window)->Page(), std::string("/a.html"));
-        back->trigger();
-        QCOMPARE(PageOf(window)->Page(), std::string("/sub/c.html"));
-        QVERIFY(forward->isEnabled());
-        forward->trigger();
-        QCOMPARE(PageOf(window)->Page(), std::string("/a.html"));
-    }
-
-    void LinkToAMissingPageSaysSo() {
-        frmHelp english(SmallBook(), {Language::English});
-        emit PageOf(english)->anchorClicked(QUrl("gone.html"));
-        QCOMPARE(PageOf(english)->toPlainText(), QString("This page of the help cannot be read."));
-        frmHelp german(SmallBook(), {Language::German});
-        emit PageOf(german)->anchorClicked(QUrl("gone.html"));
-        QCOMPARE(PageOf(german)->toPlainText(), QString("Diese Seite der Hilfe kann nicht gelesen werden."));
-    }
-
-    void LinkOutOfTheHelpIsLeftToTheDesktopWhenClicked() {
-        QDesktopServices::setUrlHandler("https", this, "TakeUrl");
-        frmHelp window(SmallBook(), {Language::English});
-        QVERIFY(urls_.isEmpty());
-        emit PageOf(window)->anchorClicked(QUrl("https://example.com/x"));
-        QCOMPARE(urls_, QList<QUrl>{QUrl("https://example.com/x")});
-        QCOMPARE(PageOf(window)->Page(), std::string("/a.html"));
-        QDesktopServices::unsetUrlHandler("https");
-    }
-
-    void NothingComesFromTheDisk() {
-        const TemporaryFolder folder;
-        const std::string text = folder.Write("secret.html", "secret");
-        HelpBook book = SmallBook();
-        const frmHelp window(std::move(book), {Language::English});
-        auto* page = PageOf(window);
-        page->ShowPage(text);
-        QCOMPARE(page->toPlainText(), QString("This page of the help cannot be read."));
-        const QString picture = QString::fromStdString(folder / "secret.png");
-        QImage secret(20, 10, QImage::Format_RGB32);
-        secret.fill(Qt::red);
-        QVERIFY(secret.save(picture));
-        const QVariant resource =
-            page->document()->resource(QTextDocument::ImageResource, QUrl::fromLocalFile(picture));
-        QCOMPARE(resource.value<QImage>().size(), QSize(1, 1));
-        QVERIFY(page->document()
-                    ->resource(QTextDocument::StyleSheetResource, QUrl::fromLocalFile(text.c_str()))
-                    .toByteArray()
-                    .isEmpty());
-    }
-
-    void PicturesComeFromTheBook() {
-        HelpBook book = SmallBook();
-        QImage picture(20, 10, QImage::Format_RGB32);
-        picture.fill(Qt::green);
-        QByteArray bytes;
-        QBuffer buffer(&bytes);
-        QVERIFY(picture.save(&buffer, "PNG"));
-        book.Members["/pictures/p.png"] = bytes.toStdString();
-        book.Members["/a.html"] = "<img src=\"pictures/p.png\">";
-        const frmHelp window(std::move(book), {Language::English});
-        const QVariant resource =
-            PageOf(window)->document()->resource(QTextDocument::ImageResource, QUrl("help:/pictures/p.png"));
-        QCOMPARE(resource.value<QImage>().size(), QSize(20, 10));
-    }
-
-    void ClickInTheContentsShowsThePage() {
-        frmHelp window(SmallBook(), {Language::English});
-        window.show();
-        auto* contents = Find<QTreeWidget>(window, "tvContents");
-        contents->setCurrentItem(contents->topLevelItem(1));
-        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
-        QCOMPARE(PageOf(window)->source().fragment(), QString("place"));
-    }
-
-    void SearchListsPagesAndMarksTheWords() {
-        frmHelp window(SmallBook(), {Language::English});
-        window.show();
-        window.ShowSearch();
-        QTest::keyClicks(Find<QLineEdit>(window, "tbSearchWords"), "OPEN");
-        QTest::keyClick(Find<QLineEdit>(window, "tbSearchWords"), Qt::Key_Return);
-        auto* hits = Find<QListWidget>(window, "lbHits");
-        QCOMPARE(hits->count(), 1);
-        QCOMPARE(hits->item(0)->text(), QString("/b.html"));
-        QCOMPARE(Find<QLabel>(window, "lblHits")->text(), QString("Pages found: 1"));
-        hits->setCurrentRow(0);
-        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
-        QCOMPARE(PageOf(window)->extraSelections().size(), 2);
-
-        Find<QLineEdit>(window, "tbSearchWords")->setText("zebra");
-        Find<QPushButton>(window, "cmdSearch")->click();
-        QCOMPARE(hits->count(), 0);
-        QCOMPARE(Find<QLabel>(window, "lblHits")->text(), QString("No page holds all of these words."));
-    }
-
-    void HitCanBeOpenedAgain() {
-        frmHelp window(SmallBook(), {Language::English});
-        window.show();
-        window.ShowSearch();
-        Find<QLineEdit>(window, "tbSearchWords")->setText("open");
-        Find<QPushButton>(window, "cmdSearch")->click();
-        auto* hits = Find<QListWidget>(window, "lbHits");
-        const auto click = [&] {
-            QTest::mouseClick(hits->viewport(), Qt::LeftButton, {},
-                              hits->visualItemRect(hits->item(0)).center());
-        };
-        click();
-        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
-        emit PageOf(window)->anchorClicked(QUrl("a.html"));
-        QVERIFY(PageOf(window)->extraSelections().isEmpty());
-        click();
-        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
-        QCOMPARE(PageOf(window)->extraSelections().size(), 2);
-        Find<QAction>(window, "actBack")->trigger();
-        QCOMPARE(PageOf(window)->Page(), std::string("/a.html"));
-        click();
-        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
-    }
-
-    void TopicCanBeOpenedAgain() {
-        HelpBook book = SmallBook();
-        book.Members["/d.html"] = "in no contents";
-        frmHelp window(std::move(book), {Language::English});
-        window.show();
-        auto* contents = Find<QTreeWidget>(window, "tvContents");
-        const auto click = [&] {
-            QTest::mouseClick(contents->viewport(), Qt::LeftButton, {},
-                              contents->visualItemRect(contents->topLevelItem(1)).center());
-        };
-        click();
-        emit PageOf(window)->anchorClicked(QUrl("d.html"));
-        QCOMPARE(PageOf(window)->Page(), std::string("/d.html"));
-        click();
-        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
-    }
-
-    void EmptySearchChangesNothing() {
-        frmHelp window(SmallBook(), {Language::English});
-        window.show();
-        window.ShowSearch();
-        auto* words = Find<QLineEdit>(window, "tbSearchWords");
-        for (const char* empty : {"", "   ", "\"\"", " , ."}) {
-            words->setText(empty);
-            QTest::keyClick(words, Qt::Key_Return);
-            QCOMPARE(Find<QLabel>(window, "lblHits")->text(), QString());
-        }
-        words->setText("open");
-        QTest::keyClick(words, Qt::Key_Return);
-        words->clear();
-        Find<QPushButton>(window, "cmdSearch")->click();
-        QCOMPARE(Find<QListWidget>(window, "lbHits")->count(), 1);
-        QCOMPARE(Find<QLabel>(window, "lblHits")->text(), QString("Pages found: 1"));
-    }
-
-    void PhrasesAreFoundAndMarked() {
-        frmHelp window(SmallBook(), {Language::English});
-        window.show();
-        window.ShowSearch();
-        Find<QLineEdit>(window, "tbSearchWords")->setText("\"the WORD twice\", here.");
-        Find<QPushButton>(window, "cmdSearch")->click();
-        QCOMPARE(Find<QListWidget>(window, "lbHits")->count(), 1);
-        Find<QListWidget>(window, "lbHits")->setCurrentRow(0);
-        QStringList marked;
-        for (const QTextEdit::ExtraSelection& mark : PageOf(window)->extraSelections())
-            marked << mark.cursor.selectedText();
-        QCOMPARE(marked, QStringList({"the word twice", "here"}));
-        Find<QLineEdit>(window, "tbSearchWords")->setText("\"word the twice\"");
-        Find<QPushButton>(window, "cmdSearch")->click();
-        QCOMPARE(Find<QListWidget>(window, "lbHits")->count(), 0);
-    }
-
-    void SearchInTheRealHelp() {
-        HtmlHelp help(&owner_, HelpReader(Programs()));
-        QVERIFY(help.DisplaySearch(HelpOf(Language::English), {Language::English}));
-        Find<QLineEdit>(*HelpWindows().front(), "tbSearchWords")->setText("open archive");
-        Find<QPushButton>(*HelpWindows().front(), "cmdSearch")->click();
-        QVERIFY(Find<QListWidget>(*HelpWindows().front(), "lbHits")->count() > 2);
-        help.CloseAll();
-        QVERIFY(help.DisplaySearch(HelpOf(Language::German), {Language::German}));
-        const frmHelp& window = *HelpWindows().front();
-        Find<QLineEdit>(window, "tbSearchWords")->setText("ARCHIV öffnen");
-        Find<QPushButton>(window, "cmdSearch")->click();
-        QVERIFY(Find<QListWidget>(window, "lbHits")->count() > 2);
-        QVERIFY(Find<QLabel>(window, "lblHits")->text().startsWith("Gefundene Seiten: "));
-        Find<QLineEdit>(window, "tbSearchWords")->setText("qwertz");
-        Find<QPushButton>(window, "cmdSearch")->click();
-        QCOMPARE(Find<QLabel>(window, "lblHits")->text(), QString("Keine Seite enthält alle diese Wörter."));
-    }
-
-    void TextSizeHasItsLimits() {
-        frmHelp window(SmallBook(), {Language::English});
-        auto* larger = Find<QAction>(window, "actLargerText");
-        auto* smaller = Find<QAction>(window, "actSmallerText");
-        const qreal size = PageOf(window)->font().pointSizeF();
-        larger->trigger();
-        QCOMPARE(PageOf(window)->font().pointSizeF(), size + 1);
-        smaller->trigger();
-        QCOMPARE(PageOf(window)->font().pointSizeF(), size);
-        for (int i = 0; i < 50; ++i)
-            smaller->trigger();
-        QCOMPARE(PageOf(window)->font().pointSizeF(), size - 4);
-        QVERIFY(!smaller->isEnabled());
-        for (int i = 0; i < 50; ++i)
-            larger->trigger();
-        QCOMPARE(PageOf(window)->font().pointSizeF(), size + 12);
-        QVERIFY(!larger->isEnabled());
-        QVERIFY(smaller->isEnabled());
-    }
-
-    void NormalTextIsOneStepAway() {
-        frmHelp window(SmallBook(), {Language::English});
-        window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        auto* normal = Find<QAction>(window, "actNormalText");
-        const qreal size = PageOf(window)->font().pointSizeF();
-        QVERIFY(!normal->isEnabled());
-        for (int i = 0; i < 3; ++i)
-            Find<QAction>(window, "actLargerText")->trigger();
-        QVERIFY(normal->isEnabled());
-        QTest::keyClick(&window, Qt::Key_0, Qt::ControlModifier);
-        QCOMPARE(PageOf(window)->font().pointSizeF(), size);
-        QVERIFY(!normal->isEnabled());
-    }
-
-    void WheelWithCtrlGoesTheSameSteps() {
-        frmHelp window(SmallBook(), {Language::English});
-        window.show();
-        auto* page = PageOf(window);
-        const qreal size = page->font().pointSizeF();
-        TurnWheel(*page, 120, Qt::ControlModifier);
-        QCOMPARE(page->font().pointSizeF(), size + 1);
-        QVERIFY(Find<QAction>(window, "actNormalText")->isEnabled());
-        TurnWheel(*page, -240, Qt::ControlModifier);
-        QCOMPARE(page->font().pointSizeF(), size - 1);
-        // Fine wheels make a step of several turns.
-        for (int i = 0; i < 4; ++i)
-            TurnWheel(*page, 30, Qt::ControlModifier);
-        QCOMPARE(page->font().pointSizeF(), size);
-        for (int i = 0; i < 50; ++i)
-            TurnWheel(*page, 120, Qt::ControlModifier);
-        QCOMPARE(page->font().pointSizeF(), size + 12);
-        QVERIFY(!Find<QAction>(window, "actLargerText")->isEnabled());
-        TurnWheel(*page, -120, {});
-        QCOMPARE(page->font().pointSizeF(), size + 12);
-    }
-
     void NextWindowLooksLikeTheOneBefore() {
         HtmlHelp help(&owner_, HelpReader(Programs()));
         QVERIFY(help.DisplayToc(HelpOf(Language::English), {Language::English}));
@@ -502,18 +201,8 @@ class frmHelpTest : public QObject {
         }
     }
 
-  public slots:
-    void TakeUrl(const QUrl& url) { urls_ << url; }
-
   private:
-    static void TurnWheel(QWidget& page, int delta, Qt::KeyboardModifiers modifiers) {
-        QWheelEvent event(QPointF(5, 5), page.mapToGlobal(QPointF(5, 5)), {}, {0, delta}, Qt::NoButton,
-                          modifiers, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(page.findChild<QWidget*>("qt_scrollarea_viewport"), &event);
-    }
-
     QWidget owner_;
-    QList<QUrl> urls_;
 };
 
 QTEST_MAIN(frmHelpTest)
