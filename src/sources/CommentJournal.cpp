@@ -104,7 +104,9 @@ std::error_code CommentJournal::Begin(const EntryTable& entries) {
     const EntryNumber count = entries.Count();
     const std::array<EntryNumber, 2> counts{count == 0 ? 0 : count - 1, count};
     const std::vector<std::string> sums = ChecksumsOfBeginnings(entries, counts);
-    const std::string header = Line({{"butLast", sums[0]}, {"entries", count}, {"whole", sums[1]}});
+    const std::string last = count == 0 ? std::string() : ChecksumOfEntry(entries, count - 1);
+    const std::string header =
+        Line({{"butLast", sums[0]}, {"entries", count}, {"last", last}, {"whole", sums[1]}});
     std::string name = (folder_ / JournalNamePattern()).string();
     errno = 0;
     handle_ = ::mkostemp(name.data(), O_APPEND | O_CLOEXEC);

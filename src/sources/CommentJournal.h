@@ -16,11 +16,12 @@
 // Comments that were entered and not saved yet, noted in a file so that a crash does not take them. The file
 // is JSON Lines: first the logbook, then each comment as it was entered; an empty one removes.
 //
-//     {"butLast":"5f0c7a...","entries":1200,"whole":"99aa06..."}
+//     {"butLast":"5f0c7a...","entries":1200,"last":"07d2b1...","whole":"99aa06..."}
 //     {"comment":"pump replaced","entry":12}
 //
-// The logbook is known by the number of its entries, and the checksums of all of them and of all but the
-// last: the last one may change where a logbook grows, as by a line that belongs to it.
+// The logbook is known by the number of its entries, and the checksums of all of them, of all but the last,
+// and of the last one's stamp, sender and name. The last one's data may change where a logbook grows, as by a
+// line that belongs to it.
 //
 // A file that is in use is locked; where the disk has no locks, its name tells (JournalName). One that is not
 // belongs to a copy of the program that crashed, or that ended although saving had failed.

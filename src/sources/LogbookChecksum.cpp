@@ -159,6 +159,14 @@ std::vector<std::string> ChecksumsOfBeginnings(const EntryTable& entries,
     return sums;
 }
 
+std::string ChecksumOfEntry(const EntryTable& entries, EntryNumber number) {
+    Checksum sum;
+    sum.AddText(entries.Time(number));
+    sum.AddText(entries.Kind(number).Sender);
+    sum.AddText(entries.Kind(number).Name);
+    return sum.Digits();
+}
+
 std::string LogbookChecksum(const EntryTable& entries) {
     Checksum sum;
     for (std::uint32_t i = 0; i < entries.Kinds().Count(); ++i)

@@ -18,6 +18,10 @@
 std::vector<std::string> ChecksumsOfBeginnings(const EntryTable& entries,
                                                std::span<const EntryNumber> counts);
 
+// What tells one entry from another: 32 hexadecimal digits over its time stamp, sender and name. Its data
+// does not count, which grows with the lines that a control adds to its last entry.
+std::string ChecksumOfEntry(const EntryTable& entries, EntryNumber number);
+
 // The checksum of a whole logbook that version 0.1 had: it tells kinds and dates by their places in the lists
 // of the whole logbook.
 std::string LogbookChecksum(const EntryTable& entries);

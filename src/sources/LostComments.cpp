@@ -49,6 +49,7 @@ struct JournalHeader {
     EntryNumber Entries = 0;
     std::optional<std::string> Whole;
     std::optional<std::string> ButLast;
+    std::optional<std::string> Last;
     std::optional<std::string> OfVersion01;
 };
 
@@ -60,7 +61,8 @@ std::optional<JournalHeader> ReadHeader(std::istream& stream) {
     const std::optional<EntryNumber> entries = NumberIn(line, "entries");
     if (!entries || *entries == 0)
         return std::nullopt;
-    return JournalHeader{*entries, TextIn(line, "whole"), TextIn(line, "butLast"), TextIn(line, "logbook")};
+    return JournalHeader{*entries, TextIn(line, "whole"), TextIn(line, "butLast"), TextIn(line, "last"),
+                         TextIn(line, "logbook")};
 }
 
 // A logbook that journals may belong to. Its checksums are made when the first one asks, for all of them in
@@ -77,14 +79,15 @@ class Candidate {
         sums_[header.Entries - 1];
     }
 
-    // True when the entries that the journal knew are the first of the logbook. The last of them may be
-    // another by now, where others before it tell the logbook.
+    // True when the entries that the journal knew are the first of the logbook. The last of them may have
+    // other data by now, where others before it tell the logbook.
     bool BeginsAs(const JournalHeader& header) {
         if (header.OfVersion01)
             return header.Entries == entries_.Count() && *header.OfVersion01 == SumOfVersion01();
         return header.Entries <= entries_.Count() &&
                (header.Whole == Sum(header.Entries) ||
-                (header.Entries > 1 && header.ButLast == Sum(header.Entries - 1)));
+                (header.Entries > 1 && header.ButLast == Sum(header.Entries - 1) &&
+                 header.Last == ChecksumOfEntry(entries_, header.Entries - 1)));
     }
 
   private:

@@ -77,7 +77,8 @@ TEST_F(CommentJournalTest, EachCommentIsALineBehindTheLogbook) {
     const EntryNumber counts[] = {4, 5};
     const std::vector<std::string> sums = ChecksumsOfBeginnings(Book, counts);
     EXPECT_EQ(FileContent(Files().front()),
-              "{\"butLast\":\"" + sums[0] + "\",\"entries\":5,\"whole\":\"" + sums[1] +
+              "{\"butLast\":\"" + sums[0] + "\",\"entries\":5,\"last\":\"" + ChecksumOfEntry(Book, 4) +
+                  "\",\"whole\":\"" + sums[1] +
                   "\"}\n"
                   "{\"comment\":\"pump \\\"A\\\"\\nreplaced, grün\",\"entry\":3}\n"
                   "{\"comment\":\"\",\"entry\":3}\n");
@@ -243,14 +244,36 @@ TEST_F(CommentJournalTest, LastEntryMayChangeWhereALogbookGrows) {
         Crash({{0, "a"}, {4, "of the last"}});
         std::vector<TestEntry> grown = Entries(count);
         grown[4].Data += " | a line that belongs to it";
-        grown[4].Sender = "PLC";
-        grown[4].Time = "05.01.2010 00:00:00";
+        grown[4].EventType = EventTypes::Error;
         FillTable(Book, grown);
         EXPECT_TRUE(Offer({UserInterface::Answer::Yes})) << count;
         EXPECT_THAT(Book.Comments(), ElementsAre(Pair(0, "a"), Pair(4, "of the last")));
         Journal.Saved();
         FillTable(Book, Entries(5));
     }
+}
+
+// Two logbooks that begin alike, as those of machines that were copied do.
+TEST_F(CommentJournalTest, AnotherLastEntryIsAnotherLogbook) {
+    const std::vector<TestEntry> other{{EventTypes::Info, "data 4", "PLC", "name"},
+                                       {EventTypes::Info, "data 4", "NC", "another"},
+                                       {EventTypes::Info, "data 4", "NC", "name", "04.01.2010 12:34:57"},
+                                       {EventTypes::Info, "data 4", "NC", "name", "05.01.2010 12:34:56"},
+                                       {EventTypes::Info, "data 4", "NC", "name", "no clock"}};
+    for (const std::pair<EntryNumber, std::string> comment : {std::pair{0U, "a"}, std::pair{4U, "b"}}) {
+        Crash({comment});
+        for (const TestEntry& last : other)
+            for (const int count : {5, 7}) {
+                std::vector<TestEntry> entries = Entries(count);
+                entries[4] = last;
+                FillTable(Book, entries);
+                EXPECT_FALSE(Offer()) << last.Sender << ' ' << last.Name << ' ' << last.Time;
+            }
+        FillTable(Book, Entries(5));
+    }
+    EXPECT_EQ(Files().size(), 2U);
+    EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
+    EXPECT_THAT(Book.Comments(), ElementsAre(Pair(0, "a"), Pair(4, "b")));
 }
 
 TEST_F(CommentJournalTest, SingleEntryIsKnownAsItWasOnly) {
@@ -556,6 +579,18 @@ TEST_P(LogbookChecksumTest, CommentsDoNotCount) {
     const std::string sum = GetParam()(table);
     table.SetComment(1, "a");
     EXPECT_EQ(GetParam()(table), sum);
+}
+
+TEST(ChecksumOfEntry, TellsStampSenderAndName) {
+    const TestEntry plain{EventTypes::Info, "data", "NC", "name"};
+    const auto sumOf = [](const TestEntry& entry) {
+        EntryTable table;
+        FillTable(table, {entry});
+        return ChecksumOfEntry(table, 0);
+    };
+    EXPECT_EQ(sumOf(plain), sumOf({EventTypes::Error, "other data", "NC", "name"}));
+    EXPECT_NE(sumOf(plain), sumOf({EventTypes::Info, "data", "NCn", "ame"}));
+    EXPECT_NE(sumOf(plain), sumOf({EventTypes::Info, "data", "NC", "name", "04.01.2010 12:34:56.789"}));
 }
 
 TEST(ChecksumsOfBeginnings, DoNotDependOnWhatFollows) {
