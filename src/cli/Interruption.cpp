@@ -6,6 +6,7 @@
 #if defined(__unix__) || defined(__APPLE__)
 
 #include <cerrno>
+#include <ctime>
 #include <initializer_list>
 
 #include <fcntl.h>
@@ -13,11 +14,26 @@
 
 namespace {
 
+constexpr std::time_t Patience = 3; // seconds
+
 int wakePipe[2] = {-1, -1};
+timespec firstTime{}; // of a signal
+
+bool HasWaitedLong() {
+    timespec now{};
+    return ::clock_gettime(CLOCK_MONOTONIC, &now) == 0 && now.tv_sec - firstTime.tv_sec >= Patience;
+}
 
 void OnSignal(int signal) {
     const int before = errno;
-    StopRequest::Signal = signal;
+    if (!StopRequest::IsMade()) {
+        (void)::clock_gettime(CLOCK_MONOTONIC, &firstTime);
+        StopRequest::Signal = signal;
+    } else if (signal != SIGPIPE && HasWaitedLong()) {
+        // It comes as soon as this function is left.
+        std::signal(signal, SIG_DFL);
+        std::raise(signal);
+    }
     [[maybe_unused]] const ssize_t ignored = ::write(wakePipe[1], "", 1);
     errno = before;
 }
@@ -36,8 +52,8 @@ Interruption::Interruption() {
             continue;
         action = {};
         action.sa_handler = OnSignal;
-        // Who waits is woken, as SA_RESTART is missing. A pipe without a reader tells each write.
-        action.sa_flags = signal == SIGPIPE ? 0 : static_cast<int>(SA_RESETHAND);
+        ::sigfillset(&action.sa_mask);
+        action.sa_flags = 0; // without SA_RESTART: who waits is woken
         ::sigaction(signal, &action, nullptr);
     }
 }

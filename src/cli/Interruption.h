@@ -3,7 +3,8 @@
 
 // SIGINT, SIGTERM, SIGHUP and SIGPIPE end the tool in good order: the step that runs stops and fails without
 // a word, what was unpacked and half written is removed, and then the process ends by that signal, which
-// tells whoever called it. A second signal ends it at once. A signal that is ignored stays ignored.
+// tells whoever called it. Further signals change nothing, as they often come in pairs; one that comes more
+// than three seconds later ends it at once. A signal that is ignored stays ignored.
 class Interruption {
   public:
     // From here on signals only make a StopRequest.
