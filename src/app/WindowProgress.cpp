@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/WindowProgress.h"
 
+#include "dialogs/MessageBox.h"
 #include "list/QtText.h"
 
 #include <QCoreApplication>
-#include <QMessageBox>
 #include <QProgressBar>
 
 namespace {
@@ -43,7 +43,6 @@ void WindowProgress::TakePendingEvents() {
 }
 
 void WindowProgress::ShowMessage(std::string_view text) {
-    QMessageBox box(QMessageBox::Information, title_, ToQString(text), QMessageBox::Ok, window_);
-    box.setTextFormat(Qt::PlainText); // it holds what the file says
+    MessageBox box(QMessageBox::Information, title_, ToQString(text), QMessageBox::Ok, window_);
     box.exec();
 }

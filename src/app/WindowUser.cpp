@@ -2,10 +2,10 @@
 #include "app/WindowUser.h"
 
 #include "app/CommonDialog.h"
+#include "dialogs/MessageBox.h"
 #include "list/QtText.h"
 
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
 
 #include <algorithm>
@@ -15,17 +15,15 @@
 void WindowUser::ShowMessage(std::string_view text, MessageIcon icon) { ShowMessage(text, title_, icon); }
 
 void WindowUser::ShowMessage(std::string_view text, const QString& title, MessageIcon icon) {
-    QMessageBox box(icon == MessageIcon::Exclamation ? QMessageBox::Warning : QMessageBox::NoIcon, title,
-                    ToQString(text), QMessageBox::Ok, window_);
-    box.setTextFormat(Qt::PlainText);
+    MessageBox box(icon == MessageIcon::Exclamation ? QMessageBox::Warning : QMessageBox::NoIcon, title,
+                   ToQString(text), QMessageBox::Ok, window_);
     box.exec();
 }
 
 std::optional<std::size_t> WindowUser::Choose(std::string_view question,
                                               std::span<const AnswerButton> answers) {
-    QMessageBox box(QMessageBox::Warning, title_, ToQString(question), QMessageBox::Cancel, window_);
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::Cancel);
+    MessageBox box(QMessageBox::Warning, title_, ToQString(question), QMessageBox::Cancel, window_,
+                   QMessageBox::Cancel);
     std::vector<QAbstractButton*> buttons;
     bool hasSafe = false;
     for (const AnswerButton& answer : answers) {
@@ -44,10 +42,8 @@ std::optional<std::size_t> WindowUser::Choose(std::string_view question,
 }
 
 bool WindowUser::Confirm(std::string_view question) {
-    QMessageBox box(QMessageBox::Warning, title_, ToQString(question), QMessageBox::Yes | QMessageBox::No,
-                    window_);
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::No);
+    MessageBox box(QMessageBox::Warning, title_, ToQString(question), QMessageBox::Yes | QMessageBox::No,
+                   window_, QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
 }
 
@@ -60,9 +56,9 @@ std::optional<std::string> WindowUser::AskFileToSave(const FileQuestion& questio
 }
 
 UserInterface::Answer WindowUser::Ask(TextId question) {
-    const auto answer =
-        QMessageBox::question(window_, title_, QtText(question, language_),
-                              QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+    MessageBox box(QMessageBox::Question, title_, QtText(question, language_),
+                   QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, window_, QMessageBox::Yes);
+    const int answer = box.exec();
     return answer == QMessageBox::Yes ? Answer::Yes : answer == QMessageBox::No ? Answer::No : Answer::Cancel;
 }
 

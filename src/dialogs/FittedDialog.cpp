@@ -10,6 +10,10 @@
 
 namespace {
 
+// A window of an uneven size comes out lower by that at a scale such as 150 %, which would bring a scroll
+// bar.
+constexpr int LostByScaling = 1;
+
 // Shows the whole content where there is room.
 class ScrolledContent : public QScrollArea {
   public:
@@ -57,7 +61,7 @@ QSize FittedDialog::WithContent(QSize size) const {
     }
     height += content.hasHeightForWidth() ? content.totalHeightForWidth(width)
                                           : content.totalMinimumSize().height();
-    return size.expandedTo({0, height});
+    return size.expandedTo({0, height + LostByScaling});
 }
 
 void FittedDialog::GrowToContent() {

@@ -7,6 +7,7 @@
 #include "dialogs/FieldNote.h"
 #include "dialogs/FilterFileDialog.h"
 #include "dialogs/ListPopup.h"
+#include "dialogs/MessageBox.h"
 #include "dialogs/frmFilterSettings.h"
 #include "filter/FilterFile.h"
 #include "filter/FilterStorage.h"
@@ -19,7 +20,6 @@
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTimer>
@@ -28,6 +28,16 @@
 #include <optional>
 #include <system_error>
 #include <utility>
+
+namespace {
+
+bool Confirm(const QString& question, QWidget& window, QMessageBox::StandardButton defaultAnswer) {
+    MessageBox box(QMessageBox::Question, window.windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
+                   &window, defaultAnswer);
+    return box.exec() == QMessageBox::Yes;
+}
+
+} // namespace
 
 frmLogbookSettings::frmLogbookSettings(const FilterDialogContext& context, std::function<void()> apply,
                                        QWidget* parent)
@@ -202,10 +212,8 @@ void frmLogbookSettings::Import() {
         GetFilterFromFile(*path);
 }
 
-// As plain text: a path may look like markup.
 void frmLogbookSettings::Warn(const QString& text) {
-    QMessageBox box(QMessageBox::Warning, windowTitle(), text, QMessageBox::Ok, this);
-    box.setTextFormat(Qt::PlainText);
+    MessageBox box(QMessageBox::Warning, windowTitle(), text, QMessageBox::Ok, this);
     box.exec();
 }
 
@@ -224,8 +232,7 @@ void frmLogbookSettings::GetFilterFromFile(const std::string& path) {
     using Outcome = FilterFileContent::Outcome;
     const FilterFileContent content = ImportFilterFile(path, context_.FileCodePage);
     if (content.Result == Outcome::NoHeader) {
-        QMessageBox::warning(this, windowTitle(),
-                             QtText(TextId::FilterFileDirection, context_.DialogLanguage));
+        Warn(QtText(TextId::FilterFileDirection, context_.DialogLanguage));
         return;
     }
     const bool headerWasRead = content.Result != Outcome::CannotRead || content.Line > 0;
@@ -249,8 +256,7 @@ bool frmLogbookSettings::ConfirmEmptyList() {
         return true;
     const QString question = QtText(TextId::FilterListEmpty, context_.DialogLanguage) + '\n' +
                              QtText(TextId::AskShowAll, context_.DialogLanguage);
-    if (QMessageBox::question(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
-                              QMessageBox::Yes) != QMessageBox::Yes)
+    if (!Confirm(question, *this, QMessageBox::Yes))
         return false;
     ShowRows(DefaultFilters());
     return true;
@@ -265,8 +271,7 @@ bool frmLogbookSettings::ConfirmLoss(const std::vector<FilterDefinition>& filter
         return true;
     const QString question = QtText(TextId::FiltersThatLose, context_.DialogLanguage) + numbers.join(", ") +
                              '\n' + QtText(TextId::AskExportAll, context_.DialogLanguage);
-    return QMessageBox::question(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
-                                 QMessageBox::No) == QMessageBox::Yes;
+    return Confirm(question, *this, QMessageBox::No);
 }
 
 void frmLogbookSettings::ShowRows(const std::vector<FilterDefinition>& filters) {
