@@ -8,6 +8,7 @@
 
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QLayout>
 #include <QScreen>
 
 #include <algorithm>
@@ -28,6 +29,15 @@ std::array<int, 4> LengthsOf(const QWidget& window) {
     return {window.x(), window.y(), window.width(), window.height()};
 }
 
+// As it will be when the window is shown: one that grows only then is moved by the desktop.
+QSize LeastSize(const QWidget& window) {
+    window.ensurePolished();
+    for (const QWidget* const child : window.findChildren<QWidget*>())
+        child->ensurePolished();
+    window.layout()->activate();
+    return window.minimumSizeHint();
+}
+
 // The part of the window that a person drags it by must be on a screen.
 bool CanBeReached(QPoint place, QSize size) {
     const QRect grip = QRect(place, QSize(size.width(), 1)).adjusted(0, 0, 0, PixelsOf(450));
@@ -44,7 +54,8 @@ void WindowPlacement::Load(const Registry& registry, QWidget& window) {
     for (std::size_t i = 0; i < Lengths.size(); ++i)
         loaded_[i] = registry.ReadLogbookSettingLong(Lengths[i].Name, Lengths[i].Default);
     QPoint place(PixelsOf(loaded_[0]), PixelsOf(loaded_[1]));
-    const QSize size = QSize(PixelsOf(loaded_[2]), PixelsOf(loaded_[3])).expandedTo({1, 1});
+    const QSize size =
+        QSize(PixelsOf(loaded_[2]), PixelsOf(loaded_[3])).expandedTo(LeastSize(window)).expandedTo({1, 1});
     if (!CanBeReached(place, size))
         place = DefaultPlace;
     const QRect shown = PlaceOnScreens(QRect(place, size));

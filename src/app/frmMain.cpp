@@ -30,7 +30,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTimer>
 
@@ -101,9 +100,9 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFol
         else
             Run(Command::Filters);
     });
-    placement_.Load(registry_, *this);
     LoadColumnWidths(registry_, *lvLogbook->horizontalHeader());
     LoadLanguage();
+    placement_.Load(registry_, *this);
     ShowStandingMessage();
     lvLogbook->setFocus();
 }

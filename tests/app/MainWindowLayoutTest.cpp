@@ -69,6 +69,24 @@ class MainWindowLayoutTest : public MainWindowTest {
         QVERIFY(!Store->Values.contains({LogbookKey, "Column(7).Width"}));
     }
 
+    // The height is there before the window is shown; a window that grows then is moved by the desktop.
+    void StoredHeightBelowTheLeastOneIsRaised() {
+        const int least = Window->minimumSizeHint().height();
+        Window->close();
+        StoreNumber("Main.Left", 1500);
+        StoreNumber("Main.Top", 1500);
+        StoreNumber("Main.Width", 12000);
+        StoreNumber("Main.Height", 600);
+        MakeWindow();
+        QCOMPARE(Window->geometry(), QRect(100, 100, 800, least));
+        Window->show();
+        QCOMPARE(Window->size(), QSize(800, least));
+        Window->close();
+        QCOMPARE(Stored("Main.Left"), 1500);
+        QCOMPARE(Stored("Main.Top"), 1500);
+        QCOMPARE(Stored("Main.Height"), 600);
+    }
+
     void EverythingIsStoredAtOnce() {
         Store->Writes = 0;
         Window->close();

@@ -30,14 +30,19 @@ class MainWindowTest : public QObject {
   protected:
     // Every test begins with a shown window without a logbook.
     void OpenWindow() {
-        Window.reset();
-        Book = std::make_unique<Logbook>();
-        Journal = std::make_unique<CommentJournal>(Folder.Path() / "state");
-        Window = std::make_unique<frmMain>(*Book, *Settings, Temp, *Journal, CodePage());
+        MakeWindow();
         Window->show();
         QVERIFY(QTest::qWaitForWindowExposed(Window.get()));
         MessageTexts.clear();
         MessageTitles.clear();
+    }
+
+    // One that is not shown yet.
+    void MakeWindow() {
+        Window.reset();
+        Book = std::make_unique<Logbook>();
+        Journal = std::make_unique<CommentJournal>(Folder.Path() / "state");
+        Window = std::make_unique<frmMain>(*Book, *Settings, Temp, *Journal, CodePage());
     }
 
     void StartAfresh() {
