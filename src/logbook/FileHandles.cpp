@@ -24,10 +24,13 @@ FileHandle OpenToLock(const std::filesystem::path& file, int flags, unsigned mod
 }
 
 LockOutcome TryLock(int handle) {
+    constexpr int Attempts = 100; // signals may come in between, but not for ever
     int locked = -1;
-    do
+    for (int i = 0; i < Attempts && locked != 0; ++i) {
         locked = ::flock(handle, LOCK_EX | LOCK_NB);
-    while (locked != 0 && errno == EINTR);
+        if (locked != 0 && errno != EINTR)
+            break;
+    }
     if (locked == 0)
         return LockOutcome::Held;
     // A network answers EBADF for a handle that is not open for writing, which OpenToLock falls back to.

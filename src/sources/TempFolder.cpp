@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <random>
 #include <string>
 #include <string_view>
@@ -49,7 +50,11 @@ std::string NameIn(const std::filesystem::path& folder, const std::filesystem::p
 std::filesystem::path TempFolder::SystemFolder() {
     std::error_code error;
     const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
-    return error ? std::filesystem::path() : folder;
+    if (!error)
+        return folder;
+    // Variables that are set but empty name no folder.
+    const char* const named = std::getenv("TMPDIR");
+    return named != nullptr && *named == '\0' ? std::filesystem::path("/tmp") : std::filesystem::path();
 }
 
 TempFolder::TempFolder(const std::filesystem::path& parent, const std::vector<std::filesystem::path>& kept)

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* Question = "Comments on this logbook were not saved the last time. Restore them?";
 
-class Locks : public FaultTest, public testing::WithParamInterface<std::pair<const char*, int>> {
+class Locks : public FaultTest, public testing::WithParamInterface<std::pair<std::string, int>> {
   protected:
     // Locks fail everywhere, as the parameter has it.
     Fault WithoutLocks() const { return {Folder.Path().string(), GetParam().first, GetParam().second}; }
@@ -104,5 +104,13 @@ TEST_F(PartFilesWithoutLocks, StayWhereNobodyCanTellWhoseTheyAre) {
     EXPECT_EQ(FileContent(part), "half");
     // With locks it is one that a killed program left.
     EXPECT_EQ(RunTool({"pack", log, Work + "/a.qorvix"}, {}, errors), GoodEnd);
+    EXPECT_EQ(NamesIn(Work), (std::vector<std::string>{"a.log", "a.qorvix"}));
+}
+
+// Signals that come without an end.
+TEST_F(PartFilesWithoutLocks, LockThatIsInterruptedEachTimeIsGivenUp) {
+    const std::string log = Folder.Write("work/a.log", LogbookOf(3));
+    std::string errors;
+    EXPECT_EQ(RunTool({"pack", log, Work + "/a.qorvix"}, {Work, "k", EINTR}, errors), GoodEnd);
     EXPECT_EQ(NamesIn(Work), (std::vector<std::string>{"a.log", "a.qorvix"}));
 }

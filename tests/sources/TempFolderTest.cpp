@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <functional>
 #include <memory>
@@ -371,6 +372,20 @@ TEST(TempFolder, ParentThatComesBackGivesAFolder) {
     const TempFolder folder(parent.Path() / "missing");
     fs::create_directory(parent.Path() / "missing");
     EXPECT_TRUE(fs::is_directory(folder.MakeSubfolder()));
+}
+
+TEST(TempFolder, VariableThatIsEmptyNamesNoFolder) {
+    const auto folderWith = [](const char* value) {
+        const char* const before = std::getenv("TMPDIR");
+        const std::string kept = before == nullptr ? "" : before;
+        ::setenv("TMPDIR", value, 1);
+        const fs::path folder = TempFolder::SystemFolder();
+        before == nullptr ? ::unsetenv("TMPDIR") : ::setenv("TMPDIR", kept.c_str(), 1);
+        return folder;
+    };
+    EXPECT_EQ(folderWith(""), "/tmp");
+    EXPECT_EQ(folderWith("/"), "/");
+    EXPECT_EQ(folderWith("/nowhere/at/all"), "");
 }
 
 TEST(TempFolder, CopiesThatComeAndGoAlwaysHaveAFolder) {
