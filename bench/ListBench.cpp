@@ -4,9 +4,9 @@
 #include "app/frmMain.h"
 #include "bench/BenchTools.h"
 #include "bench/ProcessMemory.h"
-#include "list/LogbookColumns.h"
 #include "list/LogbookModel.h"
 #include "list/LogbookView.h"
+#include "rows/LogbookColumns.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -3,8 +3,8 @@
 // counting the same text in the file with ripgrep (rg, which must be installed), and the drawing of the tag
 // viewer's marks. Median times, all measured in turn.
 #include "bench/BenchTools.h"
-#include "list/ListSearch.h"
-#include "list/TagMarks.h"
+#include "rows/ListSearch.h"
+#include "rows/TagMarks.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -5,7 +5,7 @@
 #include "bench/BenchTools.h"
 #include "filter/Filter.h"
 #include "filter/FilterStorage.h"
-#include "list/EntryActions.h"
+#include "rows/EntryActions.h"
 #include "settings/JsonSettings.h"
 #include "settings/Registry.h"
 

@@ -5,8 +5,8 @@
 #include "bench/BenchTools.h"
 #include "bench/PlainRadixSort.h"
 #include "bench/ProcessMemory.h"
-#include "list/ListSorting.h"
-#include "list/TimeKeys.h"
+#include "rows/ListSorting.h"
+#include "rows/TimeKeys.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -7,8 +7,8 @@
 #include "bench/BenchTools.h"
 #include "bench/ProcessMemory.h"
 #include "filter/Filter.h"
-#include "list/ListSearch.h"
-#include "list/ListSorting.h"
+#include "rows/ListSearch.h"
+#include "rows/ListSorting.h"
 #include "settings/Registry.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "eventinfo/FacilityFile.h"
-#include "list/RowRanges.h"
+#include "rows/RowRanges.h"
 #include "settings/Language.h"
 
 #include <functional>

@@ -2,8 +2,8 @@
 #include "app/WindowPlacement.h"
 
 #include "dialogs/ScreenRoom.h"
-#include "list/LogbookColumns.h"
 #include "list/Twips.h"
+#include "rows/LogbookColumns.h"
 #include "settings/Registry.h"
 
 #include <QGuiApplication>

@@ -3,9 +3,9 @@
 
 #include "app/WaitPointer.h"
 #include "dialogs/frmSearchForString.h"
-#include "list/ListSearch.h"
 #include "list/LogbookModel.h"
 #include "list/LogbookView.h"
+#include "rows/ListSearch.h"
 #include "settings/Texts.h"
 #include "sources/UserInterface.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "list/RowMatches.h"
+#include "rows/RowMatches.h"
 #include "settings/Language.h"
 
 #include <QObject>

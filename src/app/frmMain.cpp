@@ -14,13 +14,13 @@
 #include "dialogs/frmLogbookSettings.h"
 #include "eventinfo/ProgramFolder.h"
 #include "helpbook/HelpFile.h"
-#include "list/ContentText.h"
-#include "list/EntryActions.h"
 #include "list/LogbookModel.h"
 #include "list/LogbookView.h"
 #include "list/QtText.h"
-#include "list/RowsAsText.h"
 #include "list/TagViewer.h"
+#include "rows/ContentText.h"
+#include "rows/EntryActions.h"
+#include "rows/RowsAsText.h"
 #include "settings/ReasonText.h"
 
 #include <QApplication>

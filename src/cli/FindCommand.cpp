@@ -2,7 +2,7 @@
 #include "cli/FindCommand.h"
 
 #include "cli/ReadSource.h"
-#include "list/ListSearch.h"
+#include "rows/ListSearch.h"
 
 int RunFind(const ListOptions& options, const SearchState& search) {
     SourceLogbook logbook;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cli/PrintedList.h"
-#include "list/RowMatches.h"
+#include "rows/RowMatches.h"
 
 // Prints the rows of the list that a search finds, in list order and in the form of an export. ExitStatus
 // Failed, too, when none matches; the list printed is then an empty one.

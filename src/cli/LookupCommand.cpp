@@ -5,8 +5,8 @@
 #include "cli/Messages.h"
 #include "cli/Output.h"
 #include "eventinfo/iZEKEventInfo.h"
-#include "list/ContentText.h"
 #include "logbook/VisibleControls.h"
+#include "rows/ContentText.h"
 
 #include <CLI/CLI.hpp>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "dialogs/FittedDialog.h"
-#include "list/RowMatches.h"
+#include "rows/RowMatches.h"
 #include "settings/Language.h"
 
 #include <optional>

@@ -6,8 +6,8 @@
 #include "dialogs/DialogList.h"
 #include "dialogs/ListPopup.h"
 #include "dialogs/frmFilterString.h"
-#include "list/ListSorting.h"
 #include "list/QtText.h"
+#include "rows/ListSorting.h"
 #include "settings/Registry.h"
 
 #include <QDialogButtonBox>

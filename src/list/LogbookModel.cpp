@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "list/LogbookModel.h"
 
-#include "list/EntryActions.h"
-#include "list/LogbookColumns.h"
 #include "list/QtText.h"
-#include "list/SpokenRow.h"
+#include "rows/EntryActions.h"
+#include "rows/LogbookColumns.h"
+#include "rows/SpokenRow.h"
 
 #include <unordered_map>
 #include <utility>

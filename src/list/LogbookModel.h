@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "list/ListSorting.h"
-#include "list/RowRanges.h"
+#include "rows/ListSorting.h"
+#include "rows/RowRanges.h"
 #include "settings/Language.h"
 
 #include <QAbstractTableModel>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "list/ListOfRows.h"
-#include "list/RowRanges.h"
+#include "rows/RowRanges.h"
 
 #include <QTableView>
 

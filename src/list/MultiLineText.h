@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "list/ContentText.h"
 #include "list/QtText.h"
 #include "logbook/EventLines.h"
+#include "rows/ContentText.h"
 
 #include <QString>
 

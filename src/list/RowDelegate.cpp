@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "list/RowDelegate.h"
 
-#include "list/LogbookColumns.h"
 #include "list/LogbookModel.h"
 #include "list/QtText.h"
 #include "list/ToolTip.h"
+#include "rows/LogbookColumns.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

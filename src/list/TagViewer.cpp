@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "list/TagViewer.h"
 
-#include "list/LogbookColumns.h"
 #include "list/LogbookModel.h"
 #include "list/LogbookView.h"
 #include "list/QtText.h"
 #include "list/ToolTip.h"
 #include "list/Twips.h"
+#include "rows/LogbookColumns.h"
 
 #include <QHelpEvent>
 #include <QPainter>

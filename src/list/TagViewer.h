@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "list/TagMarks.h"
+#include "rows/TagMarks.h"
 
 #include <QPixmap>
 #include <QWidget>

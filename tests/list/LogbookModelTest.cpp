@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "list/LogbookModel.h"
 
-#include "list/LogbookColumns.h"
+#include "rows/LogbookColumns.h"
 #include "support/ReadText.h"
 
 #include <QAbstractItemModelTester>

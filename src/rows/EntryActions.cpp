@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "rows/EntryActions.h"
+
+#include "filter/FiltersFromEntries.h"
+
+namespace {
+
+// Calls `change` with each selected row in list order; returns those for which it was true.
+template <typename Change>
+RowRanges ChangedRows(const LogbookRows& rows, const RowRanges& selected, Change change) {
+    RowRanges changed;
+    for (const RowRange& range : selected) {
+        for (std::size_t row = range.First; row <= range.Last; ++row) {
+            if (!change(rows[row]))
+                continue;
+            if (!changed.empty() && changed.back().Last + 1 == row)
+                changed.back().Last = row;
+            else
+                changed.push_back({row, row});
+        }
+    }
+    return changed;
+}
+
+} // namespace
+
+RowRanges RemoveFromList(Registry& registry, const LogbookRows& rows, const RowRanges& selected) {
+    NumberFilters filters(registry, FilterActions::Exclude);
+    RowRanges removed =
+        ChangedRows(rows, selected, [&](const LogbookRow& row) { return filters.Add(row.Entry); });
+    filters.Write();
+    return removed;
+}
+
+RowRanges ToggleHighlighting(Registry& registry, const LogbookRows& rows, const RowRanges& selected) {
+    NumberFilters filters(registry, FilterActions::Highlight);
+    RowRanges toggled = ChangedRows(rows, selected, [&](const LogbookRow& row) {
+        return row.Highlighted != 0 ? filters.Remove(row.Entry) : filters.Add(row.Entry);
+    });
+    filters.Write();
+    return toggled;
+}
+
+void SwitchHighlighting(LogbookRows& rows, const RowRanges& ranges) {
+    for (const RowRange& range : ranges)
+        for (std::size_t row = range.First; row <= range.Last; ++row)
+            rows[row].Highlighted = rows[row].Highlighted == 0 ? 1 : 0;
+}

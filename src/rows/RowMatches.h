@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "filter/LogbookRow.h"
+#include "rows/LogbookColumns.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// What a search looks for, and how. The whole-word and case values are 0 or 1; with any other value nothing
+// matches.
+struct SearchState {
+    std::string SearchText; // UTF-8
+    bool SearchUp = false;  // towards the top of the list
+    std::int16_t SearchWholeWord = 0;
+    std::int16_t SearchCaseSensitive = 0;
+
+    bool operator==(const SearchState&) const = default;
+};
+
+// The columns that a search looks at, in this order.
+inline constexpr std::array SearchColumns{LogbookColumn::Event, LogbookColumn::Data, LogbookColumn::Comment};
+
+// The test of single cells, prepared once a search.
+//
+// Without whole words a cell matches when it contains the text. With whole words it matches in three cases:
+// it begins with the text and a blank; it contains the text between two blanks; or the first blank followed
+// by the text stands where only the text follows, that is at the position (0 for none) that is the cell's
+// length less the text's. Lengths are in characters. By the last rule a cell of the text's own length matches
+// whatever it says; this is deliberate, searches have always found these.
+class CellTest {
+  public:
+    explicit CellTest(const SearchState& search);
+
+    // The cell is UTF-8.
+    bool Matches(std::string_view cell);
+
+  private:
+    bool MatchesWholeWord(std::string_view cell) const;
+
+    bool possible_; // false when the values ask for what does not exist
+    bool wholeWord_;
+    bool caseSensitive_;
+    std::string text_; // lower-case where the case does not matter
+    std::size_t textCharacters_;
+    std::string wordAtStart_;
+    std::string wordBetweenBlanks_;
+    std::string wordAtEnd_;
+    std::string lowerCell_;
+};
+
+// True when one of the searched cells of the row matches.
+bool RowMatches(const EntryTable& entries, const LogbookRow& row, CellTest& test);

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "logbook/Prefetch.h"
+#include "rows/RadixSort.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The texts of a sort, each by a number that stands for it.
+class TextSource {
+  public:
+    virtual ~TextSource() = default;
+    virtual std::string_view Text(std::uint32_t number) const = 0;
+
+    // Called ahead of Text so that the text is at hand by then: the first well before the second, and that
+    // well before Text.
+    virtual void PrepareFirst(std::uint32_t) const {}
+    virtual void PrepareSecond(std::uint32_t) const {}
+};
+
+// Texts in a list, by their place in it.
+class TextList : public TextSource {
+  public:
+    explicit TextList(std::span<const std::string_view> texts) : texts_(texts) {}
+    std::string_view Text(std::uint32_t number) const override { return texts_[number]; }
+    void PrepareFirst(std::uint32_t number) const override { Prefetch(&texts_[number]); }
+    void PrepareSecond(std::uint32_t number) const override { Prefetch(texts_[number].data()); }
+
+  private:
+    std::span<const std::string_view> texts_;
+};
+
+// Sorts numbers by their texts without regard to case; texts that are the same keep their order, also in a
+// descending sort. 24 bytes a number while it lives.
+//
+// Random access to the texts is what costs, so each text is fetched as seldom as can be: seven of its bytes
+// are made a key, the keys are sorted, and only texts with the same key are fetched again for the bytes
+// behind what they have in common.
+class TextSort {
+  public:
+    TextSort(const TextSource& texts, std::size_t mostNumbers, bool descending, SortProgress& progress);
+
+    // At most `mostNumbers` times.
+    void Add(std::uint32_t number) { items_[count_++].Number = number; }
+
+    // Leads over this part, in percent, of the way that is left. False when the sort was stopped.
+    bool Sort(int partOfRest);
+
+    std::size_t Count() const { return count_; }
+    std::uint32_t operator[](std::size_t place) const { return items_[place].Number; }
+
+    // Gives back half of the memory; no sort after this.
+    void ReleaseScratch() { (itemsAreFirst_ ? second_ : first_).reset(); }
+
+  private:
+    using Item = Keyed<std::uint64_t>;
+
+    std::uint64_t KeyAt(std::string_view text, std::size_t place) const;
+    bool IsWhole(std::uint64_t key) const;
+    std::string CommonOfSome(std::size_t begin, std::size_t end) const;
+    bool FetchKeys(std::size_t begin, std::size_t end, std::size_t& place, bool& differ);
+    bool SortByKeys(std::size_t begin, std::size_t end);
+    bool SortRuns(std::size_t begin, std::size_t end, std::size_t place);
+    bool SortRun(std::size_t begin, std::size_t end, std::size_t place);
+    void SortByComparing(std::size_t begin, std::size_t end);
+
+    const TextSource& texts_;
+    SortProgress& progress_;
+    std::uint64_t flip_; // of the bits of a key: all in a descending sort
+    std::size_t count_ = 0;
+    std::unique_ptr<Item[]> first_;
+    std::unique_ptr<Item[]> second_;
+    bool itemsAreFirst_ = true;
+    Item* items_;
+    Item* scratch_;
+};
+
+// For each text its place in the ascending order, from 0 on; texts that are the same without regard to case
+// share theirs. Leads over this part, in percent, of the way that is left; empty when the sort was stopped.
+std::vector<std::uint32_t> RanksOf(std::span<const std::string_view> texts, int partOfRest,
+                                   SortProgress& progress);
