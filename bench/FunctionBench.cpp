@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Single functions of the per-entry path, with Google Benchmark.
-#include "logbook/CodePage.h"
+#include "base/Blanks.h"
+#include "base/CodePage.h"
+#include "base/LineBreak.h"
 #include "logbook/FoldIntoPrevious.h"
-#include "logbook/LineBreak.h"
 #include "logbook/TimeStamps.h"
-#include "logbook/modUtil.h"
 
 #include <benchmark/benchmark.h>
 

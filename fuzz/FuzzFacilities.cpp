@@ -2,9 +2,9 @@
 // Any bytes as a facilities.csv; the first line is the data text of an entry, whose code is looked up with
 // it.
 #include "FuzzSupport.h"
+#include "base/CodePage.h"
 #include "eventinfo/FacilityFile.h"
 #include "eventinfo/iZEKEventInfo.h"
-#include "logbook/CodePage.h"
 
 #include <algorithm>
 

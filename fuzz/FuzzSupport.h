@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "logbook/UnicodeCase.h" // IsUtf8
+#include "base/UnicodeCase.h" // IsUtf8
 
 #include <cstddef>
 #include <cstdint>

@@ -3,8 +3,8 @@
 // bytes are the block size, the longest line and the largest file, in units of eight bytes; below the first
 // line stands the file.
 #include "FuzzSupport.h"
-#include "logbook/FileProblem.h"
-#include "logbook/TextFile.h"
+#include "base/FileProblem.h"
+#include "base/TextFile.h"
 
 namespace {
 

@@ -7,17 +7,17 @@
 #include "app/WindowPlacement.h"
 #include "app/WindowProgress.h"
 #include "app/WindowUser.h"
+#include "base/CodePage.h"
+#include "base/TempFolder.h"
 #include "dialogs/HTMLHelp.h"
 #include "eventinfo/FacilityFile.h"
 #include "filter/FilterDefinition.h"
-#include "logbook/CodePage.h"
 #include "logbook/Logbook.h"
 #include "settings/Registry.h"
 #include "settings/Texts.h"
 #include "sources/CommentJournal.h"
 #include "sources/LogbookState.h"
 #include "sources/OpenLogbook.h"
-#include "sources/TempFolder.h"
 
 #include <QMainWindow>
 

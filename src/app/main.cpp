@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppIcons.h"
 #include "app/frmMain.h"
-#include "eventinfo/ProgramFolder.h"
-#include "logbook/modUtil.h"
+#include "base/Paths.h"
+#include "base/ProgramFolder.h"
 #include "sources/CommandLine.h"
 
 #include <QApplication>

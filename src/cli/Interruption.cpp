@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Interruption.h"
 
-#include "logbook/StopRequest.h"
+#include "base/StopRequest.h"
 
 #if defined(__unix__) || defined(__APPLE__)
 

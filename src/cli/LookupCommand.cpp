@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/LookupCommand.h"
 
+#include "base/VisibleControls.h"
 #include "cli/ExitStatus.h"
 #include "cli/Messages.h"
 #include "cli/Output.h"
 #include "eventinfo/iZEKEventInfo.h"
-#include "logbook/VisibleControls.h"
 #include "rows/ContentText.h"
 
 #include <CLI/CLI.hpp>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Messages.h"
 
+#include "base/StopRequest.h"
+#include "base/VisibleControls.h"
 #include "cli/ExitStatus.h"
-#include "logbook/StopRequest.h"
-#include "logbook/VisibleControls.h"
 
 #include <iostream>
 

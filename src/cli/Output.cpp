@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Output.h"
 
-#include "logbook/modUtil.h"
+#include "base/Paths.h"
 
 #if defined(__unix__) || defined(__APPLE__)
 
+#include "base/StopRequest.h"
 #include "cli/Interruption.h"
-#include "logbook/StopRequest.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PackCommand.h"
 
+#include "base/AsciiCase.h"
 #include "cli/ExitStatus.h"
 #include "cli/ReadSource.h"
-#include "logbook/AsciiCase.h"
 #include "settings/Texts.h"
 #include "sources/ArchivedComments.h"
 #include "sources/LogbookArchive.h"

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ReadSource.h"
 
+#include "base/Paths.h"
+#include "base/ProgramFolder.h"
 #include "cli/TerminalProgress.h"
-#include "eventinfo/ProgramFolder.h"
 #include "filter/FilterFile.h"
 #include "logbook/Mod_FileHandling.h"
-#include "logbook/modUtil.h"
 #include "settings/Texts.h"
 #include "sources/Comments.h"
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/FileStamp.h"
 #include "cli/Messages.h"
 #include "cli/TerminalUser.h"
 #include "filter/FilterDefinition.h"
 #include "logbook/Logbook.h"
 #include "settings/Language.h"
-#include "sources/FileStamp.h"
 #include "sources/LogbookSource.h"
 
 #include <filesystem>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/RowWriter.h"
 
-#include "logbook/VisibleControls.h"
+#include "base/VisibleControls.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/StopRequest.h"
 #include "cli/Messages.h"
 #include "logbook/ReadingProgress.h"
-#include "logbook/StopRequest.h"
 
 #include <string>
 

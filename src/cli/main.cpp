@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "base/UnicodeCase.h"
+#include "base/VisibleControls.h"
 #include "cli/ExportCommand.h"
 #include "cli/FindCommand.h"
 #include "cli/Interruption.h"
 #include "cli/LookupCommand.h"
 #include "cli/PackCommand.h"
-#include "logbook/UnicodeCase.h"
-#include "logbook/VisibleControls.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/CodePage.h"
 #include "filter/FilterDefinition.h"
 #include "filter/LogbookNames.h"
-#include "logbook/CodePage.h"
 
 class Registry;
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/FilterFileDialog.h"
 
+#include "base/Paths.h"
 #include "dialogs/FileTypes.h"
 #include "list/QtText.h"
-#include "logbook/modUtil.h"
 
 #include <QFileDialog>
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/frmLogbookSettings.h"
 
+#include "base/Paths.h"
 #include "dialogs/DialogButtons.h"
 #include "dialogs/DialogColumns.h"
 #include "dialogs/DialogList.h"
@@ -12,7 +13,6 @@
 #include "filter/FilterFile.h"
 #include "filter/FilterStorage.h"
 #include "list/QtText.h"
-#include "logbook/modUtil.h"
 #include "settings/ReasonText.h"
 #include "settings/Registry.h"
 

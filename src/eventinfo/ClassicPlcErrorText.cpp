@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "eventinfo/ClassicPlcErrorText.h"
 
+#include "base/Blanks.h"
 #include "eventinfo/LanguageFile.h"
 #include "eventinfo/Numbers.h"
-#include "logbook/Blanks.h"
 #include "logbook/modUtil.h"
 
 namespace {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "eventinfo/FacilityFile.h"
 
+#include "base/Blanks.h"
 #include "eventinfo/LanguageFile.h"
-#include "logbook/Blanks.h"
 #include "settings/Texts.h"
 
 #include <charconv>

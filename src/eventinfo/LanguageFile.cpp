@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "eventinfo/LanguageFile.h"
 
-#include "logbook/AsciiCase.h"
-#include "logbook/CodePage.h"
-#include "logbook/RunTimeError.h"
-#include "logbook/modUtil.h"
+#include "base/AsciiCase.h"
+#include "base/CodePage.h"
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
 
 #include <filesystem>
 #include <system_error>

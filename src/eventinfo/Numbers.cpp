@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "eventinfo/Numbers.h"
 
-#include "logbook/Blanks.h"
+#include "base/Blanks.h"
 
 #include <charconv>
 #include <system_error>

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "eventinfo/iZEKEventInfo.h"
 
+#include "base/Blanks.h"
+#include "base/ProgramFolder.h"
 #include "eventinfo/ClassicNcErrorText.h"
 #include "eventinfo/ClassicPlcErrorText.h"
 #include "eventinfo/CsvErrorText.h"
 #include "eventinfo/FacilityFile.h"
 #include "eventinfo/LanguageFile.h"
 #include "eventinfo/Numbers.h"
-#include "eventinfo/ProgramFolder.h"
 #include "eventinfo/XmlErrorText.h"
-#include "logbook/Blanks.h"
 #include "settings/Texts.h"
 
 namespace {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "filter/FilterFile.h"
 
+#include "base/AtomicFile.h"
+#include "base/FileProblem.h"
 #include "filter/FilterText.h"
-#include "logbook/AtomicFile.h"
-#include "logbook/FileProblem.h"
 #include "settings/ReasonText.h"
 #include "settings/Texts.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/CodePage.h"
+#include "base/TextFile.h"
 #include "filter/FilterDefinition.h"
-#include "logbook/CodePage.h"
-#include "logbook/TextFile.h"
 
 #include <cstddef>
 #include <span>

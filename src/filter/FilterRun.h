@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/TextSearcher.h"
 #include "filter/FilterDefinition.h"
 #include "filter/NumberList.h"
 #include "logbook/EntryTable.h"
-#include "logbook/TextSearcher.h"
 
 #include <array>
 #include <cstddef>

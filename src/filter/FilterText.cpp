@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "filter/FilterText.h"
 
-#include "logbook/Blanks.h"
+#include "base/Blanks.h"
 
 #include <array>
 #include <charconv>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "filter/LogbookNames.h"
 
-#include "logbook/AsciiCase.h"
+#include "base/AsciiCase.h"
 #include "logbook/EntryKinds.h"
 
 #include <cstdint>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "filter/NumberList.h"
 
+#include "base/Blanks.h"
 #include "filter/NumberListEditor.h"
-#include "logbook/Blanks.h"
 
 #include <algorithm>
 #include <charconv>

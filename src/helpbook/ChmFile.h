@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "logbook/AsciiCase.h"
+#include "base/AsciiCase.h"
 
 #include <filesystem>
 #include <map>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "helpbook/HelpContents.h"
 
+#include "base/AsciiCase.h"
 #include "helpbook/HtmlTags.h"
-#include "logbook/AsciiCase.h"
 
 #include <algorithm>
 

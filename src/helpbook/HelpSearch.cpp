@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "helpbook/HelpSearch.h"
 
+#include "base/CaseFolding.h"
 #include "helpbook/HtmlText.h"
-#include "logbook/CaseFolding.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "helpbook/HtmlTags.h"
 
-#include "logbook/AsciiCase.h"
+#include "base/AsciiCase.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "helpbook/HtmlText.h"
 
+#include "base/CodePage.h"
 #include "helpbook/HtmlTags.h"
-#include "logbook/CodePage.h"
 
 #include <utf8proc.h>
 

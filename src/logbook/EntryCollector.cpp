@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/EntryCollector.h"
 
+#include "base/RunTimeError.h"
 #include "logbook/FoldIntoPrevious.h"
-#include "logbook/RunTimeError.h"
 
 namespace {
 

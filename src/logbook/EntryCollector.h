@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "logbook/CodePage.h"
+#include "base/CodePage.h"
 #include "logbook/EntryTable.h"
 #include "logbook/ParsedEntry.h"
 

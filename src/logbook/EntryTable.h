@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "logbook/BigArray.h"
-#include "logbook/CodePage.h"
+#include "base/BigArray.h"
+#include "base/CodePage.h"
+#include "base/Prefetch.h"
 #include "logbook/EntryKinds.h"
 #include "logbook/LogbookEntry.h"
 #include "logbook/ParsedEntry.h"
-#include "logbook/Prefetch.h"
 #include "logbook/TimeStamps.h"
 
 #include <cstddef>

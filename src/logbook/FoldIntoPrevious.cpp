@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/FoldIntoPrevious.h"
 
+#include "base/ShortText.h"
 #include "logbook/EventLines.h"
-#include "logbook/ShortText.h"
 #include "logbook/modUtil.h"
 
 #include <algorithm>

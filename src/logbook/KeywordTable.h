@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "logbook/ShortText.h"
+#include "base/ShortText.h"
 
 #include <algorithm>
 #include <array>

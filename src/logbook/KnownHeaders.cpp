@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/KnownHeaders.h"
 
-#include "logbook/ShortText.h"
+#include "base/ShortText.h"
 
 #include <bit>
 #include <cstring>

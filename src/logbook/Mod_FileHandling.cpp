@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/Mod_FileHandling.h"
 
+#include "base/Paths.h"
 #include "logbook/ClassicLine.h"
 #include "logbook/EntryCollector.h"
 #include "logbook/OperationLine.h"

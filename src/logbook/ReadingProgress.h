@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "logbook/RunTimeError.h"
+#include "base/RunTimeError.h"
 
 #include <string_view>
 

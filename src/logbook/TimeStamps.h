@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/CodePage.h"
+#include "base/ShortText.h"
 #include "logbook/ClockTime.h"
-#include "logbook/CodePage.h"
-#include "logbook/ShortText.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/clsFile.h"
 
-#include "logbook/RunTimeError.h"
-#include "logbook/modUtil.h"
+#include "base/Paths.h"
+#include "base/RunTimeError.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "logbook/LineBreak.h"
+#include "base/LineBreak.h"
 #include "logbook/ReadingProgress.h"
 
 #include <cstddef>

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/modUtil.h"
 
-#include "logbook/AsciiCase.h"
+#include "base/AsciiCase.h"
 
 #include <array>
-#include <fstream>
 #include <limits>
 
 namespace {
@@ -58,8 +57,6 @@ constexpr std::array<char, LastPrintable - FirstPrintable + 1> Printable = [] {
     return characters;
 }();
 
-constexpr std::string_view PathSeparators = "\\/";
-
 // The month's number between its dots; "" for an unknown name.
 std::string_view MonthText(std::string_view name) {
     if (name.size() == 3)
@@ -103,47 +100,4 @@ std::string_view HexToChar(std::string_view text) {
     if (value < FirstPrintable || value > LastPrintable)
         return {};
     return {&Printable[static_cast<std::size_t>(value - FirstPrintable)], 1};
-}
-
-std::filesystem::path ToPath(std::string_view path) { return std::u8string(path.begin(), path.end()); }
-
-void SplitPath(std::string_view path, std::string& folder, std::string& fileName) {
-    const std::size_t separator = path.find_last_of(PathSeparators);
-    const std::size_t cut = separator == std::string_view::npos ? 0 : separator + 1;
-    folder = path.substr(0, cut);
-    fileName = path.substr(cut);
-}
-
-bool FileExists(const std::string& path) {
-    std::error_code error;
-    return std::filesystem::is_regular_file(ToPath(path), error) &&
-           std::ifstream(ToPath(path), std::ios::binary).is_open();
-}
-
-std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder) {
-    std::vector<std::filesystem::path> items;
-    std::error_code error;
-    const std::filesystem::directory_iterator end;
-    for (std::filesystem::directory_iterator item(folder, error); !error && item != end;
-         item.increment(error))
-        items.push_back(item->path());
-    return items;
-}
-
-bool LiesIn(const std::filesystem::path& path, const std::filesystem::path& folder) {
-    std::error_code error;
-    const auto whole = [&](const std::filesystem::path& part) {
-        return error ? part
-                     : std::filesystem::weakly_canonical(std::filesystem::absolute(part, error), error);
-    };
-    const std::filesystem::path relative = whole(path).lexically_relative(whole(folder));
-    return !error && !relative.empty() && *relative.begin() != "..";
-}
-
-std::string ChangeExtension(std::string_view fileName, std::string_view newExtension) {
-    const std::size_t dot = fileName.rfind('.');
-    const std::size_t separator = fileName.find_last_of(PathSeparators);
-    const bool hasDot =
-        dot != std::string_view::npos && (separator == std::string_view::npos || dot > separator);
-    return std::string(hasDot ? fileName.substr(0, dot) : fileName).append(newExtension);
 }

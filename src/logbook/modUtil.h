@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "logbook/Blanks.h"
-#include "logbook/RunTimeError.h"
+#include "base/Blanks.h"
+#include "base/RunTimeError.h"
 #include "logbook/StampRoom.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <string>
 #include <string_view>
-#include <vector>
 
 // Text cutting by columns. A text here has one byte a character; columns count from 1. The results point into
 // the text that was given.
@@ -49,23 +47,3 @@ std::string_view NormaliseStamp(std::string_view text, StampRoom& room);
 // The printable ASCII character of a hexadecimal key code such as "0x0041", or "". Digits are upper case; any
 // other character counts as -1. A value that does not fit 64 bits gives "".
 std::string_view HexToChar(std::string_view text);
-
-// The path that a UTF-8 text names.
-std::filesystem::path ToPath(std::string_view path);
-
-// Splits a path behind its last "\" or "/": the folder keeps that separator and is "" for a bare file name.
-void SplitPath(std::string_view path, std::string& folder, std::string& fileName);
-
-// True when there is a regular file that can be opened for reading at this moment. To open a pipe may never
-// end.
-bool FileExists(const std::string& path);
-
-// The paths of what lies in a folder, as far as the system lists it; a failing disk raises nothing here.
-std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder);
-
-// True for a path that names something below a folder, or the folder itself, links followed.
-bool LiesIn(const std::filesystem::path& path, const std::filesystem::path& folder);
-
-// The name with everything from its last "." on replaced by `newExtension`, which is appended when there is
-// no ".". A "." in the folder part of a path does not count.
-std::string ChangeExtension(std::string_view fileName, std::string_view newExtension);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "rows/ContentText.h"
 
+#include "base/TextBeginning.h"
 #include "logbook/EventLines.h"
-#include "logbook/TextBeginning.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "rows/RowMatches.h"
 
-#include "logbook/UnicodeCase.h"
+#include "base/UnicodeCase.h"
 
 #include <algorithm>
 

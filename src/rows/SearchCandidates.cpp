@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "rows/SearchCandidates.h"
 
-#include "logbook/CaselessSearchers.h"
-#include "logbook/UnicodeCase.h"
+#include "base/CaselessSearchers.h"
+#include "base/UnicodeCase.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "rows/SortKeys.h"
 
-#include "logbook/Blanks.h"
+#include "base/Blanks.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "rows/TextSort.h"
 
-#include "logbook/CaseFolding.h"
+#include "base/CaseFolding.h"
 
 #include <algorithm>
 #include <utility>

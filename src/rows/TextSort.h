@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "logbook/Prefetch.h"
+#include "base/Prefetch.h"
 #include "rows/RadixSort.h"
 
 #include <cstddef>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "settings/JsonSettings.h"
 
-#include "logbook/AsciiCase.h"
-#include "logbook/AtomicFile.h"
-#include "logbook/FileProblem.h"
-#include "logbook/modUtil.h"
-#include "settings/FileLock.h"
+#include "base/AsciiCase.h"
+#include "base/AtomicFile.h"
+#include "base/FileLock.h"
+#include "base/FileProblem.h"
+#include "base/Paths.h"
+#include "base/UserFolders.h"
 #include "settings/Registry.h"
-#include "settings/UserFolders.h"
 
 #include <array>
 #include <fstream>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "logbook/AsciiCase.h"
+#include "base/AsciiCase.h"
 #include "settings/SettingsStore.h"
 
 #include <nlohmann/json.hpp>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/ReasonText.h"
 
-#include "logbook/FileProblem.h"
+#include "base/FileProblem.h"
 #include "settings/Texts.h"
 
 #include <algorithm>

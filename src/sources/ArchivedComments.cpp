@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "sources/ArchivedComments.h"
 
+#include "base/FileStamp.h"
+#include "base/FollowLinks.h"
+#include "base/Paths.h"
+#include "base/Workplace.h"
 #include "logbook/EventLines.h"
-#include "logbook/FollowLinks.h"
-#include "logbook/modUtil.h"
 #include "settings/ReasonText.h"
 #include "settings/Texts.h"
 #include "sources/Comments.h"
-#include "sources/FileStamp.h"
 #include "sources/OwnArchive.h"
-#include "sources/Workplace.h"
 
 #include <algorithm>
 #include <fstream>

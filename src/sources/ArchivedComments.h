@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "logbook/CodePage.h"
+#include "base/CodePage.h"
+#include "base/TempFolder.h"
 #include "logbook/EntryTable.h"
 #include "settings/Language.h"
-#include "sources/TempFolder.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "sources/CommandLine.h"
 
-#include "logbook/AsciiCase.h"
-#include "logbook/Blanks.h"
+#include "base/AsciiCase.h"
+#include "base/Blanks.h"
 #include "settings/Texts.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "sources/CommentJournal.h"
 
-#include "logbook/AtomicFile.h"
-#include "logbook/FileHandles.h"
+#include "base/AtomicFile.h"
+#include "base/FileHandles.h"
 #include "sources/JournalName.h"
 #include "sources/LogbookChecksum.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/UserFolders.h"
 #include "logbook/EntryTable.h"
-#include "settings/UserFolders.h"
 #include "sources/LostJournal.h"
 
 #include <filesystem>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "sources/Comments.h"
 
-#include "logbook/AtomicFile.h"
-#include "logbook/Blanks.h"
+#include "base/AtomicFile.h"
+#include "base/Blanks.h"
+#include "base/FileProblem.h"
 #include "logbook/EventLines.h"
-#include "logbook/FileProblem.h"
 #include "settings/ReasonText.h"
 #include "settings/Texts.h"
 

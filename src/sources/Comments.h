@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/TextFile.h"
 #include "logbook/EntryTable.h"
-#include "logbook/TextFile.h"
 #include "settings/Language.h"
 
 #include <cstdint>

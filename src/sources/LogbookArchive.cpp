@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "sources/LogbookArchive.h"
 
+#include "base/AtomicFile.h"
+#include "base/Paths.h"
+#include "base/Workplace.h"
 #include "filter/FilterFile.h"
-#include "logbook/AtomicFile.h"
-#include "logbook/modUtil.h"
 #include "settings/ReasonText.h"
 #include "settings/Texts.h"
 #include "sources/Comments.h"
-#include "sources/Workplace.h"
 #include "sources/ZipArchive.h"
 
 #include <algorithm>

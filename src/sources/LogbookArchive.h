@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/CodePage.h"
+#include "base/FileStamp.h"
+#include "base/TempFolder.h"
 #include "filter/FilterDefinition.h"
-#include "logbook/CodePage.h"
 #include "logbook/EntryTable.h"
 #include "settings/Language.h"
-#include "sources/FileStamp.h"
-#include "sources/TempFolder.h"
 #include "sources/ZipBuilder.h"
 
 #include <optional>

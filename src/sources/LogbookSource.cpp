@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "sources/LogbookSource.h"
 
-#include "logbook/AsciiCase.h"
-#include "logbook/TextBeginning.h"
-#include "logbook/modUtil.h"
+#include "base/AsciiCase.h"
+#include "base/Paths.h"
+#include "base/TextBeginning.h"
 #include "sources/OwnArchive.h"
 #include "sources/ZipArchive.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/TempFolder.h"
 #include "settings/Language.h"
-#include "sources/TempFolder.h"
 #include "sources/UserInterface.h"
 
 #include <optional>

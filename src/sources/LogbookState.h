@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/FileStamp.h"
 #include "logbook/EntryTable.h"
-#include "sources/FileStamp.h"
 
 #include <optional>
 #include <set>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "logbook/FileHandles.h"
+#include "base/FileHandles.h"
 
 #include <filesystem>
 #include <optional>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/OpenLogbook.h"
 
-#include "logbook/modUtil.h"
+#include "base/Paths.h"
 
 namespace {
 constexpr std::string_view FolderSetting = "InitLogbookDir";

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "sources/ZipArchive.h"
 
+#include "base/AsciiCase.h"
+#include "base/StopRequest.h"
 #include "filter/FilterFile.h"
-#include "logbook/AsciiCase.h"
-#include "logbook/StopRequest.h"
 #include "sources/Comments.h"
 #include "sources/ZipReason.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/ZipBuilder.h"
 
-#include "logbook/StopRequest.h"
+#include "base/StopRequest.h"
 #include "settings/ReasonText.h"
 #include "sources/ZipReason.h"
 #include "sources/ZipTarget.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "sources/ZipLogbook.h"
 
-#include "logbook/AsciiCase.h"
-#include "logbook/modUtil.h"
+#include "base/AsciiCase.h"
+#include "base/Paths.h"
 #include "sources/ArchivedComments.h"
 
 #include <map>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "eventinfo/iZEKEventInfo.h"
 
+#include "base/ProgramFolder.h"
 #include "eventinfo/Numbers.h"
-#include "eventinfo/ProgramFolder.h"
 #include "support/ReadText.h"
 #include "support/TemporaryFolder.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "filter/FilterFile.h"
 
+#include "base/FileProblem.h"
 #include "filter/FilterText.h"
-#include "logbook/FileProblem.h"
 #include "support/LittleMemory.h"
 #include "support/OddFiles.h"
 #include "support/TemporaryFolder.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/clsFile.h"
 
-#include "logbook/RunTimeError.h"
+#include "base/RunTimeError.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

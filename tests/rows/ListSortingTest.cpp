@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "rows/ListSorting.h"
 
-#include "logbook/CaseFolding.h"
+#include "base/CaseFolding.h"
 #include "support/EntriesFrom.h"
 
 #include <gmock/gmock.h>

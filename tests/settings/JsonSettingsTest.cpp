@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/JsonSettings.h"
 
-#include "settings/FileLock.h"
+#include "base/FileLock.h"
 #include "settings/Registry.h"
 #include "support/OddFiles.h"
 #include "support/OrdinaryUser.h"

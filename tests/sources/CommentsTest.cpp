@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/Comments.h"
 
-#include "logbook/FileProblem.h"
+#include "base/FileProblem.h"
 #include "support/EntriesFrom.h"
 #include "support/LittleMemory.h"
 #include "support/OddFiles.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/LogbookSource.h"
 
-#include "logbook/UnicodeCase.h" // IsUtf8
+#include "base/UnicodeCase.h" // IsUtf8
 #include "support/ScriptedUser.h"
 #include "support/TemporaryFolder.h"
 #include "support/ZipWriter.h"

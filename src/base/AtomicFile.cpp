@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "base/AtomicFile.h"
+
+#include "base/FileProblem.h"
+#include "base/FollowLinks.h"
+#include "base/Paths.h"
+
+#include <cerrno>
+
+#if defined(__unix__) || defined(__APPLE__)
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+std::error_code LastError() { return {errno != 0 ? errno : EIO, std::generic_category()}; }
+
+#if defined(__unix__) || defined(__APPLE__)
+
+// A part file is for its owner only, whatever this gives or fails to give it.
+void GivePermissionsOf(const std::filesystem::path& target, int handle) {
+    constexpr mode_t Unmasked = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+    constexpr mode_t OfGroup = S_IRWXG;
+    struct stat replaced {};
+    struct stat part {};
+    if (::fstat(handle, &part) != 0)
+        return;
+    if (::stat(target.c_str(), &replaced) != 0) {
+        // It can be asked for only by setting it; meanwhile nothing is made that others may read.
+        const mode_t mask = ::umask(S_IRWXG | S_IRWXO);
+        ::umask(mask);
+        (void)::fchmod(handle, Unmasked & ~mask);
+        return;
+    }
+    mode_t mode = replaced.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
+    // What a group may do is for that group alone; another one gets no more than all others.
+    if (part.st_gid != replaced.st_gid && ::fchown(handle, static_cast<uid_t>(-1), replaced.st_gid) != 0)
+        mode &= ~OfGroup | ((mode & S_IRWXO) << 3U);
+    (void)::fchmod(handle, mode);
+}
+
+// Makes the part file ready for its place.
+std::error_code Finish(const std::filesystem::path& part, const std::filesystem::path& target) {
+    errno = 0;
+    const FileHandle handle(::open(part.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC));
+    if (!handle.IsOpen())
+        return LastError();
+    GivePermissionsOf(target, handle.Number());
+    return Flush(handle.Number());
+}
+
+#else
+
+std::error_code Finish(const std::filesystem::path&, const std::filesystem::path&) { return {}; }
+
+#endif
+
+} // namespace
+
+AtomicFile::AtomicFile(const std::string& path) : target_(FollowLinks(ToPath(path), error_)) {
+    if (!error_ && CheckRegularFile(target_) == FileProblem::NoRegularFile)
+        error_ = FileProblem::NoRegularFile;
+    if (error_)
+        return;
+    part_ = MakePartFile(target_, error_);
+    if (part_.Path.empty())
+        return;
+    errno = 0;
+    stream_.open(part_.Path, std::ios::binary | std::ios::trunc);
+    if (!stream_)
+        error_ = LastError();
+}
+
+AtomicFile::~AtomicFile() {
+    stream_.close();
+    std::error_code ignored;
+    if (!part_.Path.empty())
+        std::filesystem::remove(part_.Path, ignored);
+}
+
+std::error_code AtomicFile::Commit() {
+    if (error_)
+        return error_;
+    errno = 0;
+    stream_.close();
+    if (!stream_)
+        return error_ = LastError();
+    if (error_ = Finish(part_.Path, target_); error_)
+        return error_;
+    std::filesystem::rename(part_.Path, target_, error_);
+    if (error_)
+        return error_;
+    part_.Path.clear();
+    FlushFolder(target_.parent_path());
+    return {};
+}
+
+void FlushFolder([[maybe_unused]] const std::filesystem::path& folder) {
+#if defined(__unix__) || defined(__APPLE__)
+    const FileHandle handle(
+        ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (handle.IsOpen())
+        (void)Flush(handle.Number());
+#endif
+}

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "base/FileLock.h"
+
+#include <chrono>
+#include <thread>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr std::chrono::seconds MostWait{5};
+constexpr std::chrono::milliseconds Pause{2};
+
+} // namespace
+
+FileLock::FileLock(const std::string& path) {
+    // Readable for all, so that a run as another user does not shut this one out.
+    constexpr mode_t Mode = S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH;
+    // A pipe is opened without waiting for its other end. A link is not followed: it may lead to any file.
+    constexpr int Flags = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
+    handle_ = OpenToLock(path, Flags | O_CREAT | O_EXCL, Mode);
+    if (handle_.IsOpen())
+        (void)::fchmod(handle_.Number(), Mode);
+    else
+        handle_ = OpenToLock(path, Flags | O_CREAT, Mode);
+    if (!Take())
+        handle_.Close();
+}
+
+bool FileLock::Take() const {
+    struct stat status {};
+    if (!handle_.IsOpen() || ::fstat(handle_.Number(), &status) != 0 || !S_ISREG(status.st_mode))
+        return false;
+    const auto until = std::chrono::steady_clock::now() + MostWait;
+    LockOutcome lock = TryLock(handle_.Number());
+    for (; lock == LockOutcome::InUse && std::chrono::steady_clock::now() < until;
+         lock = TryLock(handle_.Number()))
+        std::this_thread::sleep_for(Pause);
+    return lock != LockOutcome::Failed;
+}

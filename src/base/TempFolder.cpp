@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "base/TempFolder.h"
+
+#include "base/Paths.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <random>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr std::string_view Characters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
+constexpr std::size_t CharacterCount = 6;
+constexpr const char* SharedName = "Qorvix";
+constexpr std::string_view OwnPrefix = "Qorvix-temp-";
+
+// Others may come in between; none of them comes for ever.
+constexpr int Attempts = 20;
+
+std::string RandomName(std::string_view prefix) {
+    std::random_device random;
+    std::uniform_int_distribution<std::size_t> character(0, Characters.size() - 1);
+    std::string name(prefix);
+    for (std::size_t i = 0; i < CharacterCount; ++i)
+        name += Characters[character(random)];
+    return name;
+}
+
+bool HasOwnName(const std::filesystem::path& folder) {
+    const std::string name = folder.filename().string();
+    return name == SharedName ||
+           (name.starts_with(OwnPrefix) && name.size() == OwnPrefix.size() + CharacterCount &&
+            name.find_first_not_of(Characters, OwnPrefix.size()) == std::string::npos);
+}
+
+// The name of something below a folder, as its mark has it.
+std::string NameIn(const std::filesystem::path& folder, const std::filesystem::path& path) {
+    return path.lexically_relative(folder).generic_string();
+}
+
+} // namespace
+
+std::filesystem::path TempFolder::SystemFolder() {
+    std::error_code error;
+    const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
+    if (!error)
+        return folder;
+    // Variables that are set but empty name no folder.
+    const char* const named = std::getenv("TMPDIR");
+    return named != nullptr && *named == '\0' ? std::filesystem::path("/tmp") : std::filesystem::path();
+}
+
+TempFolder::TempFolder(const std::filesystem::path& parent, const std::vector<std::filesystem::path>& kept)
+    : parent_(parent) {
+    if (parent_.empty())
+        return;
+    RemoveLeft(kept);
+    Make();
+}
+
+TempFolder::~TempFolder() {
+    // Another copy may have made a folder of that name since this one's was removed.
+    if (mark_ && mark_->IsThere())
+        mark_->Remove();
+}
+
+void TempFolder::RemoveLeft(const std::vector<std::filesystem::path>& kept) const {
+    for (const std::filesystem::path& folder : ItemsIn(parent_)) {
+        if (!HasOwnName(folder) ||
+            std::any_of(kept.begin(), kept.end(), [&](const auto& path) { return LiesIn(path, folder); }))
+            continue;
+        if (const std::optional<TempFolderMark> left = TempFolderMark::Take(folder))
+            left->Remove();
+    }
+}
+
+void TempFolder::Make() const {
+    mark_.reset();
+    path_.clear();
+    if (parent_.empty())
+        return;
+    for (int i = 0; i < Attempts; ++i) {
+        const bool isMade = ::mkdir((parent_ / SharedName).c_str(), S_IRWXU) == 0;
+        if (isMade && Mark(parent_ / SharedName))
+            return;
+        if (!isMade)
+            break;
+    }
+    for (int i = 0; i < Attempts; ++i) {
+        const std::filesystem::path own = parent_ / RandomName(OwnPrefix);
+        const bool isMade = ::mkdir(own.c_str(), S_IRWXU) == 0;
+        if (isMade && Mark(own))
+            return;
+        if (!isMade && errno != EEXIST)
+            return;
+    }
+}
+
+// A folder that was just made; it goes where it cannot be marked.
+bool TempFolder::Mark(const std::filesystem::path& folder) const {
+    mark_ = TempFolderMark::Make(folder);
+    if (mark_)
+        path_ = folder;
+    else
+        ::rmdir(folder.c_str());
+    return mark_.has_value();
+}
+
+std::filesystem::path TempFolder::MakeSubfolder() const {
+    if (!mark_ || !mark_->IsThere())
+        Make();
+    for (int i = 0; i < Attempts && mark_; ++i) {
+        const std::string name = RandomName("new-");
+        std::error_code ignored;
+        if (std::filesystem::exists(std::filesystem::symlink_status(path_ / name, ignored)))
+            continue;
+        if (mark_->Note(name + '/') && ::mkdir((path_ / name).c_str(), S_IRWXU) == 0)
+            return path_ / name;
+        break;
+    }
+    return {};
+}
+
+void TempFolder::RemoveSubfolder(const std::filesystem::path& folder) const {
+    if (mark_ && !folder.empty())
+        mark_->RemoveFolder(NameIn(path_, folder) + '/');
+}
+
+bool TempFolder::IsForeign(const std::filesystem::path& file) const {
+    std::error_code ignored;
+    return !mark_->HasNoted(NameIn(path_, file)) &&
+           std::filesystem::exists(std::filesystem::symlink_status(file, ignored));
+}
+
+bool TempFolder::Note(const std::vector<std::filesystem::path>& files) const {
+    return mark_ &&
+           std::none_of(files.begin(), files.end(), [&](const auto& file) { return IsForeign(file); }) &&
+           std::all_of(files.begin(), files.end(),
+                       [&](const auto& file) { return mark_->Note(NameIn(path_, file)); });
+}
+
+void TempFolder::RemoveFile(const std::filesystem::path& file) const {
+    if (mark_ && mark_->HasNoted(NameIn(path_, file)))
+        ::unlink(file.c_str());
+}

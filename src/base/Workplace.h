@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/TempFolder.h"
+
+#include <filesystem>
+
+// A folder in the temporary folder, removed with all that was noted in there. The files in the temporary
+// folder itself are those of the logbook that is shown.
+class Workplace {
+  public:
+    explicit Workplace(const TempFolder& tempFolder)
+        : tempFolder_(tempFolder), path_(tempFolder.MakeSubfolder()) {}
+    ~Workplace() { tempFolder_.RemoveSubfolder(path_); }
+    Workplace(const Workplace&) = delete;
+    Workplace& operator=(const Workplace&) = delete;
+
+    // Empty when it could not be made.
+    const std::filesystem::path& Path() const { return path_; }
+
+  private:
+    const TempFolder& tempFolder_;
+    std::filesystem::path path_;
+};
