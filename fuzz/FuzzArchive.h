@@ -2,7 +2,7 @@
 #pragma once
 
 #include "FuzzSupport.h"
-#include "sources/UserInterface.h"
+#include "settings/UserInterface.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as a comments file, and as one comment.
 #include "FuzzSupport.h"
-#include "sources/Comments.h"
+#include "comments/Comments.h"
 
 #include <algorithm>
 #include <map>

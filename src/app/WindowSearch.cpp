@@ -7,7 +7,7 @@
 #include "list/LogbookView.h"
 #include "rows/ListSearch.h"
 #include "settings/Texts.h"
-#include "sources/UserInterface.h"
+#include "settings/UserInterface.h"
 
 #include <algorithm>
 

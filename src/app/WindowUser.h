@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "sources/UserInterface.h"
+#include "settings/UserInterface.h"
 
 #include <QString>
 

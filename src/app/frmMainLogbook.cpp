@@ -6,6 +6,8 @@
 #include "app/frmMain.h"
 #include "base/Paths.h"
 #include "base/ProgramFolder.h"
+#include "comments/Comments.h"
+#include "comments/LostComments.h"
 #include "filter/Filter.h"
 #include "filter/FilterFile.h"
 #include "filter/FilterStorage.h"
@@ -14,9 +16,7 @@
 #include "list/QtText.h"
 #include "logbook/Mod_FileHandling.h"
 #include "sources/CommandLine.h"
-#include "sources/Comments.h"
 #include "sources/LogbookSource.h"
-#include "sources/LostComments.h"
 #include "sources/ZipLogbook.h"
 
 #include <QPlainTextEdit>

@@ -4,10 +4,10 @@
 #include "base/Paths.h"
 #include "base/ProgramFolder.h"
 #include "cli/TerminalProgress.h"
+#include "comments/Comments.h"
 #include "filter/FilterFile.h"
 #include "logbook/Mod_FileHandling.h"
 #include "settings/Texts.h"
-#include "sources/Comments.h"
 
 std::vector<std::filesystem::path> KeptFiles(const std::vector<std::string>& files) {
     std::vector<std::filesystem::path> kept{ToPath(ProgramFolder())};

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cli/Messages.h"
-#include "sources/UserInterface.h"
+#include "settings/UserInterface.h"
 
 // Opening logbooks on a terminal: messages go to standard error, and the one question has been answered by an
 // option. What has no option is not agreed to.

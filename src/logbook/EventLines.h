@@ -4,6 +4,7 @@
 #include "logbook/KnownHeaders.h"
 #include "logbook/ParsedEntry.h"
 #include "logbook/clsFile.h"
+#include "logbook/modUtil.h"
 
 #include <string_view>
 

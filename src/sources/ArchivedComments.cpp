@@ -5,10 +5,10 @@
 #include "base/FollowLinks.h"
 #include "base/Paths.h"
 #include "base/Workplace.h"
+#include "comments/Comments.h"
 #include "logbook/EventLines.h"
 #include "settings/ReasonText.h"
 #include "settings/Texts.h"
-#include "sources/Comments.h"
 #include "sources/OwnArchive.h"
 
 #include <algorithm>

@@ -4,10 +4,10 @@
 #include "base/AtomicFile.h"
 #include "base/Paths.h"
 #include "base/Workplace.h"
+#include "comments/Comments.h"
 #include "filter/FilterFile.h"
 #include "settings/ReasonText.h"
 #include "settings/Texts.h"
-#include "sources/Comments.h"
 #include "sources/ZipArchive.h"
 
 #include <algorithm>

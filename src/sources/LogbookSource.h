@@ -3,7 +3,7 @@
 
 #include "base/TempFolder.h"
 #include "settings/Language.h"
-#include "sources/UserInterface.h"
+#include "settings/UserInterface.h"
 
 #include <optional>
 #include <string>

@@ -2,6 +2,7 @@
 #include "sources/OpenLogbook.h"
 
 #include "base/Paths.h"
+#include "comments/LostComments.h"
 
 namespace {
 constexpr std::string_view FolderSetting = "InitLogbookDir";
@@ -51,4 +52,32 @@ bool OpenLogbook(std::string& name, const LogbookState& state, Registry& registr
     if (name.empty() && !ReadAndShowLogbookName(name, registry, user, programFolder))
         return false;
     return steps.ExecuteLogbook(name);
+}
+
+bool OfferLostComments(EntryTable& entries, LogbookState& state, CommentJournal& journal,
+                       UserInterface& user) {
+    LostComments lost(journal.Folder(), entries);
+    if (lost.Comments().empty()) {
+        journal.Keep(lost.TakeJournals(), {});
+        return false;
+    }
+    switch (user.Ask(TextId::AskRestoreComments)) {
+    case UserInterface::Answer::Yes: {
+        std::vector<EntryNumber> restored;
+        for (const auto& [number, comment] : lost.Comments()) {
+            entries.SetComment(number, comment);
+            restored.push_back(number);
+        }
+        journal.Keep(lost.TakeJournals(), restored);
+        state.ChangedComments.insert(restored.begin(), restored.end());
+        state.CommentsEdited = true;
+        return true;
+    }
+    case UserInterface::Answer::No:
+        lost.Remove();
+        break;
+    case UserInterface::Answer::Cancel:
+        break;
+    }
+    return false;
 }

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "comments/CommentJournal.h"
+#include "logbook/EntryTable.h"
 #include "settings/Registry.h"
+#include "settings/UserInterface.h"
 #include "sources/LogbookState.h"
-#include "sources/UserInterface.h"
 
 #include <cstdint>
 #include <functional>
@@ -39,3 +41,10 @@ struct OpeningSteps {
 // then its bare name.
 bool OpenLogbook(std::string& name, const LogbookState& state, Registry& registry, UserInterface& user,
                  const std::string& programFolder, const OpeningSteps& steps);
+
+// Offers lost comments of a logbook that was just opened. True when the entries have got them; they then
+// count as edited and not saved. Declined ones are removed; where the person decides neither way, they are
+// offered again the next time. Nobody is asked about comments that the logbook has as they are; `journal`
+// keeps these, and restored ones, until the comments of the logbook are saved.
+bool OfferLostComments(EntryTable& entries, LogbookState& state, CommentJournal& journal,
+                       UserInterface& user);

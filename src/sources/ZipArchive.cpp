@@ -3,8 +3,8 @@
 
 #include "base/AsciiCase.h"
 #include "base/StopRequest.h"
+#include "comments/Comments.h"
 #include "filter/FilterFile.h"
-#include "sources/Comments.h"
 #include "sources/ZipReason.h"
 
 #include <zip.h>

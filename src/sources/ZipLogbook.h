@@ -2,9 +2,9 @@
 #pragma once
 
 #include "settings/Registry.h"
+#include "settings/UserInterface.h"
 #include "sources/LogbookArchive.h"
 #include "sources/LogbookState.h"
-#include "sources/UserInterface.h"
 
 #include <cstdint>
 #include <span>

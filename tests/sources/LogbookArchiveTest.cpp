@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "sources/LogbookArchive.h"
 
+#include "comments/Comments.h"
 #include "filter/FilterFile.h"
 #include "filter/FilterText.h"
-#include "sources/Comments.h"
 #include "sources/LogbookSource.h"
 #include "support/EntriesFrom.h"
 #include "support/OrdinaryUser.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "sources/ZipArchive.h"
 
+#include "comments/Comments.h"
 #include "filter/FilterFile.h"
-#include "sources/Comments.h"
 #include "support/SmallFiles.h"
 #include "support/TemporaryFolder.h"
 #include "support/ZipWriter.h"

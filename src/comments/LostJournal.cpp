@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "sources/LostJournal.h"
+#include "comments/LostJournal.h"
 
-#include "sources/JournalName.h"
+#include "comments/JournalName.h"
 
 #include <array>
 #include <cstring>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "base/UserFolders.h"
+#include "comments/LostJournal.h"
 #include "logbook/EntryTable.h"
-#include "sources/LostJournal.h"
 
 #include <filesystem>
 #include <set>

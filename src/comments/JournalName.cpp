@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "sources/JournalName.h"
+#include "comments/JournalName.h"
 
 #include <array>
 #include <cerrno>

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "comments/CommentJournal.h"
+#include "comments/LostJournal.h"
 #include "logbook/EntryTable.h"
-#include "sources/CommentJournal.h"
-#include "sources/LogbookState.h"
-#include "sources/LostJournal.h"
-#include "sources/UserInterface.h"
 
 #include <filesystem>
 #include <map>
@@ -34,10 +32,3 @@ class LostComments {
     std::vector<LostJournal> journals_;
     std::map<EntryNumber, std::string> comments_;
 };
-
-// Offers lost comments of a logbook that was just opened. True when the entries have got them; they then
-// count as edited and not saved. Declined ones are removed; where the person decides neither way, they are
-// offered again the next time. Nobody is asked about comments that the logbook has as they are; `journal`
-// keeps these, and restored ones, until the comments of the logbook are saved.
-bool OfferLostComments(EntryTable& entries, LogbookState& state, CommentJournal& journal,
-                       UserInterface& user);

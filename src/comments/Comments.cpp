@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "sources/Comments.h"
+#include "comments/Comments.h"
 
 #include "base/AtomicFile.h"
 #include "base/Blanks.h"

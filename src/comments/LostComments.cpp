@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "sources/LostComments.h"
+#include "comments/LostComments.h"
 
-#include "sources/LogbookChecksum.h"
+#include "comments/LogbookChecksum.h"
 
 #include <nlohmann/json.hpp>
 
@@ -172,32 +172,4 @@ LostComments::LostComments(const std::filesystem::path& folder, const EntryTable
 void LostComments::Remove() {
     for (const LostJournal& journal : journals_)
         journal.Remove();
-}
-
-bool OfferLostComments(EntryTable& entries, LogbookState& state, CommentJournal& journal,
-                       UserInterface& user) {
-    LostComments lost(journal.Folder(), entries);
-    if (lost.Comments().empty()) {
-        journal.Keep(lost.TakeJournals(), {});
-        return false;
-    }
-    switch (user.Ask(TextId::AskRestoreComments)) {
-    case UserInterface::Answer::Yes: {
-        std::vector<EntryNumber> restored;
-        for (const auto& [number, comment] : lost.Comments()) {
-            entries.SetComment(number, comment);
-            restored.push_back(number);
-        }
-        journal.Keep(lost.TakeJournals(), restored);
-        state.ChangedComments.insert(restored.begin(), restored.end());
-        state.CommentsEdited = true;
-        return true;
-    }
-    case UserInterface::Answer::No:
-        lost.Remove();
-        break;
-    case UserInterface::Answer::Cancel:
-        break;
-    }
-    return false;
 }

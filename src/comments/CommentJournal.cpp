@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "sources/CommentJournal.h"
+#include "comments/CommentJournal.h"
 
 #include "base/AtomicFile.h"
 #include "base/FileHandles.h"
-#include "sources/JournalName.h"
-#include "sources/LogbookChecksum.h"
+#include "comments/JournalName.h"
+#include "comments/LogbookChecksum.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "sources/LogbookChecksum.h"
+#include "comments/LogbookChecksum.h"
 
 #include <xxhash.h>
 
