@@ -98,10 +98,9 @@ int main(int argc, char** argv) {
     const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
     Registry registry(*settings);
     const TempFolder tempFolder;
-    Logbook logbook;
-    ReadOnce(argv[1], logbook);
-    CommentJournal journal(tempFolder.Path());
-    frmMain window(logbook, registry, tempFolder, journal, CodePage());
+    LogbookDocument document(registry, tempFolder, CodePage(), tempFolder.Path());
+    ReadOnce(argv[1], document.Book());
+    frmMain window(document, registry);
     window.show();
     QApplication::processEvents();
     auto* const list = window.findChild<LogbookView*>("lvLogbook");

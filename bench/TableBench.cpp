@@ -133,9 +133,8 @@ int main(int argc, char** argv) {
              const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
              Registry registry(*settings);
              const TempFolder tempFolder;
-             CommentJournal journal(tempFolder.Path());
-             Logbook shown;
-             frmMain window(shown, registry, tempFolder, journal, CodePage());
+             LogbookDocument document(registry, tempFolder, CodePage(), tempFolder.Path());
+             frmMain window(document, registry);
              window.show();
              QApplication::processEvents();
              return Seconds([&] {

@@ -36,9 +36,8 @@ int main(int argc, char** argv) {
     const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
     Registry registry(*settings);
     const TempFolder tempFolder;
-    Logbook logbook;
-    CommentJournal journal(tempFolder.Path());
-    frmMain window(logbook, registry, tempFolder, journal, CodePage());
+    LogbookDocument document(registry, tempFolder, CodePage(), tempFolder.Path());
+    frmMain window(document, registry);
     window.show();
     QApplication::processEvents();
     auto* const list = window.findChild<QTableView*>("lvLogbook");

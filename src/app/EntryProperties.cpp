@@ -2,11 +2,11 @@
 #include "app/EntryProperties.h"
 
 #include "dialogs/frmLogbookIdent.h"
+#include "document/LogbookDocument.h"
 #include "eventinfo/iZEKEventInfo.h"
 #include "list/LogbookModel.h"
 #include "list/MultiLineText.h"
 #include "list/QtText.h"
-#include "logbook/Logbook.h"
 
 namespace {
 
@@ -23,8 +23,8 @@ LogbookIdent IdentOf(const EntryTable& entries, const LogbookModel& model, int r
 
 } // namespace
 
-void ShowEntryDialogs(const RowRanges& rows, Logbook& logbook, LogbookModel& model, Language language,
-                      QWidget* parent, const EntryPropertiesEvents& events) {
+void ShowEntryDialogs(const RowRanges& rows, LogbookDocument& document, LogbookModel& model,
+                      Language language, QWidget* parent, const EntryPropertiesEvents& events) {
     frmLogbookIdent dialog(
         language,
         [&](const QString& data) {
@@ -37,7 +37,7 @@ void ShowEntryDialogs(const RowRanges& rows, Logbook& logbook, LogbookModel& mod
     for (const RowRange& range : rows) {
         for (std::size_t row = range.First; row <= range.Last; ++row) {
             const EntryNumber entry = model.Rows()[row].Entry;
-            dialog.ShowEntry(IdentOf(logbook.Entries, model, static_cast<int>(row)));
+            dialog.ShowEntry(IdentOf(document.Entries(), model, static_cast<int>(row)));
             if (dialog.WasClosed())
                 return;
             const QString& comment = dialog.Comment();
@@ -45,10 +45,9 @@ void ShowEntryDialogs(const RowRanges& rows, Logbook& logbook, LogbookModel& mod
                 continue;
             const std::string text =
                 comment == frmLogbookIdent::ClearMark ? std::string() : OnOneLine(comment).toStdString();
-            const bool differs = logbook.Entries.Comment(entry) != text;
-            logbook.Entries.SetComment(entry, text);
+            document.ChangeComment(entry, text);
             model.ShowComment(static_cast<int>(row));
-            events.CommentChanged(static_cast<int>(row), differs);
+            events.CommentChanged(static_cast<int>(row));
         }
     }
 }

@@ -53,18 +53,14 @@ QPlainTextEdit* MakeContentPane(QWidget* parent) {
 
 } // namespace
 
-frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFolder, CommentJournal& journal,
-                 CodePage codePage)
-    : logbook_(logbook),
+frmMain::frmMain(LogbookDocument& document, Registry& registry)
+    : document_(document),
       registry_(registry),
-      tempFolder_(tempFolder),
-      journal_(journal),
-      codePage_(std::move(codePage)),
       BaseCaption("Qorvix"),
       ViewContents(registry.ReadLogbookSettingLong("MainViewContents", 0) == 1),
-      model_(new LogbookModel(logbook.Entries, this)),
+      model_(new LogbookModel(document.Entries(), document.Rows(), this)),
       lvLogbook(new LogbookView(this)),
-      pbTagViewer(new TagViewer(*lvLogbook, logbook.Entries, this)),
+      pbTagViewer(new TagViewer(*lvLogbook, document.Entries(), this)),
       txContent(MakeContentPane(this)),
       area_(new MainArea(lvLogbook, pbTagViewer, txContent, this)),
       tbToolBar(new MainToolBar(this)),
@@ -72,11 +68,21 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFol
       menus_(*this, [this](Command command) { Run(command); }),
       progress_(this, sbStatusBar->Progress(), BaseCaption),
       user_(this, sbStatusBar->StatusText(), BaseCaption),
+      shown_(document,
+             {.Model = *model_,
+              .List = *lvLogbook,
+              .Content = *txContent,
+              .StatusBar = *sbStatusBar,
+              .Progress = progress_,
+              .User = user_},
+             {.LogbookIsOpen =
+                  [this](std::string_view name) { setWindowTitle(ToQString(name) + " - " + BaseCaption); },
+              .CommentsAreSafe = [this](std::error_code error) { ShowNotNoted(error); },
+              .SelectedContentChanged = [this] { ShowSelectedContent(); }}),
       tmExtrasFilters(new QTimer(this)),
-      search_(new WindowSearch(*lvLogbook, logbook.Entries, user_, *this)),
+      search_(new WindowSearch(*lvLogbook, document.Entries(), user_, *this)),
       help_(this, HelpReader(ProgramFolder())) {
     setObjectName("frmMain");
-    state_.InitZipArchiveDir = registry_.ReadLogbookSettingString("InitZipArchiveDir", ProgramFolder() + '/');
     setWindowTitle(BaseCaption);
     setContextMenuPolicy(Qt::PreventContextMenu);
     addToolBar(Qt::TopToolBarArea, tbToolBar);
@@ -95,7 +101,7 @@ frmMain::frmMain(Logbook& logbook, Registry& registry, const TempFolder& tempFol
     tmExtrasFilters->setInterval(200);
     connect(tmExtrasFilters, &QTimer::timeout, this, [this] {
         // As from the menu, which cannot be reached while another dialog is open or a logbook is read.
-        if (logbook_.Busy || QApplication::activeModalWidget() != nullptr)
+        if (document_.Book().Busy || QApplication::activeModalWidget() != nullptr)
             tmExtrasFilters->start();
         else
             Run(Command::Filters);
@@ -152,6 +158,7 @@ void frmMain::LoadLanguage() {
     language_ = ReadLanguage(registry_);
     qtCatalogue_.SetLanguage(language_);
     user_.SetLanguage(language_);
+    shown_.SetLanguage(language_);
     filterTypeLabels_.SetLanguage(language_);
     search_->SetLanguage(language_);
     help_.CloseAll();
@@ -165,14 +172,14 @@ void frmMain::LoadLanguage() {
 }
 
 void frmMain::Run(Command command) {
-    if (logbook_.Busy && NeedsIdleLogbook(command))
+    if (document_.Book().Busy && NeedsIdleLogbook(command))
         return;
     switch (command) {
     case Command::Open:
         OpenLogbook("");
         break;
     case Command::ZipLogbook:
-        ZipLogbook();
+        document_.ZipLogbook();
         break;
     case Command::Exit:
         close();
@@ -236,6 +243,35 @@ void frmMain::ShowHelp(bool shown) {
         user_.ShowMessage(Text(TextId::NoHelpFile, language_), UserInterface::MessageIcon::Exclamation);
 }
 
+void frmMain::RunCommandLine(const std::vector<std::string>& arguments) {
+    document_.RunCommandLine(arguments);
+    CloseIfWanted();
+}
+
+bool frmMain::OpenLogbook(const std::string& name) {
+    const bool opened = document_.OpenLogbook(name);
+    CloseIfWanted();
+    return opened;
+}
+
+bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& commentsFile) {
+    const bool read = document_.ReadAndShowLogbook(file, commentsFile);
+    CloseIfWanted();
+    return read;
+}
+
+void frmMain::Refresh() {
+    tbToolBar->repaint();
+    document_.Refresh();
+    CloseIfWanted();
+}
+
+// The window was closed while it was reading.
+void frmMain::CloseIfWanted() {
+    if (progress_.StopWanted() && !document_.Book().Busy)
+        close();
+}
+
 void frmMain::ToolBarButtonClick(const QString& key) {
     if (const std::optional<Command> command = MainToolBar::CommandOf(key))
         Run(*command);
@@ -250,7 +286,7 @@ void frmMain::ShowContentPane(bool shown) {
 void frmMain::RefreshContentText(int row) {
     const EntryNumber number = model_->Rows()[static_cast<std::size_t>(row)].Entry;
     txContent->setPlainText(
-        ToQString(ContentText(logbook_.Entries.Data(number), logbook_.Entries.Comment(number))));
+        ToQString(ContentText(document_.Entries().Data(number), document_.Entries().Comment(number))));
 }
 
 void frmMain::ShowSelectedContent() {
@@ -270,7 +306,7 @@ void frmMain::ChooseLanguage() {
     LoadLanguage();
     ShowStandingMessage();
     if (sbStatusBar->HasCounts())
-        ShowLogbookStatus();
+        shown_.ShowCounts();
 }
 
 void frmMain::FirstActivation(const std::vector<std::string>& arguments) {
@@ -281,7 +317,7 @@ void frmMain::FirstActivation(const std::vector<std::string>& arguments) {
 }
 
 void frmMain::SortByColumn(int column) {
-    if (logbook_.Busy)
+    if (document_.Book().Busy)
         return;
     const WaitPointer wait;
     lvLogbook->SortByColumn(column);
@@ -291,25 +327,17 @@ void frmMain::SortByColumn(int column) {
 
 void frmMain::CopySelectedRows() {
     const RowRanges ranges = lvLogbook->SelectedRanges();
-    if (logbook_.Busy || ranges.empty())
+    if (document_.Book().Busy || ranges.empty())
         return;
     const WaitPointer wait;
     QApplication::clipboard()->setText(
-        ToQString(RowsAsText(logbook_.Entries, model_->Rows(), ranges, language_)));
+        ToQString(RowsAsText(document_.Entries(), model_->Rows(), ranges, language_)));
 }
 
 void frmMain::ShowEntryProperties() {
     ShowEntryDialogs(
-        lvLogbook->SelectedRanges(), logbook_, *model_, language_, this,
-        {.CommentChanged =
-             [this](int row, bool differs) {
-                 const EntryNumber entry = model_->Rows()[static_cast<std::size_t>(row)].Entry;
-                 state_.CommentsEdited = true;
-                 if (differs)
-                     state_.ChangedComments.insert(entry);
-                 NoteComment(entry);
-                 RefreshContentText(row);
-             },
+        lvLogbook->SelectedRanges(), document_, *model_, language_, this,
+        {.CommentChanged = [this](int row) { RefreshContentText(row); },
          .LookedUp = [this](const FacilityFileMistake& mistake) { ShowLookupMistake(mistake); }});
 }
 
@@ -341,7 +369,8 @@ void frmMain::ShowStandingMessage() {
 
 void frmMain::EditFilters() {
     frmLogbookSettings dialog(
-        {registry_, codePage_, language_, filterTypeLabels_, NamesInLogbook(logbook_.Entries.Kinds())},
+        {registry_, document_.FileCodePage(), language_, filterTypeLabels_,
+         NamesInLogbook(document_.Entries().Kinds())},
         [this] { ApplyFilter(); }, this);
     dialog.exec();
     if (dialog.ResultText() == "OK")
@@ -353,7 +382,7 @@ void frmMain::RemoveSelectedEntries() {
     lvLogbook->RemoveRows(RemoveFromList(registry_, model_->Rows(), lvLogbook->SelectedRanges()));
     ShowSelectedContent();
     if (sbStatusBar->HasCounts())
-        ShowLogbookStatus();
+        shown_.ShowCounts();
 }
 
 void frmMain::ToggleSelectedEntries() {
@@ -362,19 +391,15 @@ void frmMain::ToggleSelectedEntries() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    if (logbook_.Busy) {
+    if (document_.Book().Busy) {
         progress_.RequestStop();
         event->ignore();
         return;
     }
-    // Where saving did not succeed the window closes all the same; the comments then stay in the journal.
-    const CommentsOutcome outcome = AskToSaveComments();
-    if (outcome == CommentsOutcome::Stay) {
+    if (!document_.Close()) {
         event->ignore();
         return;
     }
-    if (outcome != CommentsOutcome::NotSaved)
-        journal_.Dropped();
     Unload();
     QMainWindow::closeEvent(event);
 }
@@ -391,5 +416,5 @@ void frmMain::Unload() {
     registry_.WriteLogbookSetting("MainViewContents", viewed ? 1 : 0, SettingType::Integer);
     placement_.Save(registry_, *this);
     SaveColumnWidths(registry_, *lvLogbook->horizontalHeader());
-    registry_.WriteLogbookSetting("InitZipArchiveDir", state_.InitZipArchiveDir, SettingType::Text);
+    document_.StoreFolders();
 }

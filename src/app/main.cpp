@@ -48,9 +48,8 @@ int main(int argc, char** argv) {
     const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
     Registry registry(*settings);
     const TempFolder tempFolder(TempFolder::SystemFolder(), KeptFiles(arguments));
-    CommentJournal journal;
-    Logbook logbook;
-    frmMain window(logbook, registry, tempFolder, journal, CodePage::OfUser());
+    LogbookDocument document(registry, tempFolder, CodePage::OfUser());
+    frmMain window(document, registry);
     window.show();
     QTimer::singleShot(0, &window, [&] { window.FirstActivation(arguments); });
     return QApplication::exec();

@@ -10,15 +10,19 @@
 #include <utility>
 #include <vector>
 
-LogbookModel::LogbookModel(const EntryTable& entries, QObject* parent)
-    : QAbstractTableModel(parent), entries_(entries) {}
+LogbookModel::LogbookModel(const EntryTable& entries, LogbookRows& rows, QObject* parent)
+    : QAbstractTableModel(parent), entries_(entries), rows_(rows) {}
 
-void LogbookModel::SetRows(LogbookRows rows) {
+void LogbookModel::ChangeRows(const std::function<void()>& change) {
     beginResetModel();
-    rows_ = std::move(rows);
+    change();
     order_.ResetTags();
     sorted_ = false;
     endResetModel();
+}
+
+void LogbookModel::SetRows(LogbookRows rows) {
+    ChangeRows([&] { rows_ = std::move(rows); });
 }
 
 void LogbookModel::SortByColumn(LogbookColumn column) {

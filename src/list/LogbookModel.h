@@ -7,6 +7,7 @@
 
 #include <QAbstractTableModel>
 
+#include <functional>
 #include <string>
 
 // The logbook list's rows for a view. Nothing is copied or prepared: the text of a cell is made from its
@@ -19,12 +20,12 @@ class LogbookModel : public QAbstractTableModel {
     // The icon number of a row, on the first column.
     static constexpr int ImageRole = Qt::UserRole;
 
-    // The entries must outlive the model.
-    explicit LogbookModel(const EntryTable& entries, QObject* parent = nullptr);
+    // Entries and rows must outlive the model. The rows are changed through it.
+    LogbookModel(const EntryTable& entries, LogbookRows& rows, QObject* parent = nullptr);
 
-    // Shows these rows, or none. Whoever changes the entries clears the rows first.
+    // Fills or clears the rows by `change`. Whoever changes the entries clears the rows first.
+    void ChangeRows(const std::function<void()>& change);
     void SetRows(LogbookRows rows);
-    void ClearRows() { SetRows({}); }
     const LogbookRows& Rows() const { return rows_; }
 
     // Sorts the rows by a column, as ListSorting.h says. How the list was sorted last is kept over a new
@@ -59,7 +60,7 @@ class LogbookModel : public QAbstractTableModel {
 
   private:
     const EntryTable& entries_;
-    LogbookRows rows_;
+    LogbookRows& rows_;
     ListOrder order_;
     bool sorted_ = false;
     Language language_;

@@ -40,9 +40,9 @@ class MainWindowTest : public QObject {
     // One that is not shown yet.
     void MakeWindow() {
         Window.reset();
-        Book = std::make_unique<Logbook>();
-        Journal = std::make_unique<CommentJournal>(Folder.Path() / "state");
-        Window = std::make_unique<frmMain>(*Book, *Settings, Temp, *Journal, CodePage());
+        Document = std::make_unique<LogbookDocument>(*Settings, Temp, CodePage(), Folder.Path() / "state");
+        Book = &Document->Book();
+        Window = std::make_unique<frmMain>(*Document, *Settings);
     }
 
     void StartAfresh() {
@@ -185,10 +185,10 @@ class MainWindowTest : public QObject {
     std::unique_ptr<QObject> Person; // who answers
     TemporaryFolder Folder;
     TempFolder Temp{Folder.Path()};
-    std::unique_ptr<Logbook> Book;
+    std::unique_ptr<LogbookDocument> Document;
+    Logbook* Book = nullptr;
     std::unique_ptr<MemorySettings> Store;
     std::unique_ptr<Registry> Settings;
-    std::unique_ptr<CommentJournal> Journal;
     std::unique_ptr<frmMain> Window;
     QStringList MessageTexts;
     QStringList MessageTitles;

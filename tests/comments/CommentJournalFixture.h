@@ -3,7 +3,7 @@
 
 #include "comments/LogbookChecksum.h"
 #include "comments/LostComments.h"
-#include "sources/OpenLogbook.h"
+#include "document/OpenLogbook.h"
 #include "support/EntriesFrom.h"
 #include "support/ScriptedUser.h"
 #include "support/SmallFiles.h"

@@ -17,7 +17,8 @@ class LogbookModelTest : public QObject {
     }
 
     void RowsShowTheirEntries() {
-        LogbookModel model(Result.Book.Entries);
+        LogbookRows rows;
+        LogbookModel model(Result.Book.Entries, rows);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         QCOMPARE(model.rowCount(), 0);
         model.SetRows({{1, 1}, {0, 0}});
@@ -28,12 +29,13 @@ class LogbookModelTest : public QObject {
                  QStringList({"Info", "Kühlung", "GEO", "AXIS", "04.01.2010 12:34:56.789", "0", ""}));
         QCOMPARE(model.index(0, 0).data(LogbookModel::ImageRole).toInt(), 18);
         QCOMPARE(model.index(1, 0).data(LogbookModel::ImageRole).toInt(), 1);
-        model.ClearRows();
+        model.SetRows({});
         QCOMPARE(model.rowCount(), 0);
     }
 
     void ColumnsHaveTheirHeaders() {
-        const LogbookModel model(Result.Book.Entries);
+        LogbookRows rows;
+        const LogbookModel model(Result.Book.Entries, rows);
         QStringList headers;
         for (int column = 0; column < model.columnCount(); ++column)
             headers << model.headerData(column, Qt::Horizontal).toString();
@@ -42,7 +44,8 @@ class LogbookModelTest : public QObject {
     }
 
     void FirstCellTellsAScreenReaderOfTheRow() {
-        LogbookModel model(Result.Book.Entries);
+        LogbookRows rows;
+        LogbookModel model(Result.Book.Entries, rows);
         model.SetRows({{1, 1}, {0, 0}});
         const auto spoken = [&](int row) {
             return model.index(row, 0).data(Qt::AccessibleTextRole).toString();
@@ -59,7 +62,8 @@ class LogbookModelTest : public QObject {
     }
 
     void KeptIndexesFollowTheirEntriesThroughASort() {
-        LogbookModel model(Result.Book.Entries);
+        LogbookRows rows;
+        LogbookModel model(Result.Book.Entries, rows);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         model.SetRows({{0, 0}, {1, 1}});
         QVERIFY(!model.IsSorted());
@@ -76,7 +80,8 @@ class LogbookModelTest : public QObject {
     }
 
     void RowsAreTakenOut() {
-        LogbookModel model(Result.Book.Entries);
+        LogbookRows rows;
+        LogbookModel model(Result.Book.Entries, rows);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         model.SetRows({{0, 0}, {1, 1}});
         model.TakeOutRows({{0, 0}});

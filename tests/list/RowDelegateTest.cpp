@@ -21,7 +21,7 @@ class RowDelegateTest : public QObject {
   private slots:
     void init() {
         ReadText(Lines({Header("BERR:    <b>two  blanks</b> & more")}), Result);
-        Model = std::make_unique<LogbookModel>(Result.Book.Entries);
+        Model = std::make_unique<LogbookModel>(Result.Book.Entries, Rows);
         Model->SetRows({{0, 0}});
         List = std::make_unique<LogbookView>();
         List->SetLogbook(Model.get());
@@ -77,6 +77,7 @@ class RowDelegateTest : public QObject {
 
   private:
     ReadResult Result;
+    LogbookRows Rows;
     std::unique_ptr<LogbookModel> Model;
     std::unique_ptr<LogbookView> List;
 };

@@ -25,7 +25,7 @@ class TagViewerTest : public QObject {
         ReadText(Lines({Header("BERR:    a"), Header("ERROR:   PLC X"), "b", Header("RESET:")}), Result);
         QCOMPARE(Result.Book.Entries.Count(), 3U);
         Area = std::make_unique<QWidget>();
-        Model = std::make_unique<LogbookModel>(Result.Book.Entries);
+        Model = std::make_unique<LogbookModel>(Result.Book.Entries, Rows);
         List = new LogbookView(Area.get());
         List->SetLogbook(Model.get());
         List->setGeometry(0, 0, 400, 320);
@@ -50,7 +50,7 @@ class TagViewerTest : public QObject {
     void EmptyListClearsThePicture() {
         Show(4, {1, 2});
         QVERIFY(!IsEmpty(Grab()));
-        Model->ClearRows();
+        Model->SetRows({});
         QVERIFY(Viewer->RefreshTagViewer());
         QVERIFY(IsEmpty(Grab()));
     }
@@ -135,7 +135,7 @@ class TagViewerTest : public QObject {
         Model->SetRows({{2, 0}, {1, 0}});
         QCOMPARE(TipAt(1), QString("2  04.01.2010 12:34:56.789  Restart"));
         QCOMPARE(TipAt(Viewer->height() - 1), QString("1  04.01.2010 12:34:56.789  Error"));
-        Model->ClearRows();
+        Model->SetRows({});
         TipAt(1);
         QTRY_VERIFY(!QToolTip::isVisible());
     }
@@ -255,6 +255,7 @@ class TagViewerTest : public QObject {
     }
 
     ReadResult Result;
+    LogbookRows Rows;
     std::unique_ptr<LogbookModel> Model;
     std::unique_ptr<QWidget> Area;
     LogbookView* List = nullptr;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "sources/ZipLogbook.h"
+#include "document/ZipLogbook.h"
 
 #include "base/AsciiCase.h"
 #include "base/Paths.h"

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "comments/CommentJournal.h"
+#include "document/LogbookState.h"
 #include "logbook/EntryTable.h"
 #include "settings/Registry.h"
 #include "settings/UserInterface.h"
-#include "sources/LogbookState.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "document/LogbookState.h"
 #include "settings/Registry.h"
 #include "settings/UserInterface.h"
 #include "sources/LogbookArchive.h"
-#include "sources/LogbookState.h"
 
 #include <cstdint>
 #include <span>

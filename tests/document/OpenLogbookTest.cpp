@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "sources/OpenLogbook.h"
+#include "document/OpenLogbook.h"
 
 #include "support/MemorySettings.h"
 #include "support/ScriptedUser.h"

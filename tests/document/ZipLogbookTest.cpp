@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "sources/ZipLogbook.h"
+#include "document/ZipLogbook.h"
 
 #include "support/EntriesFrom.h"
 #include "support/MemorySettings.h"

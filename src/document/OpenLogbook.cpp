@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "sources/OpenLogbook.h"
+#include "document/OpenLogbook.h"
 
 #include "base/Paths.h"
 #include "comments/LostComments.h"

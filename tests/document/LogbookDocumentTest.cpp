@@ -1,0 +1,243 @@
+// SPDX-License-Identifier: MIT
+// A logbook as a person works with it, without a window.
+#include "document/LogbookDocument.h"
+
+#include "filter/FilterStorage.h"
+#include "support/MemorySettings.h"
+#include "support/ReadText.h"
+#include "support/ScriptedUser.h"
+#include "support/TemporaryFolder.h"
+#include "support/ZipReader.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Answer = UserInterface::Answer;
+
+// Writes down what it is told.
+class RecordingView : public DocumentView {
+  public:
+    ScriptedUser& User() override { return Person; }
+    RecordingProgress& Progress() override { return Reading; }
+    Language DialogLanguage() const override { return {}; }
+
+    void LogbookIsOpen(std::string_view name) override { Tell("open " + std::string(name)); }
+    void ReadingBegins() override { Tell("reading"); }
+    void LogbookIsRead(std::string_view title) override { Tell("read " + std::string(title)); }
+    void ReadingEnds() override { Tell("ended"); }
+    void MessageFollows() override { Tell("message"); }
+    void FilteringBegins() override { Tell("filtering"); }
+    void FilteringEnds() override { Tell("filtered"); }
+    void FilteringFailed() override { Tell("failed"); }
+    void ShowCounts() override { Tell("counts"); }
+    void ChangeRows(const std::function<void()>& change) override {
+        change();
+        Tell("rows");
+    }
+    std::optional<EntryNumber> SelectedEntry() const override { return Selected; }
+    void SelectRow(std::size_t row) override { Tell("select " + std::to_string(row)); }
+    void CommentsAreChanged() override { Tell("comments"); }
+    void CommentsAreSafe(std::error_code error) override { Safe = !error; }
+
+    std::vector<std::string> TakeSteps() { return std::exchange(Steps, {}); }
+
+    ScriptedUser Person;
+    RecordingProgress Reading;
+    std::optional<EntryNumber> Selected;
+    std::vector<std::string> Steps;
+    bool Safe = true;
+
+  private:
+    void Tell(std::string step) { Steps.push_back(std::move(step)); }
+};
+
+class LogbookDocumentTest : public testing::Test {
+  protected:
+    LogbookDocumentTest() {
+        Document = MakeDocument();
+        Document->ShowIn(View);
+    }
+
+    std::unique_ptr<LogbookDocument> MakeDocument() {
+        return std::make_unique<LogbookDocument>(Settings, Temp, CodePage(), Folder.Path() / "state");
+    }
+
+    // A crash: the comments stay as they are noted.
+    void StartAnew() {
+        Document = MakeDocument();
+        Document->ShowIn(View);
+        View.Steps.clear();
+    }
+
+    std::string LogOf(int entries) {
+        std::vector<std::string> lines;
+        for (int i = 0; i < entries; ++i)
+            lines.push_back(Header("BERR:    E" + std::to_string(i)));
+        return Folder.Write("a.log", Lines(lines));
+    }
+
+    void StoreFilter(const std::string& filter) {
+        FilterLists lists = LoadFilters(Settings, {});
+        lists.Filters = DefaultFilters();
+        FilterDefinition definition;
+        definition.Active = true;
+        definition.Action = FilterActions::Exclude;
+        definition.StringFilter = filter;
+        lists.Filters.push_back(definition);
+        SaveFilters(Settings, lists, "");
+    }
+
+    TemporaryFolder Folder;
+    TempFolder Temp{Folder.Path()};
+    MemorySettings Store;
+    Registry Settings{Store};
+    RecordingView View;
+    std::unique_ptr<LogbookDocument> Document;
+};
+
+TEST_F(LogbookDocumentTest, OpensALogbookStepByStep) {
+    EXPECT_TRUE(Document->OpenLogbook(LogOf(3)));
+    EXPECT_THAT(View.Steps,
+                ElementsAre("rows", "reading", "read a.log", "rows", "ended", "counts", "open a"));
+    EXPECT_EQ(Document->Rows().size(), 3U);
+    EXPECT_EQ(Document->Entries().Count(), 3U);
+    EXPECT_FALSE(Document->Book().Busy);
+    EXPECT_THAT(View.Person.Statuses, ElementsAre(TextId::StatusReading, TextId::StatusFiltering));
+    EXPECT_EQ(View.Person.StatusDepth, 0);
+    EXPECT_THAT(View.Person.Messages, IsEmpty());
+}
+
+TEST_F(LogbookDocumentTest, CommandLineGoesTheSameWay) {
+    const std::string log = LogOf(3);
+    Document->OpenLogbook(log);
+    const std::vector<std::string> byMenu = View.TakeSteps();
+    Document->RunCommandLine({log});
+    EXPECT_EQ(View.TakeSteps(), byMenu);
+    Document->RunCommandLine({"-help"});
+    EXPECT_EQ(View.Person.Messages.size(), 1U);
+    EXPECT_THAT(View.TakeSteps(), IsEmpty());
+    EXPECT_EQ(Document->Rows().size(), 3U);
+}
+
+TEST_F(LogbookDocumentTest, MissingFileGivesNoRowsWithoutAMessage) {
+    EXPECT_TRUE(Document->OpenLogbook((Folder.Path() / "none.log").string()));
+    EXPECT_THAT(Document->Rows(), IsEmpty());
+    EXPECT_THAT(View.Person.Messages, IsEmpty());
+    EXPECT_THAT(View.Steps, ElementsAre("rows", "reading", "ended", "counts", "open none"));
+}
+
+TEST_F(LogbookDocumentTest, StoppedReadSaysNothingMore) {
+    View.Reading.StopAfterRounds = 1;
+    EXPECT_FALSE(Document->OpenLogbook(LogOf(1000)));
+    EXPECT_EQ(Document->Book().LoadState, LoadStates::Reading);
+    EXPECT_THAT(View.Person.Messages, IsEmpty());
+    EXPECT_FALSE(Document->Book().Busy);
+    EXPECT_THAT(View.Steps, ElementsAre("rows", "reading", "ended", "counts", "message"));
+}
+
+TEST_F(LogbookDocumentTest, BusyDocumentCarriesOutNothing) {
+    const std::string log = LogOf(3);
+    Document->Book().Busy = true;
+    EXPECT_FALSE(Document->OpenLogbook(log));
+    EXPECT_FALSE(Document->ReadAndShowLogbook(log, ""));
+    Document->ApplyFilter();
+    EXPECT_THAT(View.Steps, IsEmpty());
+}
+
+TEST_F(LogbookDocumentTest, FilterRunSelectsTheNextRow) {
+    Document->OpenLogbook(LogOf(4));
+    View.Steps.clear();
+    View.Selected = 2;
+    Document->ApplyFilter();
+    EXPECT_THAT(View.TakeSteps(), ElementsAre("filtering", "rows", "select 2", "filtered", "counts"));
+    StoreFilter("E2");
+    Document->ApplyFilter();
+    EXPECT_THAT(View.TakeSteps(), ElementsAre("filtering", "rows", "select 2", "filtered", "counts"));
+    ASSERT_EQ(Document->Rows().size(), 3U);
+    EXPECT_EQ(Document->Rows()[2].Entry, 3U);
+}
+
+TEST_F(LogbookDocumentTest, CommentsOfACrashAreOffered) {
+    const std::string log = LogOf(3);
+    Document->OpenLogbook(log);
+    Document->ChangeComment(1, "pump");
+    EXPECT_TRUE(View.Safe);
+    StartAnew();
+    View.Person.Answers = {Answer::Yes};
+    Document->OpenLogbook(log);
+    EXPECT_THAT(View.Person.Questions, ElementsAre(TextId::AskRestoreComments));
+    EXPECT_EQ(Document->Entries().Comment(1), "pump");
+    EXPECT_EQ(View.Steps.back(), "comments");
+}
+
+TEST_F(LogbookDocumentTest, CommentThatIsNotSafeIsReported) {
+    Document = std::make_unique<LogbookDocument>(Settings, Temp, CodePage(), "/dev/null/state");
+    Document->ShowIn(View);
+    Document->OpenLogbook(LogOf(3));
+    Document->ChangeComment(1, "pump");
+    EXPECT_FALSE(View.Safe);
+    EXPECT_EQ(Document->Entries().Comment(1), "pump");
+}
+
+TEST_F(LogbookDocumentTest, RefreshReadsAgainWithoutComments) {
+    Document->OpenLogbook(LogOf(3));
+    Document->ChangeComment(1, "pump");
+    LogOf(5);
+    View.Person.Answers = {Answer::Cancel};
+    Document->Refresh();
+    EXPECT_EQ(Document->Rows().size(), 3U);
+    View.Person.Answers = {Answer::No};
+    Document->Refresh();
+    EXPECT_EQ(Document->Rows().size(), 5U);
+    EXPECT_THAT(Document->Entries().Comments(), IsEmpty());
+    EXPECT_THAT(View.Person.Questions, ElementsAre(TextId::AskSaveComments, TextId::AskSaveComments));
+}
+
+TEST_F(LogbookDocumentTest, SavesAndOpensItsArchive) {
+    Document->OpenLogbook(LogOf(3));
+    StoreFilter("E0");
+    Document->ApplyFilter();
+    Document->ChangeComment(1, "pump");
+    EXPECT_FALSE(Document->ZipLogbook()); // no name
+    View.Person.File = Folder / "a.qorvix";
+    EXPECT_TRUE(Document->ZipLogbook());
+    ASSERT_EQ(ReadZip(Folder / "a.qorvix").size(), 3U);
+    EXPECT_TRUE(Document->Close());
+    EXPECT_THAT(View.Person.Questions, IsEmpty());
+
+    SaveFilters(Settings, {DefaultFilters(), {}}, "");
+    StartAnew();
+    View.Person.Answers = {Answer::Yes}; // its filters
+    EXPECT_TRUE(Document->OpenLogbook(Folder / "a.qorvix"));
+    EXPECT_EQ(Document->Rows().size(), 2U);
+    EXPECT_EQ(Document->Entries().Comment(1), "pump");
+    EXPECT_EQ(LoadFilters(Settings, {}).Filters.size(), 2U);
+}
+
+TEST_F(LogbookDocumentTest, ClosingAsksAboutEditedComments) {
+    const std::string log = LogOf(3);
+    Document->OpenLogbook(log);
+    EXPECT_TRUE(Document->Close());
+    Document->ChangeComment(1, "pump");
+    View.Person.Answers = {Answer::Cancel};
+    EXPECT_FALSE(Document->Close());
+    // Wanted but not saved: the journal keeps them.
+    View.Person.Answers = {Answer::Yes};
+    EXPECT_TRUE(Document->Close());
+    StartAnew();
+    View.Person.Answers = {Answer::Yes};
+    Document->OpenLogbook(log);
+    EXPECT_EQ(Document->Entries().Comment(1), "pump");
+    // Not wanted: gone.
+    View.Person.Answers = {Answer::No};
+    EXPECT_TRUE(Document->Close());
+    StartAnew();
+    View.Person.Questions.clear();
+    Document->OpenLogbook(log);
+    EXPECT_THAT(View.Person.Questions, IsEmpty());
+}
+
+} // namespace
