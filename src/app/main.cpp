@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppIcons.h"
 #include "app/frmMain.h"
+#include "base/FileSizeLimit.h"
 #include "base/Paths.h"
 #include "base/ProgramFolder.h"
 #include "sources/CommandLine.h"
@@ -9,7 +10,6 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <csignal>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -30,9 +30,7 @@ std::vector<std::filesystem::path> KeptFiles(const std::vector<std::string>& arg
 } // namespace
 
 int main(int argc, char** argv) {
-#ifdef SIGXFSZ
-    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is told like a full disk
-#endif
+    FailAtFileSizeLimit();
     // All words are logbooks or options of this program, as bytes: none is for Qt, and a file's name need not
     // be UTF-8.
     const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);

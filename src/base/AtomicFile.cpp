@@ -3,9 +3,9 @@
 
 #include "base/FileProblem.h"
 #include "base/FollowLinks.h"
+#include "base/LastError.h"
 #include "base/Paths.h"
-
-#include <cerrno>
+#include "base/SystemFile.h"
 
 #if defined(__unix__) || defined(__APPLE__)
 #include <fcntl.h>
@@ -14,8 +14,6 @@
 #endif
 
 namespace {
-
-std::error_code LastError() { return {errno != 0 ? errno : EIO, std::generic_category()}; }
 
 #if defined(__unix__) || defined(__APPLE__)
 
@@ -44,11 +42,11 @@ void GivePermissionsOf(const std::filesystem::path& target, int handle) {
 // Makes the part file ready for its place.
 std::error_code Finish(const std::filesystem::path& part, const std::filesystem::path& target) {
     errno = 0;
-    const FileHandle handle(::open(part.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC));
+    const FileHandle handle = SystemFile::Handle(::open(part.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC));
     if (!handle.IsOpen())
         return LastError();
-    GivePermissionsOf(target, handle.Number());
-    return Flush(handle.Number());
+    GivePermissionsOf(target, SystemFile::Number(handle));
+    return Flush(handle);
 }
 
 #else
@@ -99,9 +97,9 @@ std::error_code AtomicFile::Commit() {
 
 void FlushFolder([[maybe_unused]] const std::filesystem::path& folder) {
 #if defined(__unix__) || defined(__APPLE__)
-    const FileHandle handle(
-        ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const FileHandle handle =
+        SystemFile::Handle(::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (handle.IsOpen())
-        (void)Flush(handle.Number());
+        (void)Flush(handle);
 #endif
 }

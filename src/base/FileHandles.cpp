@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/FileHandles.h"
 
-#include <cerrno>
+#include "base/LastError.h"
+#include "base/SystemFile.h"
 
 #if defined(__unix__) || defined(__APPLE__)
 
@@ -17,17 +18,21 @@ void FileHandle::Close() {
 }
 
 FileHandle OpenToLock(const std::filesystem::path& file, int flags, unsigned mode) {
-    FileHandle handle(::open(file.c_str(), flags | O_RDWR | O_CLOEXEC, mode));
+    FileHandle handle = SystemFile::Handle(::open(file.c_str(), flags | O_RDWR | O_CLOEXEC, mode));
     if (!handle.IsOpen() && (errno == EACCES || errno == EPERM || errno == EROFS))
-        handle = FileHandle(::open(file.c_str(), flags | O_RDONLY | O_CLOEXEC, mode));
+        handle = SystemFile::Handle(::open(file.c_str(), flags | O_RDONLY | O_CLOEXEC, mode));
     return handle;
 }
 
-LockOutcome TryLock(int handle) {
+FileHandle OpenToHold(const std::filesystem::path& file) {
+    return OpenToLock(file, O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
+}
+
+LockOutcome TryLock(const FileHandle& file) {
     constexpr int Attempts = 100; // signals may come in between, but not for ever
     int locked = -1;
     for (int i = 0; i < Attempts && locked != 0; ++i) {
-        locked = ::flock(handle, LOCK_EX | LOCK_NB);
+        locked = ::flock(SystemFile::Number(file), LOCK_EX | LOCK_NB);
         if (locked != 0 && errno != EINTR)
             break;
     }
@@ -41,26 +46,43 @@ LockOutcome TryLock(int handle) {
     return errno == EWOULDBLOCK ? LockOutcome::InUse : LockOutcome::Failed;
 }
 
-std::error_code Flush(int handle) {
+std::error_code Flush(const FileHandle& file) {
     errno = 0;
-    if (::fsync(handle) == 0 || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP || errno == ENOTSUP)
+    if (::fsync(SystemFile::Number(file)) == 0 || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP ||
+        errno == ENOTSUP)
         return {};
-    return {errno != 0 ? errno : EIO, std::generic_category()};
+    return LastError();
 }
 
-bool IsNameOf(const std::filesystem::path& name, int handle) {
+bool IsNameOf(const std::filesystem::path& name, const FileHandle& file) {
     struct stat opened {};
     struct stat named {};
-    return handle >= 0 && ::fstat(handle, &opened) == 0 && ::lstat(name.c_str(), &named) == 0 &&
-           opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
+    return file.IsOpen() && ::fstat(SystemFile::Number(file), &opened) == 0 &&
+           ::lstat(name.c_str(), &named) == 0 && opened.st_dev == named.st_dev &&
+           opened.st_ino == named.st_ino;
+}
+
+bool IsRegular(const FileHandle& file) {
+    struct stat opened {};
+    return file.IsOpen() && ::fstat(SystemFile::Number(file), &opened) == 0 && S_ISREG(opened.st_mode);
+}
+
+std::string FirstBytes(const FileHandle& file, std::size_t most) {
+    std::string begin(most, '\0');
+    const ssize_t count = ::pread(SystemFile::Number(file), begin.data(), most, 0);
+    begin.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
+    return begin;
 }
 
 #else
 
 void FileHandle::Close() {}
 FileHandle OpenToLock(const std::filesystem::path&, int, unsigned) { return {}; }
-LockOutcome TryLock(int) { return LockOutcome::Unsupported; }
-std::error_code Flush(int) { return {}; }
-bool IsNameOf(const std::filesystem::path&, int) { return false; }
+FileHandle OpenToHold(const std::filesystem::path&) { return {}; }
+LockOutcome TryLock(const FileHandle&) { return LockOutcome::Unsupported; }
+std::error_code Flush(const FileHandle&) { return {}; }
+bool IsNameOf(const std::filesystem::path&, const FileHandle&) { return false; }
+bool IsRegular(const FileHandle&) { return false; }
+std::string FirstBytes(const FileHandle&, std::size_t) { return {}; }
 
 #endif

@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <string>
 #include <system_error>
 #include <utility>
 
-// Files by their handles, on disks that know less than others: a network may have no locks and no flushing.
+// Files that are open, on disks that know less than others: a network may have no locks and no flushing.
 
 // An open file, closed at the object's end.
 class FileHandle {
   public:
     FileHandle() = default;
-    explicit FileHandle(int number) : number_(number) {}
     ~FileHandle() { Close(); }
     FileHandle(FileHandle&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
     FileHandle& operator=(FileHandle&& other) noexcept {
@@ -20,25 +21,33 @@ class FileHandle {
     }
 
     bool IsOpen() const { return number_ >= 0; }
-    int Number() const { return number_; }
     void Close();
 
   private:
+    friend struct SystemFile;
+    explicit FileHandle(int number) : number_(number) {}
+
     int number_ = -1; // -1 = none
 };
 
-// Opens a file for a lock, `flags` as for open(2) without the kind of access: for writing, as a lock across a
-// network wants it; only where this user may not write there, for reading.
-FileHandle OpenToLock(const std::filesystem::path& file, int flags, unsigned mode = 0);
+// Opens a file that others may have put there, to look at it and to lock it. A link is not followed, and a
+// pipe is opened without waiting for its other end.
+FileHandle OpenToHold(const std::filesystem::path& file);
 
-// What came of trying to take a lock. Unsupported: this disk has no locks. Failed: errno says why.
+// What came of trying to take a lock. Unsupported: this disk has no locks. Failed: LastError says why.
 enum class LockOutcome { Held, InUse, Unsupported, Failed };
 
 // Takes the lock of an open file for this process, without waiting. It is held until the handle is closed.
-LockOutcome TryLock(int handle);
+LockOutcome TryLock(const FileHandle& file);
 
 // Flushes what was written to the disk. A disk that cannot do that is no failure.
-std::error_code Flush(int handle);
+std::error_code Flush(const FileHandle& file);
 
 // True while a name is that of an open file, and no link.
-bool IsNameOf(const std::filesystem::path& name, int handle);
+bool IsNameOf(const std::filesystem::path& name, const FileHandle& file);
+
+// True for an open file that is no folder, device or pipe.
+bool IsRegular(const FileHandle& file);
+
+// The first bytes of an open file, at most `most`; "" also where it cannot be read.
+std::string FirstBytes(const FileHandle& file, std::size_t most);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/FileLock.h"
 
+#include "base/SystemFile.h"
+
 #include <chrono>
 #include <thread>
 
@@ -21,7 +23,7 @@ FileLock::FileLock(const std::string& path) {
     constexpr int Flags = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
     handle_ = OpenToLock(path, Flags | O_CREAT | O_EXCL, Mode);
     if (handle_.IsOpen())
-        (void)::fchmod(handle_.Number(), Mode);
+        (void)::fchmod(SystemFile::Number(handle_), Mode);
     else
         handle_ = OpenToLock(path, Flags | O_CREAT, Mode);
     if (!Take())
@@ -29,13 +31,11 @@ FileLock::FileLock(const std::string& path) {
 }
 
 bool FileLock::Take() const {
-    struct stat status {};
-    if (!handle_.IsOpen() || ::fstat(handle_.Number(), &status) != 0 || !S_ISREG(status.st_mode))
+    if (!IsRegular(handle_))
         return false;
     const auto until = std::chrono::steady_clock::now() + MostWait;
-    LockOutcome lock = TryLock(handle_.Number());
-    for (; lock == LockOutcome::InUse && std::chrono::steady_clock::now() < until;
-         lock = TryLock(handle_.Number()))
+    LockOutcome lock = TryLock(handle_);
+    for (; lock == LockOutcome::InUse && std::chrono::steady_clock::now() < until; lock = TryLock(handle_))
         std::this_thread::sleep_for(Pause);
     return lock != LockOutcome::Failed;
 }

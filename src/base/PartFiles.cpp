@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "base/PartFiles.h"
 
+#include "base/LastError.h"
 #include "base/Paths.h"
+#include "base/SystemFile.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdio>
 #include <random>
 #include <string>
@@ -40,14 +41,14 @@ std::filesystem::path NewPath(const std::filesystem::path& target) {
 
 // Makes a file that was not there, for its owner only.
 FileHandle MakeFile(const std::filesystem::path& path) {
-    return FileHandle(
+    return SystemFile::Handle(
         ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
 }
 
 // Somebody who removes what was left may have come before this lock. A lock that fails keeps nobody from
 // writing.
 bool IsKept(const PartFile& part) {
-    return TryLock(part.Handle.Number()) != LockOutcome::InUse && IsNameOf(part.Path, part.Handle.Number());
+    return TryLock(part.Handle) != LockOutcome::InUse && IsNameOf(part.Path, part.Handle);
 }
 
 void RemoveIfLeft(const std::filesystem::path& file) {
@@ -55,10 +56,10 @@ void RemoveIfLeft(const std::filesystem::path& file) {
     // Looked at before it is opened, too: opening a device may do something.
     if (::lstat(file.c_str(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_uid != ::geteuid())
         return;
-    const FileHandle handle(::open(file.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    if (handle.IsOpen() && ::fstat(handle.Number(), &status) == 0 && S_ISREG(status.st_mode) &&
-        status.st_uid == ::geteuid() && TryLock(handle.Number()) == LockOutcome::Held &&
-        IsNameOf(file, handle.Number()))
+    const FileHandle handle =
+        SystemFile::Handle(::open(file.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (handle.IsOpen() && ::fstat(SystemFile::Number(handle), &status) == 0 && S_ISREG(status.st_mode) &&
+        status.st_uid == ::geteuid() && TryLock(handle) == LockOutcome::Held && IsNameOf(file, handle))
         ::unlink(file.c_str());
 }
 
@@ -69,7 +70,7 @@ FileHandle MakeFile(const std::filesystem::path& path) {
     if (file == nullptr)
         return {};
     std::fclose(file);
-    return FileHandle(0);
+    return SystemFile::Handle(0);
 }
 
 bool IsKept(const PartFile&) { return true; }
@@ -86,7 +87,7 @@ PartFile MakePartFile(const std::filesystem::path& target, std::error_code& erro
         errno = 0;
         PartFile part{NewPath(target), {}};
         part.Handle = MakeFile(part.Path);
-        error = {errno != 0 ? errno : EIO, std::generic_category()};
+        error = LastError();
         if (part.Handle.IsOpen() && IsKept(part)) {
             error.clear();
             return part;

@@ -2,7 +2,6 @@
 #include "base/Paths.h"
 
 #include <fstream>
-#include <system_error>
 
 namespace {
 constexpr std::string_view PathSeparators = "\\/";
@@ -23,14 +22,18 @@ bool FileExists(const std::string& path) {
            std::ifstream(ToPath(path), std::ios::binary).is_open();
 }
 
-std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder) {
+std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder, std::error_code& error) {
     std::vector<std::filesystem::path> items;
-    std::error_code error;
     const std::filesystem::directory_iterator end;
     for (std::filesystem::directory_iterator item(folder, error); !error && item != end;
          item.increment(error))
         items.push_back(item->path());
     return items;
+}
+
+std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder) {
+    std::error_code ignored;
+    return ItemsIn(folder, ignored);
 }
 
 bool LiesIn(const std::filesystem::path& path, const std::filesystem::path& folder) {

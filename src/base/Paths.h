@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 // The path that a UTF-8 text names.
@@ -16,7 +17,9 @@ void SplitPath(std::string_view path, std::string& folder, std::string& fileName
 // end.
 bool FileExists(const std::string& path);
 
-// The paths of what lies in a folder, as far as the system lists it; a failing disk raises nothing here.
+// The paths of what lies in a folder, as far as the system lists it; a failing disk raises nothing here. The
+// error tells why not all of it is listed.
+std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder, std::error_code& error);
 std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder);
 
 // True for a path that names something below a folder, or the folder itself, links followed.

@@ -2,6 +2,8 @@
 #include "base/TempFolderMark.h"
 
 #include "base/PartFiles.h"
+#include "base/Paths.h"
+#include "base/SystemFile.h"
 
 #include <algorithm>
 #include <array>
@@ -35,17 +37,18 @@ bool IsOwnFolder(const std::filesystem::path& path) {
            (status.st_mode & Permissions) == S_IRWXU;
 }
 
-bool IsMark(int handle) {
+bool IsMark(const FileHandle& file) {
     struct stat status {};
-    return ::fstat(handle, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == ::geteuid() &&
-           (status.st_mode & Permissions) == ForOwner && status.st_nlink == 1;
+    return ::fstat(SystemFile::Number(file), &status) == 0 && S_ISREG(status.st_mode) &&
+           status.st_uid == ::geteuid() && (status.st_mode & Permissions) == ForOwner && status.st_nlink == 1;
 }
 
 // All of a file; nothing where it is too large or cannot be read.
-std::optional<std::string> ReadAll(int handle) {
+std::optional<std::string> ReadAll(const FileHandle& file) {
     std::string text;
     for (std::array<char, 4096> part; text.size() <= LargestFile;) {
-        const ssize_t count = ::pread(handle, part.data(), part.size(), static_cast<off_t>(text.size()));
+        const ssize_t count =
+            ::pread(SystemFile::Number(file), part.data(), part.size(), static_cast<off_t>(text.size()));
         if (count < 0)
             return std::nullopt;
         if (count == 0)
@@ -56,7 +59,8 @@ std::optional<std::string> ReadAll(int handle) {
 }
 
 // Appends to a file all or nothing.
-bool Append(int handle, std::string_view bytes) {
+bool Append(const FileHandle& file, std::string_view bytes) {
+    const int handle = SystemFile::Number(file);
     struct stat before {};
     if (::fstat(handle, &before) != 0 ||
         static_cast<std::size_t>(before.st_size) > LargestFile - bytes.size())
@@ -71,9 +75,8 @@ bool Append(int handle, std::string_view bytes) {
 std::optional<std::vector<std::string>> NamesIn(const std::filesystem::path& folder) {
     std::error_code error;
     std::vector<std::string> names;
-    for (std::filesystem::directory_iterator item(folder, error), end; !error && item != end;
-         item.increment(error))
-        names.push_back(item->path().filename().string());
+    for (const std::filesystem::path& item : ItemsIn(folder, error))
+        names.push_back(item.filename().string());
     return error ? std::nullopt : std::optional(std::move(names));
 }
 
@@ -82,23 +85,24 @@ std::optional<std::vector<std::string>> NamesIn(const std::filesystem::path& fol
 TempFolderMark::TempFolderMark(std::filesystem::path folder, FileHandle file)
     : folder_(std::move(folder)),
       file_(std::move(file)),
-      folderLock_(::open(folder_.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)) {
+      folderLock_(
+          SystemFile::Handle(::open(folder_.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC))) {
     if (folderLock_.IsOpen())
-        TryLock(folderLock_.Number());
+        TryLock(folderLock_);
 }
 
 std::optional<TempFolderMark> TempFolderMark::Make(const std::filesystem::path& folder) {
     const std::filesystem::path name = folder / FileName;
-    FileHandle file(
+    FileHandle file = SystemFile::Handle(
         ::open(name.c_str(), O_RDWR | O_APPEND | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, ForOwner));
     if (!file.IsOpen())
         return std::nullopt;
     // Another copy that begins may have taken the file for a left one before this lock.
     TempFolderMark mark(folder, std::move(file));
-    const LockOutcome lock = TryLock(mark.file_.Number());
+    const LockOutcome lock = TryLock(mark.file_);
     if (lock == LockOutcome::InUse || !mark.IsThere())
         return std::nullopt;
-    if (Append(mark.file_.Number(), Header))
+    if (Append(mark.file_, Header))
         return mark;
     ::unlink(name.c_str());
     return std::nullopt;
@@ -107,8 +111,9 @@ std::optional<TempFolderMark> TempFolderMark::Make(const std::filesystem::path& 
 std::optional<TempFolderMark> TempFolderMark::Take(const std::filesystem::path& folder) {
     if (!IsOwnFolder(folder) || !IsOwn(folder / FileName, S_IFREG))
         return std::nullopt;
-    FileHandle file(::open((folder / FileName).c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    if (!file.IsOpen() || !IsMark(file.Number()) || TryLock(file.Number()) != LockOutcome::Held)
+    FileHandle file =
+        SystemFile::Handle(::open((folder / FileName).c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (!file.IsOpen() || !IsMark(file) || TryLock(file) != LockOutcome::Held)
         return std::nullopt;
     TempFolderMark mark(folder, std::move(file));
     if (!mark.IsThere() || !mark.Read() || !mark.HasOnlyNoted(""))
@@ -118,7 +123,7 @@ std::optional<TempFolderMark> TempFolderMark::Take(const std::filesystem::path& 
 
 // The copy may have been killed while it wrote: what is cut off at the end was not made.
 bool TempFolderMark::Read() {
-    const std::optional<std::string> text = ReadAll(file_.Number());
+    const std::optional<std::string> text = ReadAll(file_);
     if (!text)
         return false;
     if (text->size() < Header.size())
@@ -136,7 +141,7 @@ bool TempFolderMark::Read() {
 bool TempFolderMark::Note(const std::string& name) {
     if (HasNoted(name))
         return true;
-    if (!Append(file_.Number(), name + '\0'))
+    if (!Append(file_, name + '\0'))
         return false;
     names_.insert(name);
     return true;

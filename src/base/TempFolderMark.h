@@ -30,7 +30,7 @@ class TempFolderMark {
     const std::filesystem::path& Folder() const { return folder_; }
 
     // True while the folder and the mark in it have their names.
-    bool IsThere() const { return IsNameOf(folder_ / FileName, file_.Number()); }
+    bool IsThere() const { return IsNameOf(folder_ / FileName, file_); }
 
     // Notes a name; false where that failed.
     bool Note(const std::string& name);

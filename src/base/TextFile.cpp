@@ -2,16 +2,10 @@
 #include "base/TextFile.h"
 
 #include "base/FileProblem.h"
+#include "base/LastError.h"
 #include "base/Paths.h"
 
 #include <algorithm>
-#include <cerrno>
-
-namespace {
-
-std::error_code LastError() { return {errno != 0 ? errno : EIO, std::generic_category()}; }
-
-} // namespace
 
 TextFile::TextFile(const std::string& path, const TextFileBounds& bounds, std::size_t blockSize)
     : bounds_(bounds), block_(std::max<std::size_t>(blockSize, 1)), error_(CheckRegularFile(ToPath(path))) {

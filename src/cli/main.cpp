@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include "base/FileSizeLimit.h"
+#include "base/Interruption.h"
 #include "base/UnicodeCase.h"
 #include "base/VisibleControls.h"
 #include "cli/ExportCommand.h"
 #include "cli/FindCommand.h"
-#include "cli/Interruption.h"
 #include "cli/LookupCommand.h"
 #include "cli/PackCommand.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <csignal>
 #include <iostream>
 #include <sstream>
 #include <string>
@@ -154,9 +154,7 @@ int Run(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
-#ifdef SIGXFSZ
-    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is told like a full disk
-#endif
+    FailAtFileSizeLimit();
     std::ios::sync_with_stdio(false);
     const Interruption interruption;
     const int status = Run(argc, argv);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/FileHandles.h"
 #include "base/UserFolders.h"
 #include "comments/LostJournal.h"
 #include "logbook/EntryTable.h"
@@ -8,8 +9,6 @@
 #include <filesystem>
 #include <set>
 #include <span>
-#include <string>
-#include <string_view>
 #include <system_error>
 #include <vector>
 
@@ -55,14 +54,12 @@ class CommentJournal {
 
   private:
     std::error_code Begin(const EntryTable& entries);
-    std::error_code Append(std::string_view lines);
     void RemoveFile();
-    void Close();
     void End(bool keptGo);
 
     std::filesystem::path folder_;
-    std::filesystem::path file_;
-    int handle_ = -1;
+    std::filesystem::path name_;
+    FileHandle file_;
     std::set<EntryNumber> entered_; // whose comments are neither saved nor declined
     std::set<EntryNumber> toNote_;  // of these, those that the file does not have yet
     std::vector<LostJournal> kept_;

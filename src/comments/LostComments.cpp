@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "comments/LostComments.h"
 
+#include "base/Paths.h"
 #include "comments/LogbookChecksum.h"
 
 #include <nlohmann/json.hpp>
@@ -120,13 +121,11 @@ class Candidate {
 
 // The files of a folder, the one written last behind the others: of two comments of an entry, it counts.
 std::vector<std::filesystem::path> FilesByAge(const std::filesystem::path& folder) {
-    std::error_code error;
     std::vector<std::pair<std::filesystem::file_time_type, std::filesystem::path>> files;
-    for (std::filesystem::directory_iterator item(folder, error), end; !error && item != end;
-         item.increment(error)) {
+    for (const std::filesystem::path& item : ItemsIn(folder)) {
         std::error_code noFile;
-        if (item->is_regular_file(noFile) && !noFile)
-            files.emplace_back(item->last_write_time(noFile), item->path());
+        if (std::filesystem::is_regular_file(item, noFile) && !noFile)
+            files.emplace_back(std::filesystem::last_write_time(item, noFile), item);
     }
     std::sort(files.begin(), files.end());
     std::vector<std::filesystem::path> paths;

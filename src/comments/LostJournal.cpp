@@ -3,35 +3,23 @@
 
 #include "comments/JournalName.h"
 
-#include <array>
-#include <cstring>
+#include <string>
 #include <system_error>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
-bool BeginsLikeAJournal(int handle) {
-    std::array<char, 256> begin;
-    const ssize_t count = ::pread(handle, begin.data(), begin.size(), 0);
-    return count > 0 && std::memchr(begin.data(), '\n', static_cast<std::size_t>(count)) != nullptr;
-}
-
-bool IsOrdinaryFile(int handle) {
-    struct stat opened {};
-    return ::fstat(handle, &opened) == 0 && S_ISREG(opened.st_mode);
+bool BeginsLikeAJournal(const FileHandle& file) {
+    constexpr std::size_t LongestFirstLine = 256; // in bytes
+    return FirstBytes(file, LongestFirstLine).find('\n') != std::string::npos;
 }
 
 } // namespace
 
 std::optional<LostJournal> LostJournal::Hold(const std::filesystem::path& file) {
-    LostJournal journal(file, OpenToLock(file, O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
-    if (!journal.handle_.IsOpen() || !IsOrdinaryFile(journal.handle_.Number()) ||
-        !BeginsLikeAJournal(journal.handle_.Number()))
+    LostJournal journal(file, OpenToHold(file));
+    if (!IsRegular(journal.handle_) || !BeginsLikeAJournal(journal.handle_))
         return std::nullopt;
-    const LockOutcome lock = TryLock(journal.handle_.Number());
+    const LockOutcome lock = TryLock(journal.handle_);
     const bool isLost = lock == LockOutcome::Held ||
                         (lock == LockOutcome::Unsupported && !MayBeInUse(file.filename().string()));
     return isLost ? std::optional(std::move(journal)) : std::nullopt;
@@ -39,6 +27,6 @@ std::optional<LostJournal> LostJournal::Hold(const std::filesystem::path& file) 
 
 void LostJournal::Remove() const {
     std::error_code ignored;
-    if (IsNameOf(file_, handle_.Number()))
+    if (IsNameOf(file_, handle_))
         std::filesystem::remove(file_, ignored);
 }

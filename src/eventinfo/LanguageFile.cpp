@@ -26,10 +26,8 @@ std::string FindInFolder(const std::string& folder, std::string_view name) {
     if (std::filesystem::exists(exact, error))
         return PathText(exact);
     std::string found;
-    const std::filesystem::directory_iterator end;
-    for (std::filesystem::directory_iterator item(ToPath(folder), error); !error && item != end;
-         item.increment(error)) {
-        std::string other = PathText(item->path().filename());
+    for (const std::filesystem::path& item : ItemsIn(ToPath(folder))) {
+        std::string other = PathText(item.filename());
         if (IsSameWithoutCase(other, name) && (found.empty() || other < found))
             found = std::move(other);
     }

@@ -13,8 +13,6 @@
 #include <fstream>
 #include <limits>
 
-#include <sys/stat.h>
-
 namespace {
 
 // A link that leads nowhere takes a name, too.
@@ -130,15 +128,6 @@ bool Parse(const std::string& text, Json& root) {
 
 std::string JsonSettings::UserFile() { return (ConfigurationFolder() / "Qorvix.json").string(); }
 
-JsonSettings::FileState JsonSettings::StateOfFile() const {
-    struct stat status {};
-    if (::stat(file_.c_str(), &status) != 0)
-        return {};
-    return {static_cast<std::uint64_t>(status.st_dev), static_cast<std::uint64_t>(status.st_ino),
-            static_cast<std::int64_t>(status.st_mtim.tv_sec),
-            static_cast<std::int64_t>(status.st_mtim.tv_nsec), static_cast<std::int64_t>(status.st_size)};
-}
-
 JsonSettings::Content JsonSettings::Load(Json& root) const {
     root = Json::object();
     const std::error_code error = CheckRegularFile(ToPath(file_));
@@ -166,7 +155,7 @@ JsonSettings::Content JsonSettings::Load(Json& root) const {
 
 const JsonSettings::Json& JsonSettings::Current() const {
     // The state is taken first: a file that is replaced in between is then read once more the next time.
-    const FileState state = StateOfFile();
+    const FileState state = StateOf(file_);
     if (state.Size < 0)
         known_ = Json::object();
     else if (state != knownState_)

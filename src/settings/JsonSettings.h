@@ -2,11 +2,11 @@
 #pragma once
 
 #include "base/AsciiCase.h"
+#include "base/FileState.h"
 #include "settings/SettingsStore.h"
 
 #include <nlohmann/json.hpp>
 
-#include <cstdint>
 #include <map>
 #include <string>
 #include <utility>
@@ -35,26 +35,14 @@ class JsonSettings : public SettingsStore {
     bool Change(const std::vector<SettingsChange>& changes) override;
 
   private:
-    // What tells one state of the file from another: a change always makes a new file.
-    struct FileState {
-        std::uint64_t Device = 0;
-        std::uint64_t Inode = 0;
-        std::int64_t Seconds = 0;
-        std::int64_t Nanoseconds = 0;
-        std::int64_t Size = -1; // -1 = there is no file
-
-        bool operator==(const FileState&) const = default;
-    };
-
     enum class Content { Missing, Whole, Damaged, Unreadable };
 
-    FileState StateOfFile() const;
     Content Load(Json& root) const;
     const Json& Current() const;
     bool KeepDamaged() const;
     bool Store(const Json& root, Content before);
 
     std::string file_;
-    mutable FileState knownState_;
+    mutable FileState knownState_; // a change always makes a new file
     mutable Json known_ = Json::object();
 };

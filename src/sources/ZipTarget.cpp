@@ -5,22 +5,18 @@
 
 #include <cerrno>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 ZipTarget::ZipTarget(const std::filesystem::path& file) {
     zip_error_init(&error_);
-    errno = 0;
-    handle_ = FileHandle(::open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR));
-    if (!handle_.IsOpen())
-        zip_error_set(&error_, ZIP_ER_OPEN, errno);
+    std::error_code error;
+    file_ = PlacedWriter(file, error);
+    if (error)
+        zip_error_set(&error_, ZIP_ER_OPEN, error.value());
 }
 
 ZipTarget::~ZipTarget() { zip_error_fini(&error_); }
 
 zip_t* ZipTarget::Open() {
-    if (!handle_.IsOpen())
+    if (!file_.IsOpen())
         return nullptr;
     zip_source_t* const source = zip_source_function_create(Handle, this, &error_);
     if (source == nullptr)
@@ -67,36 +63,29 @@ zip_int64_t ZipTarget::Do(void* data, zip_uint64_t size, zip_source_cmd_t comman
 
 zip_int64_t ZipTarget::Begin() {
     place_ = 0;
-    return ::ftruncate(handle_.Number(), 0) == 0 ? 0 : Fail(errno);
+    const std::error_code error = file_.Empty();
+    return error ? Fail(error) : 0;
 }
 
 zip_int64_t ZipTarget::Write(const char* data, zip_uint64_t size) {
-    for (zip_uint64_t done = 0; done < size;) {
-        errno = 0;
-        const ssize_t count = ::pwrite(handle_.Number(), data + done, size - done, place_);
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0)
-            return Fail(errno != 0 ? errno : EIO);
-        done += static_cast<zip_uint64_t>(count);
-        place_ += count;
-    }
-    return static_cast<zip_int64_t>(size);
+    const std::error_code error = file_.Write({data, size}, place_);
+    return error ? Fail(error) : static_cast<zip_int64_t>(size);
 }
 
 zip_int64_t ZipTarget::Seek(void* data, zip_uint64_t size) {
-    struct stat status {};
-    if (::fstat(handle_.Number(), &status) != 0)
-        return Fail(errno);
-    const zip_int64_t place = zip_source_seek_compute_offset(
-        static_cast<zip_uint64_t>(place_), static_cast<zip_uint64_t>(status.st_size), data, size, &error_);
+    std::error_code error;
+    const zip_uint64_t whole = file_.Size(error);
+    if (error)
+        return Fail(error);
+    const zip_int64_t place =
+        zip_source_seek_compute_offset(static_cast<zip_uint64_t>(place_), whole, data, size, &error_);
     if (place < 0)
         return -1;
     place_ = place;
     return 0;
 }
 
-zip_int64_t ZipTarget::Fail(int error) {
-    zip_error_set(&error_, ZIP_ER_WRITE, error);
+zip_int64_t ZipTarget::Fail(const std::error_code& error) {
+    zip_error_set(&error_, ZIP_ER_WRITE, error.value());
     return -1;
 }

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "base/FileHandles.h"
+#include "base/PlacedWriter.h"
 #include "settings/Language.h"
 
 #include <zip.h>
 
 #include <filesystem>
 #include <string>
+#include <system_error>
 
 // The file that libzip builds an archive in. The library on its own would build it in a file beside, which it
 // names and puts in place itself; here the file that is there is written into, with its permissions and its
@@ -32,9 +33,9 @@ class ZipTarget {
     zip_int64_t Begin();
     zip_int64_t Write(const char* data, zip_uint64_t size);
     zip_int64_t Seek(void* data, zip_uint64_t size);
-    zip_int64_t Fail(int error);
+    zip_int64_t Fail(const std::error_code& error);
 
-    FileHandle handle_;
+    PlacedWriter file_;
     zip_int64_t place_ = 0;
     zip_error_t error_;
 };

@@ -69,6 +69,27 @@ bool IsQt(const std::string& include) {
     return include.starts_with("<Q") || (include.starts_with("<q") && include.ends_with(".h>"));
 }
 
+// The headers of C's kind that are no operating system's: those of libraries, and the compiler's own.
+constexpr std::array<std::string_view, 6> HeadersOfLibraries{"<chm_lib.h>",  "<emmintrin.h>", "<iconv.h>",
+                                                             "<utf8proc.h>", "<xxhash.h>",    "<zip.h>"};
+
+// What base keeps to itself: there the system's numbers for files and signals are seen.
+constexpr std::array<std::string_view, 2> HeadersForBaseAlone{"\"base/InterruptionState.h\"",
+                                                              "\"base/SystemFile.h\""};
+
+// <unistd.h>, <sys/stat.h>, <windows.h>, <csignal>: whatever is not known to be something else.
+bool IsOperatingSystem(const std::string& include) {
+    return include == "<csignal>" || (include.starts_with("<") && include.ends_with(".h>") &&
+                                      !IsQt(include) && !Contains(HeadersOfLibraries, include));
+}
+
+// The files outside base that speak to the operating system themselves.
+constexpr std::array<std::string_view, 4> FilesWithOperatingSystem{
+    "dialogs/HTMLHelpWindows.cpp",    // Windows's own help viewer; for Windows only
+    "helpbook/ChmFile.cpp",           // starts the help reader, feeds it and ends it
+    "helpbook/qorvix-helpreader.cpp", // a process of its own, which gives itself limits
+    "settings/WindowsSettings.cpp"};  // Windows's registry; for Windows only
+
 } // namespace
 
 TEST(Includes, TheTreeHasItsFolders) {
@@ -113,6 +134,51 @@ TEST(Includes, EventInfoAsksSettingsAndLogbookOnly) {
                     << file.Name << " includes " << include;
             }
     EXPECT_GT(includes, 10U);
+}
+
+TEST(Includes, OnlyBaseKnowsTheOperatingSystem) {
+    std::size_t exceptions = 0;
+    for (const SourceFile& file : SourceFiles()) {
+        const std::string name = file.Folder + "/" + file.Name;
+        if (file.Folder == "base")
+            continue;
+        const bool isException = Contains(FilesWithOperatingSystem, name);
+        exceptions +=
+            isException && std::any_of(file.Includes.begin(), file.Includes.end(), IsOperatingSystem);
+        for (const std::string& include : file.Includes) {
+            EXPECT_FALSE(!isException && IsOperatingSystem(include)) << name << " includes " << include;
+            EXPECT_FALSE(Contains(HeadersForBaseAlone, include)) << name << " includes " << include;
+        }
+    }
+    EXPECT_EQ(exceptions, FilesWithOperatingSystem.size()) << "one needs to be no exception any longer";
+}
+
+// Whoever includes a header of base sees no more of the system than what the header says.
+TEST(Includes, HeadersOfBaseHideTheOperatingSystem) {
+    for (const SourceFile& file : SourceFiles()) {
+        if (file.Folder != "base" || !file.Name.ends_with(".h") ||
+            Contains(HeadersForBaseAlone, "\"base/" + file.Name + "\""))
+            continue;
+        for (const std::string& include : file.Includes) {
+            EXPECT_FALSE(IsOperatingSystem(include)) << file.Name << " includes " << include;
+            EXPECT_FALSE(Contains(HeadersForBaseAlone, include)) << file.Name << " includes " << include;
+        }
+    }
+}
+
+TEST(Includes, BaseDoesIncludeTheOperatingSystem) {
+    // Without this, a mistake in how the system's headers are told would let the tests above pass.
+    const std::vector<SourceFile> files = SourceFiles();
+    for (const std::string_view header :
+         {"<unistd.h>", "<fcntl.h>", "<sys/stat.h>", "<pwd.h>", "<poll.h>", "<csignal>", "<windows.h>"})
+        EXPECT_TRUE(std::any_of(files.begin(), files.end(), [&](const SourceFile& file) {
+            return file.Folder == "base" && Contains(file.Includes, header) &&
+                   IsOperatingSystem(std::string(header));
+        })) << header;
+    for (const std::string_view header : HeadersForBaseAlone)
+        EXPECT_TRUE(std::any_of(files.begin(), files.end(), [&](const SourceFile& file) {
+            return Contains(file.Includes, header);
+        })) << header;
 }
 
 TEST(Includes, WindowFoldersDoIncludeQt) {

@@ -32,6 +32,11 @@ TEST(ItemsIn, AreWhatLiesInAFolder) {
     EXPECT_EQ(items, (std::vector<std::filesystem::path>{folder / "a", folder / "b.log"}));
     EXPECT_TRUE(ItemsIn(folder / "missing").empty());
     EXPECT_TRUE(ItemsIn(folder / "b.log").empty());
+    std::error_code error = std::make_error_code(std::errc::io_error);
+    EXPECT_EQ(ItemsIn(folder.Path(), error).size(), 2U);
+    EXPECT_FALSE(error);
+    EXPECT_TRUE(ItemsIn(folder / "missing", error).empty());
+    EXPECT_EQ(error, std::errc::no_such_file_or_directory);
 }
 
 TEST(FileExists, MeansThatItCanBeRead) {

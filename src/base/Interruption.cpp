@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "cli/Interruption.h"
+#include "base/Interruption.h"
 
+#include "base/InterruptionState.h"
 #include "base/StopRequest.h"
 
 #if defined(__unix__) || defined(__APPLE__)
 
 #include <cerrno>
+#include <csignal>
 #include <ctime>
 #include <initializer_list>
 
@@ -16,7 +18,6 @@ namespace {
 
 constexpr std::time_t Patience = 3; // seconds
 
-int wakePipe[2] = {-1, -1};
 timespec firstTime{}; // of a signal
 
 bool HasWaitedLong() {
@@ -28,21 +29,21 @@ void OnSignal(int signal) {
     const int before = errno;
     if (!StopRequest::IsMade()) {
         (void)::clock_gettime(CLOCK_MONOTONIC, &firstTime);
-        StopRequest::Signal = signal;
+        InterruptionState::Signal = signal;
     } else if (signal != SIGPIPE && HasWaitedLong()) {
         // It comes as soon as this function is left.
         std::signal(signal, SIG_DFL);
         std::raise(signal);
     }
-    [[maybe_unused]] const ssize_t ignored = ::write(wakePipe[1], "", 1);
+    [[maybe_unused]] const ssize_t ignored = ::write(InterruptionState::WakePipe[1], "", 1);
     errno = before;
 }
 
 } // namespace
 
 Interruption::Interruption() {
-    if (::pipe(wakePipe) == 0)
-        for (const int end : wakePipe) {
+    if (::pipe(InterruptionState::WakePipe) == 0)
+        for (const int end : InterruptionState::WakePipe) {
             ::fcntl(end, F_SETFD, FD_CLOEXEC);
             ::fcntl(end, F_SETFL, O_NONBLOCK);
         }
@@ -61,16 +62,13 @@ Interruption::Interruption() {
 void Interruption::EndBySignal() {
     if (!StopRequest::IsMade())
         return;
-    std::signal(StopRequest::Signal, SIG_DFL);
-    std::raise(StopRequest::Signal);
+    std::signal(InterruptionState::Signal, SIG_DFL);
+    std::raise(InterruptionState::Signal);
 }
-
-int Interruption::Descriptor() { return wakePipe[0]; }
 
 #else
 
 Interruption::Interruption() = default;
 void Interruption::EndBySignal() {}
-int Interruption::Descriptor() { return -1; }
 
 #endif

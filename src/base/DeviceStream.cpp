@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "cli/Output.h"
+#include "base/DeviceStream.h"
 
 #include "base/Paths.h"
 
 #if defined(__unix__) || defined(__APPLE__)
 
+#include "base/InterruptionState.h"
 #include "base/StopRequest.h"
-#include "cli/Interruption.h"
 
 #include <algorithm>
 #include <array>
@@ -71,7 +71,7 @@ class DescriptorBuffer : public std::streambuf {
     }
 
     bool WaitForReader() const {
-        pollfd ends[] = {{descriptor_, POLLOUT, 0}, {Interruption::Descriptor(), POLLIN, 0}};
+        pollfd ends[] = {{descriptor_, POLLOUT, 0}, {InterruptionState::WakePipe[0], POLLIN, 0}};
         while (!StopRequest::IsMade() && ::poll(ends, std::size(ends), -1) < 0 && errno == EINTR) {
         }
         return !StopRequest::IsMade();
@@ -85,13 +85,13 @@ class DescriptorBuffer : public std::streambuf {
 
 } // namespace
 
-Output::Output()
+DeviceStream::DeviceStream()
     : buffer_(std::make_unique<DescriptorBuffer>(STDOUT_FILENO, false)),
       isTerminal_(::isatty(STDOUT_FILENO) == 1) {
     stream_.rdbuf(buffer_.get());
 }
 
-Output::Output(const std::string& device) {
+DeviceStream::DeviceStream(const std::string& device) {
     const int descriptor = ::open(ToPath(device).c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC);
     if (descriptor < 0)
         return;
@@ -105,9 +105,9 @@ Output::Output(const std::string& device) {
 #include <fstream>
 #include <iostream>
 
-Output::Output() : stream_(std::cout.rdbuf()) {}
+DeviceStream::DeviceStream() : stream_(std::cout.rdbuf()) {}
 
-Output::Output(const std::string& device) {
+DeviceStream::DeviceStream(const std::string& device) {
     auto file = std::make_unique<std::filebuf>();
     if (file->open(ToPath(device), std::ios::out | std::ios::binary) != nullptr)
         stream_.rdbuf(file.get());
@@ -116,4 +116,4 @@ Output::Output(const std::string& device) {
 
 #endif
 
-Output::~Output() = default;
+DeviceStream::~DeviceStream() = default;

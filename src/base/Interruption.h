@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// SIGINT, SIGTERM, SIGHUP and SIGPIPE end the tool in good order: the step that runs stops and fails without
+// SIGINT, SIGTERM, SIGHUP and SIGPIPE end a process in good order: the step that runs stops and fails without
 // a word, what was unpacked and half written is removed, and then the process ends by that signal, which
 // tells whoever called it. Further signals change nothing, as they often come in pairs; one that comes more
 // than three seconds later ends it at once. A signal that is ignored stays ignored.
@@ -14,7 +14,4 @@ class Interruption {
 
     // Ends the process by the signal that has come; returns when there was none.
     static void EndBySignal();
-
-    // Becomes readable when a signal comes, for one that waits; -1 without such a thing.
-    static int Descriptor();
 };
