@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/frmMain.h"
 
+#include "app/ContentPane.h"
 #include "app/EntryProperties.h"
 #include "app/HelpBesideDialogs.h"
 #include "app/LibraryVersions.h"
@@ -26,7 +27,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QFontDatabase>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
@@ -35,23 +35,6 @@
 
 #include <optional>
 #include <utility>
-
-namespace {
-
-QPlainTextEdit* MakeContentPane(QWidget* parent) {
-    auto* pane = new QPlainTextEdit(parent);
-    pane->setObjectName("txContent");
-    pane->setReadOnly(true);
-    pane->setTabChangesFocus(true);
-    QFont font("Lucida Console");
-    if (!QFontDatabase::hasFamily(font.family()))
-        font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPointSizeF(9.75);
-    pane->setFont(font);
-    return pane;
-}
-
-} // namespace
 
 frmMain::frmMain(LogbookDocument& document, Registry& registry)
     : document_(document),
@@ -252,12 +235,6 @@ bool frmMain::OpenLogbook(const std::string& name) {
     const bool opened = document_.OpenLogbook(name);
     CloseIfWanted();
     return opened;
-}
-
-bool frmMain::ReadAndShowLogbook(const std::string& file, const std::string& commentsFile) {
-    const bool read = document_.ReadAndShowLogbook(file, commentsFile);
-    CloseIfWanted();
-    return read;
 }
 
 void frmMain::Refresh() {

@@ -45,7 +45,6 @@ class frmMain : public QMainWindow {
     // As LogbookDocument has them. A read that the person wants to stop closes the window.
     void RunCommandLine(const std::vector<std::string>& arguments);
     bool OpenLogbook(const std::string& name);
-    bool ReadAndShowLogbook(const std::string& file, const std::string& commentsFile);
     void ApplyFilter() { document_.ApplyFilter(); }
 
     // Carries out a command. Those that need an idle logbook do nothing while one is being read.

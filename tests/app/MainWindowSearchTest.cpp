@@ -266,7 +266,7 @@ class MainWindowSearchTest : public MainWindowTest {
         QTest::mouseClick(const_cast<QWidget*>(viewer), Qt::LeftButton, {},
                           QPoint(5, viewer->height() / 4 + 2));
         QTRY_COMPARE(Marks(), QString("cr.."));
-        Window->ReadAndShowLogbook("", "");
+        Document->ReadAndShowLogbook("", "");
         QTRY_COMPARE(Marks(), QString());
     }
 

@@ -129,7 +129,7 @@ class frmMainTest : public MainWindowTest {
         StartAfresh();
         CloseSoon();
         AnswerMessages(1);
-        Window->ReadAndShowLogbook(FileOfErrors(2), comments);
+        Document->ReadAndShowLogbook(FileOfErrors(2), comments);
         QVERIFY(!Window->isVisible());
         QVERIFY(MessageTexts.isEmpty());
     }
