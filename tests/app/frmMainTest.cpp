@@ -125,11 +125,18 @@ class frmMainTest : public MainWindowTest {
             QVERIFY(!Window->isVisible());
             QVERIFY(MessageTexts.isEmpty());
         }
-        const std::string comments = File("a.cmt", {"no comments"});
+        const std::string archive = Folder / "own.qorvix";
+        WriteZip(archive, {{"x.log", Lines({Header("BERR:    a")})},
+                           {"x.fil", "[Filters]\r\n"},
+                           {"x.cmt", "no comments"}});
+        StartAfresh();
+        AnswerMessages(1);
+        Window->RunCommandLine({archive});
+        QCOMPARE(MessageTexts.size(), 1);
         StartAfresh();
         CloseSoon();
         AnswerMessages(1);
-        Document->ReadAndShowLogbook(FileOfErrors(2), comments);
+        Window->RunCommandLine({archive});
         QVERIFY(!Window->isVisible());
         QVERIFY(MessageTexts.isEmpty());
     }
