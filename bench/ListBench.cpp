@@ -98,7 +98,9 @@ int main(int argc, char** argv) {
     const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
     Registry registry(*settings);
     const TempFolder tempFolder;
-    LogbookDocument document(registry, tempFolder, CodePage(), tempFolder.Path());
+    StoredActiveFilters filters(registry);
+    LogbookDocument document({.Filters = filters, .Settings = registry, .Temp = tempFolder}, CodePage(),
+                             tempFolder.Path());
     ReadOnce(argv[1], document.Book());
     frmMain window(document, registry);
     window.show();

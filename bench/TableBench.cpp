@@ -133,7 +133,9 @@ int main(int argc, char** argv) {
              const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
              Registry registry(*settings);
              const TempFolder tempFolder;
-             LogbookDocument document(registry, tempFolder, CodePage(), tempFolder.Path());
+             StoredActiveFilters filters(registry);
+             LogbookDocument document({.Filters = filters, .Settings = registry, .Temp = tempFolder},
+                                      CodePage(), tempFolder.Path());
              frmMain window(document, registry);
              window.show();
              QApplication::processEvents();

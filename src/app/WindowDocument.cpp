@@ -46,6 +46,27 @@ void WindowDocument::FilteringEnds() {
 
 void WindowDocument::FilterProgress(double percent) { parts_.Progress.PaintValue(percent); }
 
+void WindowDocument::CommentsFailed(const std::string& name, const CommentsFileResult& result) {
+    parts_.User.ShowMessage(CommentsFileMessage(name, result, language_), UserInterface::MessageIcon::None);
+}
+
+void WindowDocument::ReadingFailed(std::int16_t loadState) {
+    struct Row {
+        std::int16_t Code;
+        TextId Message;
+        UserInterface::MessageIcon Icon;
+    };
+    static constexpr Row Messages[] = {
+        {LoadStates::Corrupt, TextId::LogbookCorrupt, UserInterface::MessageIcon::Exclamation},
+        {LoadStates::Opening, TextId::OpenFailed, UserInterface::MessageIcon::None},
+        {LoadStates::Reading, TextId::ReadFailed, UserInterface::MessageIcon::None},
+        {LoadStates::Filtering, TextId::FilterError, UserInterface::MessageIcon::None},
+    };
+    for (const Row& row : Messages)
+        if (row.Code == loadState)
+            parts_.User.ShowMessage(Text(row.Message, language_), row.Icon);
+}
+
 void WindowDocument::FilteringFailed() {
     parts_.User.ShowMessage(Text(TextId::FilterFailed, language_), QtText(TextId::FilterError, language_),
                             UserInterface::MessageIcon::Exclamation);

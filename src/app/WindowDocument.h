@@ -49,7 +49,9 @@ class WindowDocument : public DocumentView {
     void FilteringBegins() override;
     void FilteringEnds() override;
     void FilterProgress(double percent) override;
+    void CommentsFailed(const std::string& name, const CommentsFileResult& result) override;
     void FilteringFailed() override;
+    void ReadingFailed(std::int16_t loadState) override;
     void ShowCounts() override;
     void ChangeRows(const std::function<void()>& change) override;
     std::optional<EntryNumber> SelectedEntry() const override;

@@ -3,28 +3,24 @@
 #include "app/frmMain.h"
 #include "base/FileSizeLimit.h"
 #include "base/Paths.h"
-#include "base/ProgramFolder.h"
 #include "sources/CommandLine.h"
 
 #include <QApplication>
 #include <QTimer>
 
 #include <algorithm>
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace {
 
-// What the program must not remove when it clears up: the logbooks that it is to open, and its own place.
-std::vector<std::filesystem::path> KeptFiles(const std::vector<std::string>& arguments) {
-    std::vector<std::filesystem::path> kept{ToPath(ProgramFolder())};
-    for (const std::string& word : arguments)
-        kept.push_back(ToPath(word));
+// The logbooks that the program is to open.
+std::vector<std::string> FilesToOpen(const std::vector<std::string>& arguments) {
+    std::vector<std::string> files = arguments;
     for (const std::string& source : ParseArguments(arguments, FileExists).Sources)
-        kept.push_back(ToPath(source));
-    return kept;
+        files.push_back(source);
+    return files;
 }
 
 } // namespace
@@ -45,8 +41,10 @@ int main(int argc, char** argv) {
 
     const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
     Registry registry(*settings);
-    const TempFolder tempFolder(TempFolder::SystemFolder(), KeptFiles(arguments));
-    LogbookDocument document(registry, tempFolder, CodePage::OfUser());
+    const TempFolder tempFolder(TempFolder::SystemFolder(), FilesToOpen(arguments));
+    StoredActiveFilters filters(registry);
+    LogbookDocument document({.Filters = filters, .Settings = registry, .Temp = tempFolder},
+                             CodePage::OfUser());
     frmMain window(document, registry);
     window.show();
     QTimer::singleShot(0, &window, [&] { window.FirstActivation(arguments); });

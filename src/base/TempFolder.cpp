@@ -2,6 +2,7 @@
 #include "base/TempFolder.h"
 
 #include "base/Paths.h"
+#include "base/ProgramFolder.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -57,7 +58,7 @@ std::filesystem::path TempFolder::SystemFolder() {
     return named != nullptr && *named == '\0' ? std::filesystem::path("/tmp") : std::filesystem::path();
 }
 
-TempFolder::TempFolder(const std::filesystem::path& parent, const std::vector<std::filesystem::path>& kept)
+TempFolder::TempFolder(const std::filesystem::path& parent, const std::vector<std::string>& kept)
     : parent_(parent) {
     if (parent_.empty())
         return;
@@ -71,10 +72,10 @@ TempFolder::~TempFolder() {
         mark_->Remove();
 }
 
-void TempFolder::RemoveLeft(const std::vector<std::filesystem::path>& kept) const {
+void TempFolder::RemoveLeft(const std::vector<std::string>& kept) const {
     for (const std::filesystem::path& folder : ItemsIn(parent_)) {
-        if (!HasOwnName(folder) ||
-            std::any_of(kept.begin(), kept.end(), [&](const auto& path) { return LiesIn(path, folder); }))
+        const auto isIn = [&](const std::string& path) { return LiesIn(ToPath(path), folder); };
+        if (!HasOwnName(folder) || isIn(ProgramFolder()) || std::any_of(kept.begin(), kept.end(), isIn))
             continue;
         if (const std::optional<TempFolderMark> left = TempFolderMark::Take(folder))
             left->Remove();

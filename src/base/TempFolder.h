@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <vector>
 
 // The program's scratch folder: "Qorvix" in the system's temporary folder, for its owner only. Where there is
@@ -18,10 +19,10 @@
 // again, perhaps by another name.
 class TempFolder {
   public:
-    // `parent` is the system's temporary folder, or what stands for it in a test. What is `kept`, files and
-    // folders, is in nothing that the begin removes.
+    // `parent` is the system's temporary folder, or what stands for it in a test. Folders that hold one of
+    // the `kept` files and folders (UTF-8), or the program itself, are not removed at the beginning.
     explicit TempFolder(const std::filesystem::path& parent = SystemFolder(),
-                        const std::vector<std::filesystem::path>& kept = {});
+                        const std::vector<std::string>& kept = {});
     ~TempFolder();
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
@@ -50,7 +51,7 @@ class TempFolder {
     void Make() const;
     bool Mark(const std::filesystem::path& folder) const;
     bool IsForeign(const std::filesystem::path& file) const;
-    void RemoveLeft(const std::vector<std::filesystem::path>& kept) const;
+    void RemoveLeft(const std::vector<std::string>& kept) const;
 
     std::filesystem::path parent_;
     mutable std::filesystem::path path_;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "cli/LookupCommand.h"
 
+#include "base/DeviceStream.h"
 #include "base/VisibleControls.h"
 #include "cli/ExitStatus.h"
 #include "cli/Messages.h"
-#include "cli/Output.h"
 #include "eventinfo/iZEKEventInfo.h"
 #include "rows/ContentText.h"
 
@@ -38,7 +38,7 @@ int RunLookup(const LookupOptions& options) {
     if (!proposed.Text)
         return ExitStatus::Failed;
     std::erase(*proposed.Text, '\r');
-    Output output;
+    DeviceStream output;
     if (output.IsTerminal())
         proposed.Text = WithVisibleControls(*proposed.Text, "\n\t");
     output.Stream() << *proposed.Text << std::endl;

@@ -3,14 +3,11 @@
 
 #include "base/AsciiCase.h"
 #include "cli/ExitStatus.h"
-#include "cli/ReadSource.h"
+#include "cli/Messages.h"
+#include "cli/TerminalDocument.h"
 #include "settings/Texts.h"
-#include "sources/ArchivedComments.h"
-#include "sources/LogbookArchive.h"
 
 #include <CLI/CLI.hpp>
-
-#include <set>
 
 CLI::App* AddPackCommand(CLI::App& app, PackOptions& options) {
     const CLI::Validator notEmpty(
@@ -56,68 +53,52 @@ CLI::App* AddPackCommand(CLI::App& app, PackOptions& options) {
 
 namespace {
 
-// Deals with comments that would be lost with the archive that is there, as the options say. The reason why
-// it may not be replaced; "" when it may.
-std::string ReasonToKeep(const PackOptions& options, SourceLogbook& logbook, const CodePage& codePage,
-                         const TempFolder& tempFolder) {
-    if (options.DropComments)
-        return {};
-    const std::set<EntryNumber> noneChanged;
-    EntryTable& entries = logbook.Book.Entries;
-    const ArchivedComments lost = CommentsLostWith(options.Archive,
-                                                   {.Entries = entries,
-                                                    .Changed = noneChanged,
-                                                    .LogbookFile = logbook.Source.LogbookFile,
-                                                    .FileCodePage = codePage},
-                                                   tempFolder, options.MessageLanguage);
-    if (lost.What == ArchivedComments::Kind::None)
-        return {};
-    const bool canKeep = lost.What == ArchivedComments::Kind::OfThisLogbook;
-    if (!canKeep || !options.KeepComments)
-        return TellArchivedComments(lost, options.MessageLanguage) + "; " +
-               std::string(Text(canKeep ? TextId::KeepOrDropComments : TextId::DropComments,
-                                options.MessageLanguage));
-    for (const auto& [number, comment] : lost.Comments)
-        entries.SetComment(number, comment);
-    return {};
-}
+// The decisions that options make. What they leave open is refused, with a message.
+class PackDecisions : public ArchiveDecisions {
+  public:
+    explicit PackDecisions(const PackOptions& options) : options_(options) {}
+
+    std::optional<std::string> Archive(const std::string&, const std::string&) override {
+        return options_.Archive;
+    }
+
+    OldComments DecideOn(const ArchivedComments& lost, bool) override {
+        if (options_.DropComments || lost.What == ArchivedComments::Kind::None)
+            return OldComments::Replace;
+        const bool canKeep = lost.What == ArchivedComments::Kind::OfThisLogbook;
+        if (canKeep && options_.KeepComments)
+            return OldComments::Keep;
+        Refuse(TellArchivedComments(lost, options_.MessageLanguage) + "; " +
+               Say(canKeep ? TextId::KeepOrDropComments : TextId::DropComments));
+        return OldComments::Cancel;
+    }
+
+    // Filters and comments come out of files in the same code page, so they lose nothing.
+    bool AgreesToLosses(std::string_view) override { return true; }
+
+    bool AgreesToChangedLogbook() override {
+        Refuse(Say(TextId::LogbookChangedMeanwhile));
+        return false;
+    }
+
+  private:
+    std::string Say(TextId id) const { return std::string(Text(id, options_.MessageLanguage)); }
+    void Refuse(const std::string& reason) const {
+        Fail(Say(TextId::ArchiveNotSaved) + " (" + options_.Archive + ": " + reason + ")");
+    }
+
+    const PackOptions& options_;
+};
 
 } // namespace
 
 int RunPack(const PackOptions& options) {
-    const Language language = options.MessageLanguage;
-    const CodePage codePage = CodePage::OfUser();
-    const TempFolder tempFolder(TempFolder::SystemFolder(), KeptFiles({options.Source, options.Archive,
-                                                                       options.Filters, options.Comments}));
-    TerminalUser user(UserInterface::Answer::Yes);
-    SourceLogbook logbook;
-    if (!ReadSource(options.Source, logbook, tempFolder, user, language, codePage))
+    TerminalDocument document({.Files = {options.Source, options.Archive, options.Filters, options.Comments},
+                               .ArchiveFilters = UserInterface::Answer::Yes,
+                               .MessageLanguage = options.MessageLanguage});
+    if (!document.Open(options.Source, {.Comments = options.Comments, .Filters = options.Filters}) ||
+        !document.HasComments())
         return ExitStatus::Failed;
-
-    const SourceFile comments = logbook.Comments(options.Comments);
-    if (!comments.Path.empty() && !ReadComments(comments, logbook, language, codePage))
-        return ExitStatus::Failed;
-    std::vector<FilterDefinition> filters = DefaultFilters();
-    const SourceFile filterFile = logbook.Filters(options.Filters);
-    if (!filterFile.Path.empty() && !ReadFilters(filterFile, filters, language, codePage))
-        return ExitStatus::Failed;
-
-    std::error_code noFile;
-    const SeenFile replaced{StampOf(options.Archive, noFile)};
-    std::string reason = ReasonToKeep(options, logbook, codePage, tempFolder);
-    // Filters and comments come out of files in the same code page, so they lose nothing.
-    if (reason.empty())
-        reason = SaveLogbookArchive(options.Archive,
-                                    {.LogbookFile = logbook.Source.LogbookFile,
-                                     .LogbookName = logbook.Source.LogbookName,
-                                     .LogbookStamp = logbook.Stamp,
-                                     .Filters = filters,
-                                     .Entries = logbook.Book.Entries,
-                                     .FileCodePage = codePage,
-                                     .Replaced = replaced},
-                                    tempFolder, language);
-    if (reason.empty())
-        return ExitStatus::Done;
-    return Fail(std::string(Text(TextId::ArchiveNotSaved, language)) + " (" + options.Archive + ": " +
-                reason + ")");
+    PackDecisions decisions(options);
+    return document.ZipLogbook(decisions) ? ExitStatus::Done : ExitStatus::Failed;
 }

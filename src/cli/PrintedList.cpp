@@ -2,14 +2,15 @@
 #include "cli/PrintedList.h"
 
 #include "base/AtomicFile.h"
+#include "base/DeviceStream.h"
 #include "base/FileProblem.h"
 #include "base/FollowLinks.h"
 #include "base/Paths.h"
 #include "base/StopRequest.h"
-#include "cli/Output.h"
-#include "cli/ReadSource.h"
+#include "cli/ExitStatus.h"
+#include "cli/Messages.h"
 #include "cli/RowWriter.h"
-#include "filter/Filter.h"
+#include "cli/TerminalDocument.h"
 #include "filter/FilterStorage.h"
 #include "settings/ReasonText.h"
 #include "settings/Registry.h"
@@ -43,17 +44,12 @@ bool IsDevice(const std::string& path) {
            !std::filesystem::is_directory(status);
 }
 
-// The filters that the options name; false when that failed, which has then been told.
-bool ChooseFilters(const ListOptions& options, const SourceLogbook& logbook, const CodePage& codePage,
-                   std::vector<FilterDefinition>& filters) {
-    const SourceFile file = logbook.Filters(options.Filters);
-    if (!file.Path.empty())
-        return ReadFilters(file, filters, options.MessageLanguage, codePage);
-    if (options.StoredFilters) {
-        const auto settings = MakeUserSettings();
-        filters = LoadFilters(Registry(*settings), options.MessageLanguage).Filters;
-    }
-    return true;
+// The filters that are active where neither a file nor an archive brings others.
+std::vector<FilterDefinition> FiltersAtFirst(const ListOptions& options) {
+    if (!options.StoredFilters)
+        return DefaultFilters();
+    const auto settings = MakeUserSettings();
+    return LoadFilterList(Registry(*settings)).Filters;
 }
 
 // True when writing the list would take the place of what it is made from.
@@ -66,35 +62,11 @@ bool ReplacesItsSource(const ListOptions& options) {
            (isOutput(options.File) || isOutput(options.Filters));
 }
 
-} // namespace
-
-bool ReadList(const ListOptions& options, SourceLogbook& logbook, LogbookRows& rows) {
-    using Answer = UserInterface::Answer;
-    if (ReplacesItsSource(options)) {
-        Fail(options.Output + ": " + std::string(Text(TextId::ListInPlaceOfSource, options.MessageLanguage)));
-        return false;
-    }
-    const CodePage codePage = CodePage::OfUser();
-    const TempFolder tempFolder(TempFolder::SystemFolder(),
-                                KeptFiles({options.File, options.Filters, options.Output}));
-    TerminalUser user(options.ArchiveFilters ? Answer::Yes : Answer::No);
-    std::vector<FilterDefinition> filters = DefaultFilters();
-    if (!ReadSource(options.File, logbook, tempFolder, user, options.MessageLanguage, codePage) ||
-        !ChooseFilters(options, logbook, codePage, filters))
-        return false;
-    // Comments that cannot be read are told; the list is printed without them, as the window shows it.
-    if (const SourceFile comments = logbook.Comments(""); !comments.Path.empty())
-        ReadComments(comments, logbook, options.MessageLanguage, codePage);
-    if (ApplyFilters(logbook.Book.Entries, filters, rows))
-        return true;
-    Fail(std::string(Text(TextId::FilterFailed, options.MessageLanguage)));
-    return false;
-}
-
+// Memory does not grow with the rows printed.
 int PrintRows(const ListOptions& options, const EntryTable& entries, const LogbookRows& rows) {
     const auto text = [&](TextId id) { return std::string(Text(id, options.MessageLanguage)); };
     if (options.Output.empty()) {
-        Output output;
+        DeviceStream output;
         WriteRows(entries, rows, options, output.Stream(), output.IsTerminal());
         return output.Stream() ? ExitStatus::Done : Fail(text(TextId::ListNotWritten));
     }
@@ -106,7 +78,7 @@ int PrintRows(const ListOptions& options, const EntryTable& entries, const Logbo
         FollowLinks(ToPath(options.Output), error);
         if (error == FileProblem::ForeignLink)
             return cannotWrite(error);
-        Output output(options.Output);
+        DeviceStream output(options.Output);
         WriteRows(entries, rows, options, output.Stream(), output.IsTerminal());
         return output.Stream() ? ExitStatus::Done : Fail(options.Output + text(TextId::FileNotWritten));
     }
@@ -117,4 +89,28 @@ int PrintRows(const ListOptions& options, const EntryTable& entries, const Logbo
     if (const std::error_code error = file.Commit())
         return cannotWrite(error);
     return ExitStatus::Done;
+}
+
+} // namespace
+
+int PrintList(const ListOptions& options,
+              const std::function<LogbookRows(const EntryTable& entries, const LogbookRows& rows)>& choose) {
+    using Answer = UserInterface::Answer;
+    if (ReplacesItsSource(options))
+        return Fail(options.Output + ": " +
+                    std::string(Text(TextId::ListInPlaceOfSource, options.MessageLanguage)));
+    TerminalDocument document({.Files = {options.File, options.Filters, options.Output},
+                               .Filters = FiltersAtFirst(options),
+                               .ArchiveFilters = options.ArchiveFilters ? Answer::Yes : Answer::No,
+                               .MessageLanguage = options.MessageLanguage});
+    if (!document.Open(options.File, {.Filters = options.Filters}))
+        return ExitStatus::Failed;
+    // Without comments that could not be read the list is printed all the same, as the window shows it.
+    if (!document.HasRows())
+        return Fail(std::string(Text(TextId::FilterFailed, options.MessageLanguage)));
+    if (!choose)
+        return PrintRows(options, document.Entries(), document.Rows());
+    const LogbookRows rows = choose(document.Entries(), document.Rows());
+    const int printed = PrintRows(options, document.Entries(), rows);
+    return rows.empty() ? ExitStatus::Failed : printed;
 }

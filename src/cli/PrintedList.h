@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/ExitStatus.h"
 #include "filter/LogbookRow.h"
 #include "logbook/EntryTable.h"
 #include "settings/Language.h"
 
+#include <functional>
 #include <string>
-
-struct SourceLogbook;
 
 // Which list a command prints, and how: what all commands that print rows have in common.
 struct ListOptions {
@@ -24,10 +22,10 @@ struct ListOptions {
     Language MessageLanguage;     // of messages on standard error
 };
 
-// Reads the logbook and makes the rows that its filters let through. False when that failed, which has then
-// been told on standard error. Comments of an archive that cannot be read do not count as that.
-bool ReadList(const ListOptions& options, SourceLogbook& logbook, LogbookRows& rows);
-
-// Prints rows of the list, a row a line, and returns the exit status. Memory does not grow with the rows
-// printed. What goes wrong is told on standard error; an output file is then as it was.
-int PrintRows(const ListOptions& options, const EntryTable& entries, const LogbookRows& rows);
+// Opens the logbook, makes the rows that its filters let through, and prints them, a row a line; with
+// `choose` those of them that it gives, and that there are none is a failure. Returns the exit status. What
+// goes wrong is reported on standard error; an output file is then as it was. Comments that cannot be read do
+// not count as that.
+int PrintList(
+    const ListOptions& options,
+    const std::function<LogbookRows(const EntryTable& entries, const LogbookRows& rows)>& choose = {});

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/StopRequest.h"
 #include "cli/Messages.h"
+#include "logbook/ReadingProgress.h"
 #include "settings/UserInterface.h"
+
+#include <string>
 
 // Opening logbooks on a terminal: messages go to standard error, and the one question has been answered by an
 // option. What has no option is not agreed to.
@@ -29,4 +33,25 @@ class TerminalUser : public UserInterface {
   private:
     Answer answer_;
     bool messageShown_ = false;
+};
+
+// Reading on a terminal: silent, ended by a signal or by a message to the user, after which the command
+// fails. Messages about what is read go to standard error, and the read goes on.
+class TerminalProgress : public ReadingProgress {
+  public:
+    // The user must outlive this.
+    explicit TerminalProgress(const TerminalUser& user) : user_(user) {}
+
+    void SetValue(double) override {}
+    void ProcessPendingEvents() override {}
+    bool StopWanted() const override { return StopRequest::IsMade() || user_.MessageShown(); }
+
+    void ShowMessage(std::string_view text) override {
+        std::string lines(text);
+        std::erase(lines, '\r');
+        TellMessage(lines, "\n");
+    }
+
+  private:
+    const TerminalUser& user_;
 };

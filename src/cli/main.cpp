@@ -3,6 +3,7 @@
 #include "base/Interruption.h"
 #include "base/UnicodeCase.h"
 #include "base/VisibleControls.h"
+#include "cli/ExitStatus.h"
 #include "cli/ExportCommand.h"
 #include "cli/FindCommand.h"
 #include "cli/LookupCommand.h"

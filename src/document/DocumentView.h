@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "comments/Comments.h"
 #include "logbook/EntryTable.h"
 #include "logbook/ReadingProgress.h"
 #include "settings/Language.h"
 #include "settings/UserInterface.h"
 
+#include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <system_error>
 
@@ -37,7 +40,16 @@ class DocumentView {
     virtual void FilteringBegins() {}
     virtual void FilteringEnds() {}
     virtual void FilterProgress(double) {} // percent
-    virtual void FilteringFailed() {}      // to be shown as a message
+
+    // What went wrong. These come when the read or the run has ended, and the person does not want it to
+    // stop. ReadingFailed has one of LoadStates; after a run that FilteringFailed reports, it comes only for
+    // a read.
+    virtual void CommentsFailed(const std::string&, const CommentsFileResult&) {} // the name of their file
+    virtual void FilteringFailed() {}
+    virtual void ReadingFailed(std::int16_t) {}
+
+    // Whether a logbook that was read, and whose rows could not be made, counts as open.
+    virtual bool OpensWithoutRows() const { return false; }
 
     // How many rows there are, after either.
     virtual void ShowCounts() {}

@@ -3,12 +3,12 @@
 
 #include "base/Paths.h"
 #include "base/ProgramFolder.h"
-#include "comments/Comments.h"
+#include "document/ArchiveQuestions.h"
 #include "document/ZipLogbook.h"
 #include "filter/Filter.h"
 #include "filter/FilterFile.h"
-#include "filter/FilterStorage.h"
 #include "logbook/Mod_FileHandling.h"
+#include "settings/Texts.h"
 #include "sources/CommandLine.h"
 #include "sources/LogbookSource.h"
 
@@ -24,10 +24,11 @@ std::string ProgramFolderWithSeparator() { return ProgramFolder() + '/'; }
 
 } // namespace
 
-LogbookDocument::LogbookDocument(Registry& registry, const TempFolder& tempFolder, CodePage codePage,
+LogbookDocument::LogbookDocument(Surroundings surroundings, CodePage codePage,
                                  std::filesystem::path journalFolder)
-    : registry_(registry),
-      tempFolder_(tempFolder),
+    : filters_(surroundings.Filters),
+      registry_(surroundings.Settings),
+      tempFolder_(surroundings.Temp),
       codePage_(std::move(codePage)),
       journal_(std::move(journalFolder)) {
     state_.InitZipArchiveDir =
@@ -51,12 +52,12 @@ void LogbookDocument::RunCommandLine(const std::vector<std::string>& arguments) 
         view_->User().ShowMessage(UsageText(DialogLanguage()), UserInterface::MessageIcon::None);
 }
 
-bool LogbookDocument::OpenLogbook(std::string name) {
+bool LogbookDocument::OpenLogbook(std::string name, const FilesInstead& instead) {
     if (logbook_.Busy)
         return false;
     const OpeningSteps steps{
         .ZipLogbook = [this] { return ZipLogbook(); },
-        .ExecuteLogbook = [this](std::string& source) { return ExecuteLogbook(source); }};
+        .ExecuteLogbook = [&](std::string& source) { return ExecuteLogbook(source, instead); }};
     if (!::OpenLogbook(name, state_, registry_, view_->User(), ProgramFolderWithSeparator(), steps))
         return false;
     view_->LogbookIsOpen(name);
@@ -65,7 +66,7 @@ bool LogbookDocument::OpenLogbook(std::string name) {
 }
 
 void LogbookDocument::OfferLostComments() {
-    if (logbook_.LoadState != LoadStates::Done || view_->Progress().StopWanted())
+    if (logbook_.LoadState != LoadStates::Done || journal_.Folder().empty() || view_->Progress().StopWanted())
         return;
     if (::OfferLostComments(logbook_.Entries, state_, journal_, view_->User()))
         view_->CommentsAreChanged();
@@ -96,14 +97,19 @@ void LogbookDocument::Refresh() {
 }
 
 bool LogbookDocument::ZipLogbook() {
-    const FilterLists lists = LoadFilters(registry_, DialogLanguage());
+    ArchiveQuestions questions(view_->User(), DialogLanguage());
+    return ZipLogbook(questions);
+}
+
+bool LogbookDocument::ZipLogbook(ArchiveDecisions& decisions) {
+    const std::vector<FilterDefinition> filters = filters_.Load();
     const ZipLogbookParts parts{.Entries = logbook_.Entries,
-                                .Filters = lists.Filters,
+                                .Filters = filters,
                                 .FileCodePage = codePage_,
                                 .Temp = tempFolder_,
                                 .Settings = registry_,
                                 .ProgramFolder = ProgramFolderWithSeparator()};
-    const ZipOutcome outcome = ::ZipLogbook(state_, parts, view_->User(), DialogLanguage(),
+    const ZipOutcome outcome = ::ZipLogbook(state_, parts, decisions, view_->User(), DialogLanguage(),
                                             [this](double percent) { view_->PackingProgress(percent); });
     if (outcome == ZipOutcome::Cancelled || outcome == ZipOutcome::Failed)
         return false;
@@ -124,7 +130,7 @@ void LogbookDocument::ChangeComment(EntryNumber entry, std::string_view comment)
 }
 
 // Opens one source; the name becomes that of the logbook.
-bool LogbookDocument::ExecuteLogbook(std::string& name) {
+bool LogbookDocument::ExecuteLogbook(std::string& name, const FilesInstead& instead) {
     std::error_code noFile;
     const std::optional<FileStamp> stamp = StampOf(name, noFile);
     const std::optional<LogbookSource> source =
@@ -133,30 +139,31 @@ bool LogbookDocument::ExecuteLogbook(std::string& name) {
         return false;
     state_.CurrentArchive = IsArchive(name) ? name : "";
     state_.CurrentArchiveStamp = stamp;
-    if (!source->FilterFile.empty())
+    if (!instead.Filters.empty())
+        ReplaceFilters(instead.Filters, instead.Filters);
+    else if (!source->FilterFile.empty())
         ReplaceFilters(source->FilterFile, source->FilterName);
     name = source->Name;
     state_.CurrentLogbookName = source->LogbookName;
-    const bool read = ReadAndShowLogbook(source->LogbookFile, source->CommentsFile, source->CommentsName);
+    const bool read =
+        instead.Comments.empty()
+            ? ReadAndShowLogbook(source->LogbookFile, source->CommentsFile, source->CommentsName)
+            : ReadAndShowLogbook(source->LogbookFile, instead.Comments, instead.Comments);
     state_.CurrentLogbookFile = read ? source->LogbookFile : "";
     return read;
 }
 
-// The filters of an archive become the active ones. A damaged filter file, or one with a filter that would
-// take the whole list with it, is reported, and the active ones stay.
+// The filters of a file become the active ones. A damaged file, or one with a filter that could not be kept,
+// is reported, and the active ones stay.
 void LogbookDocument::ReplaceFilters(const std::string& filterFile, const std::string& name) {
-    const auto report = [&](const std::string& message) {
-        view_->User().ShowMessage(message, UserInterface::MessageIcon::Exclamation);
-    };
     FilterFileContent content = ImportFilterFile(filterFile, codePage_);
+    std::string message;
     if (content.Result != FilterFileContent::Outcome::Read)
-        return report(FilterFileMessage(name, content, DialogLanguage()));
-    for (const FilterDefinition& filter : content.Filters)
-        if (ObstacleOf(filter) != StorageObstacle::None)
-            return report(name + ": " + std::string(Text(TextId::FilterTooLong, DialogLanguage())));
-    FilterLists lists = LoadFilters(registry_, DialogLanguage());
-    lists.Filters = std::move(content.Filters);
-    SaveFilters(registry_, lists, "");
+        message = FilterFileMessage(name, content, DialogLanguage());
+    else if (!filters_.Replace(std::move(content.Filters), DialogLanguage()))
+        message = name + ": " + std::string(Text(TextId::FilterTooLong, DialogLanguage()));
+    if (!message.empty())
+        view_->User().ShowMessage(message, UserInterface::MessageIcon::Exclamation);
 }
 
 bool LogbookDocument::ReadAndShowLogbook(const std::string& file, const std::string& commentsFile,
@@ -172,7 +179,7 @@ bool LogbookDocument::ReadAndShowLogbook(const std::string& file, const std::str
     state_.CurrentFileStamp = StampOf(file, noFile);
     view_->ChangeRows([this] { rows_.clear(); });
     view_->ReadingBegins();
-    std::string aboutComments;
+    CommentsFileResult comments;
     bool filled = true;
     view_->User().ShowStatus(TextId::StatusReading);
     std::string title;
@@ -181,34 +188,32 @@ bool LogbookDocument::ReadAndShowLogbook(const std::string& file, const std::str
     if (read)
         view_->LogbookIsRead(title);
     if (read && !commentsFile.empty())
-        aboutComments = ReadComments(commentsFile, commentsName);
+        comments = ReadComments(commentsFile);
+    const bool hasComments = comments.Result == CommentsFileResult::Outcome::Read;
     if (read)
         filled = MakeRows();
     view_->ReadingEnds();
     view_->ShowCounts();
-    if (!aboutComments.empty() || logbook_.LoadState != LoadStates::Done)
+    if (!hasComments || logbook_.LoadState != LoadStates::Done)
         view_->MessageFollows();
     logbook_.Busy = false;
     // Whoever ends it wants to be told nothing more.
     if (view_->Progress().StopWanted())
         return false;
-    if (!aboutComments.empty())
-        view_->User().ShowMessage(aboutComments, UserInterface::MessageIcon::None);
+    if (!hasComments)
+        view_->CommentsFailed(commentsName, comments);
     if (!filled)
         view_->FilteringFailed();
     if (logbook_.LoadState != LoadStates::Done)
-        ShowLoadState();
-    return logbook_.LoadState == LoadStates::Done;
+        view_->ReadingFailed(logbook_.LoadState);
+    return logbook_.LoadState == LoadStates::Done || (read && view_->OpensWithoutRows());
 }
 
-// The message for a comments file that could not be read; "" when it was.
-std::string LogbookDocument::ReadComments(const std::string& commentsFile, const std::string& name) {
+CommentsFileResult LogbookDocument::ReadComments(const std::string& commentsFile) {
     view_->User().ShowStatus(TextId::StatusCommenting);
     const CommentsFileResult result = CommentLogbook(commentsFile, logbook_.Entries, codePage_);
     view_->User().RestoreStatus();
-    return result.Result == CommentsFileResult::Outcome::Read
-               ? ""
-               : CommentsFileMessage(name, result, DialogLanguage());
+    return result;
 }
 
 void LogbookDocument::ApplyFilter() {
@@ -222,14 +227,13 @@ void LogbookDocument::ApplyFilter() {
     view_->ShowCounts();
 }
 
-// Makes the rows anew from the stored filters. False when that failed; the rows made until then are shown.
+// Makes the rows anew from the active filters. False when that failed; the rows made until then are shown.
 bool LogbookDocument::MakeRows() {
     view_->User().ShowStatus(TextId::StatusFiltering);
     const std::optional<EntryNumber> selected = view_->SelectedEntry();
     logbook_.LoadState = LoadStates::Filtering;
     LogbookRows rows;
-    const FilterLists lists = LoadFilters(registry_, DialogLanguage());
-    const bool filled = ApplyFilters(logbook_.Entries, lists.Filters, rows,
+    const bool filled = ApplyFilters(logbook_.Entries, filters_.Load(), rows,
                                      [this](double percent) { view_->FilterProgress(percent); });
     view_->ChangeRows([&] { rows_ = std::move(rows); });
     if (filled) {
@@ -240,21 +244,4 @@ bool LogbookDocument::MakeRows() {
     }
     view_->User().RestoreStatus();
     return filled;
-}
-
-void LogbookDocument::ShowLoadState() {
-    struct Row {
-        std::int16_t Code;
-        TextId Message;
-        UserInterface::MessageIcon Icon;
-    };
-    static constexpr Row Messages[] = {
-        {LoadStates::Corrupt, TextId::LogbookCorrupt, UserInterface::MessageIcon::Exclamation},
-        {LoadStates::Opening, TextId::OpenFailed, UserInterface::MessageIcon::None},
-        {LoadStates::Reading, TextId::ReadFailed, UserInterface::MessageIcon::None},
-        {LoadStates::Filtering, TextId::FilterError, UserInterface::MessageIcon::None},
-    };
-    for (const Row& row : Messages)
-        if (row.Code == logbook_.LoadState)
-            view_->User().ShowMessage(Text(row.Message, DialogLanguage()), row.Icon);
 }

@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "document/ZipLogbook.h"
 
-#include "base/AsciiCase.h"
 #include "base/Paths.h"
 #include "sources/ArchivedComments.h"
 
 #include <map>
 
 namespace {
-
-constexpr std::string_view ArchiveExtension = ".qorvix";
 
 // As it is seen from any folder.
 std::string Absolute(const std::string& path) {
@@ -18,47 +15,32 @@ std::string Absolute(const std::string& path) {
     return error ? path : absolute.string();
 }
 
-// The archive that the user names. The name that is proposed is that of the logbook.
-std::optional<std::string> AskForArchive(const LogbookState& state, const ZipLogbookParts& parts,
-                                         UserInterface& user, Language language) {
-    std::string logbookFolder;
-    std::string fileName;
-    SplitPath(Absolute(state.CurrentLogbookFile), logbookFolder, fileName);
-    const bool isFirst = state.InitZipArchiveDir == parts.ProgramFolder;
-    const bool stays = !LiesIn(ToPath(logbookFolder), parts.Temp.Path());
-    std::optional<std::string> path =
-        user.AskFileToSave({.Title = TextId::SaveArchiveTitle,
-                            .Filters = TextId::SaveArchiveFilter,
-                            .DefaultExtension = std::string(ArchiveExtension.substr(1)),
-                            .Folder = isFirst && stays ? logbookFolder : state.InitZipArchiveDir,
-                            .Name = ChangeExtension(fileName, ArchiveExtension)});
-    if (!path || path->empty())
-        return std::nullopt;
-    // An archive is known by its extension; a dialog leaves a name with any "." in it as it was typed.
-    if (LowerCase(*path).ends_with(ArchiveExtension))
-        return path;
-    path->append(ArchiveExtension);
-    if (FileExists(*path) && !user.Confirm(*path + std::string(Text(TextId::AskReplaceFile, language))))
-        return std::nullopt;
-    return path;
-}
-
-// True when nothing is lost, or the user wants the archive all the same.
-bool AgreesToLosses(const ArchiveContent& content, UserInterface& user, Language language) {
-    const std::string losses = TextsThatLose(content, language);
-    return losses.empty() ||
-           user.Confirm(losses + "\r\n\r\n" + std::string(Text(TextId::AskArchiveAll, language)));
-}
-
-// True when the logbook file is as it was read, or the user wants it as it is now, which the content then
+// Whether the logbook file goes in: it is as it was read, or wanted as it is now, which the content then
 // says. That it is gone is found out by saving.
-bool AgreesToLogbook(ArchiveContent& content, UserInterface& user, Language language) {
+bool AgreesToLogbook(ArchiveContent& content, ArchiveDecisions& decisions) {
     std::error_code ignored;
     const std::optional<FileStamp> now = StampOf(content.LogbookFile, ignored);
     if (!now || !content.LogbookStamp || *now == *content.LogbookStamp)
         return true;
     content.LogbookStamp = now;
-    return user.Confirm(Text(TextId::AskArchiveChangedLogbook, language));
+    return decisions.AgreesToChangedLogbook();
+}
+
+bool AgreesToLosses(const ArchiveContent& content, ArchiveDecisions& decisions, Language language) {
+    const std::string losses = TextsThatLose(content, language);
+    return losses.empty() || decisions.AgreesToLosses(losses);
+}
+
+// The archive that is wanted. The name that is proposed is that of the logbook.
+std::optional<std::string> WantedArchive(const LogbookState& state, const ZipLogbookParts& parts,
+                                         ArchiveDecisions& decisions) {
+    std::string logbookFolder;
+    std::string fileName;
+    SplitPath(Absolute(state.CurrentLogbookFile), logbookFolder, fileName);
+    const bool isFirst = state.InitZipArchiveDir == parts.ProgramFolder;
+    const bool stays = !LiesIn(ToPath(logbookFolder), parts.Temp.Path());
+    return decisions.Archive(isFirst && stays ? logbookFolder : state.InitZipArchiveDir,
+                             ChangeExtension(fileName, ArchiveExtension));
 }
 
 // True when the archive that is replaced is the one that this user knows, and somebody else has changed it
@@ -68,31 +50,6 @@ bool IsChangedByOthers(const LogbookState& state, const std::string& path,
     std::error_code ignored;
     return state.CurrentArchiveStamp && now && *now != *state.CurrentArchiveStamp &&
            std::filesystem::equivalent(ToPath(path), ToPath(state.CurrentArchive), ignored);
-}
-
-enum class Agreement : std::uint8_t { Replace, Keep, Cancel };
-
-// What is to become of the comments that would be lost.
-Agreement AgreementOn(const ArchivedComments& lost, bool changedByOthers, UserInterface& user,
-                      Language language) {
-    using Kind = ArchivedComments::Kind;
-    static constexpr UserInterface::AnswerButton Keep{TextId::ButtonKeepComments};
-    static constexpr UserInterface::AnswerButton Replace{TextId::ButtonReplaceArchive, true};
-    const auto text = [&](TextId id) { return std::string(Text(id, language)); };
-    if (lost.What == Kind::None)
-        return !changedByOthers || user.Confirm(text(TextId::AskReplaceChangedArchive)) ? Agreement::Replace
-                                                                                        : Agreement::Cancel;
-    std::string question = changedByOthers ? text(TextId::ArchiveWasChanged) + "\r\n\r\n" : "";
-    question += TellArchivedComments(lost, language) + "\r\n\r\n";
-    if (lost.What == Kind::OfThisLogbook) {
-        const UserInterface::AnswerButton answers[] = {Keep, Replace};
-        const std::optional<std::size_t> answer =
-            user.Choose(question + text(TextId::AskKeepComments), answers);
-        return !answer ? Agreement::Cancel : *answer == 0 ? Agreement::Keep : Agreement::Replace;
-    }
-    question +=
-        text(lost.What == Kind::Unreadable ? TextId::AskReplaceUnreadable : TextId::AskReplaceComments);
-    return user.Choose(question, std::span(&Replace, 1)) ? Agreement::Replace : Agreement::Cancel;
 }
 
 // Comments that the entries have until its end, and for good once they are saved.
@@ -140,11 +97,12 @@ ArchivedComments LookInto(const std::string& path, const LogbookState& state, co
 
 } // namespace
 
-ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, UserInterface& user,
-                      Language language, const PackingProgress& progress) {
+ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, ArchiveDecisions& decisions,
+                      UserInterface& user, Language language, const PackingProgress& progress) {
+    using OldComments = ArchiveDecisions::OldComments;
     if (state.CurrentLogbookFile.empty())
         return ZipOutcome::Cancelled;
-    const std::optional<std::string> path = AskForArchive(state, parts, user, language);
+    const std::optional<std::string> path = WantedArchive(state, parts, decisions);
     if (!path)
         return ZipOutcome::Cancelled;
     std::error_code ignored;
@@ -158,13 +116,14 @@ ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, UserInt
                            .Replaced = SeenFile{replaced}};
     const ArchivedComments lost =
         replaced ? LookInto(*path, state, parts, user, language) : ArchivedComments{};
-    const Agreement agreement = AgreementOn(lost, IsChangedByOthers(state, *path, replaced), user, language);
-    if (agreement == Agreement::Cancel || !AgreesToLosses(content, user, language) ||
-        !AgreesToLogbook(content, user, language))
+    const OldComments oldComments = decisions.DecideOn(lost, IsChangedByOthers(state, *path, replaced));
+    if (oldComments == OldComments::Cancel || !AgreesToLosses(content, decisions, language) ||
+        !AgreesToLogbook(content, decisions))
         return ZipOutcome::Cancelled;
 
-    AddedComments kept(parts.Entries,
-                       agreement == Agreement::Keep ? lost.Comments : std::map<EntryNumber, std::string>{});
+    AddedComments kept(parts.Entries, oldComments == OldComments::Keep
+                                          ? lost.Comments
+                                          : std::map<EntryNumber, std::string>{});
     user.ShowStatus(TextId::StatusZipping);
     const std::string reason = SaveLogbookArchive(*path, content, parts.Temp, language, progress);
     user.RestoreStatus();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "document/ArchiveDecisions.h"
 #include "document/LogbookState.h"
 #include "settings/Registry.h"
 #include "settings/UserInterface.h"
@@ -27,18 +28,16 @@ struct ZipLogbookParts {
     std::string ProgramFolder; // with its trailing separator
 };
 
-// Saves the logbook that is shown, with its comments and the active filters, as an archive that the user
-// names, at first in the folder of the last one. Before there is one, which the program's folder stands for,
-// that is the logbook's own folder, unless it is the temporary one. Before texts lose characters, before a
-// logbook file that has been changed since it was read goes in, and before the archive that it came from is
-// replaced though somebody else has changed it, the user is asked. A failure is told with its reason; an
-// archive of that name is then as it was.
+// Saves the logbook that is shown, with its comments and the active filters, as the archive that is decided
+// on; the folder of the last one is proposed. Before there is one, which the program's folder stands for,
+// that is the logbook's own folder, unless it is the temporary one. ArchiveDecisions names what else is
+// decided before anything is written. A failure is reported with its reason; an archive of that name is then
+// as it was.
 //
-// Comments that would be lost with an archive of that name, other than by a change of this user, can be kept
-// too, where that archive holds the same logbook, or the beginning of it; the user is asked. Without Saved
-// the entries have the comments that they had.
+// Comments of an archive of that name that are kept become those of the entries, too. Without Saved the
+// entries have the comments that they had.
 //
 // Saved: no comments are edited any more, and the archive's folder is stored. Without a logbook nothing
 // happens: Cancelled.
-ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, UserInterface& user,
-                      Language language, const PackingProgress& progress = {});
+ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, ArchiveDecisions& decisions,
+                      UserInterface& user, Language language, const PackingProgress& progress = {});

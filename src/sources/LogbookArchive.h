@@ -12,9 +12,12 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 // The program's own archive (*.qorvix): a zip archive of three members at its top level that have the
 // archive's own base name, as "a.log", "a.fil" and "a.cmt" in "a.qorvix".
+
+inline constexpr std::string_view ArchiveExtension = ".qorvix";
 
 // A file name that was looked at.
 struct SeenFile {

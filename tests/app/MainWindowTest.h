@@ -40,7 +40,10 @@ class MainWindowTest : public QObject {
     // One that is not shown yet.
     void MakeWindow() {
         Window.reset();
-        Document = std::make_unique<LogbookDocument>(*Settings, Temp, CodePage(), Folder.Path() / "state");
+        Filters = std::make_unique<StoredActiveFilters>(*Settings);
+        Document = std::make_unique<LogbookDocument>(
+            LogbookDocument::Surroundings{.Filters = *Filters, .Settings = *Settings, .Temp = Temp},
+            CodePage(), Folder.Path() / "state");
         Book = &Document->Book();
         Window = std::make_unique<frmMain>(*Document, *Settings);
     }
@@ -185,6 +188,7 @@ class MainWindowTest : public QObject {
     std::unique_ptr<QObject> Person; // who answers
     TemporaryFolder Folder;
     TempFolder Temp{Folder.Path()};
+    std::unique_ptr<StoredActiveFilters> Filters;
     std::unique_ptr<LogbookDocument> Document;
     Logbook* Book = nullptr;
     std::unique_ptr<MemorySettings> Store;

@@ -222,11 +222,12 @@ TEST(TempFolder, FolderWithWhatIsKeptStays) {
     fs::create_directory(parent.Path() / "elsewhere");
     fs::create_symlink("../Qorvix/a.log", parent.Path() / "elsewhere/link.log");
     for (const char* kept : {"Qorvix/a.log", "Qorvix", "Qorvix/to be made/b.log", "elsewhere/link.log"}) {
-        const TempFolder folder(parent.Path(), {fs::path(), parent / kept});
+        const TempFolder folder(parent.Path(), {"", parent / kept});
         EXPECT_THAT(folder.Path().filename().string(), StartsWith("Qorvix-temp-")) << kept;
         EXPECT_TRUE(fs::exists(parent.Path() / "Qorvix/a.log")) << kept;
     }
-    const TempFolder folder(parent.Path(), {parent / "Qorvix-other/a.log", parent.Path(), "Qorvix/a.log"});
+    const TempFolder folder(parent.Path(),
+                            {parent / "Qorvix-other/a.log", parent.Path().string(), "Qorvix/a.log"});
     EXPECT_EQ(folder.Path(), parent.Path() / "Qorvix");
 }
 

@@ -57,6 +57,11 @@ TEST_F(PackCommand, EverySourceGivesItsLogbook) {
         EXPECT_EQ(Pack(source), expected) << source;
 }
 
+TEST_F(PackCommand, LogbookWithoutEventsIsPacked) {
+    const Members expected{{"out.log", "nothing"}, {"out.fil", AllFilters}, {"out.cmt", "[Comments]\r\n"}};
+    EXPECT_EQ(Pack(Folder.Write("a.log", "nothing")), expected);
+}
+
 TEST_F(PackCommand, FiltersAndCommentsOfAnOwnArchiveAreTakenOver) {
     const std::string filters = "[Filters]\r\nI|7||||1\r\n";
     const std::string comments = "[Comments]\r\n 1 \"oil, K\xFChlung\"\r\n";

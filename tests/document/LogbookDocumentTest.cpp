@@ -2,12 +2,14 @@
 // A logbook as a person works with it, without a window.
 #include "document/LogbookDocument.h"
 
+#include "base/Paths.h"
 #include "filter/FilterStorage.h"
 #include "support/MemorySettings.h"
 #include "support/ReadText.h"
 #include "support/ScriptedUser.h"
 #include "support/TemporaryFolder.h"
 #include "support/ZipReader.h"
+#include "support/ZipWriter.h"
 
 #include <gmock/gmock.h>
 
@@ -31,7 +33,11 @@ class RecordingView : public DocumentView {
     void MessageFollows() override { Tell("message"); }
     void FilteringBegins() override { Tell("filtering"); }
     void FilteringEnds() override { Tell("filtered"); }
+    void CommentsFailed(const std::string& name, const CommentsFileResult&) override {
+        Tell("no comments of " + name);
+    }
     void FilteringFailed() override { Tell("failed"); }
+    void ReadingFailed(std::int16_t loadState) override { Tell("state " + std::to_string(loadState)); }
     void ShowCounts() override { Tell("counts"); }
     void ChangeRows(const std::function<void()>& change) override {
         change();
@@ -61,8 +67,11 @@ class LogbookDocumentTest : public testing::Test {
         Document->ShowIn(View);
     }
 
-    std::unique_ptr<LogbookDocument> MakeDocument() {
-        return std::make_unique<LogbookDocument>(Settings, Temp, CodePage(), Folder.Path() / "state");
+    std::unique_ptr<LogbookDocument> MakeDocument() { return MakeDocument(Folder.Path() / "state"); }
+    std::unique_ptr<LogbookDocument> MakeDocument(const std::filesystem::path& journalFolder) {
+        return std::make_unique<LogbookDocument>(
+            LogbookDocument::Surroundings{.Filters = Filters, .Settings = Settings, .Temp = Temp}, CodePage(),
+            journalFolder);
     }
 
     // A crash: the comments stay as they are noted.
@@ -94,6 +103,7 @@ class LogbookDocumentTest : public testing::Test {
     TempFolder Temp{Folder.Path()};
     MemorySettings Store;
     Registry Settings{Store};
+    StoredActiveFilters Filters{Settings};
     RecordingView View;
     std::unique_ptr<LogbookDocument> Document;
 };
@@ -127,6 +137,81 @@ TEST_F(LogbookDocumentTest, MissingFileGivesNoRowsWithoutAMessage) {
     EXPECT_THAT(Document->Rows(), IsEmpty());
     EXPECT_THAT(View.Person.Messages, IsEmpty());
     EXPECT_THAT(View.Steps, ElementsAre("rows", "reading", "ended", "counts", "open none"));
+}
+
+TEST_F(LogbookDocumentTest, FailuresAreReportedInTheirOrder) {
+    EXPECT_FALSE(Document->OpenLogbook(Folder.Write("a.log", "nothing")));
+    EXPECT_THAT(View.TakeSteps(), ElementsAre("rows", "reading", "read a.log", "rows", "ended", "counts",
+                                              "message", "failed", "state 3"));
+    const std::string damaged = Folder.Write("b.log", Lines({"RESET:", std::string(100, ' ')}));
+    EXPECT_FALSE(Document->OpenLogbook(damaged));
+    EXPECT_THAT(View.TakeSteps(), ElementsAre("rows", "reading", "ended", "counts", "message", "state 2"));
+    EXPECT_THAT(View.Person.Messages, IsEmpty());
+}
+
+TEST_F(LogbookDocumentTest, FilesTakeThePlaceOfThoseOfTheSource) {
+    const std::string archive = Folder / "own.qorvix";
+    WriteZip(archive, {{"x.log", Lines({Header("BERR:    a"), Header("BERR:    b")})},
+                       {"x.fil", "[Filters]\r\nI|7||||1\r\n"},
+                       {"x.cmt", "[Comments]\r\n 0 archived\r\n"}});
+    const std::string comments = Folder.Write("own.cmt", "[Comments]\r\n 1 given\r\n");
+    const std::string filters = Folder.Write("own.fil", "[Filters]\r\nI|0||||1\r\nX|0|||0|1\r\n");
+    View.Person.Answers = {Answer::Yes};
+    EXPECT_TRUE(Document->OpenLogbook(archive, {.Comments = comments, .Filters = filters}));
+    EXPECT_EQ(Document->Entries().Comments().size(), 1U);
+    EXPECT_EQ(Document->Entries().Comment(1), "given");
+    EXPECT_EQ(LoadFilterList(Settings).Filters.size(), 2U);
+
+    View.TakeSteps();
+    View.Person.Answers = {Answer::No};
+    EXPECT_TRUE(Document->OpenLogbook(archive, {.Comments = filters}));
+    EXPECT_THAT(View.Steps, testing::Contains("no comments of " + filters));
+    EXPECT_THAT(Document->Entries().Comments(), IsEmpty());
+    View.Person.Answers = {Answer::No};
+    EXPECT_TRUE(Document->OpenLogbook(archive));
+    EXPECT_EQ(Document->Entries().Comment(0), "archived");
+}
+
+TEST_F(LogbookDocumentTest, FiltersOfARunLeaveTheSettingsAsTheyAre) {
+    StoreFilter("E0");
+    ActiveFiltersOfRun filters(DefaultFilters());
+    Document = std::make_unique<LogbookDocument>(
+        LogbookDocument::Surroundings{.Filters = filters, .Settings = Settings, .Temp = Temp}, CodePage(),
+        Folder.Path() / "state");
+    Document->ShowIn(View);
+    const std::string log = LogOf(3);
+    EXPECT_TRUE(Document->OpenLogbook(log));
+    EXPECT_EQ(Document->Rows().size(), 3U);
+    // Longer than the settings can keep.
+    const std::string longText(2000, 'E');
+    const std::string own = Folder.Write("own.fil", "[Filters]\r\nI|0||||1\r\nX|0||" + longText + "||1\r\n");
+    EXPECT_TRUE(Document->OpenLogbook(log, {.Filters = own}));
+    EXPECT_THAT(View.Person.Messages, IsEmpty());
+    EXPECT_EQ(filters.Load().size(), 2U);
+    EXPECT_EQ(LoadFilterList(Settings).Filters[1].StringFilter, "E0");
+
+    StoredActiveFilters stored(Settings);
+    EXPECT_FALSE(stored.Replace(filters.Load(), {}));
+    EXPECT_EQ(stored.Load()[1].StringFilter, "E0");
+}
+
+TEST_F(LogbookDocumentTest, WithoutAJournalNothingIsNotedOrOffered) {
+    const std::string log = LogOf(3);
+    Document->OpenLogbook(log);
+    Document->ChangeComment(1, "pump");
+    StartAnew();
+    Document = MakeDocument({});
+    Document->ShowIn(View);
+    Document->OpenLogbook(log);
+    EXPECT_THAT(View.Person.Questions, IsEmpty());
+    const auto before = ItemsIn(std::filesystem::current_path());
+    Document->ChangeComment(2, "valve");
+    EXPECT_EQ(ItemsIn(std::filesystem::current_path()), before);
+    EXPECT_FALSE(View.Safe);
+    View.Person.Answers = {Answer::Yes};
+    StartAnew();
+    Document->OpenLogbook(log);
+    EXPECT_EQ(Document->Entries().Comment(1), "pump");
 }
 
 TEST_F(LogbookDocumentTest, StoppedReadSaysNothingMore) {
@@ -174,7 +259,7 @@ TEST_F(LogbookDocumentTest, CommentsOfACrashAreOffered) {
 }
 
 TEST_F(LogbookDocumentTest, CommentThatIsNotSafeIsReported) {
-    Document = std::make_unique<LogbookDocument>(Settings, Temp, CodePage(), "/dev/null/state");
+    Document = MakeDocument("/dev/null/state");
     Document->ShowIn(View);
     Document->OpenLogbook(LogOf(3));
     Document->ChangeComment(1, "pump");

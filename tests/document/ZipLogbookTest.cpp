@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "document/ZipLogbook.h"
 
+#include "document/ArchiveQuestions.h"
 #include "support/EntriesFrom.h"
 #include "support/MemorySettings.h"
 #include "support/ScriptedUser.h"
@@ -29,6 +30,7 @@ class ZipLogbookTest : public testing::Test {
     }
 
     ZipOutcome Zip(Language language = {}, const PackingProgress& progress = {}) {
+        ArchiveQuestions questions(User, language);
         const ZipOutcome outcome = ZipLogbook(State,
                                               {.Entries = Entries,
                                                .Filters = Filters,
@@ -36,7 +38,7 @@ class ZipLogbookTest : public testing::Test {
                                                .Temp = Temp,
                                                .Settings = Settings,
                                                .ProgramFolder = "/program/"},
-                                              User, language, progress);
+                                              questions, User, language, progress);
         EXPECT_EQ(User.StatusDepth, 0);
         return outcome;
     }

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "cli/TerminalDocument.h"
+
+#include "settings/Texts.h"
+
+#include <utility>
+
+TerminalDocument::TerminalDocument(Options options)
+    : language_(options.MessageLanguage),
+      tempFolder_(TempFolder::SystemFolder(), options.Files),
+      filters_(std::move(options.Filters)),
+      user_(options.ArchiveFilters),
+      document_({.Filters = filters_, .Settings = registry_, .Temp = tempFolder_}, CodePage::OfUser(), {}) {
+    document_.ShowIn(*this);
+}
+
+bool TerminalDocument::Open(const std::string& file, const FilesInstead& instead) {
+    document_.OpenLogbook(file, instead);
+    if (user_.MessageShown())
+        return false;
+    if (isRead_)
+        return !StopRequest::IsMade();
+    const bool reading = document_.Book().LoadState == LoadStates::Reading;
+    Fail(std::string(Text(reading ? TextId::ReadFailed : TextId::OpenFailed, language_)) + ": " + file);
+    return false;
+}
+
+void TerminalDocument::CommentsFailed(const std::string& name, const CommentsFileResult& result) {
+    std::string message = CommentsFileMessage(name, result, language_);
+    if (result.Result == CommentsFileResult::Outcome::NoHeader)
+        message.insert(0, name + ": ");
+    Fail(message);
+    hasComments_ = false;
+}

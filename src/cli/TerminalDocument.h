@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/TempFolder.h"
+#include "cli/TerminalUser.h"
+#include "document/LogbookDocument.h"
+#include "settings/TransientSettings.h"
+
+#include <string>
+#include <vector>
+
+// A document that a command works with. Options have answered what a person would be asked, and what goes
+// wrong is reported on standard error. The person's settings and comments that a crash left stay as they are.
+class TerminalDocument : private DocumentView {
+  public:
+    struct Options {
+        std::vector<std::string> Files; // that the command is about: clearing up never removes them
+        std::vector<FilterDefinition> Filters = DefaultFilters(); // active until others take their place
+        UserInterface::Answer ArchiveFilters;                     // whether those of an archive do
+        Language MessageLanguage = {};
+    };
+    explicit TerminalDocument(Options options);
+
+    // Opens a source. False when that failed, which has then been reported; so has what else is missing.
+    bool Open(const std::string& file, const FilesInstead& instead = {});
+
+    // Of the logbook that is open: whether its comments could be read, and whether there are rows.
+    bool HasComments() const { return hasComments_; }
+    bool HasRows() const { return hasRows_; }
+
+    bool ZipLogbook(ArchiveDecisions& decisions) { return document_.ZipLogbook(decisions); }
+    const EntryTable& Entries() const { return document_.Entries(); }
+    const LogbookRows& Rows() const { return document_.Rows(); }
+
+  private:
+    UserInterface& User() override { return user_; }
+    ReadingProgress& Progress() override { return progress_; }
+    Language DialogLanguage() const override { return language_; }
+    void LogbookIsRead(std::string_view) override { isRead_ = true; }
+    void CommentsFailed(const std::string& name, const CommentsFileResult& result) override;
+    void FilteringFailed() override { hasRows_ = false; }
+    bool OpensWithoutRows() const override { return true; }
+
+    Language language_;
+    TempFolder tempFolder_;
+    TransientSettings settings_;
+    Registry registry_{settings_};
+    ActiveFiltersOfRun filters_;
+    TerminalUser user_;
+    TerminalProgress progress_{user_};
+    LogbookDocument document_;
+    bool isRead_ = false;
+    bool hasComments_ = true;
+    bool hasRows_ = true;
+};
