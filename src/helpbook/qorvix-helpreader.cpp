@@ -1,6 +1,7 @@
-// SPDX-License-Identifier: MIT The program that reads a help file for others: `qorvix-helpreader FILE` writes
-// its members to standard output (HelpMemberStream.h). It may fail in any way; ReadChmFile, which starts it,
-// then treats the file as damaged.
+// SPDX-License-Identifier: MIT
+// The program that reads a help file for others: `qorvix-helpreader FILE` writes its members to standard
+// output (HelpMemberStream.h). It may fail in any way; ReadChmFile, which starts it, then treats the file as
+// damaged.
 #include "helpbook/HelpMemberStream.h"
 
 #include <chm_lib.h>
