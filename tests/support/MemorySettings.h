@@ -6,7 +6,7 @@
 #include <map>
 #include <utility>
 
-// Settings that live in the test only. Counts its writes.
+// Settings in memory, for a test. Counts its writes.
 class MemorySettings : public SettingsStore {
   public:
     std::optional<SettingValue> Read(std::string_view keyPath, std::string_view name) const override {
