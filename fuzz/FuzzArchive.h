@@ -12,8 +12,8 @@
 using CheckUnpacked = std::function<void(const std::string& content)>;
 
 // Opens the archive "a.zip" of a folder with this answer to the question about the filters. Checks that files
-// appear only in the temporary folder, and that none remains without it. Calls `check` for each unpacked
-// file.
+// appear only in the temporary folder, and that none remains when the folder is gone. Calls `check` for each
+// unpacked file.
 void OpenArchive(const ScratchFolder& folder, UserInterface::Answer answer, const CheckUnpacked& check);
 
 inline UserInterface::Answer AnswerOf(std::size_t number) {

@@ -29,8 +29,8 @@ class LogbookView : public ListOfRows<QTableView> {
     // row.
     std::optional<int> SelectedRow() const;
 
-    // Selects exactly these rows and makes `current` the current row, at which a selection with Shift begins.
-    // Does not scroll.
+    // Selects exactly these rows. Makes `current`, if given, the current row, at which a selection with Shift
+    // begins. Does not scroll.
     void SelectRanges(const RowRanges& ranges, std::optional<int> current);
 
     // Sorts by a column; the selection stays on its entries.

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::size_t KeyBytes = 7;     // of the text in a key; the eighth tells how many more there are
+constexpr std::size_t KeyBytes = 7;     // of the text in a key; the eighth counts the bytes at that place
 constexpr std::size_t FewTexts = 8;     // quicker compared than given keys
 constexpr std::size_t FewKeys = 256;    // quicker merged than spread over the buckets of a radix sort
 constexpr std::size_t DeepPlace = 4096; // from here on texts are compared: each key would cost as much
