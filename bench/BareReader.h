@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-// How both yardsticks cut a header line: at fixed columns, whatever the line says.
+// Both yardsticks cut a header line at fixed columns, whatever the line says.
 
-// An entry takes about this much of a file; the bare reader reserves its list from it.
+// An entry takes about this many bytes of a file; the bare reader reserves its list by it.
 inline constexpr std::size_t BytesPerEntry = 80;
 
 struct HeaderFields {
@@ -50,7 +50,7 @@ inline HeaderFields CutHeader(std::string_view header) {
     return fields;
 }
 
-// The five fields of an entry, as they stand in the file.
+// The five fields of an entry, as in the file.
 struct BareEntry {
     std::string_view event;
     std::string_view data;
@@ -59,8 +59,8 @@ struct BareEntry {
     std::string_view time;
 };
 
-// The least work that still yields a list: the file is mapped, lines are found and cut at fixed columns,
-// nothing is decoded, joined or copied. A reader that does its whole work can be measured against it.
+// The least work that still gives a list: maps the file, finds lines and cuts them at fixed columns, but
+// decodes, joins and copies nothing. A full reader can be measured against it.
 class BareReader {
   public:
     BareReader() = default;
@@ -68,8 +68,8 @@ class BareReader {
     BareReader(const BareReader&) = delete;
     BareReader& operator=(const BareReader&) = delete;
 
-    // Whether the list gets its room at once, by a guess from the file's size, or grows by doubling, as it
-    // would when nobody knows how many entries there are.
+    // Whether the list gets its room at once, by a guess from the file's size, or grows by doubling, as when
+    // the number of entries is unknown.
     enum class Room { Grows, Reserved };
 
     // False when the file cannot be mapped. The entries stay valid until the next call.

@@ -21,5 +21,5 @@ inline double Median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
-// Reads a logbook and tells how many entries it has; ends the program when it cannot be read.
+// Reads a logbook and returns its number of entries; ends the program when it cannot be read.
 std::int64_t ReadOnce(const std::string& path, Logbook& logbook);

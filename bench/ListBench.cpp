@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // list-bench FILE: the list of the real main window with the rows of a logbook: memory a row, keys, sorting
-// by every column with all that the window does about it, and a scattered selection that is removed.
+// by every column with all of the window's work for it, and removing a scattered selection.
 #include "app/frmMain.h"
 #include "bench/BenchTools.h"
 #include "bench/ProcessMemory.h"

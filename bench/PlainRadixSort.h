@@ -8,7 +8,7 @@
 #include <vector>
 
 // A yardstick of sorting: a plain radix sort of 64-bit keys with 32-bit row numbers, one digit after the
-// other from the lowest on, passing over digits that are the same in all keys. Its memory is there before it
+// other from the lowest on. It skips digits that are the same in all keys, and gets its memory before it
 // starts.
 template <unsigned DigitBits>
 void PlainRadixSort(std::vector<std::pair<std::uint64_t, std::uint32_t>>& items,

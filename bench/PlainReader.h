@@ -15,7 +15,7 @@ struct PlainEntry {
 };
 
 // The obvious way to read a logbook: line by line from a stream, five strings an entry. It cuts as the bare
-// reader does, so what lies between the two is what storing costs.
+// reader does, so the difference between the two is the cost of storing.
 class PlainReader {
   public:
     // False when the file cannot be opened.

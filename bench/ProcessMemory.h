@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-// Memory of this process that lies in main memory, in bytes: now, and the most there has been. Linux only; 0
+// The part of this process's memory that lies in main memory, in bytes: now, and at its peak. Linux only; 0
 // elsewhere.
 std::size_t ResidentMemory();
 std::size_t PeakResidentMemory();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // read-bench FILE [ROUNDS]: reads a logbook with ReadLogbook and with two yardsticks, in turn, and prints the
-// median times; then what the read costs in memory, measured in a process of its own.
+// median times; then the memory that the read needs, measured in its own process.
 #include "bench/BareReader.h"
 #include "bench/BenchTools.h"
 #include "bench/PlainReader.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// selection-bench FILE [ROUNDS]: taking selected rows out of the list of a logbook and toggling their
-// highlighting, with the settings in a file; then the filter runs that follow, beside the run without these
+// selection-bench FILE [ROUNDS]: removing selected rows from the list of a logbook and toggling their
+// highlighting, with the settings in a file; then the filter runs after that, beside the run without these
 // filters. Median times.
 #include "bench/BenchTools.h"
 #include "filter/Filter.h"

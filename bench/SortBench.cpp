@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // sort-bench FILE [ROUNDS]: sorts the list of a logbook by each column, from several orders, beside plain
-// radix sorts of as many 64-bit keys. sort-bench --texts NUMBER [ROUNDS]: sorts so many different texts that
-// begin alike. Median times, all measured in turn.
+// radix sorts of as many 64-bit keys. sort-bench --texts NUMBER [ROUNDS]: sorts this many different texts
+// with the same beginning. Median times, all measured in turn.
 #include "bench/BenchTools.h"
 #include "bench/PlainRadixSort.h"
 #include "bench/ProcessMemory.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// table-bench FILE [ROUNDS]: what a person waits for with one logbook, beside what other programs take for
-// like work (wc, grep, rg and lnav, which must be installed): the two lines of make-table. Medians in
+// table-bench FILE [ROUNDS]: the times that a person waits for one logbook, beside those of other programs
+// for similar work (wc, grep, rg and lnav, which must be installed): the two lines of make-table. Medians in
 // milliseconds, all measured in turn in one run.
 #include "app/frmMain.h"
 #include "bench/BareReader.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// window-bench FILE: the real main window opens a logbook; how long that takes beside the read alone, and how
-// long a page of scrolling with its painting takes beside painting an empty list.
+// window-bench FILE: the real main window opens a logbook. Compares this with the read alone, and scrolling
+// and painting a page with painting an empty list.
 #include "app/frmMain.h"
 #include "bench/BenchTools.h"
 

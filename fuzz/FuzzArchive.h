@@ -6,14 +6,14 @@
 
 #include <functional>
 
-// What the targets of the archives share.
+// Shared by the targets for archives.
 
-// What is known of a logbook that was unpacked.
+// Checks the content of an unpacked logbook.
 using CheckUnpacked = std::function<void(const std::string& content)>;
 
-// Opens the archive "a.zip" of a folder, whose question about the filters is answered so, and checks that
-// files come to be in the temporary folder only, and none stays when that ends. Each unpacked file is handed
-// to `check`.
+// Opens the archive "a.zip" of a folder with this answer to the question about the filters. Checks that files
+// appear only in the temporary folder, and that none remains when the folder is gone. Calls `check` for each
+// unpacked file.
 void OpenArchive(const ScratchFolder& folder, UserInterface::Answer answer, const CheckUnpacked& check);
 
 inline UserInterface::Answer AnswerOf(std::size_t number) {

@@ -7,7 +7,7 @@
 
 #include <optional>
 
-// The targets of the error texts: the first line is the number that is looked up, below it stands the file.
+// The targets for error texts: the first line is the number to look up, below it stands the file.
 inline std::int64_t TakeNumber(std::string_view& rest) { return ReadDecimal(TakeLine(rest)).value_or(-1); }
 
 inline void CheckRecord(const std::optional<EventTextRecord>& record, std::int64_t number) {
@@ -19,7 +19,7 @@ inline void CheckRecord(const std::optional<EventTextRecord>& record, std::int64
         Check(IsUtf8(text) && text.find('\0') == std::string::npos);
 }
 
-// A text as a file without the carriage returns that readers pass over.
+// A text without the carriage returns that readers of a file ignore.
 inline std::string WithoutReturns(std::string_view text) {
     std::string without(text);
     std::erase(without, '\r');

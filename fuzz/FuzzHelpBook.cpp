@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as members of a help file: the first line are words to search for; below it stand what the file
-// says of itself, the contents and three pages, with a line "==" between them.
+// Any bytes as members of a help file: the first line holds words to search for; below it stand the file's
+// description of itself, the contents and three pages, with a line "==" between them.
 #include "FuzzSupport.h"
 #include "helpbook/HelpBook.h"
 #include "helpbook/HelpSearch.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A file read in tiny blocks is the file read at once: the first byte is the block size, the rest of the
-// first line the order of operations, which is gone through again and again; below it stands the file.
+// A file read in tiny blocks gives the same as the file read at once. The first byte is the block size, the
+// rest of the first line the operations, which are repeated in this order; below it stands the file.
 #include "FuzzSupport.h"
 #include "logbook/clsFile.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Any text as a number list, changed by numbers: the first line is a byte for each change, the lowest bit of
-// which tells removal from addition; below it stands the list.
+// Any text as a number list, changed by numbers. The first line has a byte for each change, whose lowest bit
+// chooses removal or addition; below it stands the list.
 #include "FuzzSupport.h"
 #include "filter/NumberList.h"
 #include "filter/NumberListEditor.h"

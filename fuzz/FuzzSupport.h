@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-// What the fuzz targets share. Each target is a function over any bytes; it ends the process where a rule
-// does not hold that must hold for every input.
+// Shared by the fuzz targets. Each target is a function over any bytes; it ends the process when a rule that
+// must hold for every input is broken.
 
 // Ends the process when the rule is broken.
 void Check(bool holds);
@@ -20,10 +20,10 @@ inline std::string_view TextOf(const std::uint8_t* data, std::size_t size) {
     return {reinterpret_cast<const char*>(data), size};
 }
 
-// Takes the first line off the input, for targets that need more than one file's content.
+// Cuts the first line off the input, for targets that need more than one file's content.
 std::string_view TakeLine(std::string_view& rest);
 
-// Takes what stands before the mark off the input, and the mark; all of it when the mark is missing.
+// Cuts the text before the mark off the input, with the mark; all of it when the mark is missing.
 std::string_view TakePart(std::string_view& rest, std::string_view mark);
 
 // A file in memory with this content, to be read by its path.
@@ -40,7 +40,7 @@ class MemoryFile {
     int handle_;
 };
 
-// An empty folder for what a target writes, removed with all in it. $TMPDIR says where.
+// An empty folder for a target's files, removed with everything in it. It lies in $TMPDIR.
 class ScratchFolder {
   public:
     ScratchFolder();
@@ -56,5 +56,5 @@ class ScratchFolder {
     std::filesystem::path path_;
 };
 
-// The content of a file that is there.
+// The content of an existing file.
 std::string ContentOf(const std::filesystem::path& file);

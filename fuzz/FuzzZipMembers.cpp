@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // An archive of members of any names and contents, whole or with a damaged byte. Below the first line stand
-// the members, each a name in a line and a content, with a line "==" between them; those behind a member that
-// is called
-// ">" make an archive within, "sysroot.zip". The first line: the answer to the question about the filters,
-// then, where there are three more bytes, the place of the damage and what is done to the byte there.
+// the members, each a name in a line and a content, with a line "==" between them; those behind a member
+// called ">" make an archive within, "sysroot.zip". The first line: the answer to the question about the
+// filters, then, where there are three more bytes, the place of the damage and what is done to the byte
+// there.
 #include "FuzzArchive.h"
 
 #include <zip.h>

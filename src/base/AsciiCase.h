@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-// Upper and lower case of the ASCII letters, for names of files, keys and options; all other bytes stay.
+// Upper and lower case of the ASCII letters, for names of files, keys and options; all other bytes stay as
+// they are.
 constexpr char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 constexpr char UpperCase(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
@@ -21,7 +22,7 @@ inline std::string UpperCase(std::string_view text) {
     return upper;
 }
 
-// An order of names that differ by more than their case.
+// Orders names without regard to case.
 struct LessWithoutCase {
     using is_transparent = void;
     bool operator()(std::string_view a, std::string_view b) const {

@@ -41,8 +41,8 @@ struct Several {
     bool IsAscii() const { return (seen & static_cast<Number>(0x8080808080808080U)) == 0; }
 };
 
-// For a text of at least one step; the last step overlaps the one before it, so that no character is taken
-// singly.
+// The text must fill at least one step. The last step overlaps the one before it, so that no character is
+// copied singly.
 template <typename Step>
 bool Copy(std::string_view text, char* to) {
     Step step;
@@ -55,8 +55,8 @@ bool Copy(std::string_view text, char* to) {
 
 } // namespace AsciiCopyDetail
 
-// Copies a text that is the same in every code page and in UTF-8, as nearly all are; false, with anything
-// written to the text's room, when it is not.
+// Copies a text that is all ASCII, as nearly all texts are: it is the same in every code page and in UTF-8.
+// Returns false for any other text; the bytes at `to` then have no meaning.
 inline bool CopyAscii(std::string_view text, char* to) {
     using namespace AsciiCopyDetail;
 #if defined(__SSE2__)

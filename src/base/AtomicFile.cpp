@@ -17,7 +17,7 @@ namespace {
 
 #if defined(__unix__) || defined(__APPLE__)
 
-// A part file is for its owner only, whatever this gives or fails to give it.
+// A part file is for its owner only until this widens that; after a failure it stays so.
 void GivePermissionsOf(const std::filesystem::path& target, int handle) {
     constexpr mode_t Unmasked = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
     constexpr mode_t OfGroup = S_IRWXG;
@@ -26,14 +26,14 @@ void GivePermissionsOf(const std::filesystem::path& target, int handle) {
     if (::fstat(handle, &part) != 0)
         return;
     if (::stat(target.c_str(), &replaced) != 0) {
-        // It can be asked for only by setting it; meanwhile nothing is made that others may read.
+        // The mask can be read only by setting it; meanwhile nothing is made that others may read.
         const mode_t mask = ::umask(S_IRWXG | S_IRWXO);
         ::umask(mask);
         (void)::fchmod(handle, Unmasked & ~mask);
         return;
     }
     mode_t mode = replaced.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
-    // What a group may do is for that group alone; another one gets no more than all others.
+    // A group's permissions are for that group alone; another group gets no more than everybody else.
     if (part.st_gid != replaced.st_gid && ::fchown(handle, static_cast<uid_t>(-1), replaced.st_gid) != 0)
         mode &= ~OfGroup | ((mode & S_IRWXO) << 3U);
     (void)::fchmod(handle, mode);

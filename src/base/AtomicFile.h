@@ -9,29 +9,29 @@
 #include <string>
 #include <system_error>
 
-// A file that is written beside its place and put there when it is whole, so that whoever looks there finds
-// the old file or the new one and nothing between. Without Commit nothing changes. What a killed program left
-// beside the place is removed by the next that writes there. Until it is in its place only this user may read
-// it; there it has the permissions of the file that it replaces, or those that a new file has.
+// Writes a file beside its place and moves it there when it is whole, so that a reader finds the old file or
+// the new one, nothing between. Without Commit nothing changes. If the program is killed, the next one that
+// writes to this place removes the unfinished file. Until the move only this user may read the file; then it
+// has the permissions of the file that it replaces, or those of a new file.
 class AtomicFile {
   public:
-    // A link is followed: the file that it names is replaced, not the link; one that another user may have
-    // planted is refused (FollowLinks). A device or a pipe is not replaced.
+    // Follows a link and replaces the file that it names, but refuses a link that another user may have
+    // planted (FollowLinks). Never replaces a device or a pipe.
     explicit AtomicFile(const std::string& path);
     ~AtomicFile();
     AtomicFile(const AtomicFile&) = delete;
     AtomicFile& operator=(const AtomicFile&) = delete;
 
-    // Where to write. A failure is told by Commit.
+    // Where to write. Commit reports a failure.
     std::ostream& Stream() { return stream_; }
 
-    // The file that is written, for a writer that wants a path in place of a stream. One that replaces it in
-    // place of writing into it may lose it to another copy of the program, as its lock is then gone. Empty
-    // when it could not be made, which Commit tells.
+    // The file that is written, for a writer that needs a path instead of a stream. The writer must write
+    // into this file: if it replaces the file, the lock is gone, and another copy of the program may remove
+    // it. Empty when the file could not be made; Commit reports that.
     const std::filesystem::path& Path() const { return part_.Path; }
 
-    // Flushes the file to the disk and puts it in its place. The error tells why that failed; the old file is
-    // then as it was.
+    // Flushes the file to the disk and moves it to its place. On failure it returns the reason, and the old
+    // file is unchanged.
     std::error_code Commit();
 
   private:
@@ -41,6 +41,6 @@ class AtomicFile {
     std::ofstream stream_;
 };
 
-// Makes the new names of files in a folder last. A file system that cannot is no failure: the files have
-// their names.
+// Flushes the new names of files in a folder to the disk. A file system that cannot do this is no failure:
+// the files have their names.
 void FlushFolder(const std::filesystem::path& folder);

@@ -24,15 +24,15 @@ class BigArray {
     const T& operator[](std::size_t i) const { return memory_.get()[i]; }
     T& operator[](std::size_t i) { return memory_.get()[i]; }
 
-    // Makes room for `count` elements more than there are and returns the place of the first of them. Throws
-    // RunTimeError when there is no memory.
+    // Makes room for `count` more elements and returns the place of the first of them. Throws RunTimeError
+    // when there is no memory.
     T* MakeRoom(std::size_t count) {
         if (capacity_ - size_ < count)
             SetCapacity(std::max(size_ + count, capacity_ + capacity_ / 2));
         return memory_.get() + size_;
     }
 
-    // Counts `count` elements that were written to the place that MakeRoom gave.
+    // Adds `count` elements that the caller has written to the place from MakeRoom.
     void Advance(std::size_t count) { size_ += count; }
 
     void Append(const T& element) {
@@ -40,7 +40,8 @@ class BigArray {
         ++size_;
     }
 
-    // Reserves room for `capacity` elements in all if that much is to be had; if not, the array grows later.
+    // Reserves room for `capacity` elements in all. Where there is not that much memory, the array grows
+    // later.
     void Expect(std::size_t capacity) {
         if (capacity > capacity_)
             TrySetCapacity(capacity);
@@ -59,7 +60,7 @@ class BigArray {
     }
 
   private:
-    // From here on the last huge page, most of which may be empty, is little beside the rest.
+    // From this size on, in bytes, a last huge page that is mostly empty is a small part of the whole.
     static constexpr std::size_t LeastHugeSize = std::size_t{32} << 20U;
 
     struct Free {

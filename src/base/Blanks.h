@@ -11,13 +11,13 @@
 
 inline constexpr char Blank = ' ';
 
-// Blanks are looked for eight characters at a time: as one number, in which the first character is the lowest
-// byte.
+// The functions look for blanks in eight characters at a time: as one number, whose lowest byte is the first
+// character.
 namespace BlanksDetail {
 inline constexpr std::uint64_t EightBlanks = 0x2020202020202020U;
 inline constexpr bool CanLoadEight = std::endian::native == std::endian::little;
 
-// What differs from eight blanks: the bytes that are 0 are blanks.
+// The difference from eight blanks: a byte that is 0 is a blank.
 inline std::uint64_t DifferenceFromBlanks(const char* eight) {
     std::uint64_t value = 0;
     std::memcpy(&value, eight, 8);
@@ -25,7 +25,7 @@ inline std::uint64_t DifferenceFromBlanks(const char* eight) {
 }
 } // namespace BlanksDetail
 
-// The text without the blanks (0x20, nothing else) at both ends.
+// The text without the blanks (only 0x20) at both ends.
 inline std::string_view Trim(std::string_view text) {
     const char* first = text.data();
     const char* last = first + text.size();
@@ -56,7 +56,7 @@ inline std::size_t FindBlank(std::string_view text) {
     if constexpr (BlanksDetail::CanLoadEight)
         for (; text.size() - place >= 8; place += 8) {
             const std::uint64_t other = BlanksDetail::DifferenceFromBlanks(text.data() + place);
-            // The lowest byte that is 0 gets its highest bit set; higher bytes may get it, too.
+            // This sets the highest bit of the lowest byte that is 0, and perhaps of higher bytes.
             const std::uint64_t zero = (other - 0x0101010101010101U) & ~other & 0x8080808080808080U;
             if (zero != 0)
                 return place + static_cast<std::size_t>(std::countr_zero(zero)) / 8;
@@ -66,7 +66,7 @@ inline std::size_t FindBlank(std::string_view text) {
     return place;
 }
 
-// Trim for a field that is filled up with many blanks, or none; these cost nothing here.
+// Trim for a field that is padded with many blanks; they cost nothing here.
 inline std::string_view TrimPadded(std::string_view text) {
     if (text.empty() || text.size() > MostCharacterBits)
         return Trim(text);

@@ -27,7 +27,7 @@ std::uint64_t LowerEight(std::uint64_t bytes) {
     return bytes | (fromA & ~behindZ & BeyondAscii) >> 2U;
 }
 
-// The first byte of `bytes`, as they lie in memory, as the highest of a number.
+// The bytes, as they lie in memory, as a number whose highest byte is the first.
 std::uint64_t FirstHighest(std::uint64_t bytes) {
     if constexpr (std::endian::native == std::endian::big)
         return bytes;
@@ -93,7 +93,7 @@ int FoldedBytes::NextBeyondAscii() {
 }
 
 int CompareFolded(std::string_view a, std::string_view b) {
-    // ASCII alike in both goes eight bytes at a time; from the first other place on, a byte at a time.
+    // Equal ASCII goes eight bytes at a time; from the first other place on, one byte at a time.
     std::size_t place = 0;
     while (a.size() - place >= 8 && b.size() - place >= 8) {
         const std::uint64_t eightA = Load(a.data() + place);

@@ -7,11 +7,11 @@
 #include <string_view>
 
 // Text without regard to case, by Unicode's full case folding, which is the same in every language: "Straße"
-// and "STRASSE" fold to "strasse". Texts are UTF-8, folded ones, too, so that the order of the bytes is the
-// order of the code points. Bytes that are not valid UTF-8 stay as they are.
+// and "STRASSE" fold to "strasse". Texts and their folded forms are UTF-8, so that the order of the bytes is
+// the order of the code points. Bytes that are not valid UTF-8 stay as they are.
 std::string FoldCase(std::string_view text);
 
-// The folded bytes of a text one after the other; the text is not copied and must outlive this.
+// Gives the folded bytes of a text one after the other. The text is not copied and must outlive this object.
 class FoldedBytes {
   public:
     static constexpr int End = -1;
@@ -43,19 +43,18 @@ class FoldedBytes {
     std::size_t pendingCount_ = 0;
 };
 
-// Below, at and above 0 as the folded form of `a` comes before, is the same as or comes after that of `b`.
+// Below 0, 0 or above 0 when the folded form of `a` comes before, equals or comes after that of `b`.
 int CompareFolded(std::string_view a, std::string_view b);
 
-// How many bytes at the beginning of two folded texts are the same; `folded` is in its folded form already.
+// How many bytes at the beginning of two folded texts are the same; `folded` must already be folded.
 std::size_t CommonFolded(std::string_view folded, std::string_view text);
 
-// Eight bytes of a folded text as one number, the first one highest, so that the order of the numbers is the
-// order of the texts. `Count` tells how many of them there are before the end of the text, at most 8; the
-// others are 0.
+// Eight bytes of a folded text as one number, the first byte highest, so that the order of the numbers is the
+// order of the texts. `Count` bytes, at most 8, belong to the text; the bytes behind its end are 0.
 struct FoldedEight {
     std::uint64_t Bytes = 0;
     unsigned Count = 0;
 };
 
-// The eight folded bytes from a place of the folded text on. The cost grows with the place, slowly for ASCII.
+// The eight folded bytes at a place of the folded text. The cost grows with the place, slowly for ASCII.
 FoldedEight FoldedEightAt(std::string_view text, std::size_t place);

@@ -11,8 +11,8 @@
 
 inline constexpr std::size_t MostCharacterBits = 64;
 
-// Where a character stands in a text of at most MostCharacterBits: one bit each, the lowest for the text's
-// first character. One look at a text, from which its words are then taken without another.
+// Where a character stands in a text of at most MostCharacterBits characters: one bit for each place, the
+// lowest for the first. A caller reads the text once and then takes its words from the bits.
 inline std::uint64_t CharacterBits(std::string_view text, char character) {
     std::uint64_t bits = 0;
 #if defined(__SSE2__)

@@ -72,7 +72,7 @@ std::optional<UpperHalf> UpperHalfFromLibrary([[maybe_unused]] const char* codeP
 #endif
 }
 
-// The next character of a UTF-8 text, which is shortened by it; U+FFFD for a byte that is not part of one.
+// Takes the next character from the front of a UTF-8 text; U+FFFD for a byte that belongs to no character.
 char32_t TakeCharacter(std::string_view& text) {
     constexpr char32_t Invalid = 0xFFFD;
     const auto byteAt = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
@@ -138,7 +138,7 @@ char* CodePage::EncodeMixed(std::string_view bytes, char* out) const {
         std::memcpy(out, character.Bytes.data(), MostBytes);
         out += character.Length;
     };
-    // What lies between the few characters that need it is copied eight at a time.
+    // Text between the few characters that need converting is copied eight bytes at a time.
     if constexpr (std::endian::native == std::endian::little)
         while (end - in >= 8) {
             const std::uint64_t eight = LoadEight(in);

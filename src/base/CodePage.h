@@ -10,19 +10,19 @@
 #include <string>
 #include <string_view>
 
-// The single-byte code page of the control's files. Inside the program all text is UTF-8; this is the
-// boundary.
+// The single-byte code page of the control's files. Inside the program all text is UTF-8; this class converts
+// at the boundary.
 //
 // The conversion is total and reversible: a byte that the code page leaves undefined becomes the character
-// with the byte's own number (U+0081 for 0x81 in Windows-1252) and comes back as that byte.
+// with the same number (U+0081 for 0x81 in Windows-1252) and becomes that byte again.
 class CodePage {
   public:
-    // The most bytes that one character takes in UTF-8 here, and how far Encode may write past its result's
-    // end.
+    // The most bytes that one character of a code page takes in UTF-8, and how many bytes Encode may write
+    // past its result's end.
     static constexpr std::size_t MostBytes = 3;
     static constexpr std::size_t Overrun = 8;
 
-    // Windows-1252, which the control writes in most regions.
+    // Windows-1252, the control's code page in most regions.
     CodePage();
 
     // The code page of the region that a locale name such as "cs_CZ.UTF-8" stands for: 1250 for pl, cs, hu,
@@ -36,16 +36,16 @@ class CodePage {
     // For example "CP1252".
     const std::string& Name() const { return name_; }
 
-    // Writes `bytes` as UTF-8 to `out`, which must have room for MostBytes times as many bytes plus Overrun,
-    // and returns the end of what was written.
+    // Writes `bytes` as UTF-8 to `out` and returns the end of the result. `out` must have room for MostBytes
+    // times as many bytes plus Overrun.
     char* Encode(std::string_view bytes, char* out) const {
         return CopyAscii(bytes, out) ? out + bytes.size() : EncodeMixed(bytes, out);
     }
 
     std::string ToUtf8(std::string_view bytes) const;
 
-    // UTF-8 to this code page. Each character that the code page lacks becomes "?", and `lost` tells how many
-    // did.
+    // Converts UTF-8 to this code page. Each character that the code page lacks becomes "?"; `Lost` counts
+    // them.
     struct Bytes {
         std::string Text;
         std::size_t Lost = 0;

@@ -56,7 +56,8 @@ class DescriptorBuffer : public std::streambuf {
   private:
     bool WriteUntil(const char* next) {
         while (next != pptr()) {
-            // What takes part of a write may keep the writer waiting for the rest, but not of so little.
+            // A device that takes only part of a write may keep the writer waiting for the rest, but not with
+            // so few bytes.
             const auto left = static_cast<std::size_t>(pptr() - next);
             const std::size_t count = mayWait_ ? std::min<std::size_t>(left, PIPE_BUF) : left;
             if (mayWait_ && !WaitForReader())

@@ -6,8 +6,8 @@
 #include <streambuf>
 #include <string>
 
-// Standard output, or a device or a pipe by its name, to write to. Whoever writes waits for a reader no
-// longer than until the process is asked to end (Interruption): writing fails then.
+// Writes to standard output, or to a device or pipe by its name. A write waits for a reader, but fails once
+// the process is asked to end (Interruption).
 class DeviceStream {
   public:
     DeviceStream(); // standard output
@@ -16,7 +16,7 @@ class DeviceStream {
     DeviceStream(const DeviceStream&) = delete;
     DeviceStream& operator=(const DeviceStream&) = delete;
 
-    // Has failed where the device cannot be opened.
+    // In a failed state where the device cannot be opened.
     std::ostream& Stream() { return stream_; }
 
     bool IsTerminal() const { return isTerminal_; }

@@ -38,7 +38,7 @@ LockOutcome TryLock(const FileHandle& file) {
     }
     if (locked == 0)
         return LockOutcome::Held;
-    // A network answers EBADF for a handle that is not open for writing, which OpenToLock falls back to.
+    // A network answers EBADF for a handle that is open for reading only, which OpenToLock falls back to.
     const bool unsupported = errno == ENOLCK || errno == EOPNOTSUPP || errno == ENOTSUP || errno == ENOSYS ||
                              errno == EINVAL || errno == EBADF;
     if (unsupported)

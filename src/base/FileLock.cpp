@@ -17,9 +17,9 @@ constexpr std::chrono::milliseconds Pause{2};
 } // namespace
 
 FileLock::FileLock(const std::string& path) {
-    // Readable for all, so that a run as another user does not shut this one out.
+    // Readable for all, so that a file made by another user does not shut this one out.
     constexpr mode_t Mode = S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH;
-    // A pipe is opened without waiting for its other end. A link is not followed: it may lead to any file.
+    // Does not wait for the other end of a pipe. Follows no link: it may lead to any file.
     constexpr int Flags = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
     handle_ = OpenToLock(path, Flags | O_CREAT | O_EXCL, Mode);
     if (handle_.IsOpen())

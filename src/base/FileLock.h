@@ -5,13 +5,12 @@
 
 #include <string>
 
-// Holds a lock that other processes take, too, by the name of a lock file. The lock ends with the object, or
-// with the process. Where the file cannot be made, or something else than a file has its name, nothing is
-// held.
+// Holds a lock among processes, by the name of a lock file. The lock ends with the object, or with the
+// process. Nothing is held where the file cannot be made, or where something other than a file has its name.
 //
-// Waits until the lock is free, but for no longer than a few seconds: a process that was stopped while it had
-// the lock must not keep all others from going on. They then go on as if they had it. So do all where the
-// disk has no locks.
+// Waits until the lock is free, but only for a few seconds: a process that was stopped while it held the lock
+// must not block all others. They then go on as if they held it, and so does every process where the disk has
+// no locks.
 class FileLock {
   public:
     explicit FileLock(const std::string& path);

@@ -4,8 +4,8 @@
 #include <filesystem>
 #include <system_error>
 
-// Why a file is not taken, where the system has no word for it. Settings' ReasonText says it in the user's
-// language.
+// Why the program refuses a file, where the system has no error for it. Settings' ReasonText puts it in the
+// user's language.
 enum class FileProblem {
     NoRegularFile = 1, // a device or a pipe: reading it may never end, and a file may not take its place
     TooLarge,
@@ -24,5 +24,5 @@ inline std::error_code make_error_code(FileProblem problem) {
 template <>
 struct std::is_error_code_enum<FileProblem> : std::true_type {};
 
-// None for a regular file, also at the end of links; else why it is none, or cannot be looked at.
+// No error for a regular file, also at the end of links; otherwise why it is not one, or cannot be examined.
 std::error_code CheckRegularFile(const std::filesystem::path& path);

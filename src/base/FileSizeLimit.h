@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// From here on writing to a file that may not grow fails, as on a full disk. Without this, the system ends
-// the process.
+// After this call, a write beyond the limit on a file's size fails, as on a full disk. Without it, the system
+// ends the process.
 void FailAtFileSizeLimit();

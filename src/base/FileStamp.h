@@ -7,7 +7,7 @@
 #include <string>
 #include <system_error>
 
-// What tells whether a file is still as it was: its size in bytes and when it was written last.
+// Shows whether a file has changed: its size in bytes and when it was last written.
 struct FileStamp {
     std::uint64_t Size = 0;
     std::filesystem::file_time_type Written;
@@ -15,5 +15,5 @@ struct FileStamp {
     bool operator==(const FileStamp&) const = default;
 };
 
-// The stamp of a regular file at this moment; nothing, with the error, where there is none.
+// The present stamp of a regular file; nothing, with the error, where there is no such file.
 std::optional<FileStamp> StampOf(const std::string& path, std::error_code& error);

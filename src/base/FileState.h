@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string>
 
-// What tells one state of a file from another where every change puts a new file in its place: also two of
-// one size that were made within one tick of the clock.
+// Tells two states of a file apart where every change puts a new file in its place, even two of one size
+// within one tick of the clock.
 struct FileState {
     std::uint64_t Device = 0;
     std::uint64_t Inode = 0;
@@ -16,5 +16,5 @@ struct FileState {
     bool operator==(const FileState&) const = default;
 };
 
-// The state at this moment of the file that a path names, at the end of links.
+// The present state of the file that a path names, at the end of links.
 FileState StateOf(const std::string& path);

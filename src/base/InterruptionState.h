@@ -3,13 +3,13 @@
 
 #include <csignal>
 
-// What the handler of signals (Interruption) leaves for those who look at it or wait, one for the process, as
-// signals are; for the files of this folder alone.
+// What the signal handler (Interruption) leaves for code that polls or waits. There is one for the process,
+// as for signals. Only the files of this folder use it.
 namespace InterruptionState {
 
 inline volatile std::sig_atomic_t Signal = 0; // the first that came; 0 = none
 
-// Its reading end becomes readable when a signal comes; -1 without such a thing.
+// Its reading end becomes readable when a signal comes; -1 when there is no pipe.
 inline int WakePipe[2] = {-1, -1};
 
 } // namespace InterruptionState

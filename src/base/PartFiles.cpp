@@ -22,7 +22,7 @@ constexpr std::string_view Mark = ".qorvix-part-";
 constexpr std::string_view Digits = "0123456789abcdef";
 constexpr std::size_t DigitCount = 16;
 
-// What the names of the part files begin with. The longest names leave no room behind them.
+// How the names of the part files begin. The longest names leave no room for an ending.
 std::string BeginOf(const std::filesystem::path& target) {
     constexpr std::size_t LongestStem = 200;
     return target.filename().string().substr(0, LongestStem).append(Mark);
@@ -45,15 +45,15 @@ FileHandle MakeFile(const std::filesystem::path& path) {
         ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
 }
 
-// Somebody who removes what was left may have come before this lock. A lock that fails keeps nobody from
-// writing.
+// Another program that clears left part files may have removed this one before the lock. A lock that fails
+// does not prevent writing.
 bool IsKept(const PartFile& part) {
     return TryLock(part.Handle) != LockOutcome::InUse && IsNameOf(part.Path, part.Handle);
 }
 
 void RemoveIfLeft(const std::filesystem::path& file) {
     struct stat status {};
-    // Looked at before it is opened, too: opening a device may do something.
+    // Checked before it is opened, too: opening a device may do something.
     if (::lstat(file.c_str(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_uid != ::geteuid())
         return;
     const FileHandle handle =

@@ -8,8 +8,8 @@
 #include <system_error>
 
 // The files that AtomicFile writes beside their places: "<name>.qorvix-part-<16 hexadecimal digits>", for
-// their owner only. Who writes one holds its lock, so that one whose lock is free is what a killed program
-// left.
+// their owner only. The writer holds the file's lock, so a part file whose lock is free was left by a killed
+// program.
 
 // A part file that is being written.
 struct PartFile {
@@ -17,12 +17,13 @@ struct PartFile {
     FileHandle Handle;          // open for writing; its lock is held, where the disk has locks
 };
 
-// A new, empty one for the file `target`. Those that killed programs left for this target are removed first.
+// Makes a new, empty part file for the file `target`. First removes those that killed programs left for this
+// target.
 PartFile MakePartFile(const std::filesystem::path& target, std::error_code& error);
 
 // Removes the part files of a target that killed programs left: regular files of this user whose whole name
-// is that of a part file and whose lock is free. On a disk without locks none is.
+// is that of a part file and whose lock is free. On a disk without locks it removes none.
 void RemoveLeftPartFiles(const std::filesystem::path& target);
 
-// True for the name, without a folder, of a part file of the target.
+// True when `name`, without a folder, is that of a part file of the target.
 bool IsPartFileOf(std::string_view name, const std::filesystem::path& target);

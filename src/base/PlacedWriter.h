@@ -8,22 +8,23 @@
 #include <string_view>
 #include <system_error>
 
-// A file that is written at places which the writer chooses, for one who goes back to what it wrote before.
-// What the file held stays where nothing is written, with the file's permissions and locks.
+// Writes to a file at places that the caller chooses, so that it can go back. Bytes that are not written over
+// stay, and so do the file's permissions and locks.
 class PlacedWriter {
   public:
     PlacedWriter() = default; // not open
 
-    // Opens the file, which is made for its owner only where it is not there. The error tells why that
-    // failed; nothing can be written then.
+    // Opens the file; makes it, for its owner only, where there is none. On failure `error` says why, and
+    // nothing can be written.
     PlacedWriter(const std::filesystem::path& file, std::error_code& error);
 
     bool IsOpen() const { return file_.IsOpen(); }
 
-    // Takes all that it holds from the file.
+    // Removes all bytes of the file.
     std::error_code Empty();
 
-    // Writes all of the bytes. `place`, in bytes, moves on by what was written, also where the rest failed.
+    // Writes all of the bytes at `place`, in bytes, and moves `place` on by what was written, also when the
+    // rest failed.
     std::error_code Write(std::string_view bytes, std::int64_t& place);
 
     // In bytes; 0 with the error.

@@ -3,6 +3,6 @@
 
 #include <string>
 
-// The folder of the program that runs, UTF-8, without a separator behind it; "" when the system does not
-// tell.
+// The folder of the running program, UTF-8, without a separator at its end; "" when the system does not know
+// it.
 std::string ProgramFolder();

@@ -3,9 +3,9 @@
 
 #include <stdexcept>
 
-// A column rule that a line cannot meet, a table that has no room left, a file that fails while it is read,
-// or a read that was told to stop. ReadLogbook catches it in its one error exit, and LanguageFile catches
-// what happens to its own files; nothing else does.
+// Thrown when a line cannot meet a column rule, a table has no room left, a file fails while it is read, or a
+// read was asked to stop. Only ReadLogbook, in its one error exit, and LanguageFile, for its own files, catch
+// it.
 class RunTimeError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;

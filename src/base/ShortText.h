@@ -13,7 +13,7 @@ inline std::uint64_t LoadEight(const char* bytes) {
     return value;
 }
 
-// True when two texts are the same; for fields of a line it is quicker than memcmp.
+// True when two texts are the same. Quicker than memcmp for fields of a line.
 inline bool IsSameShort(std::string_view textA, std::string_view textB) {
     if (textA.size() != textB.size())
         return false;
@@ -40,8 +40,7 @@ inline bool IsSameShort(std::string_view textA, std::string_view textB) {
     return true;
 }
 
-// Copies a text to a place that has the room, and returns the end of the copy; for words
-// it is quicker than memcpy.
+// Copies a text to a place with enough room and returns the end of the copy. Quicker than memcpy for words.
 inline char* CopyShort(std::string_view text, char* to) {
     const std::size_t length = text.size();
     const char* const from = text.data();

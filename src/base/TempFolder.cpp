@@ -22,7 +22,7 @@ constexpr std::size_t CharacterCount = 6;
 constexpr const char* SharedName = "Qorvix";
 constexpr std::string_view OwnPrefix = "Qorvix-temp-";
 
-// Others may come in between; none of them comes for ever.
+// Others may come in between, but not for ever.
 constexpr int Attempts = 20;
 
 std::string RandomName(std::string_view prefix) {
@@ -41,7 +41,7 @@ bool HasOwnName(const std::filesystem::path& folder) {
             name.find_first_not_of(Characters, OwnPrefix.size()) == std::string::npos);
 }
 
-// The name of something below a folder, as its mark has it.
+// The name of something below a folder, as the folder's mark has it.
 std::string NameIn(const std::filesystem::path& folder, const std::filesystem::path& path) {
     return path.lexically_relative(folder).generic_string();
 }
@@ -104,7 +104,7 @@ void TempFolder::Make() const {
     }
 }
 
-// A folder that was just made; it goes where it cannot be marked.
+// Marks a folder that was just made; removes it when that fails.
 bool TempFolder::Mark(const std::filesystem::path& folder) const {
     mark_ = TempFolderMark::Make(folder);
     if (mark_)

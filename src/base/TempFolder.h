@@ -8,19 +8,18 @@
 #include <string>
 #include <vector>
 
-// The program's scratch folder: "Qorvix" in the system's temporary folder, for its owner only. Where there is
-// something of that name already, that stays as it is, and this copy makes a folder of its own beside it,
-// "Qorvix-temp-" and six random characters.
+// The program's scratch folder: "Qorvix" in the system's temporary folder, for its owner only. If something
+// already has that name, it stays as it is, and this copy makes its own folder beside it: "Qorvix-temp-" and
+// six random characters.
 //
-// The object holds the folder. Its end removes what the program made there, which the folder's mark tells,
-// and the folder; what others put there stays, and with it the folder. Its begin removes the folders of these
-// names that copies of the program left which no longer run, where their marks prove that (TempFolderMark).
-// Failures of that are ignored. A folder that somebody else removed meanwhile is made anew when it is needed
-// again, perhaps by another name.
+// The constructor first removes folders of these names whose marks prove that a copy of the program left them
+// and no longer runs (TempFolderMark); it ignores failures of that. The destructor removes what the program
+// made in the folder, by its mark, and then the folder, unless others have put something there. If somebody
+// removes the folder meanwhile, the program makes it again when needed, perhaps with another name.
 class TempFolder {
   public:
-    // `parent` is the system's temporary folder, or what stands for it in a test. Folders that hold one of
-    // the `kept` files and folders (UTF-8), or the program itself, are not removed at the beginning.
+    // `parent` is the system's temporary folder, or its stand-in for a test. The constructor removes no
+    // folder that holds the program or any of the files and folders in `kept` (UTF-8).
     explicit TempFolder(const std::filesystem::path& parent = SystemFolder(),
                         const std::vector<std::string>& kept = {});
     ~TempFolder();
@@ -30,18 +29,18 @@ class TempFolder {
     // Empty when no folder could be made.
     const std::filesystem::path& Path() const { return path_; }
 
-    // A new folder in it, for what is not yet decided upon; empty when it could not be made. Where the folder
-    // itself had to be made anew, Path has its new name.
+    // Makes a new folder in it, for files that may be discarded; empty when that failed. If the scratch
+    // folder itself had to be made again, Path gives its new name.
     std::filesystem::path MakeSubfolder() const;
 
-    // Removes such a folder and what was noted in there.
+    // Removes such a folder with what was noted in it.
     void RemoveSubfolder(const std::filesystem::path& folder) const;
 
-    // Notes files in the folder before they are made, so that they are removed in the end. False where one is
-    // there already that this program did not make, or where noting failed; then none may be made.
+    // Notes files in the folder before they are made, so that they are removed in the end. False when one
+    // exists that this program did not make, or when noting failed; then the caller may make none of them.
     bool Note(const std::vector<std::filesystem::path>& files) const;
 
-    // Removes a file in the folder that was noted.
+    // Removes a noted file in the folder.
     void RemoveFile(const std::filesystem::path& file) const;
 
     // The system's temporary folder; empty when there is none.

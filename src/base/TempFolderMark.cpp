@@ -16,7 +16,7 @@
 
 namespace {
 
-// The file begins with this; each name that follows ends with a NUL, which no name can hold.
+// The file begins with this. Each name that follows ends with a NUL, which no name can hold.
 constexpr std::string_view Header =
     "Qorvix made this folder and the files that are named here, and removes them.\n";
 constexpr std::size_t LargestFile = 4U << 20U; // in bytes, of names of about 20
@@ -24,7 +24,7 @@ constexpr std::size_t LargestFile = 4U << 20U; // in bytes, of names of about 20
 constexpr mode_t ForOwner = S_IRUSR | S_IWUSR;
 constexpr mode_t Permissions = S_IRWXU | S_IRWXG | S_IRWXO;
 
-// True for what has this type and is this user's own; a link is a type of its own.
+// True when a file has this type and belongs to this user. A link is a type of its own.
 bool IsOwn(const std::filesystem::path& path, mode_t type) {
     struct stat status {};
     return ::lstat(path.c_str(), &status) == 0 && (status.st_mode & S_IFMT) == type &&
@@ -43,7 +43,7 @@ bool IsMark(const FileHandle& file) {
            status.st_uid == ::geteuid() && (status.st_mode & Permissions) == ForOwner && status.st_nlink == 1;
 }
 
-// All of a file; nothing where it is too large or cannot be read.
+// The whole file; nothing when it is too large or cannot be read.
 std::optional<std::string> ReadAll(const FileHandle& file) {
     std::string text;
     for (std::array<char, 4096> part; text.size() <= LargestFile;) {
@@ -58,7 +58,7 @@ std::optional<std::string> ReadAll(const FileHandle& file) {
     return std::nullopt;
 }
 
-// Appends to a file all or nothing.
+// Appends all or nothing to a file.
 bool Append(const FileHandle& file, std::string_view bytes) {
     const int handle = SystemFile::Number(file);
     struct stat before {};
@@ -71,7 +71,7 @@ bool Append(const FileHandle& file, std::string_view bytes) {
     return false;
 }
 
-// The names in a folder; nothing where the system does not list all.
+// The names in a folder; nothing when the system does not list all of them.
 std::optional<std::vector<std::string>> NamesIn(const std::filesystem::path& folder) {
     std::error_code error;
     std::vector<std::string> names;
@@ -97,7 +97,7 @@ std::optional<TempFolderMark> TempFolderMark::Make(const std::filesystem::path& 
         ::open(name.c_str(), O_RDWR | O_APPEND | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, ForOwner));
     if (!file.IsOpen())
         return std::nullopt;
-    // Another copy that begins may have taken the file for a left one before this lock.
+    // Another copy that starts may have taken the file for an abandoned one before this lock.
     TempFolderMark mark(folder, std::move(file));
     const LockOutcome lock = TryLock(mark.file_);
     if (lock == LockOutcome::InUse || !mark.IsThere())
@@ -121,7 +121,7 @@ std::optional<TempFolderMark> TempFolderMark::Take(const std::filesystem::path& 
     return mark;
 }
 
-// The copy may have been killed while it wrote: what is cut off at the end was not made.
+// The copy may have been killed while it wrote: a file whose name is cut off at the end was not made.
 bool TempFolderMark::Read() {
     const std::optional<std::string> text = ReadAll(file_);
     if (!text)
@@ -174,12 +174,12 @@ void TempFolderMark::RemoveFolder(const std::string& name) {
         std::erase_if(names_, [&](const std::string& noted) { return noted.starts_with(name); });
 }
 
-// The path of a name ends without "/": one that somebody put a link in place of is not removed.
+// The path of a name ends without "/", so that a link which somebody put in place of a folder is not removed.
 void TempFolderMark::RemoveNoted(std::string_view folder) const {
     for (auto name = names_.rbegin(); name != names_.rend(); ++name) {
         if (!name->starts_with(folder))
             continue;
-        // What lies in a folder comes before the folder in this order.
+        // In this order the contents of a folder come before the folder.
         if (name->ends_with('/')) {
             ::rmdir((folder_ / name->substr(0, name->size() - 1)).c_str());
         } else {

@@ -9,37 +9,38 @@
 #include <string>
 #include <string_view>
 
-// The mark of a temporary folder, a file in it that only this program writes: it proves that the program made
-// the folder, names everything else that it makes there, and is locked by the copy that has the folder. Names
-// are noted before the files are made, so that also a copy that is killed leaves nothing that is not named.
+// The mark of a temporary folder: a file in it that only this program writes. It proves that the program made
+// the folder, and it names everything else that the program makes there. The copy that uses the folder holds
+// the mark's lock. Names are noted before the files are made, so that even a killed copy leaves no file
+// without a name in the mark.
 //
-// A name is a path below the folder; that of a folder ends with "/". A part file of a noted file is noted
-// with it.
+// A name is a path below the folder; the name of a folder ends with "/". Noting a file notes its part files,
+// too.
 class TempFolderMark {
   public:
     static constexpr const char* FileName = ".qorvix-temp";
 
-    // Marks a folder that this process has just made; nothing where that failed, and then no mark is left.
+    // Marks a folder that this process has just made. Nothing when that failed; no mark is left then.
     static std::optional<TempFolderMark> Make(const std::filesystem::path& folder);
 
-    // Takes the mark of a folder that is provably what a copy of the program left that no longer runs: a real
-    // folder, folder and mark this user's and for this user only, the mark whole, its lock free, and in the
-    // folder only what is noted. Nothing for all others, which stay as they are.
+    // Takes the mark of a folder when it proves that a copy of the program left it and no longer runs: it is
+    // a real folder, folder and mark belong to this user alone, the mark is whole, its lock is free, and the
+    // folder holds only what is noted. Nothing for any other folder, which stays as it is.
     static std::optional<TempFolderMark> Take(const std::filesystem::path& folder);
 
     const std::filesystem::path& Folder() const { return folder_; }
 
-    // True while the folder and the mark in it have their names.
+    // True while the folder and its mark have their names.
     bool IsThere() const { return IsNameOf(folder_ / FileName, file_); }
 
-    // Notes a name; false where that failed.
+    // Notes a name; false when that failed.
     bool Note(const std::string& name);
     bool HasNoted(const std::string& name) const { return names_.contains(name); }
 
-    // Removes what is noted below a noted folder, and this if it is empty then.
+    // Removes what is noted below a noted folder, and then the folder if it is empty.
     void RemoveFolder(const std::string& name);
 
-    // Removes what is noted and the mark, and the folder if it is empty then.
+    // Removes what is noted and the mark, and then the folder if it is empty.
     void Remove() const;
 
   private:
@@ -52,6 +53,6 @@ class TempFolderMark {
 
     std::filesystem::path folder_;
     FileHandle file_;
-    FileHandle folderLock_; // as those look for who clear folders for temporary files
+    FileHandle folderLock_; // programs that clear temporary folders look for it
     std::set<std::string> names_;
 };

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
-// The beginning of a UTF-8 text in at most so many bytes, without a part of a character at its end.
+// The beginning of a UTF-8 text, at most `most` bytes, without a part of a character at its end.
 inline std::string_view TextBeginning(std::string_view text, std::size_t most) {
     if (text.size() <= most)
         return text;

@@ -9,24 +9,25 @@
 #include <system_error>
 #include <vector>
 
-// How large a text file may be that is read, in bytes: more than any that the program is meant for.
+// How large a text file may be, in bytes, so that it is read: more than any that the program is meant for.
 struct TextFileBounds {
     std::uint64_t File = 0;
-    std::size_t Line = 0; // without its end
+    std::size_t Line = 0; // without its line end
 };
 
-// Reading a text file that travels with a logbook, line by line. Lines end with CR LF or LF. Memory is at
-// most that of the longest line allowed, whatever the file holds.
+// Reads a text file that travels with a logbook, line by line. Lines end with CR LF or LF. Takes at most the
+// memory of the longest line allowed, whatever the file holds.
 class TextFile {
   public:
-    // Opens a regular file; nothing of one is read that is too large. Blocks of another size give the same.
+    // Opens a regular file; reads nothing of a file that is too large. The size of the blocks does not change
+    // the result.
     TextFile(const std::string& path, const TextFileBounds& bounds, std::size_t blockSize = 65536);
 
-    // The next line without its end, which stays until the next call; false when there is none, or it could
+    // The next line without its end; it is valid until the next call. False when there is none, or it could
     // not be read.
     bool ReadLine(std::string_view& line);
 
-    // Why the file could not be opened, or not be read to its end; none when nothing failed.
+    // Why the file could not be opened or not read to its end; no error when nothing failed.
     const std::error_code& Error() const { return error_; }
 
   private:
@@ -42,13 +43,13 @@ class TextFile {
     std::error_code error_;
 };
 
-// Tells of each line of a file that is written, without its end, whether it can be read again under these
-// bounds. Ends of two bytes are reckoned with.
+// Checks whether a file that is written can be read again under these bounds. Take each line without its end;
+// every end counts as two bytes.
 class TextFileRoom {
   public:
     explicit TextFileRoom(const TextFileBounds& bounds) : bounds_(bounds) {}
 
-    // None, or why the file would not be read.
+    // No error, or why the file could not be read.
     std::error_code Take(std::string_view line);
 
   private:

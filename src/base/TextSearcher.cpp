@@ -73,7 +73,7 @@ std::size_t TextSearcher::FindForm(std::string_view in, std::size_t from) const 
         }
         return _mm_and_si128(_mm_cmpeq_epi8(first, rare), _mm_cmpeq_epi8(second, secondRare));
     };
-    // Thirty-two places at a time, none of which reaches behind the end.
+    // Thirty-two places at a time; none reads past the end.
     for (; end - place >= 32; place += 32) {
         const __m128i low = fitsAt(place);
         const __m128i high = fitsAt(place + 16);

@@ -5,20 +5,20 @@
 #include <string>
 #include <string_view>
 
-// Finds a text in much larger ones: prepared once, at about the speed of memory.
+// Finds a text in much larger ones. Prepared once, it searches at about the speed of memory.
 class TextSearcher {
   public:
     // Finds the text exactly as it is.
     explicit TextSearcher(std::string text);
 
-    // Finds the text and all that differ from it only in the bits that are set in `ignoredBits`, which has as
-    // many bytes as the text.
+    // Finds the text and all texts that differ from it only in bits that are set in `ignoredBits`, which has
+    // as many bytes as the text.
     TextSearcher(std::string text, std::string_view ignoredBits);
 
     static constexpr std::size_t NotFound = std::string_view::npos;
 
     // The place of the first occurrence at or behind `from`; NotFound when there is none. An empty text is
-    // found at once.
+    // found at `from`.
     std::size_t Find(std::string_view in, std::size_t from) const;
 
     const std::string& Text() const { return text_; }
@@ -31,7 +31,7 @@ class TextSearcher {
     std::string text_; // with all ignored bits set
     std::string ignoredBits_;
     bool exact_ = true;
-    // Places in the text of its two bytes that are likely to be the rarest: where both fit, the whole is
+    // Where the two bytes stand in the text that are likely to be the rarest. Where both fit, the whole is
     // compared.
     std::size_t rare_ = 0;
     std::size_t secondRare_ = 0;

@@ -34,7 +34,7 @@ void Append(std::string& text, utf8proc_int32_t codePoint) {
 
 bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 
-// By lower-case character: the characters that become it and are others.
+// For each lower-case character, the other characters that become it.
 std::map<char32_t, std::vector<char32_t>> MakeCapitals() {
     std::map<char32_t, std::vector<char32_t>> capitals;
     for (char32_t c = 0; c < CodePoints; ++c)

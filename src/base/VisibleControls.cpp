@@ -8,7 +8,7 @@ namespace {
 
 unsigned Byte(char c) { return static_cast<unsigned char>(c); }
 
-// The bytes of the character that the text begins with; 1 also for a byte that begins none.
+// The number of bytes of the text's first character; 1 also for a byte that begins no character.
 std::size_t CharacterLength(std::string_view text) {
     struct Lead {
         unsigned First; // of the bytes that begin such a character

@@ -5,8 +5,8 @@
 
 #include <filesystem>
 
-// A folder in the temporary folder, removed with all that was noted in there. The files in the temporary
-// folder itself are those of the logbook that is shown.
+// A folder in the temporary folder; the destructor removes it with all that was noted in it. The temporary
+// folder itself holds the files of the logbook that is shown.
 class Workplace {
   public:
     explicit Workplace(const TempFolder& tempFolder)

@@ -77,7 +77,7 @@ std::error_code CommentJournal::Begin(const EntryTable& entries) {
     std::filesystem::create_directories(folder_, error);
     if (error)
         return error;
-    // Before there is a file: it takes a while for a large logbook, and the program may be killed.
+    // Done before the file is made: it takes a while for a large logbook, and the program may be killed.
     const EntryNumber count = entries.Count();
     const std::array<EntryNumber, 2> counts{count == 0 ? 0 : count - 1, count};
     const std::vector<std::string> sums = ChecksumsOfBeginnings(entries, counts);
@@ -89,7 +89,7 @@ std::error_code CommentJournal::Begin(const EntryTable& entries) {
     if (error)
         return error;
     name_ = name;
-    // Where the disk has no locks the name tells others that the file is in use.
+    // Where the disk has no locks, the name shows others that the file is in use.
     const LockOutcome lock = TryLock(file_);
     if (lock == LockOutcome::Held || lock == LockOutcome::Unsupported)
         error = AppendWhole(file_, header);

@@ -12,44 +12,45 @@
 #include <system_error>
 #include <vector>
 
-// Comments that were entered and not saved yet, noted in a file so that a crash does not take them. The file
-// is JSON Lines: first the logbook, then each comment as it was entered; an empty one removes.
+// Notes comments that are entered but not yet saved in a file, so that a crash does not lose them. The file
+// is JSON Lines: first the logbook, then each comment as it was entered; an empty one removes a comment.
 //
 //     {"butLast":"5f0c7a...","entries":1200,"last":"07d2b1...","whole":"99aa06..."}
 //     {"comment":"pump replaced","entry":12}
 //
-// The logbook is known by the number of its entries, and the checksums of all of them, of all but the last,
-// and of the last one's stamp, sender and name. The last one's data may change where a logbook grows, as by a
-// line that belongs to it.
+// The number of its entries and three checksums identify a logbook: of all entries, of all but the last, and
+// of the last one's stamp, sender and name. The last entry's data may change when the logbook grows, as by a
+// further line of that entry.
 //
-// A file that is in use is locked; where the disk has no locks, its name tells (JournalName). One that is not
-// belongs to a copy of the program that crashed, or that ended although saving had failed.
+// The program locks a journal that it uses; where the disk has no locks, the journal's name shows its user
+// (JournalName). A journal not in use was left by a copy of the program that crashed, or that ended although
+// saving had failed.
 class CommentJournal {
   public:
     explicit CommentJournal(std::filesystem::path folder = StateFolder());
-    // What was neither saved nor declined stays in its file.
+    // Comments that were neither saved nor declined stay in their file.
     ~CommentJournal();
     CommentJournal(const CommentJournal&) = delete;
     CommentJournal& operator=(const CommentJournal&) = delete;
 
-    // Notes the comments that these entries have now, and flushes them to the disk. The first of a logbook
-    // make the file, for which the whole logbook is looked at once. The error tells why they are not safe;
-    // the next call then tries to note them again. A file that somebody removed is made anew with all
-    // comments.
+    // Notes the present comments of these entries, and flushes them to the disk. The first comments of a
+    // logbook make the file, which costs one pass over the whole logbook. The error says why the comments are
+    // not safe; the next call then tries to note them again. If somebody has removed the file, this makes it
+    // again with all comments.
     std::error_code Note(const EntryTable& entries, std::span<const EntryNumber> numbers);
 
-    // Keeps journals of this logbook that a crash left, until their comments are saved, and holds them until
-    // then. The entries whose comments were restored from them are noted anew when the file is made.
+    // Holds journals of this logbook that a crash left, until their comments are saved. The comments of
+    // `restored`, which came from them, are noted again when the file is made.
     void Keep(std::vector<LostJournal> journals, std::span<const EntryNumber> restored);
 
-    // The comments have been saved: all journals that have any go. The next Note makes another.
+    // The comments have been saved: removes all journals that hold any. The next Note makes a new one.
     void Saved();
 
-    // The comments are not wanted: their journals go, also those that they were restored from. Kept journals
-    // of which nothing was restored stay as a crash left them.
+    // The person does not want the comments: removes their journals, also those that they were restored from.
+    // Kept journals from which nothing was restored stay as a crash left them.
     void Dropped();
 
-    // Where the files lie.
+    // The folder of the files.
     const std::filesystem::path& Folder() const { return folder_; }
 
   private:
@@ -61,7 +62,7 @@ class CommentJournal {
     std::filesystem::path name_;
     FileHandle file_;
     std::set<EntryNumber> entered_; // whose comments are neither saved nor declined
-    std::set<EntryNumber> toNote_;  // of these, those that the file does not have yet
+    std::set<EntryNumber> toNote_;  // of these, those not yet in the file
     std::vector<LostJournal> kept_;
-    bool restored_ = false; // comments of the kept journals are those of the entries now
+    bool restored_ = false; // the entries now have the comments of the kept journals
 };

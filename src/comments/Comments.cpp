@@ -31,8 +31,8 @@ void SkipBlanks(std::string_view& text) {
     text.remove_prefix(std::min(text.find_first_not_of(Blank), text.size()));
 }
 
-// The number at the line's begin, which goes off the line; nothing when there is none. What follows a number
-// is a blank, a comma, a quote or the line's end.
+// Cuts the number off the line's start; nothing when there is none. A blank, a comma, a quote or the line's
+// end follows a number.
 std::optional<std::int64_t> TakeNumber(std::string_view& line) {
     SkipBlanks(line);
     std::int64_t number = 0;
@@ -47,7 +47,7 @@ std::optional<std::int64_t> TakeNumber(std::string_view& line) {
     return ends ? std::optional(number) : std::nullopt;
 }
 
-// The text between the quote at the begin and its closing one, or the line's end where that is missing.
+// The text between the quote at the start and its closing quote, or the line's end when that is missing.
 std::string Unquoted(std::string_view text) {
     std::string unquoted;
     for (std::size_t i = 1; i < text.size(); ++i) {
@@ -74,7 +74,7 @@ std::optional<CommentLine> ParseLine(std::string_view line) {
                                                         : std::string(line.substr(0, line.find(Comma)))};
 }
 
-// Line breaks, which a comment has none of, would end its line.
+// A comment has no line breaks: they would end its line.
 std::string WithoutLineBreaks(std::string_view text) {
     std::string line;
     for (std::size_t i = 0; i < text.size(); ++i) {

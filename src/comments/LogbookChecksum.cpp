@@ -13,15 +13,15 @@
 
 namespace {
 
-// Sums up values, and of texts the ASCII characters: which characters the other bytes of a logbook stand for
-// depends on the code page of the day.
+// Sums up values and the ASCII characters of texts: the meaning of a logbook's other bytes depends on the
+// code page of the day.
 class Checksum {
   public:
     Checksum() : state_(XXH3_createState(), XXH3_freeState) { XXH3_128bits_reset(state_.get()); }
 
     void Add(const void* bytes, std::size_t count) { XXH3_128bits_update(state_.get(), bytes, count); }
 
-    // Also adds how many they are, so that neighbouring texts do not run together.
+    // Also adds their number, so that neighbouring texts do not run together.
     void AddText(std::string_view text) {
         std::uint64_t count = 0;
         for (; !text.empty(); text.remove_prefix(std::min(text.size(), ascii_.size())))
@@ -57,7 +57,7 @@ class Checksum {
     std::unique_ptr<XXH3_state_t, XXH_errorcode (*)(XXH3_state_t*)> state_;
 };
 
-// What an entry adds to the texts, without padding.
+// The values that an entry adds to the texts, without padding.
 struct EntryPart {
     std::uint32_t Kind = 0;
     std::uint32_t Date = 0;
@@ -80,7 +80,7 @@ EntryPart PartOf(const EntryTable& entries, EntryNumber number) {
     return part;
 }
 
-// The numbers of what occurs again, in the order of its first use.
+// Numbers recurring values in the order of their first use.
 class FirstUses {
   public:
     explicit FirstUses(std::size_t count) : numbers_(count, Unused) {}
@@ -106,7 +106,7 @@ void AddKind(Checksum& sum, const EntryKind& kind) {
     sum.AddText(kind.Name);
 }
 
-// Adds entry after entry; kinds and dates where they first occur.
+// Adds entry after entry; adds a kind or a date where it first occurs.
 class Beginning {
   public:
     explicit Beginning(const EntryTable& entries)

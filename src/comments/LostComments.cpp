@@ -14,7 +14,8 @@ namespace {
 
 using Json = nlohmann::json;
 
-// Each is held, and a process has some hundred handles. Later ones are offered the next time.
+// The most journals to offer: each is held, and a process has some hundred handles. The rest are offered the
+// next time.
 constexpr std::size_t MostJournals = 200;
 
 std::optional<EntryNumber> NumberIn(const Json& line, const char* name) {
@@ -30,8 +31,8 @@ std::optional<std::string> TextIn(const Json& line, const char* name) {
                                                        : std::nullopt;
 }
 
-// The next line that is whole; a discarded value at the end of the file. A line of a journal has no values in
-// values: what is nested counts as none, so that no file can exhaust the stack.
+// The next whole line; a discarded value at the end of the file. A line of a journal has no nested values: a
+// nested line is ignored, so that no file can exhaust the stack.
 Json NextLine(std::istream& stream) {
     std::string text;
     if (!std::getline(stream, text) || stream.eof())
@@ -45,7 +46,7 @@ Json NextLine(std::istream& stream) {
     return !nested && line.is_object() ? std::move(line) : Json::object();
 }
 
-// The logbook that a journal belongs to. Journals of version 0.1 know it by one checksum of the whole.
+// The logbook that a journal belongs to. Journals of version 0.1 identify it by one checksum of the whole.
 struct JournalHeader {
     EntryNumber Entries = 0;
     std::optional<std::string> Whole;
@@ -54,7 +55,7 @@ struct JournalHeader {
     std::optional<std::string> OfVersion01;
 };
 
-// Nothing where the next line is no header.
+// Nothing when the next line is no header.
 std::optional<JournalHeader> ReadHeader(std::istream& stream) {
     const Json line = NextLine(stream);
     if (!line.is_object())
@@ -66,13 +67,13 @@ std::optional<JournalHeader> ReadHeader(std::istream& stream) {
                          TextIn(line, "logbook")};
 }
 
-// A logbook that journals may belong to. Its checksums are made when the first one asks, for all of them in
-// one look at the logbook.
+// A logbook that journals may belong to. When the first journal asks, the checksums for all journals are made
+// in one pass over the logbook.
 class Candidate {
   public:
     explicit Candidate(const EntryTable& entries) : entries_(entries) {}
 
-    // Tells of a journal that will ask.
+    // Announces a journal that will ask.
     void Expect(const JournalHeader& header) {
         if (header.Entries > entries_.Count() || !header.Whole)
             return;
@@ -81,7 +82,7 @@ class Candidate {
     }
 
     // True when the entries that the journal knew are the first of the logbook. The last of them may have
-    // other data by now, where others before it tell the logbook.
+    // other data by now, if entries before it identify the logbook.
     bool BeginsAs(const JournalHeader& header) {
         if (header.OfVersion01)
             return header.Entries == entries_.Count() && *header.OfVersion01 == SumOfVersion01();
@@ -92,7 +93,7 @@ class Candidate {
     }
 
   private:
-    // Nothing for a beginning that nobody told of: the journal came in between.
+    // Nothing for a beginning that was not announced: the journal appeared in between.
     std::optional<std::string> Sum(EntryNumber count) {
         if (!summed_) {
             std::vector<EntryNumber> counts;
@@ -119,7 +120,7 @@ class Candidate {
     std::string sumOfVersion01_;
 };
 
-// The files of a folder, the one written last behind the others: of two comments of an entry, it counts.
+// The files of a folder in the order of writing: of two comments of an entry, the later one counts.
 std::vector<std::filesystem::path> FilesByAge(const std::filesystem::path& folder) {
     std::vector<std::pair<std::filesystem::file_time_type, std::filesystem::path>> files;
     for (const std::filesystem::path& item : ItemsIn(folder)) {

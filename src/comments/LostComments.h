@@ -11,15 +11,16 @@
 #include <utility>
 #include <vector>
 
-// The comments of one logbook in the journals of copies of the program that no longer run. The journals are
-// held until the object ends, so that no other copy offers them at the same time.
+// The comments of one logbook in journals whose copies of the program no longer run. The object holds the
+// journals while it lives, so that no other copy offers them at the same time.
 class LostComments {
   public:
-    // Looks for the journals of this logbook in a folder, also of when it had fewer entries; without any
-    // journal that costs nothing. Files that are none, and lines that a crash cut off, are passed over.
+    // Looks for the journals of this logbook in a folder, also from when it had fewer entries; costs nothing
+    // when there is no journal. Ignores other files, and lines that a crash cut off.
     LostComments(const std::filesystem::path& folder, const EntryTable& entries);
 
-    // The comments that differ from those of the logbook, by entry number; an empty one was removed.
+    // The comments that differ from those of the logbook, by entry number; an empty text stands for a removed
+    // comment.
     const std::map<EntryNumber, std::string>& Comments() const { return comments_; }
 
     // Removes the journals.

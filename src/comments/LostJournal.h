@@ -7,18 +7,18 @@
 #include <optional>
 #include <utility>
 
-// A journal of comments whose program no longer runs (see CommentJournal). It is held, so that no other copy
-// of the program offers it at the same time, until the object ends.
+// A journal of comments whose program no longer runs (see CommentJournal). The object holds it while it
+// lives, so that no other copy of the program offers it at the same time.
 class LostJournal {
   public:
-    // Nothing where a program that runs has the file, or may have it on a disk without locks (JournalName),
-    // or where it is no journal: only one whose first line is short is looked at. Links are not followed, and
-    // only ordinary files are opened.
+    // Nothing when a running program has the file, or may have it on a disk without locks (JournalName), or
+    // when it is no journal. Checks only files with a short first line. Follows no links and opens only
+    // ordinary files.
     static std::optional<LostJournal> Hold(const std::filesystem::path& file);
 
     const std::filesystem::path& File() const { return file_; }
 
-    // Removes the file, as long as it is the one that is held.
+    // Removes the file if it is still the one that is held.
     void Remove() const;
 
   private:

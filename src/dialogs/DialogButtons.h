@@ -6,5 +6,5 @@
 class QDialog;
 class QDialogButtonBox;
 
-// OK (the default) and Cancel of a dialog, which accept and reject it; named cmdOK and cmdCancel.
+// Makes a dialog's OK (the default) and Cancel, named cmdOK and cmdCancel, which accept and reject it.
 QDialogButtonBox* OkAndCancel(Language language, QDialog& dialog);

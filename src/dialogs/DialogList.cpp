@@ -97,7 +97,7 @@ void DialogList::mouseReleaseEvent(QMouseEvent* event) {
 void DialogList::mouseDoubleClickEvent(QMouseEvent* event) {
     const QPoint place = event->position().toPoint();
     ListOfRows::mouseDoubleClickEvent(event);
-    // On a check box it is two clicks, which turn it on and off: nothing is edited.
+    // On a check box it counts as two clicks, which turn the box on and off, and edits nothing.
     if (event->button() != Qt::LeftButton || IsOnCheckBox(place))
         return;
     if (QTreeWidgetItem* const row = itemAt(place); row != nullptr && !row->isSelected())

@@ -8,25 +8,26 @@
 #include <cstdint>
 #include <span>
 
-// The list of a dialog: a few rows in columns, of which several can be selected. What the person wants done
-// comes out as a signal; the popup menu comes with the mouse-up of the right button and with its keys.
+// The list of a dialog: a few rows in columns; several rows can be selected. Signals report what the person
+// wants. The popup menu opens when the right mouse button goes up, and by its keys.
 class DialogList : public ListOfRows<QTreeWidget> {
     Q_OBJECT
 
   public:
     explicit DialogList(int columns, QWidget* parent);
 
-    // The row that an action on one row is for: the current one where it is selected, else the first selected
-    // one; nullptr when none is selected.
+    // The row for an action on one row: the current one if it is selected, otherwise the first selected one;
+    // nullptr when none is selected.
     QTreeWidgetItem* SelectedRow() const;
 
     // Selects this row alone and shows it.
     void SelectAndShow(QTreeWidgetItem* row);
 
-    // The others keep their order. The one behind the last removed is selected then, or the last of all.
+    // The other rows keep their order. Then selects the row behind the last removed one, or else the last
+    // row.
     void RemoveSelectedRows();
 
-    // Puts the rows into the order of these numbers, each row's own once. The same rows stay selected.
+    // Puts the rows into the order of these numbers, which name each row once. The same rows stay selected.
     void Reorder(std::span<const std::uint32_t> rows);
 
   signals:

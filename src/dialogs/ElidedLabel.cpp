@@ -51,7 +51,7 @@ QStringList ElidedLabel::ShownLines(int width) const {
     if (mostLines_ == 1)
         return {fontMetrics().elidedText(plain, Qt::ElideMiddle, inner)};
     QStringList lines = LinesOf(plain, inner);
-    // Breaking at words leaves room at the ends of lines, so that more may have to go than does not fit.
+    // Breaking at words leaves gaps at the ends of lines, so that more text may have to go than the excess.
     for (int room = mostLines_ * inner; lines.size() > mostLines_ && room > 0; room -= inner / 4 + 1) {
         QString onOneLine = plain;
         onOneLine.replace(QChar::LineSeparator, ' ');
@@ -85,7 +85,7 @@ int ElidedLabel::heightForWidth(int width) const {
 bool ElidedLabel::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
-    // Looked at when it is asked for: whether the text is whole changes with every size.
+    // Decided on each request: whether the text is whole changes with every size.
     const QString plain = PlainText();
     const bool whole = mostLines_ == 1 ? ShownLines(width()).join("") == plain
                                        : LinesOf(plain, contentsRect().width()).size() <= mostLines_;

@@ -3,9 +3,9 @@
 
 #include <QLabel>
 
-// A plain text that takes the room it is given and never asks for more: what has no room in it is left out in
-// its middle. The whole text is then the tool tip, and is what a screen reader speaks. In more than one line
-// it breaks anywhere where no blank is at hand.
+// A plain text that takes the given room and never asks for more: when it does not fit, its middle is left
+// out. The tool tip then shows the whole text, and a screen reader speaks it. A label of several lines breaks
+// its text anywhere where there is no blank.
 class ElidedLabel : public QLabel {
     Q_OBJECT
 
@@ -13,10 +13,10 @@ class ElidedLabel : public QLabel {
     // `mostLines`: at least 1. A label of one line shows line breaks as blanks.
     ElidedLabel(int mostLines, QWidget* parent);
 
-    // What is seen of the text in a label of this width, line by line.
+    // The visible text in a label of this width, line by line.
     QStringList ShownLines(int width) const;
 
-    // The width of the whole text where it is one line; one of several lines takes any.
+    // The width of the whole text for a label of one line; a label of several lines takes any width.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     bool hasHeightForWidth() const override { return mostLines_ > 1; }

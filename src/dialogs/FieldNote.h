@@ -3,16 +3,15 @@
 
 #include "dialogs/ElidedLabel.h"
 
-// What a dialog has to say about the field above it. Takes room only while it says something, and then some
-// lines at most; the dialog grows where that is needed, and a screen reader speaks it. Stands in a
-// FittedDialog.
+// A dialog's note about the field above it. Takes room only while it has a text, and then a few lines at
+// most; the dialog grows if needed, and a screen reader speaks the note. Its dialog must be a FittedDialog.
 class FieldNote : public ElidedLabel {
     Q_OBJECT
 
   public:
     FieldNote(const char* name, QWidget* field);
 
-    // Nothing for an empty text.
+    // An empty text hides the note.
     void Say(const QString& text);
 
   private:

@@ -11,7 +11,7 @@ void SetFileTypes(QFileDialog& dialog, const QString& types) {
         patterns.replaceInStrings("*.*", "*");
         filters << parts[i] + " (" + patterns.join(' ') + ')';
     }
-    // What stands in the last brackets is for the dialog alone.
+    // The text in the last brackets is for the dialog alone.
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(filters);
 }

@@ -4,5 +4,5 @@
 #include <QFileDialog>
 
 // Gives a file dialog its types of files from a text of the form "description|patterns|description|patterns",
-// several patterns separated by ";". The dialog shows the descriptions as they stand; "*.*" means every file.
+// with ";" between several patterns. The dialog shows the descriptions unchanged; "*.*" means every file.
 void SetFileTypes(QFileDialog& dialog, const QString& types);

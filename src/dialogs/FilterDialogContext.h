@@ -7,11 +7,11 @@
 
 class Registry;
 
-// What the filter dialogs take from the program.
+// What the filter dialogs need from the program.
 struct FilterDialogContext {
     Registry& Settings;
     CodePage FileCodePage; // of filter files
     Language DialogLanguage;
-    FilterTypeLabels Labels; // as the program has them: they do not follow every dialog language
-    LogbookNames Names;      // of the logbook that is loaded
+    FilterTypeLabels Labels; // the program's: they do not follow every dialog language
+    LogbookNames Names;      // of the loaded logbook
 };

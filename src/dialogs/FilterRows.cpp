@@ -21,9 +21,9 @@ std::size_t PlaceOf(std::int16_t action) { return static_cast<std::size_t>(actio
 
 FilterRows::FilterRows(const FilterTypeLabels& labels, Language language)
     : labels_(labels), language_(language) {
-    // The linker drops a static library's resources unless somebody asks for them.
+    // The linker drops a static library's resources unless the code asks for them.
     Q_INIT_RESOURCE(filtericons);
-    // As they are in a selected row, too; otherwise they would be tinted with the row's own colour.
+    // Unchanged in a selected row, too; otherwise Qt would tint them with the row's own colour.
     for (std::size_t i = 0; i < icons_.size(); ++i)
         for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
             icons_[i].addFile(IconPaths[i], {}, mode);

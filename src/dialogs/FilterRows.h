@@ -18,8 +18,8 @@ inline constexpr int Emitter = 3;
 inline constexpr int Count = 4;
 } // namespace FilterColumns
 
-// Writes filters to rows and reads them back. The icon tells the action by its shape; its tool tip and the
-// row's accessible text tell it in words.
+// Writes filters to rows and reads them back. The icon's shape shows the action; its tool tip and the row's
+// accessible text name it.
 class FilterRows {
   public:
     FilterRows(const FilterTypeLabels& labels, Language language);
@@ -27,7 +27,8 @@ class FilterRows {
     // A stored type without a label shows its number.
     void Write(const FilterDefinition& filter, QTreeWidgetItem& row) const;
 
-    // What Write wrote, with the check box as it is now. The type is read back from its label.
+    // The filter that Write wrote, with the present state of the check box. Reads the type back from its
+    // label.
     FilterDefinition Read(const QTreeWidgetItem& row) const;
 
   private:

@@ -10,11 +10,11 @@
 
 namespace {
 
-// A window of an uneven size comes out lower by that at a scale such as 150 %, which would bring a scroll
+// At a scale such as 150 %, a window of an uneven size comes out this much lower, which would bring a scroll
 // bar.
 constexpr int LostByScaling = 1;
 
-// Shows the whole content where there is room.
+// Shows the whole content when there is room.
 class ScrolledContent : public QScrollArea {
   public:
     explicit ScrolledContent(QWidget* parent) : QScrollArea(parent) {
@@ -39,7 +39,7 @@ class ScrolledContent : public QScrollArea {
 } // namespace
 
 void FittedDialog::LayOut(QLayout* content, QWidget* buttons) {
-    // The widgets never leave this window, where they would lose their places for the Tab key.
+    // The widgets never leave this window: outside it they would lose their places for the Tab key.
     content_ = new ScrolledContent(this);
     content->setContentsMargins(0, 0, 0, 0);
     content_->widget()->setLayout(content);

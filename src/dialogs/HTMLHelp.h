@@ -8,8 +8,8 @@
 
 class QWidget;
 
-// Shows help files. There is one help window at most; it is no modal window and stands on its own, but is
-// closed with this object. The next one has the place, the sizes and the size of the text of the one before.
+// Shows help files. There is at most one help window. It is not modal and stands on its own, but this
+// object's end closes it. The next window has the place, the sizes and the text size of the one before.
 //
 // On Windows the system's viewer of compiled HTML help shows them (HTMLHelpWindows.cpp), elsewhere frmHelp.
 class HtmlHelp {
@@ -21,9 +21,9 @@ class HtmlHelp {
     HtmlHelp(const HtmlHelp&) = delete;
     HtmlHelp& operator=(const HtmlHelp&) = delete;
 
-    // Brings a help file to the front, with its contents or its search page. The language is that of the
-    // window's own texts. False when the file is missing or damaged; then a help window that is open stays as
-    // it was. A file that is shown already keeps its page.
+    // Brings a help file to the front, with its contents or its search page. `language` is that of the
+    // window's own texts. False when the file is missing or damaged; an open help window then stays as it
+    // was. A file that is already shown keeps its page.
     bool DisplayToc(const std::filesystem::path& file, Language language);
     bool DisplaySearch(const std::filesystem::path& file, Language language);
 
@@ -38,5 +38,5 @@ class HtmlHelp {
 
     QWidget* owner_;
     std::filesystem::path reader_;
-    std::unique_ptr<Window> window_; // what is known of the help window; null on Windows
+    std::unique_ptr<Window> window_; // the state of the help window; null on Windows
 };

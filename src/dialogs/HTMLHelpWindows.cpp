@@ -8,10 +8,10 @@
 
 #include <htmlhelp.h>
 
-// The header's name for HtmlHelpA or HtmlHelpW is that of the class here.
+// The header's name for HtmlHelpA or HtmlHelpW is also that of this class.
 #undef HtmlHelp
 
-// As the size of its structure the viewer expects that of the program's own word length.
+// The viewer expects the size of its structure for the program's own word length.
 static_assert(sizeof(HH_FTS_QUERY) == (sizeof(void*) == 4 ? 32 : 40));
 
 struct HtmlHelp::Window {};
@@ -33,7 +33,7 @@ bool HtmlHelp::Display(const std::filesystem::path& file, Language, Page page) {
     const auto window = reinterpret_cast<HWND>(owner_->winId());
     if (page == Page::Contents)
         return HtmlHelpA(window, file.string().c_str(), HH_DISPLAY_TOC, 0) != nullptr;
-    // Its texts are plain, as the flag says, also where UNICODE makes the header declare them as wide ones.
+    // Its texts are plain, as the flag says, even when UNICODE makes the header declare them as wide.
     HH_FTS_QUERY query{};
     query.cbStruct = sizeof query;
     query.fUniCodeStrings = FALSE;

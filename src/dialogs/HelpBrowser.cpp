@@ -11,7 +11,7 @@
 
 namespace {
 
-// The book's pages have addresses of a scheme of their own, so that relative links lead to pages.
+// The addresses of the book's pages have their own scheme, so that relative links lead to pages.
 const QString Scheme = QStringLiteral("help");
 
 constexpr qreal PageMargin = 12;
@@ -41,7 +41,7 @@ HelpBrowser::HelpBrowser(const HelpBook& book, QString unreadable, QWidget* pare
     document()->setDocumentMargin(PageMargin);
     document()->setDefaultStyleSheet(PageStyle);
     connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::FollowLink);
-    // Marks belong to the page that they were made on.
+    // Marks belong to the page on which they were made.
     connect(this, &QTextBrowser::sourceChanged, this, [this] { setExtraSelections({}); });
 }
 
@@ -70,7 +70,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
         picture.loadFromData(reinterpret_cast<const uchar*>(member->data()),
                              static_cast<int>(member->size()));
     if (picture.isNull()) {
-        // An invisible one; without any, Qt would look for a file of that name.
+        // An invisible picture; without any, Qt would look for a file of that name.
         picture = QImage(1, 1, QImage::Format_ARGB32);
         picture.fill(Qt::transparent);
     }

@@ -5,26 +5,26 @@
 
 #include <QTextBrowser>
 
-// Shows the pages of a help file, and nothing else: pictures and pages come from the file, never from the
-// disk or the network. A link that leads out of the file is opened by the desktop when it is clicked.
+// Shows only the pages of a help file: pictures and pages come from the file, never from the disk or the
+// network. When the person clicks a link that leads out of the file, the desktop opens it.
 class HelpBrowser : public QTextBrowser {
     Q_OBJECT
 
   public:
-    // The book must outlive this. `unreadable` stands in place of a page that the book does not hold.
+    // The book must outlive this. `unreadable` replaces a page that the book does not hold.
     HelpBrowser(const HelpBook& book, QString unreadable, QWidget* parent);
 
-    // Shows a page, named as in the book; a place on it may follow behind "#".
+    // Shows a page by its path in the book; a place on it may follow behind "#".
     void ShowPage(const std::string& page);
 
-    // The path of the page that is shown.
+    // The path of the shown page.
     std::string Page() const;
 
     // Marks all places of these words and phrases on the page and scrolls to the first one.
     void MarkTerms(const std::vector<std::string>& terms);
 
   signals:
-    // The wheel was turned with the Ctrl key: so many steps larger, or smaller when they are below 0.
+    // The wheel was turned with the Ctrl key: this many steps larger, or smaller when below 0.
     void TextSizeWanted(int steps);
 
   protected:
@@ -36,5 +36,5 @@ class HelpBrowser : public QTextBrowser {
 
     const HelpBook& book_;
     QString unreadable_;
-    int turned_ = 0; // of the wheel with Ctrl, what is no whole step yet
+    int turned_ = 0; // the part of a step that the wheel was turned with Ctrl
 };

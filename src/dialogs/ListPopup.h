@@ -5,8 +5,8 @@
 
 #include <QMenu>
 
-// The popup menu of the lists of the filter dialogs. A chosen item is told when the menu has closed, so that
-// no dialog opens from inside of it.
+// The popup menu of the lists in the filter dialogs. It signals a chosen item only after it has closed, so
+// that no dialog opens from inside the menu.
 class ListPopup : public QMenu {
     Q_OBJECT
 

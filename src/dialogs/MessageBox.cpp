@@ -6,7 +6,7 @@
 
 namespace {
 
-// What stands beside the title, an icon and buttons, in heights of a line.
+// The width of an icon and buttons beside the title, in line heights.
 constexpr int TitleExtras = 8;
 
 int TitleWidth(const QWidget& window) {
@@ -26,7 +26,8 @@ MessageBox::MessageBox(Icon icon, const QString& title, const QString& text, Sta
 }
 
 void MessageBox::showEvent(QShowEvent* event) {
-    // Qt makes a new layout for each change of the box, and fixes the size by it when it shows the box.
+    // Qt makes a new layout for each change of the box, and fixes the size by the layout when it shows the
+    // box.
     if (auto* const grid = qobject_cast<QGridLayout*>(layout()))
         grid->addItem(new QSpacerItem(TitleWidth(*this), 0), grid->rowCount(), 0, 1, grid->columnCount());
     QMessageBox::showEvent(event);

@@ -3,11 +3,11 @@
 
 #include <QMessageBox>
 
-// A message or question. Its text is shown as it stands, since it may hold what a file or path says; it is
-// wide enough for its title.
+// A message or question. Shows its text without interpreting markup, since the text may come from a file or a
+// path. It is wide enough for its title.
 class MessageBox : public QMessageBox {
   public:
-    // Enter presses the default button, where there is one.
+    // Enter presses the default button, if there is one.
     MessageBox(Icon icon, const QString& title, const QString& text, StandardButtons buttons, QWidget* parent,
                StandardButton defaultButton = NoButton);
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-// What a window has around its inside, on nearly every desktop.
+// A window's frame around its inside, on nearly every desktop.
 constexpr QMargins Frame(8, 40, 8, 8);
 
 const QScreen& ScreenOf(const QWidget& window) {

@@ -12,7 +12,7 @@ void SelectingLineEdit::focusInEvent(QFocusEvent* event) {
 }
 
 void SelectingLineEdit::mousePressEvent(QMouseEvent* event) {
-    // The click that brings the focus would put the cursor and take the selection away.
+    // The click that brings the focus would set the cursor and remove the selection.
     if (focusByMouse_ && event->button() == Qt::LeftButton)
         event->accept();
     else

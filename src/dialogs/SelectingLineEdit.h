@@ -4,7 +4,7 @@
 #include <QLineEdit>
 
 // A text box that selects its whole text when it receives the focus, also by the mouse, so that typing
-// replaces it. Coming back from its own popup menu leaves the selection.
+// replaces it. A return from its own popup menu does not change the selection.
 class SelectingLineEdit : public QLineEdit {
     Q_OBJECT
 

@@ -24,12 +24,12 @@ constexpr int IconSize = 64;
 constexpr int TextWidth = 600;
 constexpr int FewestLines = 3; // of each box, where the screen has no room for its whole text
 
-// What a box needs above its lines, and as much again below them.
+// The room that a box needs above its lines, and the same below them.
 int MarginOf(const QPlainTextEdit& box) {
     return static_cast<int>(std::ceil(box.document()->documentMargin())) + box.frameWidth();
 }
 
-// The height of a box that shows so many lines. With one pixel less it has a scroll bar.
+// The height of a box for this many lines. With one pixel less it has a scroll bar.
 int HeightOf(const QPlainTextEdit& box, int lines) {
     return box.fontMetrics().lineSpacing() * lines + 2 * MarginOf(box) + 1;
 }
@@ -48,7 +48,7 @@ void MakeReadOnly(QPlainTextEdit& box) {
     box.setMinimumHeight(HeightOf(box, FewestLines));
 }
 
-// Its paragraphs as lines that the box breaks as wide as it is.
+// Joins the lines of each paragraph, so that the box breaks them at its own width.
 QString LicenceText() {
     QFile file(":/about/LICENSE");
     if (!file.open(QIODevice::ReadOnly))
@@ -137,7 +137,7 @@ frmAbout::frmAbout(Language language, std::string_view version, const std::vecto
     cmdOK->setFocus();
 }
 
-// The library list has the room of its lines; all other room is the licence's.
+// The library list gets the room of its lines; the licence gets the rest.
 void frmAbout::FitToTexts() {
     tbLibraries->setMaximumHeight(HeightOf(*tbLibraries, std::max(FewestLines, LinesIn(*tbLibraries))));
     const QMargins margins = layout()->contentsMargins();

@@ -12,24 +12,24 @@ class QLabel;
 class QPlainTextEdit;
 class QPushButton;
 
-// A library that the program uses, as the about box tells of it.
+// A library that the program uses, as the about box shows it.
 struct LibraryVersion {
     std::string Name;
     std::string Version; // "" = not known
     std::string Licence;
 };
 
-// The numbers of a version without leading zeros, joined by ".": "2.01.0100" is 2.1.100. What is no number
-// between two dots counts as 0.
+// The numbers of a version without leading zeros, joined by ".": "2.01.0100" is 2.1.100. A part that is no
+// number counts as 0.
 std::string VersionText(std::string_view version);
 
-// The about box: what the program is, its version, its licence and the libraries in it.
+// The about box: the program's purpose, version and licence, and the libraries in it.
 class frmAbout : public FittedDialog {
     Q_OBJECT
 
   public:
-    // The version is that of the program, such as "1.2.3". The icon is that of the parent's window, or else
-    // of the application.
+    // `version` is the program's, such as "1.2.3". The icon is that of the parent's window, or else of the
+    // application.
     frmAbout(Language language, std::string_view version, const std::vector<LibraryVersion>& libraries,
              QWidget* parent = nullptr);
 

@@ -25,23 +25,24 @@ namespace {
 
 constexpr int FieldCharacters = 24; // the least width of a box; its list may have longer texts
 
-// A box for free text, which offers some. What is typed is never completed: the filter compares exactly.
+// A box for free text that offers some texts. It never completes typed text, because the filter compares
+// exactly.
 QComboBox* MakeTextBox(const char* name, QWidget* parent) {
     auto* const box = new QComboBox(parent);
     box->setObjectName(name);
     box->setEditable(true);
     box->setCompleter(nullptr);
-    // A filter file may hold longer lists than a field takes by itself.
+    // A filter file may hold longer lists than a field takes by default.
     box->lineEdit()->setMaxLength(std::numeric_limits<int>::max());
     box->setInsertPolicy(QComboBox::NoInsert);
-    // Otherwise a typed text that is in the list, too, would count as picked from it.
+    // Otherwise a typed text that is also in the list would count as picked from it.
     QObject::disconnect(box->lineEdit(), &QLineEdit::editingFinished, nullptr, nullptr);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box->setMinimumContentsLength(FieldCharacters);
     return box;
 }
 
-// Shows a text, and its row in the list of the box where it is one of them.
+// Shows a text, and selects its row if the list of the box has it.
 void SetText(QComboBox& box, const std::string& text) {
     box.setCurrentIndex(box.findText(ToQString(text)));
     box.setEditText(ToQString(text));
@@ -82,7 +83,7 @@ frmFilterSettings::frmFilterSettings(const FilterDialogContext& context,
     connect(cbFilterType, &QComboBox::currentIndexChanged, this, &frmFilterSettings::TypeChanged);
     for (QComboBox* const box : {cbEmitter, cbName, cbStringFilter})
         connect(box, &QComboBox::editTextChanged, this, &frmFilterSettings::ShowNotes);
-    // Only when the box has put the comment into its field can the string take its place.
+    // The string can replace the comment only after the box has put the comment into its field.
     connect(cbStringFilter, &QComboBox::activated, this, [this](int row) {
         pickedComment_ = cbStringFilter->itemText(row);
         Timer1->start();
@@ -247,7 +248,7 @@ void frmFilterSettings::EditPredefinedStrings() {
         cbStringFilter->setEditText(dialog.ResultText());
 }
 
-// Says beside the field what would cost the person the whole list, as soon as it is typed.
+// Warns below the field, as soon as it is typed, of a text that would cost the person the whole list.
 void frmFilterSettings::ShowNotes() {
     const FilterDefinition filter = Definition();
     const auto noteOn = [&](const std::string& text) {

@@ -15,7 +15,7 @@ class QPushButton;
 class QRadioButton;
 class QTimer;
 
-// Defines one filter: which entries it matches and what becomes of them.
+// Defines one filter: the entries that it matches and its action on them.
 class frmFilterSettings : public FittedDialog {
     Q_OBJECT
 
@@ -30,12 +30,12 @@ class frmFilterSettings : public FittedDialog {
     // "OK" after OK, otherwise "".
     QString ResultText() const { return resultText_; }
 
-    // The filter as the controls have it, active. Name and sender are empty where their boxes are disabled:
-    // for every type but Info, Warning and Error. So a filter of type "System error" made here looks at
-    // neither, while one from the settings or a filter file may.
+    // The filter from the controls, active. Name and sender are empty when their boxes are disabled: for
+    // every type but Info, Warning and Error. So a filter of type "System error" made here checks neither,
+    // while one from the settings or a filter file may.
     FilterDefinition Definition() const;
 
-    // True when one of these filters is the defined one, active or not. Compares exactly.
+    // True when one of these filters equals the defined one, active or not. Compares exactly.
     bool FilterExists(std::span<const FilterDefinition> rows) const;
 
     void accept() override;

@@ -18,7 +18,7 @@ class frmFilterString : public FittedDialog {
     // "OK" after OK with both texts filled; "CANCEL" after OK with an empty one, and after Cancel.
     QString ResultText() const { return resultText_; }
 
-    // The texts as they stand in the boxes.
+    // The texts in the boxes.
     StringFilter Filter() const;
 
     void accept() override;

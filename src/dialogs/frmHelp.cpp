@@ -108,7 +108,7 @@ void frmHelp::MakeContents() {
     AddTopics(tvContents->invisibleRootItem(), book_.Contents);
     tvContents->expandAll();
     connect(tvContents, &QTreeWidget::currentItemChanged, this, &frmHelp::ShowTopic);
-    // After a link the current topic can be one whose page is no longer shown.
+    // After a link, the current topic's page may no longer be shown.
     connect(tvContents, &QTreeWidget::itemClicked, this, &frmHelp::ShowTopic);
     connect(tvContents, &QTreeWidget::itemActivated, this, &frmHelp::ShowTopic);
 }
@@ -251,7 +251,7 @@ void frmHelp::ShowHit(const QListWidgetItem* hit) {
 }
 
 void frmHelp::SelectTopicOf(const QString& page) {
-    // The contents follow the page without showing it anew, which would lose the place on it.
+    // The contents follow the page but do not show it again, which would lose the place on it.
     const QSignalBlocker blocker(tvContents);
     QTreeWidgetItem* const topic = FindTopic(tvContents->invisibleRootItem(), page);
     const bool isShown = tvContents->currentItem() &&

@@ -20,7 +20,7 @@ class QToolBar;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-// How a person has arranged a help window, for the one after it.
+// How a person has arranged a help window, for the next one.
 struct HelpWindowLook {
     QByteArray Geometry; // empty: none was open yet
     QByteArray Parts;    // of the window's width
@@ -40,8 +40,8 @@ class frmHelp : public QWidget {
 
     HelpWindowLook Look() const;
 
-    // Arranges the window as another one was. Without that it has the size that it is made for, or what the
-    // screen has room for.
+    // Arranges the window as another one was. Otherwise the window has its designed size, or as much of it as
+    // fits the screen.
     void SetLook(const HelpWindowLook& look, const QScreen& screen);
 
   private:
@@ -57,7 +57,7 @@ class frmHelp : public QWidget {
 
     HelpBook book_;
     Language language_;
-    std::vector<std::string> markedTerms_; // what the list of hits was made for
+    std::vector<std::string> markedTerms_; // for which the list of hits was made
     int textSize_ = 0;                     // steps above the size of other windows
 
     QToolBar* tbToolBar;

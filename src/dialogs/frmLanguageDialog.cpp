@@ -12,8 +12,8 @@
 #include <array>
 
 namespace {
-// A row's place is the number that is stored. There is no row for Hungarian, so that "Dutch" has the number
-// of it; the stored numbers depend on that.
+// A row's place is the stored number. There is no row for Hungarian, so "Dutch" has its number; the stored
+// numbers depend on that.
 constexpr std::array<TextId, 11> Rows{
     TextId::LanguageEnglish, TextId::LanguageGerman,  TextId::LanguageItalian, TextId::LanguageSpanish,
     TextId::LanguageFrench,  TextId::LanguageSwedish, TextId::LanguageFinnish, TextId::LanguageCzech,

@@ -31,7 +31,7 @@ QLineEdit* MakeField(const char* name, QWidget* parent) {
     return field;
 }
 
-// Asks for the room of some lines, and makes do with fewer on a small screen.
+// Asks for the room of some lines, and accepts fewer on a small screen.
 class TextBox : public QPlainTextEdit {
   public:
     TextBox(const char* name, int lines, QWidget* parent) : QPlainTextEdit(parent), lines_(lines) {
@@ -160,7 +160,7 @@ void frmLogbookIdent::showEvent(QShowEvent* event) {
     }
 }
 
-// The box' own text has every blank as it was typed, also those that must not break.
+// The box's own text has every blank as typed, also non-breaking ones.
 QString frmLogbookIdent::CommentText() const {
     QString text = tbComment->document()->toRawText();
     for (const QChar lineEnd : {QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)})

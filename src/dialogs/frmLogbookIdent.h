@@ -12,8 +12,8 @@ class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
 
-// What the event entry dialog shows: the cells of a row, and its tag as the event ID. In data and comment the
-// lines are separated by line breaks (CR LF).
+// The content of the event entry dialog: the cells of a row, and its tag as the event ID. In data and
+// comment, CR LF separates the lines.
 struct LogbookIdent {
     QString Event;
     QString Ident;
@@ -25,26 +25,26 @@ struct LogbookIdent {
     QString Comment;
 };
 
-// The event entry dialog: one entry field by field, and its comment to be written. Where the entry has none,
-// the control's own error text is proposed, selected as a whole so that typing replaces it.
+// The event entry dialog: shows one entry field by field, and lets the person write its comment. For an entry
+// without one it proposes the control's own error text, selected as a whole so that typing replaces it.
 class frmLogbookIdent : public FittedDialog {
     Q_OBJECT
 
   public:
-    // What is proposed for an entry with this data; "" for nothing.
+    // The proposed comment for an entry with this data; "" for none.
     using Proposal = std::function<QString(const QString& data)>;
 
     frmLogbookIdent(Language language, Proposal propose, QWidget* parent);
 
-    // Shows an entry and waits. Afterwards Comment() has what became of it.
+    // Shows an entry and waits for the person. Afterwards Comment() has the result.
     void ShowEntry(const LogbookIdent& entry);
 
-    // What the person wants as comment, lines separated by CR LF: "" leaves the comment as it was, ClearMark
-    // asks for an empty one. A person may type the mark, too.
+    // The person's comment, with CR LF between lines: "" leaves the comment as it was, ClearMark asks for an
+    // empty one. A person may also type the mark.
     const QString& Comment() const { return comment_; }
     static constexpr const char* ClearMark = "!!Clear!!";
 
-    // True when the window was closed by its title bar: then no further entries are wanted.
+    // True when the person closed the window by its title bar, to see no further entries.
     bool WasClosed() const { return closed_; }
 
   protected:

@@ -95,7 +95,7 @@ void frmLogbookSettings::MakeControls() {
             [popup](const QPoint& position) { popup->popup(position); });
     connect(lvFilter, &DialogList::EditWanted, this, [this] { Start(Command::Edit); });
     connect(lvFilter, &DialogList::RemoveWanted, this, &frmLogbookSettings::RemoveFilters);
-    // By its check box; what is written here is noted when it is whole.
+    // Changed by its check box; a filter written here is noted when it is complete.
     connect(lvFilter, &DialogList::itemChanged, this, [this] { ShowNote(); });
     connect(popup, &ListPopup::Add, this, [this] { Start(Command::Add); });
     connect(popup, &ListPopup::Edit, this, [this] { Start(Command::Edit); });
@@ -145,7 +145,7 @@ void frmLogbookSettings::SaveFilter() {
     SaveFilters(context_.Settings, lists_, initFilterDir_);
 }
 
-// A dialog opens from the timer alone, never from inside an event of the list or the menu.
+// Only the timer opens a dialog, never an event of the list or the menu.
 void frmLogbookSettings::Start(Command command) {
     command_ = command;
     Timer1->start();
@@ -249,8 +249,7 @@ void frmLogbookSettings::GetFilterFromFile(const std::string& path) {
     ShowNote(ToQString(FilterFileMessage(name, content, context_.DialogLanguage)));
 }
 
-// True when the list may be taken over. An empty one becomes a list that shows every entry, if that is what
-// the person wants.
+// True when the list may be stored. If the person agrees, an empty list becomes one that shows every entry.
 bool frmLogbookSettings::ConfirmEmptyList() {
     if (lvFilter->topLevelItemCount() > 0)
         return true;
@@ -262,7 +261,7 @@ bool frmLogbookSettings::ConfirmEmptyList() {
     return true;
 }
 
-// True when no character of the filters is lost in a filter file, or the person accepts that.
+// True when a filter file loses no character of the filters, or the person accepts the loss.
 bool frmLogbookSettings::ConfirmLoss(const std::vector<FilterDefinition>& filters) {
     QStringList numbers;
     for (const std::size_t place : FiltersThatLose(filters, context_.FileCodePage))
@@ -297,7 +296,7 @@ std::vector<FilterDefinition> frmLogbookSettings::FiltersToStore() const {
     return filters.empty() ? DefaultFilters() : filters;
 }
 
-// Says what stands in the way of the rows being stored, behind what there is to say about a file.
+// Shows why the rows cannot be stored, behind a text about a file.
 void frmLogbookSettings::ShowNote(const QString& aboutFile) {
     QStringList notes;
     if (!aboutFile.isEmpty())

@@ -16,29 +16,29 @@ class QPushButton;
 class QTimer;
 class QTreeWidgetItem;
 
-// Edits the active filter list. The rows are a working copy: the settings change with OK and Apply alone.
+// Edits the active filter list. The rows are a working copy: only OK and Apply change the settings.
 class frmLogbookSettings : public FittedDialog {
     Q_OBJECT
 
   public:
-    // Shows the stored filters. `apply` filters the loaded logbook anew; it is called by Apply, when the
-    // filters are stored.
+    // Shows the stored filters. `apply` filters the loaded logbook again; Apply calls it after it has stored
+    // the filters.
     frmLogbookSettings(const FilterDialogContext& context, std::function<void()> apply,
                        QWidget* parent = nullptr);
 
-    // "OK" or "CANCEL" once the dialog is closed. After "OK" the caller filters anew.
+    // "OK" or "CANCEL" once the dialog is closed. After "OK" the caller must filter again.
     QString ResultText() const { return resultText_; }
 
     // Stores the rows, the predefined strings and the folder of filter files. An empty list is stored as the
     // default list.
     void SaveFilter();
 
-    // Writes what SaveFilter would store of the filters to a filter file. False when the file was not
-    // written, which the person has then been told, or has decided.
+    // Writes the filters that SaveFilter would store to a filter file. False when it wrote no file, because
+    // of an error that it has shown, or because the person decided so.
     bool SaveFilterInFile(const std::string& path);
 
-    // Reads a filter file into the rows. A file that is none, or that cannot be opened, is told and leaves
-    // the rows as they were; one that breaks off gives the rows up to there.
+    // Reads a filter file into the rows. Reports a file that is no filter file or cannot be opened, and
+    // leaves the rows as they were; a file that fails further down gives the rows up to there.
     void GetFilterFromFile(const std::string& path);
 
     void accept() override;

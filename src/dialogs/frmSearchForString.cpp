@@ -99,8 +99,8 @@ std::optional<SearchState> frmSearchForString::Search() const {
 }
 
 bool frmSearchForString::eventFilter(QObject* watched, QEvent* event) {
-    // The box's own menu gives the focus back and leaves the selection to what was chosen in it. A click
-    // would undo the selection at once, so it comes after the click.
+    // The box's own menu gives the focus back; the chosen item then decides the selection. A click would undo
+    // the selection at once, so the selection comes after the click.
     if (event->type() == QEvent::FocusIn &&
         static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
         QMetaObject::invokeMethod(tbSearchString, &QLineEdit::selectAll, Qt::QueuedConnection);

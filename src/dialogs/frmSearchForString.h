@@ -14,12 +14,12 @@ class QLineEdit;
 class QPushButton;
 class QRadioButton;
 
-// Asks what to search the list for. All of the text is selected whenever its box gets the focus.
+// Asks what to search for in the list. Selects all of the text whenever its box gets the focus.
 class frmSearchForString : public FittedDialog {
     Q_OBJECT
 
   public:
-    // Shows the search that was made last.
+    // Shows the last search.
     frmSearchForString(const SearchState& last, Language language, QWidget* parent = nullptr);
 
     // The search to make, after Find; nothing after Cancel.

@@ -67,7 +67,8 @@ frmStringSettings::frmStringSettings(Registry& registry, Language language,
     for (const StringFilter& filter : stringFilters)
         if (!filter.FilterString.empty())
             Write(filter, *new QTreeWidgetItem(lvFilterStrings));
-    // The keys begin there. It is not selected: OK gives the string of a row that the person selects.
+    // The keys begin at this row. It is not selected, because OK gives the string of a row that the person
+    // selects.
     if (lvFilterStrings->topLevelItemCount() > 0)
         lvFilterStrings->setCurrentItem(lvFilterStrings->topLevelItem(0), 0, QItemSelectionModel::NoUpdate);
     lvFilterStrings->setFocus();
@@ -128,7 +129,7 @@ void frmStringSettings::Remove() {
     RowsChanged();
 }
 
-// The last sorted column inverts the order; another one keeps it, as in the logbook list.
+// The last sorted column inverts the direction; another one keeps it, as in the logbook list.
 void frmStringSettings::SortByColumn(int column) {
     descending_ = column == lastSortColumn_ ? !descending_ : descending_;
     lastSortColumn_ = column;

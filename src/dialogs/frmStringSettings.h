@@ -16,12 +16,13 @@ class frmStringSettings : public FittedDialog {
     Q_OBJECT
 
   public:
-    // Shows the string filters that have a string. Each change of the rows makes `stringFilters` exactly
-    // them, in their order; it reaches the settings with the filter list, and is not taken back by Cancel.
+    // Shows the string filters that have a string. Each change of the rows sets `stringFilters` to exactly
+    // these rows, in their order. The change reaches the settings with the filter list; Cancel does not undo
+    // it.
     frmStringSettings(Registry& registry, Language language, std::vector<StringFilter>& stringFilters,
                       QWidget* parent = nullptr);
 
-    // The string of the row that was selected when OK was pressed; "" when there was none, and after Cancel.
+    // The string of the row that was selected at OK; "" when no row was selected, and after Cancel.
     QString ResultText() const { return resultText_; }
 
     void accept() override;

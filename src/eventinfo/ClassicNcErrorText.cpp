@@ -5,11 +5,11 @@
 
 namespace {
 
-// Both languages, whatever the dialog language: a file may have been left untranslated.
+// Both languages, whatever the dialog language: a file may be untranslated.
 bool IsCauseHeading(std::string_view line) { return line == "Cause of error:" || line == "Fehlerursache:"; }
 bool IsFixHeading(std::string_view line) { return line == "Corrective action:" || line == "Fehlerbehebung:"; }
 
-// Reads the lines of a text up to one that ends it, which then is `line`, or to the end of the file.
+// Reads the lines of a text up to the line that ends it, which `line` then holds, or to the end of the file.
 template <typename EndsText>
 std::string ReadParagraph(LanguageFile& file, std::string_view& line, EndsText endsText) {
     file.ReadLine(line);

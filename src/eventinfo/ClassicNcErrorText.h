@@ -7,8 +7,8 @@
 #include <optional>
 #include <string>
 
-// The text of a classic NC error, from a file "qx_error_help.txt" of blocks, with the headings in English or
-// German and an empty line behind each block:
+// The text of a classic NC error, from a file "qx_error_help.txt". It consists of blocks with headings in
+// English or German and an empty line behind each block:
 //
 //     215
 //     Axis is not referenced
@@ -18,7 +18,6 @@
 //     Corrective action:
 //     Traverse the reference point.
 //
-// A line that is exactly the number begins the block. Nothing when there is none or the file cannot be read;
-// the parts that a block lacks are empty. The first line behind a heading belongs to its text, whatever it
-// is.
+// A line that is exactly the number begins the block. Nothing when there is no such line or the file cannot
+// be read; parts missing in a block are empty. The first line behind a heading always belongs to its text.
 std::optional<EventTextRecord> ReadClassicNcErrorText(const std::string& fileName, std::int64_t number);

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-// What a class such as "Ev_class_2" means: the class, then what the control does. Always German, whatever the
-// dialog language; service people know the classes by these words. An unknown class, also one written in
-// another case, is followed by "???".
+// The meaning of a class such as "Ev_class_2": the class, then the control's reaction. Always German,
+// whatever the dialog language, because service people know the classes by these words. "???" follows an
+// unknown class, also one in another case.
 std::string EventClassText(std::string_view className);

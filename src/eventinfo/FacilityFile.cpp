@@ -23,7 +23,7 @@ std::optional<std::int32_t> ParseNumber(std::string_view text) {
     return number;
 }
 
-// The prefix begins the name of a file in the language folder, so it may not lead out of there.
+// The prefix begins the name of a file in the language folder, so it must not lead out of that folder.
 bool IsFilePrefix(std::string_view text) {
     return !text.empty() && text.find_first_of("/\\:") == std::string_view::npos;
 }

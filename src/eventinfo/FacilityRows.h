@@ -241,7 +241,7 @@ inline constexpr auto FacilityRows = std::to_array<FacilityRow>({
     {0x2D9, "??", "SCRIPTIO"},
     {0x2DA, "??", "SCRIPTGUI"},
     {0x2DB, "??", "SCRIPTLIB"},
-    // Messages that have a list of their own, ErrorText.csv
+    // Messages with their own list, ErrorText.csv
     {0x300, "??", "ERRORTEXT"},
     // Simulation
     {0x310, "SIMULATE", "SIMULATE"},

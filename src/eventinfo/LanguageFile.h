@@ -8,17 +8,17 @@
 #include <string_view>
 
 // The path of a file or folder in a folder, whatever the case of its letters: the files come from systems
-// that do not tell case apart. The exact name is preferred, then the first in the order of their characters.
-// Without any, the path of the exact name; "" for a folder "". Never throws.
+// that ignore case. Prefers the exact name, then the first name in the order of characters. When there is
+// none, the path of the exact name; "" for a folder "". Never throws.
 std::string FindInFolder(const std::string& folder, std::string_view name);
 
-// A text of the control's language files, which are Windows-1252, as UTF-8.
+// Converts a text of the control's language files, which are Windows-1252, to UTF-8.
 std::string LanguageFileText(std::string_view bytes);
 
-// One of the control's language files, open from its making to its end, line by line.
+// Reads one of the control's language files line by line; the file is open while the object lives.
 class LanguageFile {
   public:
-    // A larger file is none of the control's and is not read.
+    // In bytes. A larger file is not the control's and is not read.
     static constexpr std::int64_t LargestSize = 64 * 1024 * 1024;
 
     explicit LanguageFile(const std::string& path);
@@ -27,8 +27,8 @@ class LanguageFile {
     // empty line, at the end and when the file is not Readable.
     bool ReadLine(std::string_view& line);
 
-    // False for anything but a text file that can be read: from the beginning, or since a line could not be
-    // read or held a NUL. What was read of such a file is not to be used.
+    // False when the file is no readable text file: from the beginning, or since a line could not be read or
+    // held a NUL. Do not use what was read of such a file.
     bool Readable() const { return readable_; }
 
   private:

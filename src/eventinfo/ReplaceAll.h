@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-// Replaces every `from`, which is not empty, by `to`; what was put in is not looked at again. Time grows with
-// the text's length only.
+// Replaces every `from`, which must not be empty, by `to`, and does not search the replacements again. Takes
+// time linear in the text's length.
 inline void ReplaceAll(std::string& text, std::string_view from, std::string_view to) {
     std::size_t place = text.find(from);
     if (place == std::string::npos)

@@ -25,7 +25,8 @@ bool Contains(std::string_view text, std::string_view part) {
     return text.find(part) != std::string_view::npos;
 }
 
-// The value in double quotes behind `name`, which ends in "="; nothing without the name or the second quote.
+// The value in double quotes behind `name`, which ends in "="; nothing when the name or the second quote is
+// missing.
 std::optional<std::string> Attribute(std::string_view line, std::string_view name) {
     const std::size_t place = line.find(name);
     if (place == std::string_view::npos || place + name.size() >= line.size())
@@ -37,8 +38,8 @@ std::optional<std::string> Attribute(std::string_view line, std::string_view nam
     return LanguageFileText(value.substr(0, end));
 }
 
-// The text between the first of each of two tags from `place` on, which then is the end of it. Without one of
-// them, or with the end before the begin, the text is empty and the place stays.
+// The text between the first start tag and the first end tag from `place` on; moves `place` to its end. When
+// a tag is missing, or the end comes before the start, the text is empty and `place` stays.
 std::string TextBetween(std::string_view text, std::string_view beginTag, std::string_view endTag,
                         std::size_t& place) {
     const std::size_t begin = text.find(beginTag, place);

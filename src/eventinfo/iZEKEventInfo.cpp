@@ -23,7 +23,7 @@ std::string FolderOfLanguage(const std::string& folder, Language language) {
 
 void AppendLine(std::string& comment, std::string_view text) { comment.append(text).append(EventTextBreak); }
 
-// Message and cause, which both kinds of comment begin with; a line break at the end.
+// Message and cause, with a line break at the end: the beginning of both kinds of comment.
 std::string CommentOn(const EventTextRecord& record, Language language) {
     std::string comment;
     AppendLine(comment, record.Message);

@@ -20,8 +20,8 @@
 //         qx_error_help.txt                  classic NC errors
 //         error.a, reason.a, fix.a           classic errors of the machine program
 //
-// Names are found whatever their case. The files are read anew for every lookup, and what is missing or
-// cannot be read gives no comment. Nothing here throws.
+// Finds names whatever their case. Reads the files again for every lookup; a file that is missing or cannot
+// be read gives no comment. Nothing here throws.
 
 // The folder of the language files beside the program, with a separator at its end; "" when it is unknown.
 std::string GetErrorInfoPath();
@@ -34,13 +34,13 @@ struct EventCode {
     bool operator==(const EventCode&) const = default;
 };
 
-// Reads a code. Each number ends at its first character that is no digit; what stands there does not matter,
-// and without a digit it is 0. One with more than eight digits is NumberOfNothing. Nothing when the facility
-// is not in the table.
+// Reads a code. Each number ends at the first character that is no digit, whatever that is; without a digit
+// it is 0. A number with more than eight digits is NumberOfNothing. Nothing when the facility is not in the
+// table.
 std::optional<EventCode> ParseEventCode(std::string_view code, const FacilityTable& table);
 
-// A comment with CR LF line breaks, UTF-8, and what the status bar should tell of a facilities.csv that has a
-// mistake, in whose place the built-in facilities stand.
+// A comment (UTF-8, CR LF line breaks), and the mistake in facilities.csv for the status bar. With a mistake,
+// the built-in facilities are used instead.
 struct ProposedComment {
     std::optional<std::string> Text;
     FacilityFileMistake Mistake;
@@ -51,11 +51,10 @@ struct ProposedComment {
 // The comment for a data text with "Event: " and a code in it.
 ProposedComment AutoFillCommentNCK(std::string_view data, Language language, const std::string& folder);
 
-// The comment for a data text that begins with "N" or "P", a number and a blank. A word there instead of a
-// number counts as number 0. Where the control names no corrective action, the comment ends with a line
-// break.
+// The comment for a data text that begins with "N" or "P", a number and a blank. A word instead of the number
+// counts as 0. When the control names no corrective action, the comment ends with a line break.
 std::optional<std::string> AutoFillCommentiZEK(std::string_view data, Language language,
                                                const std::string& folder);
 
-// Both lookups; where both have a comment, that of AutoFillCommentiZEK.
+// Does both lookups; when both give a comment, takes that of AutoFillCommentiZEK.
 ProposedComment AutoFillComment(std::string_view data, Language language, const std::string& folder);

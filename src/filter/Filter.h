@@ -12,27 +12,25 @@
 #include <span>
 #include <string_view>
 
-// True when the filter text is empty or a part of the field, exact characters.
+// True when the filter text is empty or a part of the field; characters compare exactly.
 bool MatchText(std::string_view field, std::string_view filterText);
 
-// True when the filter, active or not, matches the entry. One filter against one entry; a run over all
-// entries is ApplyFilters.
+// True when the filter, active or not, matches the entry. For a run over all entries use ApplyFilters.
 bool MatchFilter(const FilterDefinition& filter, const EntryTable& entries, EntryNumber number);
 
-// What a run tells its surroundings: a percentage from 0 to 100, every hundred entries; 0 at its begin and
-// end.
+// Receives the progress of a run: 0 to 100 percent, every hundred entries; 0 at the run's start and end.
 using FilterProgress = std::function<void(double percent)>;
 
-// Makes the rows of the list from the entries, in entry order: those that an active include filter matches
-// and no active exclude filter; highlighted when an active highlight filter matches. The order of the filters
-// has no effect.
+// Makes the rows of the list from the entries, in entry order. A row shows an entry that an active include
+// filter matches and no active exclude filter; it is highlighted when an active highlight filter matches. The
+// order of the filters has no effect.
 //
-// False when an entry to be shown has an event type outside 0 to 9; the rows made before it stay.
+// False when an entry to show has an event type outside 0 to 9; the rows made before it stay.
 //
-// Costs one step an entry, and for each filter with a text one look at the data of all entries.
+// Costs one step an entry, and for each filter with a text one search of the data of all entries.
 bool ApplyFilters(const EntryTable& entries, std::span<const FilterDefinition> filters, LogbookRows& rows,
                   const FilterProgress& progress = {});
 
-// The row to select after a run for the entry that was selected before it: the first, in the order of the
-// rows, whose entry has that number or a higher one.
+// The row to select after a run when entry `number` was selected before it: the first row whose entry has
+// that number or a higher one.
 std::optional<std::size_t> RowForEntry(const LogbookRows& rows, EntryNumber number);

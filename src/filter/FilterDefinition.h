@@ -25,8 +25,8 @@ inline constexpr std::int16_t Numbers = 8;
 inline constexpr std::int16_t Count = 10;
 } // namespace FilterTypes
 
-// One filter. An empty text is no condition, but an empty number list matches no entry. A type outside 0 to 9
-// never matches. The texts are UTF-8 and compare exactly.
+// One filter. An empty text sets no condition, but an empty number list matches no entry. A type outside 0 to
+// 9 never matches. The texts are UTF-8 and compare exactly.
 struct FilterDefinition {
     std::int16_t Action = FilterActions::Include;
     std::int16_t FilterType = FilterTypes::All;
@@ -54,10 +54,10 @@ struct FilterLists {
     bool operator==(const FilterLists&) const = default;
 };
 
-// The list that stands in for a missing or damaged one: every entry is shown.
+// The list that replaces a missing or damaged one: it shows every entry.
 inline std::vector<FilterDefinition> DefaultFilters() { return {FilterDefinition{}}; }
 
-// The predefined texts of a fresh installation, with their comments in the language of this moment.
+// The predefined texts of a fresh installation, with comments in this language.
 std::vector<StringFilter> DefaultStringFilters(Language language);
 
 // The senders that the filter definition offers, the empty text first: the components of the control's
@@ -66,8 +66,8 @@ inline constexpr std::array<std::string_view, 17> SenderChoices{
     "",     "GEO",  "IPO",    "PLC",  "HMI",   "EDIT", "SYS",  "MAIN", "PYTHON",
     "REMO", "SAFE", "MOTION", "TOOL", "CYCLE", "DATA", "DIAG", "BUS"};
 
-// The labels of the filter types, which stand in the rows of the filter dialog and are read back from there.
-// They follow the dialog language when that is English or German, and stay as they were for any other number.
+// The labels of the filter types. The filter dialog shows them in its rows and reads them back. They follow
+// the dialog language when it is English or German; any other language leaves them as they were.
 class FilterTypeLabels {
   public:
     void SetLanguage(Language language) {

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view Header = "[Filters]";
 
-// A filter's line in the code page; what has no place in a line is lost like a character that the code page
+// A filter's line in the code page. Characters that a line cannot hold are lost like those that the code page
 // lacks.
 CodePage::Bytes FilterLine(const FilterDefinition& filter, const CodePage& codePage) {
     CodePage::Bytes line = codePage.FromUtf8(FormatFilter(filter));
@@ -25,7 +25,7 @@ CodePage::Bytes FilterLine(const FilterDefinition& filter, const CodePage& codeP
     return line;
 }
 
-// Counts the filters of a file, as far as there is room for them.
+// Counts the filters of a file against the bounds.
 class FilterRoom {
   public:
     bool Take(const FilterDefinition& filter) {

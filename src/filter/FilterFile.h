@@ -11,31 +11,32 @@
 #include <system_error>
 #include <vector>
 
-// Filter files (*.fil): the line "[Filters]", then a filter a line, in the code page of the control's files.
+// Filter files (*.fil): the line "[Filters]", then one filter a line, in the code page of the control's
+// files.
 
-// What a filter file may hold. A list that names every other one of ten million entries has 45 MB and fewer
-// than 50,000 filters; one with a text costs every run a look at the data of all entries. A file beyond that
-// is neither read nor written.
+// The most that a filter file may hold; a larger one is neither read nor written. A list that names every
+// other one of ten million entries has 45 MB and fewer than 50,000 filters. Each filter with a text makes
+// every run search the data of all entries.
 namespace FilterFileBounds {
 inline constexpr TextFileBounds Bytes{.File = 64U << 20U, .Line = 16U << 20U};
 inline constexpr std::size_t Filters = 100'000;
 inline constexpr std::size_t FiltersWithText = 10'000;
 } // namespace FilterFileBounds
 
-// The places in the list of the filters that have characters which the code page lacks; an export writes "?"
-// for each. Whoever exports tells the user before the file is replaced.
+// The places in the list of the filters with characters that the code page lacks; an export writes "?" for
+// each. The caller must warn the user before it replaces the file.
 std::vector<std::size_t> FiltersThatLose(std::span<const FilterDefinition> filters, const CodePage& codePage);
 
-// Writes the file; an existing one is replaced when the new one is whole.
+// Writes the file; replaces an existing one when the new one is whole.
 std::error_code ExportFilterFile(const std::string& path, std::span<const FilterDefinition> filters,
                                  const CodePage& codePage);
 
 struct FilterFileContent {
     enum class Outcome {
         Read,
-        CannotRead,  // Error tells why
+        CannotRead,  // Error says why
         NoHeader,    // the first line is not exactly the header
-        InvalidLine, // Line tells which; Filters holds those above it
+        InvalidLine, // Line gives its number; Filters holds those above it
     };
 
     Outcome Result = Outcome::Read;
@@ -44,9 +45,9 @@ struct FilterFileContent {
     std::vector<FilterDefinition> Filters;
 };
 
-// Reads the file; lines may end with CR LF or LF. An empty file is read as an empty list. Without memory for
-// its filters it is one that cannot be read.
+// Reads the file; lines may end with CR LF or LF. An empty file gives an empty list. CannotRead also when
+// there is no memory for the filters.
 FilterFileContent ImportFilterFile(const std::string& path, const CodePage& codePage);
 
-// The message for a file that was not Read: in the words of the filter dialog where it has some.
+// The message for a file that was not Read, in the words of the filter dialog where it has any.
 std::string FilterFileMessage(const std::string& path, const FilterFileContent& content, Language language);

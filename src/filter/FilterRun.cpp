@@ -76,7 +76,7 @@ void FilterRun::MarkText(const TextCondition& condition, EntryNumber first, Entr
     std::size_t place = entries_.TextBegin(first);
     while ((place = condition.Text.Find(text, place)) != TextSearcher::NotFound) {
         number = entries_.EntryAt(place, number);
-        // What was found may lie behind the entry's data, in its stamp, or reach into it or into the next
+        // A found text may lie behind the entry's data, in its stamp, or reach into the stamp or the next
         // entry.
         const std::size_t dataEnd = entries_.TextBegin(number) + entries_.Data(number).size();
         if (place + condition.Text.Text().size() <= dataEnd && condition.Kinds[entries_.KindNumber(number)])

@@ -12,32 +12,31 @@
 #include <span>
 #include <vector>
 
-// The part of a filter that one entry's kind decides: event type, name and sender.
+// Whether a filter's event type, name and sender match an entry's kind.
 bool MatchKind(const FilterDefinition& filter, const EntryKind& kind);
 
-// The filters of a run, prepared for going through the entries from the first to the last in batches.
+// The filters of a run, prepared for passing through the entries from first to last in batches.
 //
-// What the kind of an entry decides is decided once a kind. What remains are texts and number lists: for a
-// batch they are turned into one bit an entry and action, a text by searching the data of the whole batch at
-// once.
+// Conditions on the kind of an entry are decided once a kind. Texts and number lists remain: each batch turns
+// them into one bit an entry and action, and searches for a text in the data of the whole batch at once.
 class FilterRun {
   public:
     static constexpr EntryNumber BatchSize = 4096;
 
     FilterRun(const EntryTable& entries, std::span<const FilterDefinition> filters);
 
-    // Prepares the entries from `first` up to `end`, at most BatchSize; batches follow one another from entry
-    // 0 on.
+    // Prepares the entries from `first` up to `end`, at most BatchSize. Batches must follow one another from
+    // entry 0 on.
     void BeginBatch(EntryNumber first, EntryNumber end);
 
     enum class Decision : std::uint8_t {
         Hidden,
         Shown,
         Highlighted, // and shown
-        Invalid,     // to be shown, but of an event type that the list has no name for
+        Invalid,     // to be shown, but the list has no name for the event type
     };
 
-    // What becomes of an entry of the batch.
+    // The decision on an entry of the batch.
     Decision Decide(EntryNumber number) const {
         const std::size_t place = number - batchBegin_;
         unsigned matched = kinds_[entries_.KindNumber(number)];
@@ -60,12 +59,12 @@ class FilterRun {
     struct TextCondition {
         std::size_t Action;
         TextSearcher Text;
-        std::vector<bool> Kinds; // that the filter is for
+        std::vector<bool> Kinds; // for which the filter is
     };
     struct NumberCondition {
         std::size_t Action;
         std::vector<NumberRange> Ranges;
-        std::size_t Next; // the first range that does not end before the batch
+        std::size_t Next; // the first range that reaches into or beyond the batch
     };
 
     void MarkText(const TextCondition& condition, EntryNumber first, EntryNumber end);
@@ -78,7 +77,7 @@ class FilterRun {
 
     const EntryTable& entries_;
     std::vector<std::uint8_t>
-        kinds_; // by kind: the actions of filters that it alone decides, and NoEventType
+        kinds_; // by kind: the actions of filters that the kind alone decides, and NoEventType
     std::vector<TextCondition> texts_;
     std::vector<NumberCondition> numbers_;
     EntryNumber batchBegin_ = 0;

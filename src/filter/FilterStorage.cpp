@@ -19,8 +19,8 @@ constexpr std::string_view StringFilterCountName = "SpecialFilterCount";
 constexpr std::string_view StringFilterName = "StringFilter";
 constexpr std::string_view FolderName = "InitFilterDir";
 
-// Missing string filters read as empty ones; behind this number they end the list, so that a damaged count
-// does not make billions of them.
+// Missing string filters read as empty ones, but beyond this number they end the list, so that a damaged
+// count does not make billions of them.
 constexpr std::int32_t MostMissing = 1000;
 
 // The numbered values count from 1.
@@ -34,7 +34,7 @@ std::vector<StringFilter> LoadStringFilterList(const Registry& registry, Languag
         return DefaultStringFilters(language);
     std::vector<StringFilter> filters;
     for (std::int32_t number = 1; number <= count; ++number) {
-        // A default of the other kind tells a missing text from an empty one.
+        // A default of the other kind distinguishes a missing text from an empty one.
         const SettingValue text =
             registry.ReadSetting(Numbered(StringFilterName, static_cast<std::size_t>(number)), 0,
                                  SettingType::Text, SubKeys::Filters);
@@ -54,20 +54,20 @@ void WriteList(Registry& registry, std::string_view name, std::string_view count
     registry.WriteFilterSetting(countName, static_cast<std::int32_t>(texts.size()), SettingType::Integer);
 }
 
-// A text form or, where only that is too long to be read back, one that is shorter and read the same.
+// The usual text form or, when only that is too long to be read back, a shorter one with the same meaning.
 std::string ShorterIfNeeded(std::string text, std::string shorter) {
     return !Registry::IsReadBack(text) && Registry::IsReadBack(shorter) ? std::move(shorter)
                                                                         : std::move(text);
 }
 
-// Filters of the older form, which has no flag and is active, and flags that are empty come from elsewhere.
+// Filters of the older form (no flag, active) and empty flags come from elsewhere.
 std::string TextToStore(const FilterDefinition& filter) {
     constexpr std::size_t FlagWithSeparator = 2;
     const std::string text = FormatFilter(filter);
     return ShorterIfNeeded(text, text.substr(0, text.size() - (filter.Active ? FlagWithSeparator : 1)));
 }
 
-// What stands behind the comment is not read, nor need an empty comment be there.
+// Reading ignores the text behind the comment, and an empty comment may be missing.
 std::string TextToStore(const StringFilter& filter) {
     return ShorterIfNeeded(FormatStringFilter(filter), filter.Comment.empty()
                                                            ? filter.FilterString
@@ -149,7 +149,7 @@ void SaveFilters(Registry& registry, const FilterLists& lists, std::string_view 
 }
 
 std::string FilterFolder(const Registry& registry, std::string_view programFolder) {
-    // No folder has an empty name: that was stored where there was none.
+    // No folder has an empty name: an empty one was stored when there was no folder.
     std::string folder = registry.ReadFilterSettingString(FolderName, "");
     return folder.empty() ? std::string(programFolder) : folder;
 }

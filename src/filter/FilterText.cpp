@@ -14,7 +14,7 @@ constexpr char Separator = '|';
 constexpr std::size_t FieldsWithoutActive = 5;
 constexpr std::size_t Fields = 6;
 
-// Splits a text into fields; returns their number, also when it is larger than there is room for.
+// Splits a text into fields. Returns their number, even when there is no room for all of them.
 std::size_t Split(std::string_view text, std::array<std::string_view, Fields>& fields) {
     for (std::size_t count = 0;; ++count) {
         const std::size_t end = text.find(Separator);
@@ -26,7 +26,7 @@ std::size_t Split(std::string_view text, std::array<std::string_view, Fields>& f
     }
 }
 
-// An optional sign and decimal digits, blanks around them, in 16 bits.
+// Reads an optional sign and decimal digits, with blanks around them, into 16 bits.
 bool ParseType(std::string_view text, std::int16_t& type) {
     text = Trim(text);
     if (text.starts_with('+') && text.size() > 1 && text[1] != '-')

@@ -10,8 +10,8 @@
 // exclude, "H" highlight), type, data text or number list, name, sender, and "1" when it is active, joined by
 // "|". Nothing is escaped, so a "|" inside a text makes the line invalid.
 
-// False when the text is no filter; `filter` is then not to be used. The form without the last field, which
-// is older, is read as active.
+// False when the text is no filter; `filter` then has no meaning. The older form without the last field is
+// read as active.
 bool ParseFilter(std::string_view text, FilterDefinition& filter);
 std::string FormatFilter(const FilterDefinition& filter);
 

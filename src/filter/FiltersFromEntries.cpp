@@ -26,7 +26,7 @@ NumberFilters::NumberFilters(Registry& registry, std::int16_t action)
         list_.Append(stored_.Filters[place].StringFilter);
 }
 
-// The first number filter of the action, and those that go on with its list.
+// Finds the first number filter of the action, and those that continue its list.
 void NumberFilters::FindPlaces() {
     const FilterDefinition* last = nullptr; // of those that are not empty
     for (std::size_t place = 0; place < stored_.Filters.size(); ++place) {

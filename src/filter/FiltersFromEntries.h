@@ -10,35 +10,36 @@
 
 class Registry;
 
-// Filters that collect entries by their numbers: what the user takes out of the list is kept in an exclude
-// filter, what he highlights in a highlight filter. They are ordinary stored filters of type 8, so that the
-// next filter run and the next start give the same picture, and the user edits them like any other.
+// Filters that collect entries by their numbers: an exclude filter keeps the entries that the user removes
+// from the list, a highlight filter those that he highlights. They are ordinary stored filters of type 8, so
+// that the next filter run and the next start give the same picture, and the user can edit them like any
+// other.
 //
-// The filter that is used is the first active one of type 8 with the action; an inactive one is never
-// touched. When there is none, a new one comes to the end of the list. Only the changed filters are written,
-// and the number of filters when one is new. Where the default list stands in for a missing or damaged one,
-// a new filter is stored behind the default filter, so that everything else stays on the screen.
+// They use the first active filter of type 8 with the action and never touch an inactive one. When there is
+// none, they add a new one at the end of the list. They write only the changed filters, and the number of
+// filters when one is new. When the default list replaces a missing or damaged one, they store a new filter
+// behind the default filter, so that everything else stays on the screen.
 //
-// The settings give no text back that is longer than Registry::LongestText, and a list with such a filter
-// would fall back to the default list as a whole. So a number list that has no room in its filter goes on in
-// further ones, see filter/WrappedNumberList.h: active filters of type 8 with the action, without name and
-// sender, behind the first one. Such a filter goes on with the list only when those before it that do are so
-// full that its own beginning would have found no room there, or when it is empty. Any other number filter
-// of the action is a list of its own, which is not touched. Where numbers are taken out, what stands behind
-// moves up, so that the filters stay full up to the last one that has numbers; those behind it stay, empty.
+// The settings give no text back that is longer than Registry::LongestText; with such a filter the whole list
+// would fall back to the default list. So a number list that does not fit into its filter continues in
+// further ones (filter/WrappedNumberList.h): active filters of type 8 with the action, without name and
+// sender, behind the first one. Such a filter continues the list only when it is empty, or when the filters
+// before it are so full that its beginning would not have fitted there. Any other number filter of the action
+// is a list of its own and is not touched. When numbers are removed, the numbers behind them move up, so that
+// the filters stay full up to the last one with numbers; the filters behind it stay, empty.
 
-// Adds the entry to the filter of the action (see FilterActions), which is written also when it held it
-// already. True on success.
+// Adds the entry to the filter of the action (see FilterActions). Writes the filter also when it already held
+// the entry. True on success.
 bool AddEntryToFilter(Registry& registry, EntryNumber number, std::int16_t action);
 
-// Takes the entry out. True when there is a number filter for the action, also one that does not hold the
-// entry: it is then written back as it was.
+// Removes the entry from the filter. True when there is a number filter for the action; one that does not
+// hold the entry is written back as it was.
 bool RemoveEntryFromFilter(Registry& registry, EntryNumber number, std::int16_t action);
 
-// The number filters of one action for a change of many entries: gives the same filters as one of the calls
-// above for each entry in this order, and writes the settings once. The calls may leave more empty filters,
-// where a list was longer in between. The filters are read, and those that go on with the first one's list
-// are found, when it is made; nothing else may change the stored filters until it is written.
+// Changes the number filters of one action for many entries: gives the same filters as one of the calls above
+// for each entry in this order, but writes the settings once. Only, those calls may leave more empty filters
+// when a list was longer in between. The constructor reads the filters; nothing else may change the stored
+// filters until Write.
 class NumberFilters {
   public:
     NumberFilters(Registry& registry, std::int16_t action);
@@ -46,8 +47,8 @@ class NumberFilters {
     bool Add(EntryNumber number);
     bool Remove(EntryNumber number);
 
-    // Nothing is written before, and nothing when no entry was added or removed. The first filter is written
-    // also when it did not change.
+    // Writes the filters, or nothing when no entry was added or removed. Writes the first filter also when it
+    // did not change. Nothing is written before.
     void Write();
 
   private:
@@ -56,7 +57,7 @@ class NumberFilters {
     Registry& registry_;
     std::int16_t action_;
     StoredFilters stored_;
-    std::vector<std::size_t> places_; // in the list of filters, of those that the number list stands in
+    std::vector<std::size_t> places_; // in the list of filters, of those that hold the number list
     NumberListEditor list_;
     bool used_ = false;
     bool changed_ = false;

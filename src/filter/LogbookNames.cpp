@@ -10,7 +10,7 @@
 
 namespace {
 
-// Names that differ in their case alone are two names: the filter compares exactly.
+// Names that differ only in case are two names, because the filter compares exactly.
 struct NameOrder {
     bool operator()(std::string_view a, std::string_view b) const {
         const LessWithoutCase less;
@@ -18,7 +18,7 @@ struct NameOrder {
     }
 };
 
-// The first ones in the order; never more than these are held, however many kinds a damaged logbook has.
+// Keeps only the first ones in the order, however many kinds a damaged logbook has.
 class FirstNames {
   public:
     void Add(std::string_view name) {

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-// A row of the list: the entry that it shows, and nothing of the entry itself. 4 bytes a row.
+// A row of the list: the number of the entry that it shows, without the entry's fields. 4 bytes a row.
 struct LogbookRow {
     EntryNumber Entry : 31;
     EntryNumber Highlighted : 1;
@@ -16,7 +16,7 @@ static_assert(sizeof(LogbookRow) == 4);
 
 using LogbookRows = std::vector<LogbookRow>;
 
-// The icon of a row: the highlighted form of each icon stands this many places after the plain one.
+// The highlighted form of each icon stands this many places after the plain one.
 inline constexpr int HighlightedImageOffset = 14;
 
 inline int RowImage(const LogbookRow& row, const EntryTable& entries) {

@@ -71,8 +71,8 @@ std::vector<NumberListEditor::PartId> NumberListEditor::PartsNear(EntryNumber nu
     return near;
 }
 
-// Extends the parts that all end, or all begin, next to the number. Where they are more than two, the widest,
-// which holds the others, takes their place at the end of the list: else their number could double with every
+// Extends the parts that all end, or all begin, next to the number. When there are more than two, the widest,
+// which holds the others, replaces them at the end of the list: otherwise the parts could double with every
 // number that is added and removed.
 void NumberListEditor::Extend(const std::vector<PartId>& parts, EntryNumber number) {
     constexpr std::size_t MostExtended = 2;

@@ -10,18 +10,18 @@
 #include <string_view>
 #include <vector>
 
-// A number list of any length that is changed number after number, each as AddToNumberList and
-// RemoveFromNumberList do it, at a cost of the logarithm of the number of parts. Its text is made once, at
-// the end.
+// Changes a number list of any length number by number, with the results of AddToNumberList and
+// RemoveFromNumberList. A change costs the logarithm of the number of parts. The text is made once, at the
+// end.
 //
-// However often numbers go and come, none that was added stands in more than four parts, so that there are
-// never more than four times as many parts as numbers.
+// However often numbers are added and removed, an added number stands in at most four parts, so that there
+// are never more than four times as many parts as numbers.
 class NumberListEditor {
   public:
-    // Puts the parts of a list behind the others.
+    // Appends the parts of a list.
     void Append(std::string_view list);
 
-    // True when that changed the list.
+    // True when the list changed.
     bool Add(EntryNumber number);
     bool Remove(EntryNumber number);
 
@@ -32,7 +32,7 @@ class NumberListEditor {
     static constexpr PartId None = std::numeric_limits<PartId>::max();
 
     struct Part {
-        bool IsRange = false; // else it matches nothing
+        bool IsRange = false; // otherwise it matches nothing
         NumberRange Range;
         std::string Typed; // its text, when the range does not give it
         PartId Before = None;
@@ -49,7 +49,7 @@ class NumberListEditor {
     void Erase(PartId id);
     void TakeOut(PartId id, EntryNumber number);
 
-    std::vector<Part> parts_; // by id; some are in the list no more
+    std::vector<Part> parts_; // by id; some are no longer in the list
     PartId first_ = None;
     PartId last_ = None;
     RangeIndex index_;

@@ -11,14 +11,15 @@
 #include <set>
 #include <utility>
 
-// Ranges by the numbers that they hold. Ranges may overlap; each has an id of its own. A look-up, an
-// insertion and a move cost the logarithm of the number of ranges; a look-up also costs the ranges found.
+// Finds ranges by the numbers that they hold. Ranges may overlap; each has its own id. A look-up, an
+// insertion and a move cost the logarithm of the number of ranges; a look-up also costs one step for each
+// range found.
 class RangeIndex {
   public:
     void Insert(NumberRange range, std::uint32_t id) { SetFor(range).insert({range.First, id}); }
     void Erase(NumberRange range, std::uint32_t id) { SetFor(range).erase({range.First, id}); }
 
-    // A range grows or shrinks.
+    // Makes a range grow or shrink.
     void Move(NumberRange from, NumberRange to, std::uint32_t id) {
         Ranges& before = SetFor(from);
         if (from.First == to.First && &before == &SetFor(to))
@@ -28,14 +29,14 @@ class RangeIndex {
         SetFor(to).insert(std::move(node));
     }
 
-    // Calls `visit` with the id of every range that may hold or touch the number, and of few others.
+    // Calls `visit` with the id of every range that holds or touches the number, and of few others.
     template <typename Visit>
     void VisitNear(EntryNumber number, Visit visit) const {
         for (std::size_t width = 0; width < byWidth_.size(); ++width) {
             const Ranges& ranges = byWidth_[width];
             if (ranges.empty())
                 continue;
-            // A range of this width begins at most so far below a number that it holds or touches.
+            // A range of this width begins at most this far below a number that it holds or touches.
             const std::uint64_t reach = std::uint64_t{1} << width;
             const EntryNumber lowest = number > reach ? static_cast<EntryNumber>(number - reach) : 0;
             for (auto range = ranges.lower_bound({lowest, 0});
@@ -53,7 +54,7 @@ class RangeIndex {
         return byWidth_[static_cast<std::size_t>(std::bit_width(range.Last - range.First))];
     }
 
-    // By the binary digits of the distance between the bounds: in each set all ranges are about equally wide,
-    // so that those near a number stand together.
+    // By the number of binary digits of the distance between the bounds. All ranges of a set are about
+    // equally wide, so that those near a number stand together.
     std::array<Ranges, Widths> byWidth_;
 };

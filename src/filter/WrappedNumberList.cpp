@@ -9,7 +9,7 @@ namespace {
 
 constexpr char Comma = ',';
 
-// The beginning of a list that stays in one text: its first part that is not empty, with the empty ones
+// The beginning of a list that must stay in one text: its first part that is not empty, with the empty parts
 // before and behind it.
 std::string_view FirstUnit(std::string_view list) {
     const std::size_t part = list.find_first_not_of(Comma);

@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::chrono::seconds MostTime{10};
 
-// All that comes through the pipe until its other end is closed; less when that takes too long.
+// Everything from the pipe until its other end is closed; less when that takes too long.
 std::string Receive(int pipe) {
     const auto deadline = std::chrono::steady_clock::now() + MostTime;
     std::string bytes;
@@ -62,9 +62,9 @@ std::optional<HelpMembers> MembersOf(std::string_view bytes) {
     }
 }
 
-// Starts the reader with its output in a pipe; what it or the C library has to say of a damaged file is of no
-// use to anybody. Of a fork in a program with threads only few functions may be called, so it is another
-// program. -1 when it cannot be started.
+// Starts the reader with its output in a pipe; drops what it or the C library prints about a damaged file.
+// The reader is another program because a fork of a program with threads may call only few functions. -1 when
+// it cannot be started.
 pid_t Start(const std::filesystem::path& reader, const std::filesystem::path& file, int pipe) {
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);

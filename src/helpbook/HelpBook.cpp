@@ -8,8 +8,8 @@
 
 namespace {
 
-// What the file says of itself in its member "#SYSTEM": a version of four bytes, then pieces of a kind, a
-// length and as many bytes.
+// The file describes itself in its member "#SYSTEM": a version of four bytes, then pieces, each with a kind,
+// a length and that many bytes.
 struct SystemTexts {
     std::string ContentsFile;
     std::string FirstPage;

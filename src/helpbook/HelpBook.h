@@ -13,7 +13,7 @@
 // A help file that has been read.
 struct HelpBook {
     std::string Title;
-    std::string FirstPage; // the page to begin with; it is there
+    std::string FirstPage; // the page to show first; it exists
     std::vector<HelpTopic> Contents;
     HelpMembers Members;
 };
@@ -22,15 +22,15 @@ struct HelpBook {
 // without contents or pages.
 std::optional<HelpBook> OpenHelpBook(const std::filesystem::path& file, const std::filesystem::path& reader);
 
-// The same over members that have been read.
+// The same for members that have been read.
 std::optional<HelpBook> MakeHelpBook(HelpMembers members);
 
-// The bytes of a member, nothing when it is missing or could not be read.
+// The bytes of a member; nothing when it is missing or could not be read.
 std::optional<std::string_view> MemberOf(const HelpBook& book, std::string_view path);
 
-// The paths of all pages in the order of the contents, each once, and behind them the pages that the contents
-// do not name.
+// The paths of all pages, each once: first in the order of the contents, then those that the contents do not
+// name.
 std::vector<std::string> PagesOf(const HelpBook& book);
 
-// What the contents call a page, or else the page itself.
+// The title of a page in the contents; without one, that of the page itself.
 std::string TitleOf(const HelpBook& book, std::string_view page);

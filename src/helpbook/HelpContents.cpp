@@ -16,7 +16,7 @@ std::string PagePath(std::string page) {
     return page.empty() || page.starts_with('/') ? page : '/' + page;
 }
 
-// One level; ends behind its end tag.
+// Reads one level and stops behind its end tag.
 std::vector<HelpTopic> ReadLevel(HtmlTags& tags, std::size_t level) {
     std::vector<HelpTopic> topics;
     HelpTopic topic;

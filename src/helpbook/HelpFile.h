@@ -5,9 +5,9 @@
 
 #include <filesystem>
 
-// The help file of a language: "language/de/Qorvix.chm" in the folder that holds the program. Languages whose
-// texts are English have a help file of their own, or none; whether it exists is not looked at.
+// The help file of a language: "language/de/Qorvix.chm" in the folder that holds the program. A language
+// whose texts are English has its own help file, or none. Does not check whether the file exists.
 std::filesystem::path HelpFile(const std::filesystem::path& programFolder, Language language);
 
-// The program that reads help files for the others, in the same folder.
+// The program in the same folder that reads help files for the others.
 std::filesystem::path HelpReader(const std::filesystem::path& programFolder);

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
-// How the process that reads a help file hands its members over: for each member the length of its path, that
-// of its content, and both; at the end a head with this path length and without content.
+// How the process that reads a help file sends its members: for each member the length of its path, the
+// length of its content, then path and content; at the end a head with path length AtEnd and no content.
 struct MemberHead {
     static constexpr std::uint64_t AtEnd = ~std::uint64_t{0};
 

@@ -14,7 +14,7 @@ using namespace std::string_view_literals;
 
 constexpr std::string_view Blanks = " \t\r\n";
 
-// In UTF-8, so that those outside ASCII have several bytes.
+// In UTF-8: those outside ASCII have several bytes.
 constexpr std::array Quotes{"\""sv, "„"sv, "“"sv, "”"sv, "«"sv, "»"sv};
 constexpr std::array Punctuation{","sv, "."sv, ":"sv, ";"sv, "!"sv, "?"sv, "("sv, ")"sv,
                                  "["sv, "]"sv, "{"sv, "}"sv, "'"sv, "‚"sv, "‘"sv, "’"sv};
@@ -40,7 +40,7 @@ void SkipBlanksAndPunctuation(std::string_view& text) {
     }
 }
 
-// Takes the text up to the next of these marks, and the mark.
+// Cuts off the text up to the next of these marks, with the mark.
 template <typename Marks>
 std::string_view TakeUpTo(std::string_view& text, const Marks& marks) {
     std::size_t length = 0;

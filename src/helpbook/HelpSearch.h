@@ -15,11 +15,11 @@ struct HelpHit {
     bool operator==(const HelpHit&) const = default;
 };
 
-// What a person searches for: words between blanks, without the punctuation around them, and the phrases that
-// stand in quotes, as they are but with single blanks. A phrase without its closing quote ends with the text.
+// The terms that a person searches for: words between blanks, without the punctuation around them, and
+// phrases in quotes, unchanged but with single blanks. A phrase without its closing quote ends with the text.
 std::vector<std::string> HelpTerms(std::string_view words);
 
 // The pages that hold all of these terms in their title or their text. A term may be part of a longer word;
-// upper and lower case are the same in all languages. First come the pages with a term in the title, both
-// groups in the order of the contents. Without a term nothing is found. Reads every page.
+// case makes no difference in any language. Pages with a term in the title come first; both groups are in the
+// order of the contents. No terms find nothing. Reads every page.
 std::vector<HelpHit> SearchHelp(const HelpBook& book, const std::vector<std::string>& terms);

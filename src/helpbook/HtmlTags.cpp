@@ -48,7 +48,7 @@ void AppendUtf8(std::string& text, std::uint32_t code) {
     }
 }
 
-// What stands between "&" and ";"; false when that is no known reference.
+// Appends the character for the name between "&" and ";"; false when the name is unknown.
 bool AppendReference(std::string& text, std::string_view name) {
     if (name.starts_with('#')) {
         const bool hexadecimal = name.size() > 1 && LowerCase(name[1]) == 'x';

@@ -11,8 +11,8 @@ struct HtmlPiece {
     std::string_view Text;       // when it is text, as written
 };
 
-// Goes through HTML piece by piece. Any bytes will do: a "<" that no ">" follows is text. Comments and what
-// stands in "script" and "style" are left out.
+// Goes through HTML piece by piece. Accepts any bytes: a "<" without a following ">" is text. Leaves out
+// comments and the content of "script" and "style".
 class HtmlTags {
   public:
     explicit HtmlTags(std::string_view html) : rest_(html) {}
@@ -29,6 +29,6 @@ class HtmlTags {
 // The value of an attribute, its character references replaced; "" when it is missing.
 std::string HtmlAttribute(std::string_view attributes, std::string_view name);
 
-// "&lt;" and its like, "&auml;" and its like for the letters of Western Europe, and numbers, replaced by what
-// they stand for; others stay as they are.
+// Replaces "&lt;" and its like, "&auml;" and its like for the letters of Western Europe, and numeric
+// references by their characters; others stay as they are.
 std::string WithoutCharacterReferences(std::string_view text);

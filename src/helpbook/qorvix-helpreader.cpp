@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The program that reads a help file for others: `qorvix-helpreader FILE` writes its members to standard
-// output (HelpMemberStream.h). It may fail in any way; ReadChmFile, which starts it, takes that as a damaged
-// file.
+// output (HelpMemberStream.h). It may fail in any way; ReadChmFile, which starts it, then treats the file as
+// damaged.
 #include "helpbook/HelpMemberStream.h"
 
 #include <chm_lib.h>
@@ -19,7 +19,7 @@ namespace {
 constexpr std::size_t MostMembers = 10'000;
 constexpr rlim_t MostProcessorSeconds = 5;
 
-// Without an end as of a program that did its work: a damaged heap may not bear more.
+// Skips an orderly exit: a damaged heap may not survive one.
 [[noreturn]] void GiveUp() { _exit(1); }
 
 void Send(const void* data, std::size_t size) {

@@ -7,10 +7,10 @@
 
 // A view of Qt (QTableView, QTreeWidget) as a list of whole rows, in which several rows can be selected.
 //
-// Whatever shows a row scrolls up and down alone; sideways the list stays where it is. Up, Down, Page Up,
-// Page Down, Home and End select the row that they lead to, with Shift all rows up to it; Home and End do so
-// with Ctrl, too. Where there is no way to go they select the row that is current, so that a list of one row
-// has keys as well. Where nothing is selected, Up and Down begin at the current row and skip none.
+// Showing a row scrolls only up and down, never sideways. Up, Down, Page Up, Page Down, Home and End select
+// the row that they lead to, with Shift all rows up to it; Home and End do so with Ctrl, too. A key that
+// cannot move selects the current row, so that keys also work in a list of one row. When nothing is selected,
+// Up and Down begin at the current row and skip none.
 template <class View>
 class ListOfRows : public View {
   public:
@@ -23,7 +23,7 @@ class ListOfRows : public View {
         this->horizontalScrollBar()->setValue(left);
     }
 
-    // Typed letters look for nothing: in a long list that takes seconds, and a blank among them would be an
+    // Typed letters do not search: in a long list that takes seconds, and a blank among them would be an
     // order.
     void keyboardSearch(const QString&) override {}
 
@@ -34,7 +34,7 @@ class ListOfRows : public View {
                (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
     }
 
-    // Where no row is selected, the current one is, for an order that is to be given for it.
+    // Selects the current row when none is selected, for an order that needs a row.
     void SelectCurrentIfNone() {
         if (!this->selectionModel()->hasSelection() && this->currentIndex().isValid())
             this->setCurrentIndex(this->currentIndex());
@@ -62,7 +62,7 @@ class ListOfRows : public View {
 
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& cell,
                                                          const QEvent* event = nullptr) const override {
-        // What the program selects is selected alone, whatever keys are held down.
+        // The program selects a row alone, whatever keys are held down.
         if (event == nullptr)
             return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
         if (event->type() == QEvent::KeyPress) {

@@ -27,7 +27,7 @@ void LogbookModel::SetRows(LogbookRows rows) {
 
 void LogbookModel::SortByColumn(LogbookColumn column) {
     emit layoutAboutToBeChanged({}, VerticalSortHint);
-    // The few indexes that someone keeps follow their entries.
+    // The few persistent indexes follow their entries.
     const QModelIndexList before = persistentIndexList();
     std::vector<EntryNumber> entryOf;
     std::unordered_map<EntryNumber, int> rowOf;

@@ -10,43 +10,43 @@
 #include <functional>
 #include <string>
 
-// The logbook list's rows for a view. Nothing is copied or prepared: the text of a cell is made from its
-// entry when the view asks for it, which is when the row is on the screen. The accessible text of a row's
-// first cell is what SpokenRow.h says.
+// The logbook list's rows for a view. Copies and prepares nothing: makes the text of a cell from its entry
+// when the view asks for it, which is when the row is on the screen. The accessible text of a row's first
+// cell comes from SpokenRow.
 class LogbookModel : public QAbstractTableModel {
     Q_OBJECT
 
   public:
-    // The icon number of a row, on the first column.
+    // The icon number of a row, in the first column.
     static constexpr int ImageRole = Qt::UserRole;
 
-    // Entries and rows must outlive the model. The rows are changed through it.
+    // Entries and rows must outlive the model. Change the rows only through it.
     LogbookModel(const EntryTable& entries, LogbookRows& rows, QObject* parent = nullptr);
 
-    // Fills or clears the rows by `change`. Whoever changes the entries clears the rows first.
+    // Lets `change` fill or clear the rows. Clear them before changing the entries.
     void ChangeRows(const std::function<void()>& change);
     void SetRows(LogbookRows rows);
     const LogbookRows& Rows() const { return rows_; }
 
-    // Sorts the rows by a column, as ListSorting.h says. How the list was sorted last is kept over a new
-    // filling; the rows of that are in entry order.
+    // Sorts the rows by a column (SortListByColumn). A new filling keeps Order, but its rows are in entry
+    // order.
     void SortByColumn(LogbookColumn column);
     const ListOrder& Order() const { return order_; }
     bool IsSorted() const { return sorted_; }
 
-    // The tag of a row, as ListSorting.h says.
+    // The tag of a row (RowTag).
     std::string Tag(int row) const;
 
-    // The comment of the row's entry has changed; those of any entries have.
+    // Show changed comments: of the row's entry, or of any entries.
     void ShowComment(int row);
     void ShowComments();
 
     void TakeOutRows(const RowRanges& ranges);
 
-    // Plain rows become highlighted, highlighted ones plain.
+    // Makes plain rows highlighted, and highlighted rows plain.
     void SwitchHighlighting(const RowRanges& ranges);
 
-    // The language of the column headers and of what a screen reader says.
+    // Sets the language of the column headers and of a screen reader's words.
     void SetLanguage(Language language);
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -55,7 +55,7 @@ class LogbookModel : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
   signals:
-    // A screen reader is to say something else for these rows than before.
+    // A screen reader's words for these rows have changed.
     void SpokenTextChanged(const RowRanges& rows);
 
   private:

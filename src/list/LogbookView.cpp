@@ -20,7 +20,7 @@
 
 namespace {
 
-// The file that was dropped; nothing unless it is exactly one and no folder.
+// The dropped file; nothing unless it is exactly one and no folder.
 std::optional<QString> DroppedFile(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
     if (urls.size() != 1 || !urls.front().isLocalFile())
@@ -29,8 +29,8 @@ std::optional<QString> DroppedFile(const QMimeData& data) {
     return QFileInfo(path).isDir() ? std::nullopt : std::optional(path);
 }
 
-// Knows no current cell but the first of a row, whichever was clicked: that is the one of which a screen
-// reader tells the row.
+// Makes the first cell of a row the current one, whichever was clicked: a screen reader speaks the row from
+// that cell.
 class SelectionOfRows : public QItemSelectionModel {
   public:
     using QItemSelectionModel::QItemSelectionModel;
@@ -108,7 +108,7 @@ void LogbookView::SortByColumn(int column) {
     std::optional<EntryNumber> current;
     if (currentIndex().isValid())
         current = model_->Rows()[static_cast<std::size_t>(currentIndex().row())].Entry;
-    // Otherwise each selected cell would be carried through the sort by itself.
+    // Otherwise the sort would carry each selected cell along singly.
     selectionModel()->reset();
     model_->SortByColumn(static_cast<LogbookColumn>(column));
     std::optional<int> currentRow;
@@ -145,7 +145,7 @@ void LogbookView::SelectAndShow(int row) {
     scrollTo(model()->index(row, 0));
 }
 
-// What is dropped on the header, a scroll bar or the corner comes to the list itself.
+// A drop on the header, a scroll bar or the corner comes to the list itself.
 bool LogbookView::event(QEvent* event) {
     switch (event->type()) {
     case QEvent::DragEnter:
@@ -237,10 +237,10 @@ void LogbookView::mouseDoubleClickEvent(QMouseEvent* event) {
         emit PropertiesWanted();
 }
 
-// The popup menu comes with the mouse-up of the right button and with its key.
+// The popup menu opens when the right button goes up, and by its key.
 void LogbookView::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
 
-// All of the row, also what is scrolled out of sight.
+// The whole row, also the part that is scrolled out of sight.
 QRect LogbookView::RowRect(int row) const {
     return {columnViewportPosition(0), rowViewportPosition(row), horizontalHeader()->length(),
             rowHeight(row)};
@@ -253,7 +253,7 @@ QPoint LogbookView::PopupPosition() const {
                                                   : QPoint(viewport()->rect().left(), seen.bottom()));
 }
 
-// Tells a screen reader of those rows that are on the screen, of which there are few.
+// Informs a screen reader about those rows that are on the screen; these are few.
 void LogbookView::AnnounceRows(const RowRanges& rows) {
     if (rowAt(0) < 0)
         return;

@@ -10,9 +10,9 @@
 
 class LogbookModel;
 
-// The logbook list on the screen. It knows what a key, a click or a dropped file means in the list, and tells
-// its window; it changes nothing of the logbook itself. The keyboard's focus is on a row, around which it is
-// drawn; Left and Right scroll sideways.
+// The logbook list on the screen. It turns keys, clicks and dropped files into signals to its window; it does
+// not change the logbook itself. The keyboard's focus is on a row and drawn around it; Left and Right scroll
+// sideways.
 class LogbookView : public ListOfRows<QTableView> {
     Q_OBJECT
 
@@ -25,28 +25,29 @@ class LogbookView : public ListOfRows<QTableView> {
     // The selected rows.
     RowRanges SelectedRanges() const;
 
-    // The selected row, where one is meant: the current row when it is selected, otherwise the first that is.
+    // The selected row, when one is needed: the current row if it is selected, otherwise the first selected
+    // row.
     std::optional<int> SelectedRow() const;
 
-    // Selects exactly these rows and makes one of them, or none, the current row, at which a selection with
-    // Shift begins. Does not scroll.
+    // Selects exactly these rows. Makes `current`, if given, the current row, at which a selection with Shift
+    // begins. Does not scroll.
     void SelectRanges(const RowRanges& ranges, std::optional<int> current);
 
     // Sorts by a column; the selection stays on its entries.
     void SortByColumn(int column);
 
-    // Takes these rows out of the list. The row that follows the last of them is selected then, or the last
+    // Removes these rows from the list. Then selects the row that followed the last of them, or else the last
     // row of the list.
     void RemoveRows(const RowRanges& ranges);
 
-    // Shows by which column the list is sorted, if it is.
+    // Shows the column by which the list is sorted, if any.
     void ShowSortIndicator();
 
     // Selects the row alone and scrolls it into view.
     void SelectAndShow(int row);
 
-    // A selection that a sort scatters over more ranges than this goes down to the current row: the view
-    // looks at every range for each cell that it paints.
+    // When a sort scatters a selection over more ranges than this, only the current row stays selected: the
+    // view checks every range for each cell that it paints.
     static constexpr std::size_t MostSelectedRanges = 20000;
 
   signals:
@@ -56,13 +57,13 @@ class LogbookView : public ListOfRows<QTableView> {
     void PopupWanted(const QPoint& globalPosition);
     void FileDropped(const QString& path);
 
-    // The events after which the content pane and the tag viewer are brought up to date. A row is clicked
-    // when the mouse button went down on one or comes up on one; a drag may end anywhere.
+    // The events after which the window updates the content pane and the tag viewer. RowClicked comes when
+    // the mouse button goes down or up on a row; a drag may end anywhere.
     void RowClicked();
     void KeyUp();
     void MouseUp();
 
-    // A screen reader has been told to say something else for this row, which is on the screen.
+    // A screen reader has been told its new words for this row, which is on the screen.
     void RowAnnounced(int row);
 
   protected:

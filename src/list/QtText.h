@@ -14,10 +14,10 @@ inline QString ToQString(std::string_view text) {
 
 inline QString QtText(TextId id, Language language) { return ToQString(Text(id, language)); }
 
-// The same without the marks of access keys, for places that have none.
+// The same without the marks of access keys, for places without access keys.
 inline QString QtPlainText(TextId id, Language language) { return QtText(id, language).remove('&'); }
 
-// What a cell shows of a text, which may have millions of characters: to lay these out takes seconds.
+// The part of a text that a cell shows: laying out a text of millions of characters takes seconds.
 inline QString ShownInCell(const QString& text) {
     constexpr qsizetype MostShown = 2000;
     return text.left(MostShown);

@@ -16,7 +16,7 @@ void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInde
     QStyledItemDelegate::initStyleOption(option, index);
     // The list shows the focus on the whole row.
     option->state &= ~QStyle::State_HasFocus;
-    // Of a time stamp without room for all of it the clock stays: the entries beside it are of the same day.
+    // A time stamp that does not fit keeps its clock: the entries near it have the same day.
     if (index.column() == static_cast<int>(LogbookColumn::Time))
         option->textElideMode = Qt::ElideLeft;
     const QVariant image = index.data(LogbookModel::ImageRole);

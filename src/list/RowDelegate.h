@@ -5,8 +5,8 @@
 
 #include <QStyledItemDelegate>
 
-// Paints the cells of the logbook list: the row's icon before its first cell, and texts that are too long for
-// their column as a tool tip, in full but for those of thousands of characters.
+// Paints the cells of the logbook list, with the row's icon before its first cell. Shows a text that is too
+// long for its column in a tool tip, in full unless it has thousands of characters.
 class RowDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ class RowDelegate : public QStyledItemDelegate {
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override;
 
-    // The icon of a selected row stands on the colour of the unselected ones, on which it can be made out.
+    // The icon of a selected row has the background of unselected rows, on which it is easy to see.
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 

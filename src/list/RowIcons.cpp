@@ -2,11 +2,11 @@
 #include "list/RowIcons.h"
 
 RowIcons::RowIcons() {
-    // The linker drops a static library's resources unless somebody asks for them.
+    // The linker drops a static library's resources unless the code asks for them.
     Q_INIT_RESOURCE(rowicons);
     for (std::size_t i = 0; i < RowIconPaths.size(); ++i) {
         icons_[i].addFile(RowIconPaths[i]);
-        // Without a picture of their own, selected rows would get one in shades of the selection.
+        // Without its own picture, a selected row would get one in shades of the selection.
         icons_[i].addFile(RowIconPaths[i], {}, QIcon::Selected);
     }
 }

@@ -9,7 +9,7 @@
 
 // The pictures of the list's icon numbers: first the plain ones in the order of Images, then the highlighted
 // ones in the same order. The highlighted form is the plain one's shape in a darker tone on a bright framed
-// badge, so that a row's kind and its highlight are both told without colour.
+// badge, so that a row's kind and its highlight are both visible without colour.
 inline constexpr std::array<const char*, 2 * HighlightedImageOffset> RowIconPaths{
     ":/row/info.svg",
     ":/row/warning.svg",

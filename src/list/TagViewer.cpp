@@ -44,7 +44,7 @@ TagViewer::TagViewer(LogbookView& list, const EntryTable& entries, QWidget* pare
 
 void TagViewer::RefreshTagViewerDelayed() {
     marks_.Restart();
-    // A running timer runs on, so that a key held down does not keep the drawing from ever beginning.
+    // A running timer is not restarted, so that a key held down does not put off the drawing for ever.
     if (!tmTagViewer->isActive())
         tmTagViewer->start();
 }
@@ -68,7 +68,7 @@ bool TagViewer::RefreshTagViewer() {
     if (done && selected) {
         const std::int64_t height = std::max<std::int64_t>(
             scale.MarkHeight(), std::lround(LowestSelectionMark * devicePixelRatioF()));
-        // Of the last rows, too, the whole height is seen.
+        // The marks of the last rows keep their whole height, too.
         const std::int64_t lowest = std::max<std::int64_t>(0, scale.Height - height);
         FillLines(painter, std::min(scale.TopOf(*selected + 1), lowest), height, SelectedColour);
     }
@@ -87,7 +87,7 @@ QSize TagViewer::PictureSize() const {
     return pixels.toSize();
 }
 
-// Counted from 0; -1 when there is none. `y` is in logical pixels.
+// A row from 0; -1 when there is none. `y` is in logical pixels.
 int TagViewer::RowAt(double y) const {
     const TagScale scale{static_cast<std::int64_t>(list_.Logbook()->Rows().size()), PictureSize().height()};
     return static_cast<int>(scale.RowAt(y * devicePixelRatioF())) - 1;
@@ -127,7 +127,7 @@ void TagViewer::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), palette().color(QPalette::Base));
     painter.drawPixmap(rect(), picture_);
-    // A screen with another resolution.
+    // The viewer may now be on a screen with another resolution.
     if (picture_.size() != PictureSize())
         RefreshTagViewerDelayed();
 }

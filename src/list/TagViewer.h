@@ -10,17 +10,17 @@ class LogbookView;
 class QTimer;
 
 // The overview of the whole list at its right edge: a cyan mark for each highlighted row at the height of its
-// place in the list, over them a red one for the selected row. A click jumps to the row at that height; the
-// row under the pointer is told as a tool tip. The marks keep their colours in every palette.
+// place in the list, and over them a red mark for the selected row. A click jumps to the row at that height;
+// a tool tip shows the row under the pointer. The marks keep their colours in every palette.
 class TagViewer : public QWidget {
     Q_OBJECT
 
   public:
-    // The list, with its logbook set before anything is drawn, and the entries outlive the viewer.
+    // List and entries must outlive the viewer; set the list's logbook before anything is drawn.
     TagViewer(LogbookView& list, const EntryTable& entries, QWidget* parent = nullptr);
 
-    // Draws everything anew soon, from a timer. To be called after each change of rows, of the selection or
-    // of the highlighting.
+    // Draws everything again soon, from a timer. Call it after each change of rows, selection or
+    // highlighting.
     void RefreshTagViewerDelayed();
 
     // One step of the drawing. True when it is done.
@@ -30,7 +30,7 @@ class TagViewer : public QWidget {
     // the list's horizontal scroll bar while there is one. It follows the scroll bar by itself.
     void ResizeTagViewer();
 
-    // The red mark has at least so many logical pixels.
+    // The least height of the red mark, in logical pixels.
     static constexpr int LowestSelectionMark = 2;
 
   protected:

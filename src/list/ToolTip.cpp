@@ -8,8 +8,8 @@ constexpr qsizetype EnoughForALine = 40;
 constexpr qsizetype LongestWord = 60;
 constexpr QChar MayBreak(0x200B); // without a width
 
-// Places at which lines may end, in words that are longer than a line has room for: behind a comma rather
-// than behind any other character.
+// Adds places for line ends to words that are longer than a line: behind a comma if possible, otherwise
+// behind any character.
 QString WithPlacesToBreak(const QString& text) {
     QString broken;
     qsizetype word = 0;

@@ -3,6 +3,6 @@
 
 #include <QString>
 
-// A text as a tool tip, which shows it as it is: its blanks all stand, what looks like markup is none. A text
-// that is too long for one line wraps, also where it has no blanks, as lists of numbers have none. "" for "".
+// A text as a tool tip that shows it unchanged: keeps all blanks and does not interpret markup. A text that
+// is too long for one line wraps, even without blanks, such as a list of numbers. "" for "".
 QString ToolTipOf(const QString& text);

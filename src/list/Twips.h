@@ -7,15 +7,15 @@
 // screen.
 inline constexpr int TwipsPerPixel = 15;
 
-// No window or column is longer, in pixels; what a damaged setting asks for beyond it is cut.
+// The greatest length of a window or column, in pixels; longer ones from a damaged setting are cut.
 inline constexpr int LongestLength = 32767;
 
 constexpr int PixelsOf(int twips) { return std::clamp(twips / TwipsPerPixel, -LongestLength, LongestLength); }
 
 constexpr int TwipsOf(int pixels) { return pixels * TwipsPerPixel; }
 
-// The length to store for these pixels: the stored one where it gives the same pixels, so that a length that
-// nobody changed does not shrink with every start.
+// The length to store for these pixels: the stored one if it gives the same pixels, so that an unchanged
+// length does not shrink with every start.
 constexpr int TwipsToStore(int pixels, int storedTwips) {
     return PixelsOf(storedTwips) == pixels ? storedTwips : TwipsOf(pixels);
 }

@@ -28,9 +28,9 @@ void ReadDataAndTime(std::string_view line, ParsedEntry& entry, clsFile&, Readin
     entry.Time = ClassicTime(line);
 }
 
-// The block never ends when the file does before a "PC" line has come, which users of such logbooks know.
-// What it would still append can never be seen, so it waits, and costs neither memory nor much time, until it
-// is stopped.
+// If the file ends before a "PC" line, the block never ends; users of such logbooks know this. Nobody could
+// ever see what the block would still append, so it waits until it is stopped, and costs neither memory nor
+// much time.
 [[noreturn]] void WaitForStop(ReadingProgress& progress) {
     for (;;) {
         LetEventsRun(progress);
@@ -93,7 +93,7 @@ void ReadInfo(std::string_view line, ParsedEntry& entry, clsFile& file, ReadingP
     InfoFinish(entry);
 }
 
-// The first keyword that the line begins with decides. "Key:" is the one that is not in upper case.
+// The first keyword that the line begins with decides. Only "Key:" is not in upper case.
 constexpr KeywordTable<KeywordRow, 12> Keywords({{
     {"RESET:", EventTypes::Restart, Images::Restart, ReadTime},
     {"BERR:", EventTypes::Fatal, Images::Fatal, ReadDataAndTime},

@@ -10,12 +10,12 @@
 inline constexpr std::size_t ClockLength = 8;      // 12:34:56
 inline constexpr std::size_t LongClockLength = 12; // 12:34:56.789
 
-// Above 9 for what is no digit.
+// Above 9 when the character is no digit.
 constexpr std::uint32_t DigitOf(char c) {
     return static_cast<std::uint32_t>(static_cast<unsigned char>(c)) - '0';
 }
 
-// The digits of a clock time without milliseconds as one number; false when it is none.
+// Reads the digits of a clock time without milliseconds as one number; false when there is no clock time.
 inline bool ReadClock(const char* clock, std::uint32_t& digits) {
     if constexpr (std::endian::native == std::endian::little) {
         // All eight characters at once: each byte of `left` is a digit, or 0 for a colon in its place.
@@ -42,7 +42,7 @@ inline bool ReadClock(const char* clock, std::uint32_t& digits) {
     }
 }
 
-// The digits of ".789", without the point that stands there, as one number; false when they are none.
+// Reads the digits of ".789" as one number, without checking the point; false when they are no digits.
 inline bool ReadMilliseconds(const char* point, std::uint32_t& digits) {
     const std::uint32_t hundreds = DigitOf(point[1]);
     const std::uint32_t tens = DigitOf(point[2]);

@@ -18,7 +18,7 @@ std::int64_t DivideHalfToEven(std::int64_t value, std::int64_t divisor) {
 void EntryCollector::Begin(std::int64_t fileSize) {
     constexpr std::int64_t BytesPerEntry = 100;
     UpperBound = DivideHalfToEven(fileSize, BytesPerEntry);
-    // Room that is not used costs nothing, a table that must grow is moved.
+    // Unused room costs nothing, but a table that must grow is moved.
     Entries.Clear(static_cast<std::size_t>(UpperBound) * 2 + 1, static_cast<std::size_t>(fileSize));
 }
 

@@ -9,7 +9,7 @@
 #include <cstdint>
 
 // Takes the entries of a read one by one, folds each into the one before it where the two belong together,
-// and hands what can no longer change to the entry table.
+// and stores entries that can no longer change in the entry table.
 class EntryCollector {
   public:
     EntryCollector(EntryTable& entries, const CodePage& codePage) : Entries(entries), Code(codePage) {}
@@ -25,22 +25,21 @@ class EntryCollector {
         return entry;
     }
 
-    // Stores the working entry. The table's upper bound is doubled when an entry lies beyond it; one that
-    // starts at 0 therefore never grows, and the second entry of a file of 50 bytes or fewer throws
-    // RunTimeError. This is deliberate: so small a file is a fragment, and the read shall fail rather than
-    // show it as a logbook.
+    // Stores the working entry. An entry beyond the upper bound doubles the bound. A bound of 0 therefore
+    // never grows, and the second entry of a file of 50 bytes or fewer throws RunTimeError. This is
+    // deliberate: so small a file is a fragment, and the read must fail rather than show it as a logbook.
     void Store();
 
     // How many entries have been stored.
     std::int64_t Count() const { return StoredCount; }
 
-    // Makes the texts of the entry that was stored last independent of the file's lines.
+    // Makes the texts of the last stored entry independent of the file's lines.
     void KeepLast() {
         if (LastMayChange)
             Slots[1 - WorkingSlot].Keep();
     }
 
-    // Hands the last entry to the table, too.
+    // Stores the last entry in the table, too.
     void End();
 
   private:

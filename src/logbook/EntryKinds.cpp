@@ -21,7 +21,7 @@ std::uint64_t Load(const char* bytes, std::size_t count) {
     return value;
 }
 
-// Whole words at a time, the last two overlapping; the length goes into the hash by the caller.
+// Takes whole words at a time; the last two overlap. The caller adds the length to the hash.
 std::uint64_t MixText(std::uint64_t hash, std::string_view text) {
     const char* bytes = text.data();
     const std::size_t length = text.size();

@@ -11,9 +11,9 @@
 #include <string>
 #include <vector>
 
-// What entries have in common again and again: who reported which sort of event. A logbook of millions of
-// entries has some hundred kinds, so that each is stored once, and whatever depends on these fields alone can
-// be decided once a kind instead of once an entry. The texts are UTF-8.
+// What many entries have in common: who reported which sort of event. A logbook of millions of entries has
+// some hundred kinds. Each is stored once, and code that depends on these fields alone can decide once a kind
+// instead of once an entry. The texts are UTF-8.
 struct EntryKind {
     std::int16_t EventType = 0;
     std::int16_t Image = 0;
@@ -27,7 +27,7 @@ class EntryKinds {
   public:
     EntryKinds() { Clear(); }
 
-    // The number of an entry's kind, which is stored when it is new. Numbers run from 0 up to Count.
+    // The number of an entry's kind, from 0 to below Count. A new kind is stored.
     std::uint32_t NumberOf(const ParsedEntry& entry, const CodePage& codePage) {
         std::uint32_t* const memo = entry.KindMemo != nullptr ? entry.KindMemo : MemoOfNameless(entry);
         if (memo == nullptr)
@@ -37,7 +37,7 @@ class EntryKinds {
         return *memo;
     }
 
-    // The kind stays where it is until Clear.
+    // The reference is valid until Clear.
     const EntryKind& operator[](std::uint32_t number) const { return kinds_[number].Kind; }
     std::size_t Count() const { return kinds_.size(); }
 
@@ -55,7 +55,7 @@ class EntryKinds {
         std::uint32_t Number = 0;
     };
 
-    // Where the number is remembered for an entry that has neither sender nor name, as key strokes have not.
+    // Remembers the number for an entry with neither sender nor name, such as a key stroke.
     std::uint32_t* MemoOfNameless(const ParsedEntry& entry) {
         const auto row = static_cast<std::uint16_t>(entry.EventType);
         const auto column = static_cast<std::uint16_t>(entry.Image);

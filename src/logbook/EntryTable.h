@@ -15,16 +15,16 @@
 #include <string>
 #include <string_view>
 
-// The number of an entry: its position in the table, from 0 on. Index column, filters, comments and rows use
-// it.
+// The number of an entry: its position in the table, from 0 on. The index column, filters, comments and rows
+// use it.
 using EntryNumber = std::uint32_t;
 
 // The most entries that a table holds; a list widget counts its rows in 31 bits.
 inline constexpr EntryNumber MostEntries = 0x7FFFFFFF;
 
-// All entries of the logbook: 16 bytes an entry, one pool that holds the data text of all entries in their
-// order, so that a filter or a search can run over it as it lies in memory, and a short list of the kinds of
-// entry that occur.
+// All entries of the logbook: 16 bytes an entry, one pool with the data texts of all entries in their order,
+// and a short list of the kinds of entry that occur. A filter or a search can run over the pool as it lies in
+// memory.
 class EntryTable {
   public:
     // Empties the table and prepares it for a logbook of `entries` entries with `textBytes` bytes of text.
@@ -37,7 +37,7 @@ class EntryTable {
     // Stores an entry behind the others. Throws RunTimeError when there is no memory, or no number left.
     void Append(const ParsedEntry& entry, const CodePage& codePage);
 
-    // Gives back the room that was prepared and not used.
+    // Gives back unused room.
     void Trim();
 
     EntryNumber Count() const { return static_cast<EntryNumber>(records_.Size()); }
@@ -49,8 +49,8 @@ class EntryTable {
     std::string Time(EntryNumber number) const;
     std::string_view Comment(EntryNumber number) const;
 
-    // The time stamp as it is kept, for runs that need no text; false when it does not end in a clock time.
-    // The text before the clock: Stamps.
+    // The time stamp in its stored form, for runs that need no text; false when it does not end in a clock
+    // time. Stamps has the text before the clock.
     bool PackedTime(EntryNumber number, PackedStamp& stamp) const {
         const Record& record = records_[number];
         stamp = record.Stamp();
@@ -68,8 +68,8 @@ class EntryTable {
     // The comments that are not empty, by entry number.
     const std::map<EntryNumber, std::string>& Comments() const { return comments_; }
 
-    // The data of all entries in their order. Behind the data of an entry whose time stamp does not end in a
-    // clock time lies that stamp, too. There is no line feed in it.
+    // The data of all entries in their order. If an entry's time stamp does not end in a clock time, the
+    // stamp follows the entry's data. The text holds no line feed.
     std::string_view Text() const { return {text_.Data(), text_.Size()}; }
 
     // Where an entry's data begins in Text, in bytes. With Count as the number: the end of Text.
@@ -77,11 +77,11 @@ class EntryTable {
         return number < Count() ? records_[number].TextBegin() : text_.Size();
     }
 
-    // The entry whose part of Text holds a place below the end of Text, searched from an entry on that does
-    // not begin behind it; costs by the logarithm of the distance.
+    // The entry whose part of Text holds a place below the end of Text. Searches from an entry that begins at
+    // or before the place; the cost is the logarithm of the distance.
     EntryNumber EntryAt(std::size_t place, EntryNumber from) const;
 
-    // Fetch the record of an entry, or its data when the record is there, ahead of their use.
+    // Prefetch the record of an entry, or its data once the record is fetched.
     void PrefetchRecord(EntryNumber number) const { Prefetch(&records_[number]); }
     void PrefetchData(EntryNumber number) const { Prefetch(text_.Data() + records_[number].TextBegin()); }
 

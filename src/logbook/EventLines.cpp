@@ -98,8 +98,7 @@ void InfoFinish(ParsedEntry& entry) {
         entry.Image = Images::DebugReceive;
     else
         return;
-    // A dump begins with the numbers of its columns; what counts are the bytes below, and four of them in
-    // front.
+    // A dump begins with the numbers of its columns; the bytes below count, and four of them in front.
     if (entry.Data.starts_with("00 01 02 03 04"))
         entry.Data = Mid(entry.Data, 51);
     entry.SetData({Mid(entry.Data, 50, 4), LineSeparator, entry.Data});

@@ -9,13 +9,14 @@
 #include <string_view>
 
 // The column rules that the generations of the logbook share: an event's first line begins with a keyword and
-// ends with the time stamp, and message lines may follow it. Columns count from 1. A line that is too short
-// for its rules makes them throw RunTimeError.
+// ends with the time stamp, and message lines may follow it. Columns count from 1. These functions throw
+// RunTimeError for a line that is too short for its rules.
 
-// What stands between the joined lines of an event.
+// Stands between the joined lines of an event.
 inline constexpr std::string_view LineSeparator = " | ";
 
-// Sender and name of an event stand in columns 10 to 32, the first blank between them. Either may be "".
+// The sender and name of an event stand in columns 10 to 32; the first blank separates them. Either may be
+// "".
 struct HeaderFields {
     std::string_view Sender;
     std::string_view Name;
@@ -29,7 +30,7 @@ std::string_view ClassicData(std::string_view line);
 // The stamp at the end of the line, exactly as it stands there: 23, 20 or 19 characters.
 std::string_view ClassicTime(std::string_view line);
 
-// The reporter that the first letter of a message stands for: "PLC" for P, "PYTHON" for Y, otherwise "MAIN".
+// The reporter by the first letter of a message: "PLC" for P, "PYTHON" for Y, otherwise "MAIN".
 std::string_view SenderFromData(std::string_view data);
 
 // True when the next line is a continuation: it begins with a blank or is empty. Consumes nothing.
@@ -42,11 +43,11 @@ inline bool IsContinuationNext(clsFile& file) {
     return start.empty() || start.front() == Blank;
 }
 
-// Fills Sender and Name from the header `line`; a `reporter` takes the place of the sender.
+// Fills Sender and Name from the header `line`; a `reporter` replaces the sender.
 void ReadHeader(std::string_view line, ParsedEntry& entry, KnownHeaders& headers,
                 std::string_view reporter = {});
 
-// ReadHeader, and the message below it as Data.
+// Does ReadHeader, and reads the message below the header as Data.
 void ReadEventBody(std::string_view line, ParsedEntry& entry, clsFile& file, KnownHeaders& headers);
 
 // The part of ReadEventBody for the message. Continuation lines are joined with LineSeparator, which then
@@ -56,6 +57,6 @@ void ReadMessage(ParsedEntry& entry, clsFile& file);
 // Reads the next line as the event's data.
 void ReadDataLine(ParsedEntry& entry, clsFile& file);
 
-// What every info event gets in the end: the icons of remote debugging with the short form of its dumps, and
-// the icon of a cleared error.
+// Finishes every info event: sets the icons of remote debugging and shortens its dumps, and sets the icon of
+// a cleared error.
 void InfoFinish(ParsedEntry& entry);

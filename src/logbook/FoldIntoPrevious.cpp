@@ -16,8 +16,8 @@ namespace {
 
 constexpr std::string_view Arrow = "->"; // word 1 of a key that was pressed and released
 
-// The words of a text, which are separated by single blanks, one after the other. Key strokes are short:
-// their blanks are found once, and each word then costs a few operations on bits.
+// The words of a text, separated by single blanks, one after the other. Key strokes are short, so their
+// blanks are found once, and each word then costs a few operations on bits.
 class Words {
   public:
     explicit Words(std::string_view text)

@@ -3,12 +3,11 @@
 
 #include "logbook/ParsedEntry.h"
 
-// The same for the two event types that `next` may have to be merged at all.
+// The same as FoldIntoPrevious; `next` must have one of the two event types that can be merged.
 bool FoldKeyOrRestart(const ParsedEntry& next, ParsedEntry& previous);
 
-// Merges an entry into the one before it where the two are one event to the reader: a key pressed and
-// released, a run of key strokes, repeated restarts. True when `next` was merged; `previous` is then changed
-// in place.
+// Merges `next` into `previous` where the two are one event to the reader: a key pressed and released, a run
+// of key strokes, repeated restarts. True when it merged them; `previous` has then changed.
 inline bool FoldIntoPrevious(const ParsedEntry& next, ParsedEntry& previous) {
     return (next.EventType == EventTypes::Key || next.EventType == EventTypes::Restart) &&
            FoldKeyOrRestart(next, previous);

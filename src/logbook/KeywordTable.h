@@ -10,9 +10,9 @@
 #include <cstdint>
 #include <string_view>
 
-// The keywords of a line grammar, in the order in which they are tested. A row is any type with a member
-// Keyword, which is never empty. Every line of a logbook is looked up here: its first character leads to the
-// few keywords that begin with it.
+// The keywords of a line grammar, in the order of testing. A row is any type with a member Keyword, which is
+// never empty. Every line of a logbook is looked up here, so its first character leads to the few keywords
+// that begin with it.
 template <typename Row, std::size_t Count>
 class KeywordTable {
   public:

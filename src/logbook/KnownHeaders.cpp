@@ -8,7 +8,7 @@
 
 namespace {
 
-// Where the columns are loaded, eight at a time; the last step overlaps the one before it.
+// The places to load the columns from, eight at a time; the last step overlaps the one before it.
 constexpr std::array<std::size_t, 6> Steps{0, 8, 16, 24, 32, KnownHeader::Columns - 8};
 
 } // namespace

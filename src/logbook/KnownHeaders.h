@@ -9,20 +9,20 @@
 #include <string_view>
 #include <vector>
 
-// What one header line's first columns say of its event: the same for each event that has them. One line of
-// the processor's cache each.
+// What a header line's first columns say about its event; it is the same for every event with these columns.
+// Fills one line of the processor's cache.
 class alignas(64) KnownHeader {
   public:
     static constexpr std::size_t Columns = 44;
 
-    // Takes sender and name, which were cut from the first columns of `line`.
+    // Stores sender and name; both must lie in the first columns of `line`.
     void SetFields(std::string_view line, std::string_view sender, std::string_view name);
     bool HasFields() const { return state_ == State::HasFields; }
 
     std::string_view Sender() const { return At(sender_); }
     std::string_view Name() const { return At(name_); }
 
-    // Where the number of the kind is remembered. All events with this header and variant have the same kind.
+    // Remembers the number of the kind. All events with this header and variant have the same kind.
     std::uint32_t* KindMemo() { return &kind_; }
 
   private:
@@ -44,16 +44,16 @@ class alignas(64) KnownHeader {
     State state_ = State::Free;
 };
 
-// The headers of one read that came first. A logbook of millions of events has some hundred, so that cutting
-// fields, and finding the kind of an entry by them, is done once a header instead of once an event. The
-// columns that decide all this are those up to 44: in no generation the stamp begins before.
+// The first headers of one read. A logbook of millions of events has some hundred, so the read cuts fields
+// and finds the kind once a header instead of once an event. The columns up to 44 decide this: in no
+// generation does the stamp begin before their end.
 class KnownHeaders {
   public:
     KnownHeaders() : slots_(SlotCount) {}
 
     // The header with the first columns of `line`; a new one has no fields yet. nullptr when the line is too
-    // short, or when too many other headers came first: its fields are cut each time then. It stays valid,
-    // and where it is, as long as this object. `variant` tells apart events that these columns alone do not.
+    // short or too many other headers came first; the caller then cuts the fields each time. The pointer is
+    // valid as long as this object. `variant` distinguishes events that have the same columns.
     KnownHeader* Find(std::string_view line, std::uint8_t variant = 0);
 
   private:

@@ -5,8 +5,8 @@
 
 #include <cstdint>
 
-// Phases of showing a logbook. A phase that a run-time error left unfinished stays in LoadState and selects
-// the message that the user gets.
+// Phases of showing a logbook. When a run-time error ends a phase, the phase stays in LoadState and selects
+// the message to the user.
 namespace LoadStates {
 inline constexpr std::int16_t Corrupt = -1;
 inline constexpr std::int16_t Done = 0;
@@ -15,10 +15,10 @@ inline constexpr std::int16_t Reading = 2;
 inline constexpr std::int16_t Filtering = 3;
 } // namespace LoadStates
 
-// The logbook that the program shows. Made once, where the program starts, and handed on from there.
+// The logbook that the program shows. The program makes one at its start and passes it on.
 struct Logbook {
     EntryTable Entries;
-    std::int64_t EntryCount = 0; // as the last read that could open its file told it
+    std::int64_t EntryCount = 0; // from the last read that could open its file
     std::int16_t LoadState = LoadStates::Done;
     bool Busy = false; // a logbook is being read and shown
 };

@@ -36,8 +36,8 @@ inline constexpr std::int16_t DebugReceive = 13;
 inline constexpr std::int16_t ErrorCleared = 14;
 } // namespace Images
 
-// One event of the logbook as the entry table hands it out. The texts are UTF-8. The views point into the
-// table: they stay valid until the table is filled anew or, for Comment, until that entry's comment changes.
+// One event of the logbook, from the entry table. The texts are UTF-8. The views point into the table: they
+// are valid until the table is filled again or, for Comment, until that entry's comment changes.
 struct LogbookEntry {
     std::int16_t EventType = 0;
     std::string_view Sender;
@@ -50,9 +50,9 @@ struct LogbookEntry {
     bool operator==(const LogbookEntry&) const = default;
 };
 
-// True for the event types that the list has a name for (0 and 8 have an empty one): 0 to 9.
+// True for 0 to 9, the event types for which the list has a name (that of 0 and 8 is empty).
 constexpr bool IsEventType(std::int16_t eventType) { return eventType >= 0 && eventType <= 9; }
 
-// The name of an event type, the first column of the list; it is the same in every language. The type must
+// The name of an event type for the first column of the list, the same in every language. The type must
 // satisfy IsEventType.
 std::string_view EventTypeName(std::int16_t eventType);

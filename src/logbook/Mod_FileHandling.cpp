@@ -26,7 +26,7 @@ class Reading {
             const CodePage& codePage)
         : File(file), Headers(headers), Entries(entries), Progress(progress), Code(codePage) {}
 
-    // Decides the generation by the first line, which the classic generation reads again as an event.
+    // Decides the generation by the first line. The classic generation reads that line again as an event.
     void Begin() {
         std::string_view line;
         File.ReadLine(line);
@@ -105,7 +105,7 @@ class Reading {
     std::int64_t LastShown = 0;
 };
 
-// The error exit: LoadState keeps the phase, the table what has been stored.
+// The error exit: LoadState keeps the phase, and the table keeps what has been stored.
 bool EndUnfinished(Logbook& logbook, EntryCollector& entries) {
     try {
         entries.End();

@@ -64,7 +64,7 @@ void TurnStartIntoRestart(ParsedEntry& entry) {
 
 std::string_view CutSender(const KeywordRow& row, std::string_view line) {
     const std::string_view sender = Trim(Mid(line, row.SenderColumn, row.SenderLength));
-    // A key that has no name is told by its code; that is no sender.
+    // The line gives a key without a name by its code; that is no sender.
     return row.EventType == EventTypes::Key && sender.starts_with("0x") ? std::string_view{} : sender;
 }
 

@@ -7,8 +7,8 @@
 
 #include <string_view>
 
-// The newest generation begins with a heading that tells its version; every event is a header line and
-// message lines that are indented by two blanks.
+// The newest generation begins with a heading that names its version. Every event is a header line, followed
+// by message lines that are indented by two blanks.
 //
 // Fills `entry` as ParseClassicLine does. Throws RunTimeError for a keyword line that is too short for its
 // stamp.

@@ -11,16 +11,15 @@
 #include <string>
 #include <string_view>
 
-// Room for a key stroke as it is shown, put together from words of a text of at most 64 characters and what
-// stands between them.
+// Room for a key stroke as the list shows it: words of a text of at most 64 characters, with separators.
 using DataRoom = std::array<char, 96>;
 
-// The entry that a line parser fills. Its texts still have one byte a character, as the logbook file has,
-// because every column rule counts characters; they are converted when the entry table stores the entry.
+// The entry that a line parser fills. Its texts still have one byte a character, as in the logbook file,
+// because every column rule counts characters. The entry table converts them when it stores the entry.
 //
-// The texts point into the lines that they were cut from, which stay valid until the file's lines are
-// released, or into texts that live longer, or into what SetData, ShortDataRoom, TimeRoom and Keep made the
-// entry's own.
+// The texts point into one of these: the lines that they were cut from, which are valid until the file's
+// lines are released; texts that live longer; or the entry's own room, which SetData, ShortDataRoom, TimeRoom
+// and Keep use.
 class ParsedEntry {
   public:
     std::int16_t EventType = EventTypes::None;
@@ -30,9 +29,8 @@ class ParsedEntry {
     std::string_view Time;
     std::int16_t Image = Images::Info;
 
-    // Where the number of the entry's kind is remembered, once the entry table has found it; nullptr when
-    // nothing is known to be the same again. Whoever changes one of the fields of the kind sets it to
-    // nullptr.
+    // Where the entry table remembers the number of the entry's kind; nullptr when no later entry is known to
+    // have the same kind. Code that changes a field of the kind sets it to nullptr.
     static constexpr std::uint32_t UnknownKind = 0xFFFFFFFF;
     std::uint32_t* KindMemo = nullptr;
 
@@ -52,14 +50,14 @@ class ParsedEntry {
         KindMemo = nullptr;
     }
 
-    // Appends to a data text that is the entry's own; the first time, what Data is becomes that.
+    // Appends to the data; the first time, copies it to the entry's own room.
     void AppendToData(std::string_view text) {
         OwnData();
         OwnedData += text;
         Data = OwnedData;
     }
 
-    // Makes the joined parts the data, as the entry's own; the parts may point into what the data was.
+    // Joins the parts as the entry's own data; the parts may point into the old data.
     void SetData(std::initializer_list<std::string_view> parts) {
         std::size_t length = 0;
         for (const std::string_view part : parts)
@@ -72,13 +70,13 @@ class ParsedEntry {
         Data = OwnedData;
     }
 
-    // Room for a short data text that is the entry's own.
+    // The entry's own room for a short data text.
     DataRoom& ShortDataRoom() { return OwnedShortData; }
 
-    // Room for a time that is the entry's own.
+    // The entry's own room for a time.
     StampRoom& TimeRoom() { return OwnedTime; }
 
-    // Makes all texts the entry's own, so that the lines may be released.
+    // Copies all texts to the entry's own room, so that the lines may be released.
     void Keep() {
         OwnData();
         JoinedParts.assign(Sender).append(Name).append(Time);

@@ -5,8 +5,8 @@
 
 #include <string_view>
 
-// What reading a logbook tells and asks its surroundings. The window, the command-line tool and the tests
-// each implement it.
+// What a read reports to and asks of its caller. The window, the command-line tool and the tests each
+// implement it.
 class ReadingProgress {
   public:
     virtual ~ReadingProgress() = default;
@@ -14,19 +14,18 @@ class ReadingProgress {
     // How much of the file has been read: 0 to 100; 0 also when reading has ended.
     virtual void SetValue(double percent) = 0;
 
-    // Called after every hundred stored entries, after every MiB of the file, whether or not that gave an
-    // entry, and again and again while a read cannot end. An implementation that finds the call too frequent
-    // may pass over some.
+    // Called after every hundred stored entries, after every MiB of the file even without an entry, and
+    // repeatedly while a read cannot end. An implementation may skip some of the calls.
     virtual void ProcessPendingEvents() = 0;
 
-    // True when the read shall end. Asked after each ProcessPendingEvents.
+    // True when the read must end. Asked after each ProcessPendingEvents.
     virtual bool StopWanted() const = 0;
 
-    // A message to confirm; `text` is UTF-8 and may hold "\r\n". Reading goes on when it returns.
+    // Shows a message to confirm; `text` is UTF-8 and may hold "\r\n". Reading goes on when it returns.
     virtual void ShowMessage(std::string_view text) = 0;
 };
 
-// Lets pending events run. Throws RunTimeError when the read shall end.
+// Lets pending events run. Throws RunTimeError when the read must end.
 inline void LetEventsRun(ReadingProgress& progress) {
     progress.ProcessPendingEvents();
     if (progress.StopWanted())

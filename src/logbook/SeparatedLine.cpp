@@ -27,7 +27,7 @@ constexpr std::size_t DatedStampLength = 9;
 constexpr std::int64_t SeparatorDateColumn = 10;
 constexpr std::int64_t SeparatorDateLength = 15;
 
-// The stamp of a clock that has no date with it, as NormaliseStamp makes it of both.
+// The stamp of a clock without a date, in the form that NormaliseStamp gives.
 std::string_view StampOn(std::string_view date, std::string_view clock, StampRoom& room) {
     std::array<char, DatedStampLength + SeparatorDateLength> dated;
     char* end = std::copy(clock.begin(), clock.end(), dated.data());
@@ -50,7 +50,7 @@ std::string_view SeparatedTime(std::string_view line, const SeparatorDate& date,
     const std::string_view clock = line.size() > 44 ? Trim(Mid(line, 44)) : std::string_view{};
     if (clock.size() >= DatedStampLength)
         return NormaliseStamp(clock, room);
-    // Nearly every line: sizes that the compiler knows make this two moves.
+    // Nearly every line comes here: sizes that the compiler knows make this two moves.
     if (clock.size() == ClockLength && date.Day.size() == DayLength) {
         std::memcpy(room.data(), date.Day.data(), DayLength);
         std::memcpy(room.data() + DayLength, clock.data(), ClockLength);
@@ -69,8 +69,8 @@ std::size_t FindColon(std::string_view text) {
     return static_cast<std::size_t>(std::countr_zero(colons));
 }
 
-// The text behind the keyword's colon; a further colon belongs to the clock, whose two digits before it go
-// too.
+// The text behind the keyword's colon. A further colon belongs to the clock; it and the two digits before it
+// are cut off.
 std::string_view KeyText(std::string_view line) {
     std::string_view text = line.substr(KeyKeyword.size());
     const std::size_t clockColon = FindColon(text);

@@ -14,10 +14,10 @@ struct SeparatorDate {
     std::string Day;  // in a stamp, with the blank before the clock: "04.01.2010 "
 };
 
-// In this generation a separator line, which begins with "___", carries the date, and the events below it
+// In this generation a separator line, which begins with "___", carries the date; the events below it carry
 // only the clock time.
 //
-// Fills `entry` as ParseClassicLine does. `date` is kept between calls; a separator line is followed at
-// once by the line after it. Throws RunTimeError for a key line whose clock stands before its text.
+// Fills `entry` as ParseClassicLine does. The caller keeps `date` between calls. After a separator line this
+// reads the next line at once. Throws RunTimeError for a key line whose clock stands before its text.
 void ParseSeparatedLine(std::string_view line, ParsedEntry& entry, clsFile& file, SeparatorDate& date,
                         KnownHeaders& headers);

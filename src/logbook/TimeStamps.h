@@ -12,8 +12,8 @@
 #include <string_view>
 #include <unordered_map>
 
-// A stamp that ends in a clock time, "12:34:56" or "12:34:56.789", in two numbers: one for the text before
-// the clock, which a whole day's entries share, and one for the clock. The text comes back exactly as it was.
+// A stamp that ends in a clock time, "12:34:56" or "12:34:56.789", as two numbers: one for the text before
+// the clock, which all entries of a day share, and one for the clock. They give back the exact text.
 struct PackedStamp {
     std::uint32_t Date = 0; // number of the text before the clock, for example "04.01.2010 "; below MostDates
     std::uint32_t Clock = 0; // the digits of the clock as one decimal number, HHMMSSmmm, and HasMilliseconds

@@ -10,7 +10,7 @@
 clsFile::clsFile(std::size_t blockSize) : BlockSize(std::max<std::size_t>(blockSize, 1)), Block(NewBlock()) {}
 
 clsFile::BlockMemory clsFile::NewBlock() const {
-    // Zeroed once, so that what FindLineBreak sees behind a block is never undefined.
+    // Zeroed once, so that FindLineBreak never reads undefined bytes behind a block.
     BlockMemory block = std::make_unique<char[]>(BlockSize + 1 + LineBreakOverrun);
     block[0] = '\n';
     return block;
@@ -34,7 +34,7 @@ bool clsFile::OpenFile(const std::string& path, bool closeIfEmpty) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(file, error))
         return false;
-    // The block is the buffer; one of the library's between would only copy the bytes once more.
+    // The block is the buffer; a buffer of the library would only copy the bytes once more.
     File.pubsetbuf(nullptr, 0);
     if (File.open(file, std::ios::in | std::ios::binary) == nullptr)
         return false;
@@ -78,7 +78,7 @@ void clsFile::GoTo(const Place& place) {
     ReplaceBlock(place.Position);
 }
 
-// Puts an empty block in the place of this one, whose lines stay where they are.
+// Replaces this block by an empty one; the old block's lines stay where they are.
 void clsFile::ReplaceBlock(std::int64_t begin) {
     if (BlockHasKeptLines && BlockLength != 0) {
         KeptBlocks.push_back(std::move(Block));
@@ -128,7 +128,8 @@ bool clsFile::ReadPassingLine(std::string_view& line) {
     return ReadLineAcrossBlocks(PassingLineAcrossBlocks, line);
 }
 
-// The line that lies in several blocks, or has a CR that no LF follows, is put together in a text of its own.
+// A line that lies in several blocks, or has a CR without an LF behind it, is put together in a text of its
+// own.
 bool clsFile::ReadLineAcrossBlocks(std::string& text, std::string_view& line) {
     while (Cursor < BlockLength || ReadBlock()) {
         const char* const begin = Block.get() + Cursor;

@@ -13,13 +13,13 @@
 #include <string_view>
 #include <vector>
 
-// Reads a logbook file line by line, tells how far it has come, and can step back to a remembered position.
+// Reads a logbook file line by line, reports how far it has come, and can return to a saved position.
 //
-// An object reads one file: new, then open, then closed. Reading, rewinding, saving and restoring are valid
-// only while it is open. Sizes and positions are in bytes.
+// An object reads one file: it is new, then open, then closed. Reading, rewinding, saving and restoring are
+// valid only while it is open. Sizes and positions are in bytes.
 //
-// A reading position moves through the file in chunks of BufferSize bytes, and CurrentPosition speaks of
-// them. The system is asked for larger blocks, which only this class knows of.
+// The reading position moves through the file in chunks of BufferSize bytes; CurrentPosition counts in them.
+// Within, the class asks the system for larger blocks.
 class clsFile {
   public:
     static constexpr int ChunkSize = 2048;
@@ -31,17 +31,17 @@ class clsFile {
     // The file's size, taken once at opening.
     std::int64_t FileSize() const { return FileLength; }
 
-    // One more than the number of consumed bytes, plus BufferSize: deliberately a chunk further than what has
-    // been consumed, so that it passes the file's size while the last chunk is still being read.
+    // One more than the number of consumed bytes, plus BufferSize. It is deliberately a chunk ahead, so that
+    // it passes the file's size while the last chunk is still being read.
     std::int64_t CurrentPosition() const { return Position() + 1 + BufferSize(); }
 
-    // Opens a regular file. False, with nothing reported, when it is missing or cannot be read, when it is
-    // empty and `closeIfEmpty` is set, and when this object has been used before.
+    // Opens a regular file. False, without a message, when the file is missing or cannot be read, when it is
+    // empty and `closeIfEmpty` is set, or when this object has been used before.
     bool OpenFile(const std::string& path, bool closeIfEmpty);
 
-    // From now on pending events run each time that EventStep further bytes have come from the file: however
-    // long a line is, and whatever is made of it. A wish to stop then ends what is being read by a
-    // RunTimeError. `progress` must live as long as there is anything to read.
+    // From now on pending events run after each further EventStep bytes of the file, however long a line is.
+    // When `progress` then wants to stop, the read throws RunTimeError. `progress` must live until reading is
+    // over.
     void TellProgress(ReadingProgress& progress) { Progress = &progress; }
 
     void CloseFile();
@@ -49,8 +49,8 @@ class clsFile {
     // Back to the first byte. The chunk size stays as it is: after a whole read it is that of the last chunk.
     void RewindFile();
 
-    // Remembers the position, and returns to it as often as wanted; there is one such place. LinesRead goes
-    // on.
+    // SavePosition remembers one position, and RestoreSavedPosition returns to it as often as called.
+    // LinesRead is not set back.
     void SavePosition() { Saved = CurrentPlace(); }
     void RestoreSavedPosition() { GoTo(Saved); }
 
@@ -64,25 +64,25 @@ class clsFile {
         return ReadLineWithin(line) ? !line.empty() || !EndOfFile() : ReadKeptLineAcrossBlocks(line);
     }
 
-    // The same for a line that is used up at once: it stays valid until the next call of any operation, and
-    // no memory is kept for it.
+    // The same for a line that the caller uses at once: it is valid only until the next call of any
+    // operation, and keeps no memory.
     bool ReadPassingLine(std::string_view& line);
 
-    // The first character of the line that ReadLine would give next, where that is at hand; nullptr for an
-    // empty line, at the end of the file, and at the end of what has been read of it.
+    // The first character of the line that ReadLine would give next, if the block holds it; nullptr for an
+    // empty line, at the end of the block and at the end of the file.
     const char* NextAtHand() const {
         const char* const next = Block.get() + Cursor;
         return Cursor < BlockLength && *next != '\n' && *next != '\r' ? next : nullptr;
     }
 
     // The first two characters of the line that ReadLine would give next, fewer for a shorter line, "" at the
-    // end of the file. Consumes nothing. Valid and throws as ReadLine.
+    // end of the file. Consumes nothing. Validity and exceptions are as for ReadLine.
     std::string_view NextLineStart();
 
-    // True when memory is kept only for lines that were handed out.
+    // True when some memory is kept only for lines that the caller has read.
     bool KeepsLines() const { return HasKeptMemory; }
 
-    // Ends the life of the lines that were handed out, and gives that memory back.
+    // Ends the life of all lines that the caller has read, and gives their memory back.
     void ReleaseLines();
 
     // Line ends consumed since the object was made; never set back.
@@ -116,27 +116,27 @@ class clsFile {
     std::int64_t LinesReadCount = 0;
     int PassChunkSize = ChunkSize; // of this pass through the file; its last chunk may be shorter
     Place Saved;
-    ReadingProgress* Progress = nullptr; // whom TellProgress named
+    ReadingProgress* Progress = nullptr; // from TellProgress
     std::int64_t BytesSinceEvents = 0;
 
     using BlockMemory = std::unique_ptr<char[]>;
     BlockMemory NewBlock() const;
 
     std::size_t BlockSize;
-    BlockMemory Block; // what the system gave last, a line feed behind it as a sentinel, and padding
+    BlockMemory Block;           // the last bytes from the system, a line feed as a sentinel, and padding
     std::size_t BlockLength = 0; // without sentinel and padding
     std::int64_t BlockBegin = 0; // the block's place in the file
-    std::size_t Cursor = 0;      // the next byte to consume, from the block's begin
+    std::size_t Cursor = 0;      // the next byte to consume, from the block's start
 
     bool HasKeptMemory = false;          // KeptBlocks or LinesAcrossBlocks have any
-    bool BlockHasKeptLines = false;      // lines that were handed out and not released lie in this block
+    bool BlockHasKeptLines = false;      // lines read and not released lie in this block
     std::vector<BlockMemory> KeptBlocks; // earlier blocks with such lines
     BlockMemory SpareBlock;
-    std::deque<std::string> LinesAcrossBlocks; // lines that lie in no single block as they are
+    std::deque<std::string> LinesAcrossBlocks; // lines that do not lie whole in one block
     std::string PassingLineAcrossBlocks;
 };
 
-// Reads the line if it lies in this block as it is; otherwise consumes nothing.
+// Reads the line if it lies whole in this block; otherwise consumes nothing.
 inline bool clsFile::ReadLineWithin(std::string_view& line) {
     const char* const begin = Block.get() + Cursor;
     const char* const limit = Block.get() + BlockLength;

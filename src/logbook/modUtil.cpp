@@ -36,8 +36,8 @@ constexpr std::array<Month, 12> Months{{
     {LettersOf("DEC"), ".12."},
 }};
 
-// The value of a character as an upper-case digit; -1 when it is none. In key codes digits and letters come
-// as they like, so that asking for their ranges would be guessed wrong every other time.
+// The value of a character as an upper-case digit; -1 when it is no digit. Key codes mix digits and letters,
+// so the processor would mispredict a comparison of ranges every other time.
 constexpr std::array<std::int8_t, 256> HexDigits = [] {
     std::array<std::int8_t, 256> digits{};
     digits.fill(-1);

@@ -11,13 +11,13 @@
 #include <string>
 #include <string_view>
 
-// Text cutting by columns. A text here has one byte a character; columns count from 1. The results point into
-// the text that was given.
+// Cuts texts by columns. A text here has one byte a character; columns count from 1. The results point into
+// the given text.
 
-// Throws the RunTimeError of a line that has no such column.
+// Throws the RunTimeError for a line that lacks a column.
 [[noreturn]] void ThrowTooShort();
 
-// `length` characters from column `start` on, fewer where the text ends, "" past its end. Throws RunTimeError
+// `length` characters from column `start` on; fewer where the text ends, "" past its end. Throws RunTimeError
 // for a start below 1 or a negative length.
 inline std::string_view Mid(std::string_view text, std::int64_t start, std::int64_t length) {
     if (start < 1 || length < 0)
@@ -39,9 +39,9 @@ inline std::string_view Right(std::string_view text, std::size_t length) {
     return text.substr(text.size() - std::min(length, text.size()));
 }
 
-// Turns "clock weekday month day year" with single blanks between, English month names, into the day-first
-// stamp: "12:34:56 Mon Jan 04 2010" gives "04.01.2010 12:34:56". The clock may carry milliseconds. An unknown
-// month leaves day and year with nothing between. The stamp lies in `room`.
+// Turns "clock weekday month day year", with single blanks and English month names, into the day-first stamp:
+// "12:34:56 Mon Jan 04 2010" gives "04.01.2010 12:34:56". The clock may have milliseconds. With an unknown
+// month, nothing stands between day and year. The stamp lies in `room`.
 std::string_view NormaliseStamp(std::string_view text, StampRoom& room);
 
 // The printable ASCII character of a hexadecimal key code such as "0x0041", or "". Digits are upper case; any

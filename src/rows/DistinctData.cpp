@@ -18,7 +18,7 @@ class TextNumbers {
 
     void PrefetchSlot(std::uint32_t hash) const { Prefetch(&slots_[hash & (slots_.size() - 1)]); }
 
-    // The text that NumberOf will most probably look at.
+    // The text that NumberOf will most probably read.
     void PrefetchText(std::uint32_t hash) const {
         const Slot& slot = slots_[hash & (slots_.size() - 1)];
         if (slot.NumberAfter != 0)

@@ -8,13 +8,13 @@
 #include <string_view>
 #include <vector>
 
-// The different data texts of a table, numbered from 0 on as they occur. Logbooks say the same again and
-// again: what is done once a text instead of once an entry is done a fraction of the times.
+// The different data texts of a table, numbered from 0 on as they occur. Logbooks repeat the same texts, so
+// work once a text costs a fraction of work once an entry.
 struct DistinctData {
     std::vector<std::uint32_t> Numbers;  // by entry
-    std::vector<std::string_view> Texts; // by number; they stay valid as long as the table is as it is
+    std::vector<std::string_view> Texts; // by number; valid until the table changes
 };
 
-// Finds them in one pass over the entries in their order. False when the texts differ too often for this to
-// pay (which is known soon when all of them do), or when the sort was stopped.
+// Finds them in one pass over the entries in their order. False when the sort was stopped, or when too many
+// texts differ for this to pay; if all differ, that shows soon.
 bool FindDistinctData(const EntryTable& entries, DistinctData& distinct, SortProgress& progress);

@@ -6,17 +6,17 @@
 
 class Registry;
 
-// What the list's menu does with the selected rows' entries. Each is kept as filters in the settings, which
-// are written once (see filter/FiltersFromEntries.h); the list on the screen is changed in place, without a
-// filter run. Costs a logarithm a row.
+// The list menu's actions on the entries of the selected rows. Each keeps its result as filters in the
+// settings, written once (see filter/FiltersFromEntries.h). The list on the screen is changed in place,
+// without a filter run. Costs a logarithm a row.
 
-// Keeps the entries of the selected rows out of the list from now on. Returns the rows to take out of it, see
-// RemoveRows.
+// Keeps the entries of the selected rows out of the list from now on. Returns the rows to remove from it
+// (RemoveRows).
 RowRanges RemoveFromList(Registry& registry, const LogbookRows& rows, const RowRanges& selected);
 
-// Highlights the entries of the selected rows that are plain, and the other way round. Returns the rows that
-// change, see SwitchHighlighting. A row that another filter highlights turns plain when there is a filter of
-// highlighted numbers, and the next filter run highlights it again; without one it does not change.
+// Highlights the entries of the plain selected rows, and makes those of the highlighted ones plain. Returns
+// the rows that change (SwitchHighlighting). A row that another filter highlights turns plain only when there
+// is a filter of highlighted numbers, and the next filter run highlights it again.
 RowRanges ToggleHighlighting(Registry& registry, const LogbookRows& rows, const RowRanges& selected);
 
 void SwitchHighlighting(LogbookRows& rows, const RowRanges& ranges);

@@ -10,23 +10,23 @@
 #include <memory>
 #include <span>
 
-// What part of the way that is left a phase of a sort takes, in percent.
+// The part of the remaining way that a phase of a sort takes, in percent.
 inline constexpr int KeysPart = 30;
 inline constexpr int OrderPart = 85;
 
-// A row as the number that is sorted.
+// A row as a number to sort.
 inline std::uint32_t Packed(LogbookRow row) { return std::bit_cast<std::uint32_t>(row); }
 inline LogbookRow Unpacked(std::uint32_t number) { return std::bit_cast<LogbookRow>(number); }
 
-// Whether something is better fetched for all entries in their order first than for the rows in theirs: when
-// these jump to and fro between the entries, and are most of them.
+// Whether it is quicker to fetch something for all entries in their order than for the rows in theirs: when
+// the rows are most of the entries and not in entry order.
 inline bool AreFetchedInOrder(const EntryTable& entries, const LogbookRows& rows) {
     return rows.size() > entries.Count() / 2 &&
            !std::is_sorted(rows.begin(), rows.end(),
                            [](const LogbookRow& a, const LogbookRow& b) { return a.Entry < b.Entry; });
 }
 
-// Appends the rows that `numbers`, which has `count` of them, are.
+// Turns the `count` numbers back into rows and appends these to `sorted`.
 template <typename Numbers>
 bool TakeRows(const Numbers& numbers, std::size_t count, LogbookRows& sorted, SortProgress& progress) {
     progress.BeginPhase(100, count);
@@ -34,8 +34,8 @@ bool TakeRows(const Numbers& numbers, std::size_t count, LogbookRows& sorted, So
     return progress.ForEach(0, count, [&](std::size_t i) { sorted.push_back(Unpacked(numbers[i])); });
 }
 
-// Rows that are sorted by a key which is made from each one's entry; rows with the same key keep their order
-// in either direction. At most 24 bytes a row with keys of 32 bits, 28 with keys of 64 bits.
+// Sorts rows by a key made from each row's entry; rows with the same key keep their order in either
+// direction. Takes at most 24 bytes a row with keys of 32 bits, 28 with keys of 64 bits.
 template <typename Key>
 class KeyedRows {
   public:
@@ -44,7 +44,7 @@ class KeyedRows {
           items_(first_.get(), count),
           flip_(descending ? static_cast<Key>(~Key{0}) : Key{0}) {}
 
-    // `keyOf` makes a key of an entry number. This and Sort are false when the sort was stopped.
+    // `keyOf` makes a key from an entry number. Fetch and Sort return false when the sort was stopped.
     template <typename KeyOf>
     bool Fetch(const EntryTable& entries, const LogbookRows& rows, KeyOf keyOf, SortProgress& progress) {
         const auto put = [&](std::size_t i, Key key) {

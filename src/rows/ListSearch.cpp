@@ -9,7 +9,7 @@
 
 namespace {
 
-// Testing so many rows takes about as long as looking for candidates among all entries.
+// Testing this many rows takes about as long as finding candidates among all entries.
 std::int32_t RowsTestedSingly(const EntryTable& entries) {
     return static_cast<std::int32_t>(1000 + entries.Count() / 64);
 }

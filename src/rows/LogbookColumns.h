@@ -17,7 +17,7 @@ struct LogbookColumnInfo {
     TextId Header;
     SortRule Rule;
     int DefaultWidth;              // twips
-    std::string_view WidthSetting; // under which the width is kept, in twips; empty = it is not
+    std::string_view WidthSetting; // name of the stored width, in twips; empty = not stored
 };
 
 inline constexpr std::array<LogbookColumnInfo, 7> LogbookColumns{{
@@ -32,9 +32,9 @@ inline constexpr std::array<LogbookColumnInfo, 7> LogbookColumns{{
 
 inline constexpr int LogbookColumnCount = static_cast<int>(LogbookColumns.size());
 
-// The text of a cell as a person sees it, in UTF-8. The event type of the entry must be one that has a name.
+// The text of a cell as a person sees it, in UTF-8. The entry's event type must have a name.
 std::string CellText(const EntryTable& entries, EntryNumber number, LogbookColumn column);
 
-// The text of a cell of the columns Event, Sender and Name, which all entries of a kind have in common; empty
-// for an event type that has no name. It stays valid as long as the kind does.
+// The text of a cell in the columns Event, Sender and Name, the same for all entries of a kind; empty for an
+// event type without a name. It is valid as long as the kind.
 std::string_view KindText(const EntryKind& kind, LogbookColumn column);

@@ -23,7 +23,7 @@ struct Keyed {
 
 namespace RadixSortDetail {
 
-// One digit after the other, from the lowest on; a digit that is the same in all keys is passed over.
+// Sorts by one digit after the other, from the lowest on; skips a digit that is the same in all keys.
 template <unsigned DigitBits, typename Item, typename KeyOf>
 bool SortDigits(std::span<Item>& items, std::span<Item>& scratch, KeyOf keyOf, SortProgress& progress) {
     using Key = decltype(keyOf(items[0]));
@@ -31,7 +31,7 @@ bool SortDigits(std::span<Item>& items, std::span<Item>& scratch, KeyOf keyOf, S
     constexpr unsigned Digits = (sizeof(Key) * 8 + DigitBits - 1) / DigitBits;
     const auto digitOf = [](Key key, unsigned digit) { return key >> (digit * DigitBits) & (Buckets - 1); };
 
-    std::vector<std::array<std::uint32_t, Buckets>> places(Digits); // first how many, then where to
+    std::vector<std::array<std::uint32_t, Buckets>> places(Digits); // first the counts, then the targets
     if (!progress.ForEach(0, items.size(), [&](std::size_t i) {
             const Key key = keyOf(items[i]);
             for (unsigned digit = 0; digit < Digits; ++digit)
@@ -57,9 +57,9 @@ bool SortDigits(std::span<Item>& items, std::span<Item>& scratch, KeyOf keyOf, S
 
 } // namespace RadixSortDetail
 
-// Sorts items by an unsigned key, ascending and stably, in time linear in their number, which is below 2^32.
-// `scratch` is as long as `items`; the two change places as often as needed, so that `items` is where the
-// result lies. False when the sort was stopped; the items are then in some order.
+// Sorts items by an unsigned key, ascending and stably, in time linear in their number, which must be below
+// 2^32. `scratch` must be as long as `items`; the two may be swapped, and `items` then is where the result
+// lies. False when the sort was stopped; the items are then in any order.
 template <typename Item, typename KeyOf>
 bool RadixSort(std::span<Item>& items, std::span<Item>& scratch, KeyOf keyOf, SortProgress& progress) {
     constexpr std::size_t FewItems = 1U << 16U; // too few to make up for the larger tables of wide digits

@@ -43,7 +43,7 @@ bool CellTest::MatchesWholeWord(std::string_view cell) const {
     const std::size_t place = cell.find(wordAtEnd_);
     if (place == std::string_view::npos)
         return CharacterCount(cell) == textCharacters_;
-    // The same in bytes as in characters: what follows the place is the text and then nothing.
+    // Bytes give the same result as characters: the text follows the place, and then nothing.
     return place + wordAtEnd_.size() == cell.size();
 }
 

@@ -10,8 +10,8 @@
 #include <string>
 #include <string_view>
 
-// What a search looks for, and how. The whole-word and case values are 0 or 1; with any other value nothing
-// matches.
+// The text of a search and how to compare it. The whole-word and case values are 0 or 1; with any other value
+// nothing matches.
 struct SearchState {
     std::string SearchText; // UTF-8
     bool SearchUp = false;  // towards the top of the list
@@ -21,16 +21,16 @@ struct SearchState {
     bool operator==(const SearchState&) const = default;
 };
 
-// The columns that a search looks at, in this order.
+// The columns that a search covers, in this order.
 inline constexpr std::array SearchColumns{LogbookColumn::Event, LogbookColumn::Data, LogbookColumn::Comment};
 
 // The test of single cells, prepared once a search.
 //
 // Without whole words a cell matches when it contains the text. With whole words it matches in three cases:
 // it begins with the text and a blank; it contains the text between two blanks; or the first blank followed
-// by the text stands where only the text follows, that is at the position (0 for none) that is the cell's
-// length less the text's. Lengths are in characters. By the last rule a cell of the text's own length matches
-// whatever it says; this is deliberate, searches have always found these.
+// by the text stands at the position (0 for none) that is the cell's length less the text's, so that only the
+// text follows. Lengths are in characters. By the last rule every cell of the text's own length matches. This
+// is deliberate: searches have always found these.
 class CellTest {
   public:
     explicit CellTest(const SearchState& search);
@@ -41,10 +41,10 @@ class CellTest {
   private:
     bool MatchesWholeWord(std::string_view cell) const;
 
-    bool possible_; // false when the values ask for what does not exist
+    bool possible_; // false when a value is neither 0 nor 1
     bool wholeWord_;
     bool caseSensitive_;
-    std::string text_; // lower-case where the case does not matter
+    std::string text_; // lower-case when case does not matter
     std::size_t textCharacters_;
     std::string wordAtStart_;
     std::string wordBetweenBlanks_;

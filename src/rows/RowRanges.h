@@ -6,8 +6,8 @@
 #include <cstddef>
 #include <vector>
 
-// Rows of the list as ranges: both ends count, no two ranges touch, in list order. A selection is held so:
-// everything selected is one range, whatever the number of rows.
+// Rows of the list as ranges in list order: both ends are included, and no two ranges touch. A selection has
+// this form: when everything is selected it is one range, whatever the number of rows.
 struct RowRange {
     std::size_t First;
     std::size_t Last;
@@ -21,13 +21,13 @@ RowRanges Joined(RowRanges ranges);
 
 std::size_t RowCount(const RowRanges& ranges);
 
-// Which entries a selection holds, while their rows change places or go. One bit an entry.
+// Remembers the entries of a selection while their rows move or are removed. One bit an entry.
 class SelectedEntries {
   public:
     SelectedEntries(const LogbookRows& rows, const RowRanges& ranges);
 
-    // The rows that show these entries. Scans the rows once, unless none or all of them are selected. Nothing
-    // when they are scattered over more than `mostRanges` ranges.
+    // The rows of these entries. Scans the rows once, unless none or all are selected. Empty when they are
+    // scattered over more than `mostRanges` ranges.
     RowRanges RangesIn(const LogbookRows& rows, std::size_t mostRanges) const;
 
   private:
@@ -35,5 +35,5 @@ class SelectedEntries {
     bool all_;
 };
 
-// Takes the rows of the ranges out of the list; the others keep their order.
+// Removes the rows of the ranges from the list; the others keep their order.
 void RemoveRows(LogbookRows& rows, const RowRanges& ranges);

@@ -15,11 +15,11 @@
 
 namespace {
 
-// What part of the way that is left it takes to give ranks to texts, in percent.
+// The part of the remaining way that giving ranks to texts takes, in percent.
 constexpr int RanksPart = 40;
 constexpr int FewRanksPart = 1;
 
-// An entry has at most one row: two bits for each entry hold all there is to sort.
+// An entry has at most one row, so two bits for each entry hold everything to sort.
 bool SortByIndex(const EntryTable& entries, const LogbookRows& rows, bool descending, LogbookRows& sorted,
                  SortProgress& progress) {
     const EntryNumber count = entries.Count();
@@ -43,8 +43,8 @@ bool SortByIndex(const EntryTable& entries, const LogbookRows& rows, bool descen
 bool SortByTime(const EntryTable& entries, const LogbookRows& rows, bool descending, LogbookRows& sorted,
                 SortProgress& progress) {
     const TimeKeys keys(entries);
-    // Seconds from the first day of the table on fit into 32 bits for 136 years; a stamp of an odd form may
-    // lie outside of them.
+    // Seconds from the table's first day on fit into 32 bits for 136 years; a stamp of an odd form may lie
+    // outside that time.
     const std::uint64_t before = keys.Earliest() - 1;
     bool fits = true;
     const auto shortKey = [&](EntryNumber number) {
@@ -67,7 +67,7 @@ bool SortByTime(const EntryTable& entries, const LogbookRows& rows, bool descend
            keyed.Sort(sorted, progress);
 }
 
-// Sender, name and event type hang on the kind.
+// The kind decides sender, name and event type.
 bool SortByKind(const EntryTable& entries, const LogbookRows& rows, LogbookColumn column, bool descending,
                 LogbookRows& sorted, SortProgress& progress) {
     const EntryKinds& kinds = entries.Kinds();
@@ -84,7 +84,7 @@ bool SortByKind(const EntryTable& entries, const LogbookRows& rows, LogbookColum
            keyed.Sort(sorted, progress);
 }
 
-// The texts are those of the rows' entries; the number of a text is its row, packed.
+// The texts of the rows' entries; the number of a text is its row, packed.
 class DataOfRows : public TextSource {
   public:
     explicit DataOfRows(const EntryTable& entries) : entries_(entries) {}
@@ -111,7 +111,7 @@ class CommentsOfRows : public TextSource {
     const EntryTable& entries_;
 };
 
-// Each row's own text.
+// Sorts by each row's own text.
 bool SortByOwnData(const EntryTable& entries, const LogbookRows& rows, bool descending, LogbookRows& sorted,
                    SortProgress& progress) {
     const DataOfRows source(entries);
@@ -124,7 +124,7 @@ bool SortByOwnData(const EntryTable& entries, const LogbookRows& rows, bool desc
     return TakeRows(sort, sort.Count(), sorted, progress);
 }
 
-// Where texts occur again and again, each of them is given its rank.
+// When texts recur, sorts by the rank of each text.
 bool SortByData(const EntryTable& entries, const LogbookRows& rows, bool descending, LogbookRows& sorted,
                 SortProgress& progress) {
     DistinctData distinct;
@@ -144,7 +144,7 @@ bool SortByData(const EntryTable& entries, const LogbookRows& rows, bool descend
            keyed.Sort(sorted, progress);
 }
 
-// Most rows have no comment: they stay as they stand, before or behind the others.
+// Most rows have no comment: they keep their order, before or behind the others.
 bool SortByComment(const EntryTable& entries, const LogbookRows& rows, bool descending, LogbookRows& sorted,
                    SortProgress& progress) {
     std::vector<bool> commented(entries.Count());
@@ -167,7 +167,7 @@ bool SortByComment(const EntryTable& entries, const LogbookRows& rows, bool desc
         return false;
     if (!sort.Sort(OrderPart) || !TakeRows(sort, sort.Count(), sorted, progress))
         return false;
-    // `others` has the room for all rows.
+    // `others` has room for all rows.
     others.insert(descending ? others.begin() : others.end(), sorted.begin(), sorted.end());
     sorted = std::move(others);
     return true;

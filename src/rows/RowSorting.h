@@ -5,10 +5,10 @@
 #include "rows/LogbookColumns.h"
 #include "rows/SortProgress.h"
 
-// Puts the rows in the order of a column into `sorted`, which is empty before; rows with the same key keep
+// Stores the rows in the order of a column in `sorted`, which must be empty. Rows with the same key keep
 // their order in either direction. False when the sort was stopped. Throws std::bad_alloc.
 //
-// What is sorted are integers: entry numbers, seconds, ranks of kinds; texts only where they are an entry's
-// own.
+// Sorts integers: entry numbers, seconds, ranks of kinds. Sorts texts only when they belong to single
+// entries.
 bool SortRows(const EntryTable& entries, const LogbookRows& rows, LogbookColumn column, bool descending,
               LogbookRows& sorted, SortProgress& progress);

@@ -23,8 +23,8 @@ void MarkEventTypes(const EntryTable& entries, const SearchState& search, std::v
             marked[number] = true;
 }
 
-// What is found may also lie in a time stamp behind the data, or reach into the next entry. An occurrence in
-// the data holds the found place, or begins behind its entry.
+// A found place may also lie in a time stamp behind the data, or reach into the next entry. An occurrence in
+// the data holds the found place, or begins behind the place's entry.
 void MarkData(const EntryTable& entries, const TextSearcher& searcher, std::vector<bool>& marked) {
     EntryNumber number = 0;
     std::size_t place = 0;

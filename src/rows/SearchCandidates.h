@@ -5,7 +5,7 @@
 
 #include <vector>
 
-// Which entries a search may find, a bit an entry: all that match, and few others. The data of all entries is
-// looked through as it lies in the table, which is many times quicker than a test of each row; what matches
-// for certain is then tested by RowMatches.
+// The entries that a search may find, a bit an entry: all that match, and few others. Searches the data of
+// all entries as it lies in the table, which is many times quicker than a test of each row; RowMatches then
+// decides.
 std::vector<bool> SearchCandidates(const EntryTable& entries, const SearchState& search);

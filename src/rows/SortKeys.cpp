@@ -16,7 +16,7 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 bool AreDigits(std::string_view text) { return std::all_of(text.begin(), text.end(), IsDigit); }
 
-// Takes a number of at most `mostDigits` digits from the beginning of a text; false when there is none.
+// Cuts a number of at most `mostDigits` digits off the beginning of a text; false when there is none.
 bool TakeNumber(std::string_view& text, std::size_t mostDigits, unsigned& number) {
     std::size_t length = 0;
     number = 0;

@@ -5,19 +5,18 @@
 #include <cstddef>
 #include <functional>
 
-// Told by a sort from time to time how far it is, in percent; false stops the sort.
+// Receives the progress of a sort in percent, from time to time; returns false to stop the sort.
 using SortHook = std::function<bool(int percent)>;
 
-// The way of one sort: phases one after the other, each a number of steps.
+// The progress of one sort: phases one after the other, each a number of steps.
 class SortProgress {
   public:
-    // So many steps lie between two calls of the hook, which may be empty.
+    // The steps between two calls of the hook, which may be empty.
     static constexpr std::size_t StepsPerCall = 32768;
 
     explicit SortProgress(const SortHook& hook) : hook_(hook) {}
 
-    // The steps that follow lead over this part, in percent, of the way that is left. More steps than these
-    // do no harm.
+    // Begins a phase: its steps cover this part, in percent, of the remaining way. More steps do no harm.
     void BeginPhase(int partOfRest, std::size_t steps) {
         begin_ = end_;
         end_ += (100 - end_) * partOfRest / 100;
@@ -25,7 +24,7 @@ class SortProgress {
         done_ = 0;
     }
 
-    // Counts steps. False when the sort shall stop, from then on always.
+    // Counts steps. False when the sort must stop, and always from then on.
     bool Step(std::size_t steps) {
         done_ += detours_ == 0 ? steps : 0;
         sinceCall_ += steps;
@@ -39,7 +38,8 @@ class SortProgress {
 
     bool IsStopped() const { return stopped_; }
 
-    // Runs `action(i)` for `i` from `begin` up to `end`, one step each; false when the sort shall stop.
+    // Runs `action(i)` for each `i` from `begin` up to but not including `end`, one step each; false when the
+    // sort must stop.
     template <typename Action>
     bool ForEach(std::size_t begin, std::size_t end, Action action) {
         while (begin < end) {
@@ -53,7 +53,7 @@ class SortProgress {
         return true;
     }
 
-    // While one lives, steps lead to calls of the hook but no further on the way.
+    // While one lives, steps still call the hook, but do not advance the progress.
     class Detour {
       public:
         explicit Detour(SortProgress& progress) : progress_(progress) { ++progress_.detours_; }

@@ -6,7 +6,7 @@
 
 namespace {
 
-// The icons that say more than the event type.
+// The icons that mean more than the event type.
 struct IconInWords {
     std::int16_t Image;
     TextId Words;

@@ -6,6 +6,6 @@
 
 #include <string>
 
-// What a screen reader says for the first cell of a row: the event type as the cell shows it, and in words
-// what its icon alone tells, as in "Info, mouse click, highlighted".
+// The words of a screen reader for the first cell of a row: the event type as in the cell, and the meaning of
+// its icon, as in "Info, mouse click, highlighted".
 std::string SpokenRow(const EntryTable& entries, const LogbookRow& row, Language language);

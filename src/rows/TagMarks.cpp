@@ -26,7 +26,7 @@ bool TagMarks::NextSlice(const EntryTable& entries, const LogbookRows& rows, std
         const LogbookRow& shown = rows[static_cast<std::size_t>(row - 1)];
         if (shown.Highlighted == 0)
             continue;
-        // The tops never go up, and a comparison is quicker than a division.
+        // The tops never decrease, and a comparison is quicker than a division.
         const bool newTop = (row - std::int64_t{1}) * height >= (lastTop_ + 1) * scale.Rows;
         const bool sliceEnds = row - TagViewerNextRow == SliceLength;
         if ((!newTop && !sliceEnds) || RowImage(shown, entries) <= HighlightedImageOffset)

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::size_t KeyBytes = 7;     // of the text in a key; the eighth tells how many more there are
+constexpr std::size_t KeyBytes = 7;     // of the text in a key; the eighth counts the bytes at that place
 constexpr std::size_t FewTexts = 8;     // quicker compared than given keys
 constexpr std::size_t FewKeys = 256;    // quicker merged than spread over the buckets of a radix sort
 constexpr std::size_t DeepPlace = 4096; // from here on texts are compared: each key would cost as much
@@ -66,14 +66,13 @@ bool TextSort::Sort(int partOfRest) {
     return SortRuns(0, count_, place + KeyBytes);
 }
 
-// The bytes from a place on, and how many of them there are, so that a text comes before those that it is the
-// beginning of.
+// The bytes from a place on, and their number, so that a text comes before longer texts that begin with it.
 std::uint64_t TextSort::KeyAt(std::string_view text, std::size_t place) const {
     const FoldedEight eight = FoldedEightAt(text, place);
     return ((eight.Bytes & ~std::uint64_t{0xFF}) | eight.Count) ^ flip_;
 }
 
-// Texts with the same key that is whole are the same.
+// Texts with the same whole key are the same.
 bool TextSort::IsWhole(std::uint64_t key) const { return ((key ^ flip_) & 0xFF) <= KeyBytes; }
 
 std::string TextSort::CommonOfSome(std::size_t begin, std::size_t end) const {
@@ -84,9 +83,8 @@ std::string TextSort::CommonOfSome(std::size_t begin, std::size_t end) const {
     return common;
 }
 
-// Gives each item of a range the key of its text at the place up to which all the texts are the same, which
-// is `place` or behind it; the place is guessed from some texts, so that one look at each text is enough if
-// the guess is right.
+// Gives each item of a range the key of its text behind the common beginning of all the texts, which ends at
+// `place` or later. Guesses where from some texts; if the guess is right, fetches each text only once.
 bool TextSort::FetchKeys(std::size_t begin, std::size_t end, std::size_t& place, bool& differ) {
     if (begin == end)
         return true;
@@ -132,7 +130,7 @@ bool TextSort::SortByKeys(std::size_t begin, std::size_t end) {
     return true;
 }
 
-// Sorts the runs of items with the same key, whose texts are the same up to `place`.
+// Sorts each run of items with the same key, whose texts are the same up to `place`.
 bool TextSort::SortRuns(std::size_t begin, std::size_t end, std::size_t place) {
     const auto isWanted = [&](std::size_t i) {
         const std::uint64_t key = items_[i].SortKey();
@@ -147,7 +145,7 @@ bool TextSort::SortRuns(std::size_t begin, std::size_t end, std::size_t place) {
         while (runEnd < end && items_[runEnd].SortKey() == key)
             ++runEnd;
         if (runEnd - run > 1 && !IsWhole(key)) {
-            // Most runs are short: what the next ones need is fetched meanwhile.
+            // Most runs are short, so the data of the next ones is fetched meanwhile.
             for (first = std::max(first, run); first < std::min(run + FirstAhead, end); ++first)
                 if (isWanted(first))
                     texts_.PrepareFirst(items_[first].Number);

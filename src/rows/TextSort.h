@@ -12,19 +12,19 @@
 #include <string_view>
 #include <vector>
 
-// The texts of a sort, each by a number that stands for it.
+// The texts of a sort, each by its number.
 class TextSource {
   public:
     virtual ~TextSource() = default;
     virtual std::string_view Text(std::uint32_t number) const = 0;
 
-    // Called ahead of Text so that the text is at hand by then: the first well before the second, and that
-    // well before Text.
+    // Called before Text to prefetch the text: PrepareFirst well before PrepareSecond, and that well before
+    // Text.
     virtual void PrepareFirst(std::uint32_t) const {}
     virtual void PrepareSecond(std::uint32_t) const {}
 };
 
-// Texts in a list, by their place in it.
+// Texts in a list, by their places.
 class TextList : public TextSource {
   public:
     explicit TextList(std::span<const std::string_view> texts) : texts_(texts) {}
@@ -36,12 +36,12 @@ class TextList : public TextSource {
     std::span<const std::string_view> texts_;
 };
 
-// Sorts numbers by their texts without regard to case; texts that are the same keep their order, also in a
-// descending sort. 24 bytes a number while it lives.
+// Sorts numbers by their texts without regard to case; equal texts keep their order, also in a descending
+// sort. Takes 24 bytes a number while it lives.
 //
-// Random access to the texts is what costs, so each text is fetched as seldom as can be: seven of its bytes
-// are made a key, the keys are sorted, and only texts with the same key are fetched again for the bytes
-// behind what they have in common.
+// Random access to the texts is the main cost, so each text is fetched as seldom as possible: seven of its
+// bytes become a key, the keys are sorted, and only texts with the same key are fetched again, for the bytes
+// behind their common beginning.
 class TextSort {
   public:
     TextSort(const TextSource& texts, std::size_t mostNumbers, bool descending, SortProgress& progress);
@@ -49,13 +49,13 @@ class TextSort {
     // At most `mostNumbers` times.
     void Add(std::uint32_t number) { items_[count_++].Number = number; }
 
-    // Leads over this part, in percent, of the way that is left. False when the sort was stopped.
+    // Covers this part, in percent, of the remaining way. False when the sort was stopped.
     bool Sort(int partOfRest);
 
     std::size_t Count() const { return count_; }
     std::uint32_t operator[](std::size_t place) const { return items_[place].Number; }
 
-    // Gives back half of the memory; no sort after this.
+    // Gives back half of the memory; Sort may not be called after this.
     void ReleaseScratch() { (itemsAreFirst_ ? second_ : first_).reset(); }
 
   private:
@@ -72,7 +72,7 @@ class TextSort {
 
     const TextSource& texts_;
     SortProgress& progress_;
-    std::uint64_t flip_; // of the bits of a key: all in a descending sort
+    std::uint64_t flip_; // the bits of a key to invert: all in a descending sort
     std::size_t count_ = 0;
     std::unique_ptr<Item[]> first_;
     std::unique_ptr<Item[]> second_;
@@ -81,7 +81,7 @@ class TextSort {
     Item* scratch_;
 };
 
-// For each text its place in the ascending order, from 0 on; texts that are the same without regard to case
-// share theirs. Leads over this part, in percent, of the way that is left; empty when the sort was stopped.
+// Each text's place in the ascending order, from 0 on; texts that are the same without regard to case share a
+// place. Covers this part, in percent, of the remaining way. Empty when the sort was stopped.
 std::vector<std::uint32_t> RanksOf(std::span<const std::string_view> texts, int partOfRest,
                                    SortProgress& progress);

@@ -8,7 +8,7 @@
 
 namespace {
 
-// Day 1 is the first day of the year 0, which lies before all that can be read.
+// Day 1 is the first day of the year 0, before all readable days.
 std::uint64_t KeyOf(const std::optional<LogbookMoment>& moment) {
     constexpr std::chrono::sys_days Begin{std::chrono::year{0} / 1 / 1};
     return moment ? static_cast<std::uint64_t>((*moment - (Begin - std::chrono::days(1))).count())

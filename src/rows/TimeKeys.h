@@ -17,12 +17,12 @@ class TimeKeys {
     // The seconds of the entry's moment since a fixed day; None comes before all of them.
     std::uint64_t operator[](EntryNumber number) const;
 
-    // The first second of the earliest day in the table that can be read, or of a fixed day when there is
-    // none; stamps that do not end in a clock time are not looked at and may lie before it.
+    // The first second of the earliest readable day in the table, or of a fixed day when there is none.
+    // Ignores stamps that do not end in a clock time; these may lie before it.
     std::uint64_t Earliest() const { return earliest_; }
 
   private:
     const EntryTable& entries_;
-    std::vector<std::uint64_t> dates_; // the first second by number of date, or None
+    std::vector<std::uint64_t> dates_; // by number of date: its first second, or None
     std::uint64_t earliest_;
 };

@@ -15,7 +15,7 @@
 
 namespace {
 
-// A link that leads nowhere takes a name, too.
+// A link that leads nowhere also occupies its name.
 bool IsTaken(const std::string& file) {
     std::error_code error;
     return std::filesystem::exists(std::filesystem::symlink_status(ToPath(file), error));
@@ -34,7 +34,7 @@ std::string_view TakePart(std::string_view& path) {
     return part;
 }
 
-// Leaves of a key path what lies below the application key; false for any other path.
+// Cuts a key path to the part below the application key; false for any other path.
 bool TakeApplicationKey(std::string_view& path) {
     for (std::string_view application = ApplicationKey; !application.empty();)
         if (!IsSameWithoutCase(TakePart(path), TakePart(application)))
@@ -53,8 +53,8 @@ const Json* FindKey(const Json& root, std::string_view path) {
     return key;
 }
 
-// The key of a path, made with all above it where it is not there. A value in the place of a key gives way:
-// only a hand can have put it there, and nothing could be stored below it.
+// The key of a path; makes missing keys. Replaces a value in the place of a key: only a person editing the
+// file can have put it there, and nothing could be stored below it.
 Json& MakeKey(Json& root, std::string_view path) {
     Json* key = &root;
     while (!path.empty()) {
@@ -96,7 +96,8 @@ bool Apply(const SettingsChange& change, Json& root) {
     return true;
 }
 
-// True when values are nested as in no settings. What it says of a text that is no JSON has no meaning.
+// True when values are nested deeper than in any settings. The answer for a text that is not JSON has no
+// meaning.
 bool IsNestedTooDeep(std::string_view text) {
     constexpr int MostDepth = 32;
     int depth = 0;
@@ -115,8 +116,8 @@ bool IsNestedTooDeep(std::string_view text) {
     return depth > MostDepth;
 }
 
-// Parses the whole file; a nesting that no settings have counts as damage, so that no file can exhaust the
-// stack.
+// Parses the whole file. Nesting deeper than in any settings counts as damage, so that no file can exhaust
+// the stack.
 bool Parse(const std::string& text, Json& root) {
     if (IsNestedTooDeep(text))
         return false;
@@ -154,7 +155,7 @@ JsonSettings::Content JsonSettings::Load(Json& root) const {
 }
 
 const JsonSettings::Json& JsonSettings::Current() const {
-    // The state is taken first: a file that is replaced in between is then read once more the next time.
+    // The state is taken first, so that a file replaced in between is read again the next time.
     const FileState state = StateOf(file_);
     if (state.Size < 0)
         known_ = Json::object();
@@ -195,7 +196,7 @@ bool JsonSettings::Change(const std::vector<SettingsChange>& changes) {
     const Content before = Load(root);
     if (before == Content::Unreadable)
         return false;
-    // A step that cannot be done does not keep the others from being done.
+    // A change that cannot be made does not prevent the others.
     bool all = true;
     for (const SettingsChange& change : changes)
         all = Apply(change, root) && all;

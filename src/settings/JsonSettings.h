@@ -11,17 +11,17 @@
 #include <string>
 #include <utility>
 
-// The settings in one JSON file: objects are keys, texts and integers are values. The file holds what lies
-// below ApplicationKey; other key paths have no place in it.
+// The settings in one JSON file: objects are keys, texts and integers are values. The file holds only what
+// lies below ApplicationKey.
 //
-// Every change reads the file anew, replaces it as a whole, and does so under a lock that every running copy
-// of the program takes, so that copies never lose each other's values. A file that cannot be parsed reads as
-// empty and is kept as "<file>.damaged" when a change replaces it; one that is kept already is kept on, with
-// a number behind its name. What cannot be read, or is no regular file, reads as empty and is never replaced.
-// A file is never made larger than one that is read.
+// Every change reads the file again and replaces it as a whole, under a lock that every running copy of the
+// program takes, so that copies never lose each other's values. A file that cannot be parsed reads as empty;
+// the change that replaces it keeps it as "<file>.damaged", with a number behind the name when that file
+// exists. A file that cannot be read, or is not regular, reads as empty and is never replaced. A change never
+// makes a file too large to be read.
 class JsonSettings : public SettingsStore {
   public:
-    // Members of an object are found without case.
+    // Finds members of an object without regard to case.
     template <typename Key, typename Value, typename, typename Allocator>
     using Members = std::map<Key, Value, LessWithoutCase, Allocator>;
     using Json = nlohmann::basic_json<Members>;

@@ -125,7 +125,7 @@ std::string ReasonText(const std::error_code& error, Language language) {
         if (const std::string_view text = ProblemText(static_cast<FileProblem>(error.value()), language);
             !text.empty())
             return std::string(text);
-    // Where the system has numbers of its own, the general number of the same reason.
+    // The general number of the reason, where the system has numbers of its own.
     const std::error_condition reason = error.default_error_condition();
     return reason.category() == std::generic_category() ? SystemReason(reason.value(), language)
                                                         : Unknown(error.value(), language);

@@ -8,15 +8,15 @@
 #include <string_view>
 #include <system_error>
 
-// Why something failed, for the user, in this language whatever the locale of the process: where it is the
-// program that refuses a file (FileProblem), in the program's words; else in those that the system has in
-// English, and in words for them in German. What no words are known for is told by its number.
+// Why something failed, in the user's language whatever the locale of the process. A FileProblem has the
+// program's words. Another error has the system's English words, or a German text for them. An error without
+// known words is shown by its number.
 std::string ReasonText(const std::error_code& error, Language language);
 
-// The same for a number of the system, as errno has it.
+// The same for an error number of the system, as in errno.
 std::string SystemReason(int number, Language language);
 
-// The reasons of the system that have words: all that work on files and the memory for it can give.
+// The system's reasons with known words: all that can come from work on files and from its memory.
 struct SystemReasonRow {
     int Number;
     std::string_view English;

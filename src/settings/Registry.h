@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-// The key that all settings of the program lie in, directly or in its sub-keys.
+// The key of all settings of the program; they lie in it directly or in its sub-keys.
 inline constexpr std::string_view ApplicationKey = "Software\\VELTRANDOR\\Qorvix";
 
 // Its sub-keys.
@@ -21,21 +21,21 @@ inline constexpr std::string_view FilterDialog = "LogbookFilter";
 inline constexpr std::string_view StringFilterDialog = "StringFilter";
 } // namespace SubKeys
 
-// The kind of a value that a read or a write asks for. Any other number: a read gives its default, a write
-// makes the key and stores nothing.
+// The kind of a value to read or write. For any other number a read gives its default, and a write makes the
+// key and stores nothing.
 enum class SettingType { Text = 1, Integer = 4 };
 
-// The operations on the settings that the program uses. None of them reports an error: a read that finds no
-// value of the wanted kind gives the caller's default, a write that fails leaves the settings as they were.
+// The program's operations on the settings. None reports an error: a read that finds no value of the wanted
+// kind gives the caller's default, and a write that fails leaves the settings as they were.
 class Registry {
   public:
     explicit Registry(SettingsStore& store) : store_(store) {}
 
-    // A text longer than this reads as the default, and it ends before its first NUL. In characters.
+    // In characters. A longer text reads as the default. A text ends before its first NUL.
     static constexpr std::size_t LongestText = 1023;
     static std::size_t CharacterCount(std::string_view utf8);
 
-    // False when a text (UTF-8) would be stored and then not be read back as it is: it is too long.
+    // False when a stored text (UTF-8) would not be read back unchanged because it is too long.
     static bool IsReadBack(std::string_view text);
 
     void WriteRegistryValue(std::string_view keyPath, std::string_view valueName, const SettingValue& value,
@@ -43,7 +43,7 @@ class Registry {
     SettingValue ReadRegistryValue(std::string_view keyPath, std::string_view valueName,
                                    const SettingValue& defaultValue, SettingType type) const;
 
-    // The same below ApplicationKey; an empty sub-key is that key itself.
+    // The same below ApplicationKey; an empty sub-key means that key itself.
     void WriteSetting(std::string_view valueName, const SettingValue& value, SettingType type,
                       std::string_view subKey = SubKeys::None);
     SettingValue ReadSetting(std::string_view valueName, const SettingValue& defaultValue, SettingType type,
@@ -66,8 +66,8 @@ class Registry {
     // Deletes the key of the filters with all its values.
     void DeleteFilterKey();
 
-    // While one of these lives, what the registry writes and deletes is collected; its end makes all of it at
-    // once. Reads see what is stored. They may not be nested.
+    // While one of these lives, the registry collects its writes and deletions; the destructor makes all of
+    // them at once. Reads see only what is stored. They may not be nested.
     class Transaction {
       public:
         explicit Transaction(Registry& registry);
@@ -87,5 +87,5 @@ class Registry {
     std::vector<SettingsChange> collected_;
 };
 
-// The settings of the user who runs the program, where this platform keeps them.
+// The settings of the user who runs the program, in this platform's place for them.
 std::unique_ptr<SettingsStore> MakeUserSettings();

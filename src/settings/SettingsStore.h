@@ -11,8 +11,7 @@
 // A value of the settings: text (UTF-8) or a signed 32-bit integer; the kind is kept.
 using SettingValue = std::variant<std::string, std::int32_t>;
 
-// One step of changing the settings. Key paths are relative to the user's settings, with "\" between their
-// parts.
+// One step of a change. Key paths are relative to the user's settings; "\" separates their parts.
 struct SettingsChange {
     enum class Kind { CreateKey, WriteValue, DeleteKey };
 
@@ -22,8 +21,8 @@ struct SettingsChange {
     SettingValue Value; // for WriteValue
 };
 
-// Where the settings of a user are kept: keys that hold named values and further keys. Names of keys and
-// values compare without case. Nothing here reports an error.
+// Keeps the settings of a user: keys that hold named values and further keys. Names of keys and values
+// compare without case. Nothing here reports an error.
 class SettingsStore {
   public:
     virtual ~SettingsStore() = default;
@@ -31,7 +30,7 @@ class SettingsStore {
     // The value, or nothing when there is no such key or value.
     virtual std::optional<SettingValue> Read(std::string_view keyPath, std::string_view name) const = 0;
 
-    // Makes the changes in their order, as one write where the store can; one that cannot be made does not
-    // keep the others from it. False when not all were made. A write that fails leaves the store as it was.
+    // Makes the changes in their order, as one write where the store can. A change that cannot be made does
+    // not prevent the others. False when not all were made. A write that fails leaves the store as it was.
     virtual bool Change(const std::vector<SettingsChange>& changes) = 0;
 };

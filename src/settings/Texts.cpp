@@ -8,8 +8,8 @@ namespace {
 
 using Group = AccessKeyGroup;
 
-// Texts stand here as the program has always shown them, also where they look odd. mnuVContent is "&Inhalt"
-// in both languages.
+// The program has always shown these texts so, even those that look odd. mnuVContent is "&Inhalt" in both
+// languages.
 constexpr auto Table = std::to_array<TextRow>({
     // The menus of the main window
     {TextId::mnuFile, "&File", "&Datei", Group::MenuBar},
@@ -84,7 +84,7 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::pbTagViewer, "Overview of highlighted rows", "Übersicht der markierten Zeilen"},
     {TextId::txContent, "Contents of the selected row", "Inhalt der gewählten Zeile"},
     {TextId::ProgressBar, "Progress", "Fortschritt"},
-    // What the icons of the list tell, for screen readers
+    // The meaning of the list's icons, for screen readers
     {TextId::IconMouse, "mouse click", "Mausklick"},
     {TextId::IconStatusOn, "on", "an"},
     {TextId::IconStatusBlink, "blinking", "blinkend"},
@@ -210,7 +210,7 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::FilterColumnEmitter, "Sender", "Quelle"},
     {TextId::cmdApply, "&Apply", "Über&nehmen", Group::FilterListDialog},
     {TextId::cmdExport, "Sa&ve filter list", "Filterliste spei&chern", Group::FilterListDialog},
-    // In English the same key as the list's: the key goes from one to the other.
+    // In English the list has the same key: it moves from one to the other.
     {TextId::cmdImport, "&Load filter list", "Filterliste la&den", Group::FilterListDialog},
     {TextId::ExportFiltersTitle, "Export Filters", "Filter exportieren"},
     {TextId::ExportFiltersFilter, "Filter Files (*.fil)|*.fil", "Filter Dateien (*.fil)|*.fil"},

@@ -75,7 +75,7 @@ enum class TextId : std::uint16_t {
     pbTagViewer,
     txContent,
     ProgressBar,
-    // What the icons of the list tell, for screen readers
+    // The meaning of the list's icons, for screen readers
     IconMouse,
     IconStatusOn,
     IconStatusBlink,
@@ -269,7 +269,7 @@ enum class TextId : std::uint16_t {
     LanguageDutch,
 };
 
-// Where the access keys of texts, marked by "&", must differ from each other.
+// The groups in which the access keys of texts, marked by "&", must differ from each other.
 enum class AccessKeyGroup : std::uint8_t {
     None,
     MenuBar,

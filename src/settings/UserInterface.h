@@ -14,12 +14,12 @@ struct FileQuestion {
     TextId Title;
     TextId Filters;               // "label|patterns|label|patterns", patterns separated by ";"
     std::string DefaultExtension; // without its "."; a name without extension gets it. "" = none
-    std::string Folder;           // where to begin
-    std::string Name;             // the name that is proposed, without a folder; "" = none
+    std::string Folder;           // to show first
+    std::string Name;             // the proposed name, without a folder; "" = none
 };
 
-// What opening and saving logbooks asks of the person. The window, the command-line tool and the tests each
-// implement it.
+// What the program asks of a person when it opens and saves logbooks. The window, the command-line tool and
+// the tests each implement it.
 class UserInterface {
   public:
     virtual ~UserInterface() = default;
@@ -30,26 +30,26 @@ class UserInterface {
     virtual void ShowMessage(std::string_view text, MessageIcon icon) = 0;
     virtual Answer Ask(TextId question) = 0;
 
-    // An answer to a question: what stands on its button, and whether something is lost with it.
+    // An answer to a question: the text of its button, and whether it loses something.
     struct AnswerButton {
         TextId Text;
         bool Loses = false;
     };
 
-    // A question with answers of its own, and Cancel: the place of the answer, from 0; nothing for Cancel.
-    // Who only presses Enter gives the first answer that loses nothing, or else Cancel.
+    // Asks a question with its own answers and Cancel. Returns the place of the answer, from 0; nothing for
+    // Cancel. Enter gives the first answer that loses nothing, or Cancel if there is none.
     virtual std::optional<std::size_t> Choose(std::string_view question,
                                               std::span<const AnswerButton> answers) = 0;
 
-    // A question with Yes and No that names what it is about; true for Yes.
+    // Asks a question with Yes and No whose text names its subject; true for Yes.
     virtual bool Confirm(std::string_view question) = 0;
 
-    // The file (UTF-8) that the person names; nothing when that was cancelled. Whoever asks for a file to
-    // save asks also before an existing one is replaced.
+    // The file (UTF-8) that the person names; nothing when the person cancels. AskFileToSave gives an
+    // existing file only when the person agrees to replace it.
     virtual std::optional<std::string> AskFileToOpen(const FileQuestion& question) = 0;
     virtual std::optional<std::string> AskFileToSave(const FileQuestion& question) = 0;
 
-    // A status text for the time of a longer step; RestoreStatus puts the one before it back.
+    // Shows a status text during a longer step; RestoreStatus shows the text before it again.
     virtual void ShowStatus(TextId status) = 0;
     virtual void RestoreStatus() = 0;
 };

@@ -82,7 +82,7 @@ class Look {
 
     bool HasEntry(std::int64_t number) const { return number >= 0 && number < successor_.Entries.Count(); }
 
-    // Nothing is lost with an empty comment, or one that the new archive has too.
+    // An empty comment is no loss, nor is one that the new archive also has.
     bool IsHere(std::int64_t number, const std::string& comment) const {
         return comment.empty() ||
                (HasEntry(number) &&
@@ -90,8 +90,8 @@ class Look {
                                 successor_.FileCodePage) == comment);
     }
 
-    // Whether the logbook file begins with the logbook of the archive; nothing where one of them cannot be
-    // read, which is the archive where it has an error.
+    // Whether the logbook file begins with the logbook of the archive; nothing when one of them cannot be
+    // read. If the archive has an error, it is the archive.
     std::optional<bool> IsBeginning(std::size_t member) {
         std::error_code error;
         const std::optional<FileStamp> stamp = StampOf(successor_.LogbookFile, error);
@@ -111,7 +111,7 @@ class Look {
         return archive_.Error().empty() ? std::optional(false) : std::nullopt;
     }
 
-    // Both, where the entry has a comment of its own.
+    // Both comments, when the entry has its own.
     std::string WithOwn(std::int64_t number, std::string archived) const {
         std::string own(successor_.Entries.Comment(static_cast<EntryNumber>(number)));
         return own.empty() ? std::move(archived) : own.append(LineSeparator).append(archived);
@@ -138,8 +138,8 @@ class Look {
 
 ArchivedComments CommentsLostWith(const std::string& archive, const ArchiveSuccessor& successor,
                                   const TempFolder& tempFolder, Language language) {
-    // What is not replaced, which saving tells, is not looked into: another user's link, the logbook file
-    // itself, and what is no file; opening a pipe may never end.
+    // Does not open what saving refuses to replace: another user's link, the logbook file itself, and
+    // anything that is no file; opening a pipe may never end.
     std::error_code error;
     const std::filesystem::path file = FollowLinks(ToPath(archive), error);
     std::error_code noFile;

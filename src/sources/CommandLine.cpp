@@ -9,7 +9,7 @@
 
 namespace {
 
-// Takes the next word off the line; "" ends the command line.
+// Cuts the next word off the line; "" ends the command line.
 std::string_view TakeToken(std::string_view& rest) {
     rest.remove_prefix(std::min(rest.find_first_not_of(Blank), rest.size()));
     if (!rest.starts_with('"')) {
@@ -39,8 +39,7 @@ void ApplyOption(std::string_view text, CommandLine& commandLine) {
         commandLine.ShowUsage = true;
 }
 
-// Stands before and behind the number of a file, in the place of its name in a command line. No argument
-// holds it.
+// In a command line, a file's number between two of these stands for its name. No argument holds it.
 constexpr char FileMark = '\0';
 
 std::string WithNames(const std::string& source, const std::vector<std::string>& arguments) {

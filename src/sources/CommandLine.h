@@ -12,26 +12,25 @@
 struct CommandLine {
     std::vector<std::string> Sources; // logbooks to open one after the other
     bool Embedded = false;            // the usage is never shown
-    bool ShowUsage = false;           // an unknown option or "?" was there, and Embedded was not
+    bool ShowUsage = false;           // there was an unknown option or "?", and Embedded is not set
 
     bool operator==(const CommandLine&) const = default;
 };
 
 // Reads the command line, everything behind the program's own path as one text. Words are separated by
-// blanks; one in double quotes may hold blanks. "-" or "/" begins an option: those with X are passed over,
-// EMB sets Embedded, any other shows the usage. An empty pair of quotes takes the rest of the line as its
-// word.
+// blanks; one in double quotes may hold blanks. "-" or "/" begins an option: one with X is ignored, EMB sets
+// Embedded, any other shows the usage. An empty pair of quotes takes the rest of the line as its word.
 //
-// `isFile` tells of a word that begins with "/" whether it names a file: file names begin so on some systems.
+// `isFile` decides whether a word that begins with "/" names a file, as on some systems.
 CommandLine ParseCommandLine(std::string_view line, const std::function<bool(std::string_view)>& isFile);
 
-// Reads the arguments of the process as one command line, but an argument that names an existing file is that
+// Reads the arguments of the process as one command line. But an argument that names an existing file is that
 // file, whatever blanks and quotes its name has, unless it begins with "-" or is "?". A word that begins with
-// "/" names a file also where it holds a further "/".
+// "/" also names a file when it holds a further "/".
 CommandLine ParseArguments(const std::vector<std::string>& arguments,
                            const std::function<bool(const std::string&)>& fileExists);
 
-// The arguments of the process as one command line; an argument that holds a blank is put in double quotes.
+// The arguments of the process as one command line; puts an argument that holds a blank in double quotes.
 std::string JoinArguments(const std::vector<std::string>& arguments);
 
 // The message that explains the command line.

@@ -16,7 +16,7 @@
 
 namespace {
 
-// "3, 17, 20", or the first ten and "…"; `first` is what the number 0 is shown as.
+// "3, 17, 20", or the first ten and "…"; shows the number 0 as `first`.
 template <typename Number>
 std::string ListOf(const std::vector<Number>& numbers, std::size_t first) {
     constexpr std::size_t MostNamed = 10;
@@ -26,7 +26,7 @@ std::string ListOf(const std::vector<Number>& numbers, std::size_t first) {
     return numbers.size() > MostNamed ? list.append(", …") : list;
 }
 
-// Why the program would not unpack the archive that was built; "" when it would.
+// Why the program could not unpack the archive that was built; "" when it could.
 std::string RefusalOf(const std::filesystem::path& file, Language language) {
     const ZipArchive archive(file, language);
     for (const ZipMember& member : archive.Members())
@@ -39,7 +39,7 @@ std::string WithFile(const std::string& file, const std::error_code& error, Lang
     return error ? file + ": " + ReasonText(error, language) : std::string();
 }
 
-// One saving, from what can be told beforehand to the archive in its place.
+// One save, from the checks beforehand to the archive in its place.
 class Saving {
   public:
     Saving(const std::string& path, const ArchiveContent& content, const TempFolder& tempFolder,

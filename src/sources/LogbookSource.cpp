@@ -31,15 +31,15 @@ std::string FileNameOf(const std::string& path) {
     return fileName;
 }
 
-// The base name of the unpacked files: the logbook's own or, where no file may have so long a name, its
-// begin. That leaves room for what else is made of the name, as that of an archive.
+// The base name of the unpacked files: the logbook's own or, when that is too long for a file, its beginning.
+// This leaves room for longer names made from it, as that of an archive.
 std::string FileBaseOf(const std::string& base) {
     constexpr std::size_t Longest = 255 - LogExtension.size(); // in bytes, on all common file systems
     constexpr std::size_t Cut = 200;
     return base.size() <= Longest ? base : std::string(TextBeginning(base, Cut));
 }
 
-// The logbook that an archive has, by its base name, and the members that were unpacked; "" = none.
+// An archive's logbook by its base name, and the unpacked members; "" = none.
 struct Unpacked {
     std::string Base;
     std::string Logbook;
@@ -47,7 +47,7 @@ struct Unpacked {
     std::string Comments;
 };
 
-// Unpacks the logbook of an archive, with what belongs to it, into a folder that is empty before.
+// Unpacks the logbook of an archive, with its filters and comments, into an empty folder.
 class Extraction {
   public:
     // The folder is a subfolder of the temporary one; "" = it could not be made.
@@ -58,12 +58,11 @@ class Extraction {
           tempFolder_(tempFolder),
           folder_(std::move(folder)) {}
 
-    // The files then lie in the folder as FileBaseOf the base name with their extensions; nothing when the
-    // archive has no logbook or it could not be unpacked whole.
+    // The files are then in the folder, named FileBaseOf the base name with their extensions. Nothing when
+    // the archive has no logbook or could not be unpacked whole.
     std::optional<Unpacked> Extract() {
         if (folder_.empty()) {
-            // Without a folder of its own nothing is unpacked: a bare file name would mean the current
-            // folder.
+            // Unpacks nothing without its own folder: a bare file name would mean the current folder.
             reason_ = Text(tempFolder_.Path().empty() ? TextId::NoTemporaryFolder : TextId::ZipNotUnpacked,
                            language_);
             return std::nullopt;
@@ -76,7 +75,7 @@ class Extraction {
         std::optional<Unpacked> unpacked;
         if (system)
             unpacked = ExtractOperationLog(*system);
-        // The classic logbook, where both are there, is the one that is shown.
+        // When both are there, the classic logbook is shown.
         if (classic && Unpack(archive_, *classic, "lb_act.log"))
             unpacked = Unpacked{"lb_act", archive_.Members()[*classic].Name, "", ""};
         return unpacked;
@@ -149,8 +148,8 @@ class Extraction {
     std::string reason_;
 };
 
-// Puts the unpacked files in the place of all files of that base name from an earlier archive. False where
-// somebody else has put a file of such a name there; nothing is changed then.
+// Replaces all files of that base name from an earlier archive by the unpacked ones. False when somebody else
+// has put a file of such a name there; nothing has changed then.
 bool TakeOver(const std::filesystem::path& from, const TempFolder& tempFolder, const std::string& fileBase) {
     std::vector<std::filesystem::path> unpacked;
     std::vector<std::filesystem::path> places;
@@ -175,8 +174,8 @@ bool TakeOver(const std::filesystem::path& from, const TempFolder& tempFolder, c
 
 std::optional<LogbookSource> ResolveArchive(const std::string& path, const TempFolder& tempFolder,
                                             UserInterface& user, Language language) {
-    // Unpacked apart, so that the logbook that is shown keeps its files until it is clear that this one
-    // replaces it.
+    // Unpacks into a folder apart, so that the present logbook keeps its files until it is clear that this
+    // one replaces it.
     const std::filesystem::path unpacked = tempFolder.MakeSubfolder();
     user.ShowStatus(TextId::StatusExtracting);
     Extraction extraction(ToPath(path), tempFolder, unpacked, language);

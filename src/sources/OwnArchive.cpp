@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view LogExtension = ".log";
 
-// The first member that fits.
+// The first matching member.
 template <typename Condition>
 std::optional<std::size_t> Find(const std::vector<ZipMember>& members, const Condition& fits) {
     const auto member = std::find_if(members.begin(), members.end(), fits);

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-// What the program's own archive is made of, by the places of the members.
+// The members of the program's own archive, by their places.
 struct OwnMembers {
     std::string Base;        // the name of the logbook, without folder and extension
     std::size_t Logbook = 0; // the first that ends in ".log"
@@ -15,6 +15,6 @@ struct OwnMembers {
     std::optional<std::size_t> Comments;
 };
 
-// Nothing for an archive without a logbook. Filters and comments are those of the logbook's name that lie
-// beside it, or elsewhere in an archive that has none there; the case of the names does not count.
+// Nothing for an archive without a logbook. Filters and comments must have the logbook's name, whatever its
+// case. They are the members beside the logbook or, when there are none, those elsewhere in the archive.
 std::optional<OwnMembers> FindOwnMembers(const ZipArchive& archive);

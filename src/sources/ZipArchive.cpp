@@ -19,7 +19,7 @@ constexpr std::uint64_t MostUnpacked = std::uint64_t{4} << 30U;
 constexpr std::uint64_t AlwaysUnpacked = std::uint64_t{64} << 20U;
 constexpr std::uint64_t MostExpansion = 1000;
 
-// What lies beside a logbook is read under bounds of its own.
+// Files beside a logbook have their own bounds.
 struct BoundOfKind {
     std::string_view Extension;
     std::uint64_t Most;
@@ -34,7 +34,7 @@ struct CloseMember {
     void operator()(zip_file_t* member) const { zip_fclose(member); }
 };
 
-// By the library's or the system's reason only where it tells more than that the archive is no good.
+// The library's or the system's reason only when it says more than that the archive is bad.
 std::string ReasonOf(zip_error_t& error, Language language) {
     switch (zip_error_code_zip(&error)) {
     case ZIP_ER_NOZIP:
@@ -88,7 +88,7 @@ ZipArchive::ZipArchive(const std::filesystem::path& file, Language language) : l
         zip_stat_t status;
         zip_stat_init(&status);
         ZipMember member;
-        // A member that has no name or sizes keeps its place, so that a place in the list is a place in the
+        // A member without a name or sizes keeps its place, so that a place in the list is a place in the
         // archive.
         if (zip_stat_index(archive_.get(), static_cast<zip_uint64_t>(i), 0, &status) == 0) {
             member.Name = status.name == nullptr ? "" : status.name;
@@ -146,7 +146,7 @@ bool ZipArchive::Read(std::size_t member, const std::function<bool(std::string_v
         if (StopRequest::IsMade())
             return Fail(TextId::ZipNotUnpacked);
         read += static_cast<std::uint64_t>(count);
-        // The claim bounds what is unpacked, whatever the packed data says.
+        // The claimed size limits what is unpacked, whatever the packed data says.
         if (read > members_[member].Size)
             return Fail(TextId::ZipDamaged);
         if (!take({buffer.data(), static_cast<std::size_t>(count)}))

@@ -15,7 +15,7 @@
 
 struct zip;
 
-// A member of a zip archive. "/" in its name stands as "\" here, so that both forms are the same name.
+// A member of a zip archive. A "/" in its name becomes "\" here, so that both forms are the same name.
 struct ZipMember {
     std::string Name;
     std::uint64_t Size = 0;       // unpacked, as the archive claims
@@ -24,28 +24,28 @@ struct ZipMember {
     // The part of the name behind its last "\".
     std::string_view FileName() const;
 
-    // Why the member is not unpacked, as it claims to be too large: more than 4 GiB, or more than 64 MiB and
-    // over a thousand times its packed size; for filters and comments, also by their own bounds. "" when it
-    // is.
+    // Why the member is too large to be unpacked; "" when it is not. It is when it claims more than 4 GiB, or
+    // more than 64 MiB and over a thousand times its packed size, or for filters and comments more than their
+    // own bounds.
     std::string_view Refusal(Language language) const;
 };
 
-// Reading a zip archive.
+// Reads a zip archive.
 class ZipArchive {
   public:
-    // What fails is told in this language.
+    // Failures are reported in this language.
     ZipArchive(const std::filesystem::path& file, Language language);
 
-    // Why the archive could not be listed, or a member not be unpacked; "" when nothing failed.
+    // Why the archive could not be listed, or a member not unpacked; "" when nothing failed.
     const std::string& Error() const { return error_; }
 
     const std::vector<ZipMember>& Members() const { return members_; }
 
-    // The first member that is called so.
+    // The first member of this name.
     std::optional<std::size_t> FindMember(std::string_view name) const;
 
-    // Hands a member over piece by piece, as long as `take` wants more. False where it did not want all; and
-    // where the member could not be read or is damaged, which Error then tells.
+    // Gives a member to `take` piece by piece, as long as it returns true. False when `take` stopped, or when
+    // the member could not be read or is damaged; Error then says why.
     bool Read(std::size_t member, const std::function<bool(std::string_view)>& take);
 
     // Unpacks a member to a file, whole or not at all.

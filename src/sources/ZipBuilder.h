@@ -8,20 +8,19 @@
 #include <span>
 #include <string>
 
-// A file that goes into a zip archive, and the name (UTF-8) that it has there.
+// A file to pack into a zip archive, and its name (UTF-8) there.
 struct FileToPack {
     std::string Name;
     std::filesystem::path File;
-    std::string Told; // what messages call it
+    std::string Told; // its name in messages
 };
 
-// What packing tells its surroundings: a percentage from 0 to 100; 0 at its begin and end, also where it
-// fails.
+// Receives the progress of packing: 0 to 100 percent; 0 at the start and the end, also when packing fails.
 using PackingProgress = std::function<void(double percent)>;
 
-// Builds a zip archive of files, all deflated, in the file `archive`, in place of what it held. Names that
-// are not ASCII are marked as UTF-8. The files go through in pieces, so memory does not grow with them.
+// Builds a zip archive of files, all deflated, in the file `archive`, replacing its content. Marks names that
+// are not ASCII as UTF-8. Reads the files in pieces, so memory does not grow with them.
 //
-// Returns why that failed, in this language, "" when it did not. After a failure the archive is of no use.
+// Returns why it failed, in this language; "" on success. After a failure the archive is useless.
 std::string BuildZip(const std::filesystem::path& archive, std::span<const FileToPack> files,
                      Language language, const PackingProgress& progress = {});

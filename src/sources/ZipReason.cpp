@@ -12,7 +12,7 @@
 
 namespace {
 
-// The library's errors; newer versions of it know more of them, so that they stand here by their numbers.
+// The library's errors by number, because newer versions know more of them.
 struct Row {
     int Code;
     std::string_view English;
@@ -69,7 +69,7 @@ std::string Words(int code, Language language) {
 
 std::string ZipReason(zip_error& error, Language language) {
     const int code = zip_error_code_zip(&error);
-    // What the packing itself says is English in every locale.
+    // The packing code's own words are English in every locale.
     if (!language.IsGerman() && zip_error_system_type(&error) == ZIP_ET_ZLIB)
         return zip_error_strerror(&error);
     const std::string words = Words(code, language);

@@ -7,7 +7,7 @@
 
 struct zip_error;
 
-// Why the zip library failed, for the user, in this language whatever the locale of the process: in English
-// in the library's words, with the system's behind them where it was the system that failed ("Write error:
-// No space left on device"). What no German words are known for is told by its number.
+// Why the zip library failed, in the user's language whatever the locale of the process. English has the
+// library's words, and behind them the system's when the system failed ("Write error: No space left on
+// device"). An error without known German words is shown by its number.
 std::string ZipReason(zip_error& error, Language language);

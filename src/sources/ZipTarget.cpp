@@ -42,7 +42,7 @@ zip_int64_t ZipTarget::Do(void* data, zip_uint64_t size, zip_source_cmd_t comman
             ZIP_SOURCE_COMMIT_WRITE, ZIP_SOURCE_ROLLBACK_WRITE, ZIP_SOURCE_WRITE, ZIP_SOURCE_SEEK_WRITE,
             ZIP_SOURCE_TELL_WRITE, ZIP_SOURCE_REMOVE, -1);
     case ZIP_SOURCE_STAT: {
-        // What the file held before is of no interest: it reads as one that is not there.
+        // The file's old content does not matter: it reads as a missing file.
         zip_error_set(&error_, ZIP_ER_READ, ENOENT);
         return -1;
     }

@@ -10,19 +10,19 @@
 #include <string>
 #include <system_error>
 
-// The file that libzip builds an archive in. The library on its own would build it in a file beside, which it
-// names and puts in place itself; here the file that is there is written into, with its permissions and its
+// The file in which libzip builds an archive. On its own, the library would build it in another file, and
+// name and move that itself. This class writes into the existing file, which keeps its permissions and its
 // lock.
 class ZipTarget {
   public:
-    // Opens the file, which is made for its owner only where it is not there.
+    // Opens the file; makes it, for its owner only, when there is none.
     explicit ZipTarget(const std::filesystem::path& file);
     ~ZipTarget();
     ZipTarget(const ZipTarget&) = delete;
     ZipTarget& operator=(const ZipTarget&) = delete;
 
-    // An empty archive that is built in the file; the object must outlive it. Null where that failed, and
-    // Error tells why.
+    // An empty archive to build in the file; the object must outlive it. Null on failure; Error then says
+    // why.
     zip_t* Open();
 
     std::string Error(Language language);

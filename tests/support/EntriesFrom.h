@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-// An entry as a test writes it down.
+// An entry in a test's own form.
 struct TestEntry {
     std::int16_t EventType;
     std::string Data;
@@ -18,7 +18,7 @@ struct TestEntry {
 
 // Fills a table with these entries. The texts are ASCII.
 inline void FillTable(EntryTable& table, const std::vector<TestEntry>& entries) {
-    const CodePage codePage; // costs far more than an entry
+    const CodePage codePage; // costs far more than an entry does
     table.Clear();
     for (const TestEntry& entry : entries) {
         ParsedEntry parsed;

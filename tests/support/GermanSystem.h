@@ -16,8 +16,8 @@
 
 #include <libintl.h>
 
-// While one lives, the C library has a German text for "No such file or directory", as on a desktop that is
-// installed in German: from a message catalogue of its own, as no German locale need be installed here.
+// While one lives, the C library has a German text for "No such file or directory", as on a desktop installed
+// in German. It comes from this class's own message catalogue, so that no German locale need be installed.
 class GermanSystem {
   public:
     static constexpr std::string_view NoSuchFile = "Datei oder Verzeichnis nicht gefunden";

@@ -8,12 +8,12 @@
 #include <algorithm>
 #include <cmath>
 
-// What an icon's picture looks like to the eye, for tests.
+// Measures how visible an icon's picture is, for tests.
 
 inline const QColor LightBackground(255, 255, 255);
 inline const QColor DarkBackground(0x2b, 0x2b, 0x2b);
 
-// The icon as it is painted on a background, at exactly size × size pixels.
+// The icon painted on a background, at exactly size × size pixels.
 inline QImage PaintedOn(const QColor& background, const QIcon& icon, int size) {
     QImage image(size, size, QImage::Format_RGB32);
     image.fill(background);
@@ -30,14 +30,14 @@ inline double Luminance(const QColor& color) {
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-// 1 for equal colours, 21 for black on white; graphics need 3 to be told from what is behind them.
+// 1 for equal colours, 21 for black on white; graphics need 3 to stand out from their background.
 inline double Contrast(const QColor& a, const QColor& b) {
     const double lighter = std::max(Luminance(a), Luminance(b));
     const double darker = std::min(Luminance(a), Luminance(b));
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-// How many of the icon's pixels stand out from the background with a contrast of 3 or more.
+// The number of the icon's pixels with a contrast of 3 or more to the background.
 inline int PixelsThatStandOut(const QColor& background, const QIcon& icon, int size) {
     const QImage image = PaintedOn(background, icon, size);
     int count = 0;

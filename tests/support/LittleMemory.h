@@ -17,10 +17,9 @@ inline constexpr bool MemoryCanBeLittle = false;
 inline constexpr bool MemoryCanBeLittle = true;
 #endif
 
-// Takes what the heap has free, as far as the system gives no more: tests that ran before may have left a
-// lot.
+// Takes the free memory of the heap until the system gives no more: earlier tests may have left a lot.
 inline void TakeFreeMemory() {
-    static void* volatile taken = nullptr; // else the compiler may leave the calls out
+    static void* volatile taken = nullptr; // otherwise the compiler may leave the calls out
     for (std::size_t size = 1U << 20U; size >= sizeof(void*); size /= 2)
         while (void* const block = std::malloc(size)) {
             *static_cast<void**>(block) = taken;
@@ -28,8 +27,8 @@ inline void TakeFreeMemory() {
         }
 }
 
-// Runs a function in a process of its own that gets only so many bytes of memory more, whatever the heap has
-// free; true when it returned true there.
+// Runs a function in its own process, which gets at most `bytes` more memory, whatever the heap has free.
+// True when the function returned true there.
 template <typename Function>
 bool HoldsWithLittleMemory(std::size_t bytes, Function function) {
     const pid_t child = fork();

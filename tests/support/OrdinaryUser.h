@@ -3,7 +3,7 @@
 
 #include <unistd.h>
 
-// A user whom permissions hold for, while this lives: a test that runs as root becomes "nobody".
+// While one lives, permissions apply to the test: one that runs as root becomes "nobody".
 class OrdinaryUser {
   public:
     OrdinaryUser() : before_(geteuid()), ordinary_(before_ != 0 || seteuid(Nobody) == 0) {}

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-// Remembers what a read told it, and can end it.
+// Records what a read reports, and can stop it.
 class RecordingProgress : public ReadingProgress {
   public:
     void SetValue(double percent) override { Values.push_back(percent); }
@@ -23,7 +23,7 @@ class RecordingProgress : public ReadingProgress {
     int StopAfterRounds = 1 << 30;
 };
 
-// What a read gave.
+// The result of a read.
 struct ReadResult {
     bool Read = false;
     Logbook Book;
@@ -31,16 +31,16 @@ struct ReadResult {
     RecordingProgress Progress;
 };
 
-// Reads a logbook that has this text (one byte a character), in Windows-1252.
+// Reads a logbook with this text (one byte a character), in Windows-1252.
 void ReadText(std::string_view text, ReadResult& result);
 
-// The entries of a logbook that has this text, one a line: "type image [sender] [name] [time] data". An end
-// of the read by an error is a last line "error" with the load state.
+// The entries of a logbook with this text, one a line: "type image [sender] [name] [time] data". If an error
+// ended the read, the last line is "error" with the load state.
 std::string EntriesOf(std::string_view text);
 
 std::string Dump(const EntryTable& entries);
 
-// A first line of an event: `text` filled up with blanks, and a stamp from column 50 on.
+// A first line of an event: `text` padded with blanks, and a stamp from column 50 on.
 std::string Header(std::string_view text, std::string_view stamp = "04.01.2010 12:34:56.789");
 
 // The lines, each ended by CR LF.

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-// Screens of a test, side by side from the left, the first one the primary. Made before the application, and
-// lives as long as it.
+// Screens for a test, side by side from the left; the first one is the primary. Make it before the
+// application; it must live as long.
 class Screens {
   public:
     explicit Screens(const std::vector<QSize>& sizes) {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-// Answers from a list, and remembers what was asked and said.
+// Answers from a list, and records questions and messages.
 class ScriptedUser : public UserInterface {
   public:
     void ShowMessage(std::string_view text, MessageIcon icon) override {
@@ -54,10 +54,10 @@ class ScriptedUser : public UserInterface {
     }
     void RestoreStatus() override { --StatusDepth; }
 
-    // The answers: to Ask, and to Choose, in their order, then Cancel; to Confirm; to a question for a file.
+    // The answers to Ask and to Choose in their order, then Cancel; to Confirm; and to a question for a file.
     std::deque<Answer> Answers;
     std::deque<std::optional<std::size_t>> Chosen;
-    std::function<void()> WhileChoosing; // what happens meanwhile
+    std::function<void()> WhileChoosing; // runs during the question
     bool Agrees = false;
     std::optional<std::string> File;
 
@@ -65,10 +65,10 @@ class ScriptedUser : public UserInterface {
     std::vector<MessageIcon> Icons;
     std::vector<TextId> Questions;
     std::vector<std::string> Choices;
-    std::vector<std::size_t> ChoiceCounts; // of the answers that were offered, besides Cancel
+    std::vector<std::size_t> ChoiceCounts; // of the offered answers, without Cancel
     std::vector<std::string> Confirmations;
     std::vector<FileQuestion> FilesToOpen;
     std::vector<FileQuestion> FilesToSave;
     std::vector<TextId> Statuses;
-    int StatusDepth = 0; // 0 when every status was taken back
+    int StatusDepth = 0; // 0 when every status was restored
 };

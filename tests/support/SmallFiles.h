@@ -7,8 +7,8 @@
 
 #include <sys/resource.h>
 
-// While one lives, no file of this process grows beyond a size: a write behind it fails as on a full disk,
-// with "File too large" for a reason.
+// While one lives, no file of this process grows beyond a size: a write beyond it fails as on a full disk,
+// for the reason "File too large".
 class SmallFiles {
   public:
     explicit SmallFiles(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {

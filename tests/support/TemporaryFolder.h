@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-// A folder of the test's own, removed with all in it.
+// A folder for one test, removed with everything in it.
 class TemporaryFolder {
   public:
     TemporaryFolder();
@@ -25,5 +25,5 @@ class TemporaryFolder {
     std::filesystem::path path_;
 };
 
-// All of a file; "" when it cannot be read.
+// The whole content of a file; "" when it cannot be read.
 std::string FileContent(const std::filesystem::path& path);
