@@ -2,11 +2,11 @@
 #pragma once
 
 #include "base/CharacterBits.h"
+#include "base/ShortText.h"
 
 #include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 
 inline constexpr char Blank = ' ';
@@ -18,11 +18,7 @@ inline constexpr std::uint64_t EightBlanks = 0x2020202020202020U;
 inline constexpr bool CanLoadEight = std::endian::native == std::endian::little;
 
 // What differs from eight blanks: the bytes that are 0 are blanks.
-inline std::uint64_t DifferenceFromBlanks(const char* eight) {
-    std::uint64_t value = 0;
-    std::memcpy(&value, eight, 8);
-    return value ^ EightBlanks;
-}
+inline std::uint64_t DifferenceFromBlanks(const char* eight) { return LoadEight(eight) ^ EightBlanks; }
 } // namespace BlanksDetail
 
 // The text without the blanks (0x20, nothing else) at both ends.

@@ -33,7 +33,6 @@ class Registry {
 
     // A text longer than this reads as the default, and it ends before its first NUL. In characters.
     static constexpr std::size_t LongestText = 1023;
-    static std::size_t CharacterCount(std::string_view utf8);
 
     // False when a text (UTF-8) would be stored and then not be read back as it is: it is too long.
     static bool IsReadBack(std::string_view text);
