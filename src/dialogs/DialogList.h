@@ -9,16 +9,15 @@
 #include <span>
 
 // The list of a dialog: a few rows in columns, of which several can be selected. What the person wants done
-// comes out as a signal; the popup menu comes with the mouse-up of the right button and with its keys.
+// comes out as a signal.
 class DialogList : public ListOfRows<QTreeWidget> {
     Q_OBJECT
 
   public:
     explicit DialogList(int columns, QWidget* parent);
 
-    // The row that an action on one row is for: the current one where it is selected, else the first selected
-    // one; nullptr when none is selected.
-    QTreeWidgetItem* SelectedRow() const;
+    // The row that an order for one row is for, see ListOfRows; nullptr when none is selected.
+    QTreeWidgetItem* SelectedItem() const;
 
     // Selects this row alone and shows it.
     void SelectAndShow(QTreeWidgetItem* row);
@@ -35,12 +34,10 @@ class DialogList : public ListOfRows<QTreeWidget> {
     void RemoveWanted();
 
   protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
+    void OrderRemoval() override { emit RemoveWanted(); }
+    void OrderPopup(const QPoint& globalPosition) override { emit PopupWanted(globalPosition); }
+    void DoubleClicked(QPoint place) override;
 
   private:
-    QPoint PopupPosition() const;
     bool IsOnCheckBox(QPoint place) const;
 };

@@ -12,7 +12,7 @@ class LogbookModel;
 
 // The logbook list on the screen. It knows what a key, a click or a dropped file means in the list, and tells
 // its window; it changes nothing of the logbook itself. The keyboard's focus is on a row, around which it is
-// drawn; Left and Right scroll sideways.
+// drawn.
 class LogbookView : public ListOfRows<QTableView> {
     Q_OBJECT
 
@@ -24,9 +24,6 @@ class LogbookView : public ListOfRows<QTableView> {
 
     // The selected rows.
     RowRanges SelectedRanges() const;
-
-    // The selected row, where one is meant: the current row when it is selected, otherwise the first that is.
-    std::optional<int> SelectedRow() const;
 
     // Selects exactly these rows and makes one of them, or none, the current row, at which a selection with
     // Shift begins. Does not scroll.
@@ -66,6 +63,9 @@ class LogbookView : public ListOfRows<QTableView> {
     void RowAnnounced(int row);
 
   protected:
+    void OrderRemoval() override { emit RemoveWanted(); }
+    void OrderPopup(const QPoint& globalPosition) override { emit PopupWanted(globalPosition); }
+    void DoubleClicked(QPoint place) override;
     bool event(QEvent* event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -74,15 +74,12 @@ class LogbookView : public ListOfRows<QTableView> {
     void keyReleaseEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
   private:
     QRect RowRect(int row) const;
-    QPoint PopupPosition() const;
     void AnnounceRows(const RowRanges& rows);
     void AnnounceRow(int row);
     static void TakeCopy(QDropEvent* event);
