@@ -16,9 +16,6 @@ namespace {
 constexpr std::string_view SystemArchive = "sysroot.zip";
 constexpr std::string_view OperationLog = "runtime\\operation.log";
 constexpr std::string_view ClassicLog = "logbook\\lb_act.log";
-constexpr std::string_view LogExtension = ".log";
-constexpr std::string_view FilterExtension = ".fil";
-constexpr std::string_view CommentsExtension = ".cmt";
 
 bool EndsWith(std::string_view text, std::string_view lowerEnd) {
     return LowerCase(text).ends_with(lowerEnd);
@@ -54,7 +51,7 @@ class Extraction {
     Extraction(const std::filesystem::path& archive, const TempFolder& tempFolder,
                std::filesystem::path folder, Language language)
         : language_(language),
-          archive_(archive, language),
+          archive_(archive, language, BoundsBesideLogbook()),
           tempFolder_(tempFolder),
           folder_(std::move(folder)) {}
 
@@ -108,7 +105,7 @@ class Extraction {
     std::optional<Unpacked> ExtractOperationLog(std::size_t systemArchive) {
         if (!Unpack(archive_, systemArchive, SystemArchive))
             return std::nullopt;
-        ZipArchive inner(folder_ / SystemArchive, language_);
+        ZipArchive inner(folder_ / SystemArchive, language_, BoundsBesideLogbook());
         const std::optional<std::size_t> member = Find(inner, OperationLog);
         if (!member) {
             reason_ = inner.Error();

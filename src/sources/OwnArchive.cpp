@@ -2,13 +2,19 @@
 #include "sources/OwnArchive.h"
 
 #include "base/AsciiCase.h"
+#include "comments/Comments.h"
+#include "filter/FilterFile.h"
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 namespace {
 
-constexpr std::string_view LogExtension = ".log";
+constexpr std::array<ZipBound, 2> Bounds{{
+    {FilterExtension, FilterFileBounds::Bytes.File, TextId::ZipFiltersTooLarge},
+    {CommentsExtension, CommentsFileBounds.File, TextId::ZipCommentsTooLarge},
+}};
 
 // The first member that fits.
 template <typename Condition>
@@ -20,6 +26,8 @@ std::optional<std::size_t> Find(const std::vector<ZipMember>& members, const Con
 }
 
 } // namespace
+
+std::span<const ZipBound> BoundsBesideLogbook() { return Bounds; }
 
 std::optional<OwnMembers> FindOwnMembers(const ZipArchive& archive) {
     const std::vector<ZipMember>& members = archive.Members();
@@ -38,5 +46,5 @@ std::optional<OwnMembers> FindOwnMembers(const ZipArchive& archive) {
             return IsSameWithoutCase(member.FileName(), name);
         });
     };
-    return OwnMembers{base, *logbook, beside(".fil"), beside(".cmt")};
+    return OwnMembers{base, *logbook, beside(FilterExtension), beside(CommentsExtension)};
 }

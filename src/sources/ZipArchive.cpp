@@ -3,8 +3,6 @@
 
 #include "base/AsciiCase.h"
 #include "base/StopRequest.h"
-#include "comments/Comments.h"
-#include "filter/FilterFile.h"
 #include "sources/ZipReason.h"
 
 #include <zip.h>
@@ -18,17 +16,6 @@ namespace {
 constexpr std::uint64_t MostUnpacked = std::uint64_t{4} << 30U;
 constexpr std::uint64_t AlwaysUnpacked = std::uint64_t{64} << 20U;
 constexpr std::uint64_t MostExpansion = 1000;
-
-// What lies beside a logbook is read under bounds of its own.
-struct BoundOfKind {
-    std::string_view Extension;
-    std::uint64_t Most;
-    TextId Reason;
-};
-constexpr std::array<BoundOfKind, 2> BoundsOfKinds{{
-    {".fil", FilterFileBounds::Bytes.File, TextId::ZipFiltersTooLarge},
-    {".cmt", CommentsFileBounds.File, TextId::ZipCommentsTooLarge},
-}};
 
 struct CloseMember {
     void operator()(zip_file_t* member) const { zip_fclose(member); }
@@ -60,10 +47,10 @@ std::string_view ZipMember::FileName() const {
     return std::string_view(Name).substr(separator == std::string::npos ? 0 : separator + 1);
 }
 
-std::string_view ZipMember::Refusal(Language language) const {
+std::string_view ZipMember::Refusal(Language language, std::span<const ZipBound> bounds) const {
     if (Size > MostUnpacked)
         return Text(TextId::ZipTooLarge, language);
-    for (const BoundOfKind& bound : BoundsOfKinds)
+    for (const ZipBound& bound : bounds)
         if (Size > bound.Most && LowerCase(Name).ends_with(bound.Extension))
             return Text(bound.Reason, language);
     if (Size > AlwaysUnpacked && (Size - 1) / MostExpansion >= PackedSize)
@@ -73,7 +60,8 @@ std::string_view ZipMember::Refusal(Language language) const {
 
 void ZipArchive::Close::operator()(zip* archive) const { zip_discard(archive); }
 
-ZipArchive::ZipArchive(const std::filesystem::path& file, Language language) : language_(language) {
+ZipArchive::ZipArchive(const std::filesystem::path& file, Language language, std::span<const ZipBound> bounds)
+    : language_(language), bounds_(bounds) {
     int code = 0;
     archive_.reset(zip_open(file.string().c_str(), ZIP_RDONLY, &code));
     if (!archive_) {
@@ -114,7 +102,7 @@ bool ZipArchive::Fail(std::string_view reason) {
 }
 
 bool ZipArchive::Unpack(std::size_t member, const std::filesystem::path& target) {
-    if (const std::string_view refusal = members_[member].Refusal(language_); !refusal.empty())
+    if (const std::string_view refusal = members_[member].Refusal(language_, bounds_); !refusal.empty())
         return Fail(refusal);
     std::ofstream stream(target, std::ios::binary | std::ios::trunc);
     const bool isRead = Read(member, [&](std::string_view piece) {
@@ -130,7 +118,7 @@ bool ZipArchive::Unpack(std::size_t member, const std::filesystem::path& target)
 
 bool ZipArchive::Read(std::size_t member, const std::function<bool(std::string_view)>& take) {
     error_.clear();
-    if (const std::string_view refusal = members_[member].Refusal(language_); !refusal.empty())
+    if (const std::string_view refusal = members_[member].Refusal(language_, bounds_); !refusal.empty())
         return Fail(refusal);
     const std::unique_ptr<zip_file_t, CloseMember> source(zip_fopen_index(archive_.get(), member, 0));
     if (!source)

@@ -9,11 +9,19 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 struct zip;
+
+// Files with this extension, in small letters, are not unpacked when they are larger.
+struct ZipBound {
+    std::string_view Extension;
+    std::uint64_t Most; // in bytes
+    TextId Reason;      // what is told of a larger one
+};
 
 // A member of a zip archive. "/" in its name stands as "\" here, so that both forms are the same name.
 struct ZipMember {
@@ -25,16 +33,15 @@ struct ZipMember {
     std::string_view FileName() const;
 
     // Why the member is not unpacked, as it claims to be too large: more than 4 GiB, or more than 64 MiB and
-    // over a thousand times its packed size; for filters and comments, also by their own bounds. "" when it
-    // is.
-    std::string_view Refusal(Language language) const;
+    // over a thousand times its packed size, or more than a bound of its extension. "" when it is.
+    std::string_view Refusal(Language language, std::span<const ZipBound> bounds) const;
 };
 
 // Reading a zip archive.
 class ZipArchive {
   public:
-    // What fails is told in this language.
-    ZipArchive(const std::filesystem::path& file, Language language);
+    // What fails is told in this language. The bounds must live as long as the archive.
+    ZipArchive(const std::filesystem::path& file, Language language, std::span<const ZipBound> bounds);
 
     // Why the archive could not be listed, or a member not be unpacked; "" when nothing failed.
     const std::string& Error() const { return error_; }
@@ -60,6 +67,7 @@ class ZipArchive {
     bool Fail(TextId reason) { return Fail(Text(reason, language_)); }
 
     Language language_;
+    std::span<const ZipBound> bounds_;
     std::unique_ptr<zip, Close> archive_;
     std::vector<ZipMember> members_;
     std::string error_;
