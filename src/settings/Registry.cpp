@@ -125,7 +125,11 @@ void Registry::Change(SettingsChange change) {
         store_.Change({std::move(change)});
 }
 
-Registry::Transaction::Transaction(Registry& registry) : registry_(registry) { registry_.collecting_ = true; }
+Registry::Transaction::Transaction(Registry& registry) : registry_(registry) {
+    if (registry_.collecting_)
+        throw std::logic_error("a transaction of the settings within another");
+    registry_.collecting_ = true;
+}
 
 Registry::Transaction::~Transaction() {
     registry_.collecting_ = false;

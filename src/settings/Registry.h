@@ -66,7 +66,8 @@ class Registry {
     void DeleteFilterKey();
 
     // While one of these lives, what the registry writes and deletes is collected; its end makes all of it at
-    // once. Reads see what is stored. They may not be nested.
+    // once. Reads see what is stored. A registry has one at a time: a second one is a mistake of the program,
+    // for which the constructor throws std::logic_error.
     class Transaction {
       public:
         explicit Transaction(Registry& registry);
