@@ -30,9 +30,9 @@ class ParsedEntry {
     std::string_view Time;
     std::int16_t Image = Images::Info;
 
-    // Where the number of the entry's kind is remembered, once the entry table has found it; nullptr when
-    // nothing is known to be the same again. Whoever changes one of the fields of the kind sets it to
-    // nullptr.
+    // Where the number of the entry's kind (type, icon, sender and name) is remembered, once the entry table
+    // has found it: with the header that decides the kind. nullptr when there is none, or when something else
+    // decides, too; see SetTypeByData.
     static constexpr std::uint32_t UnknownKind = 0xFFFFFFFF;
     std::uint32_t* KindMemo = nullptr;
 
@@ -49,6 +49,14 @@ class ParsedEntry {
         Data = {};
         Time = {};
         Image = Images::Info;
+        KindMemo = nullptr;
+    }
+
+    // A type and an icon that the entry's data decides: entries with the same header may then be of other
+    // kinds, so that none is remembered with it.
+    void SetTypeByData(std::int16_t eventType, std::int16_t image) {
+        EventType = eventType;
+        Image = image;
         KindMemo = nullptr;
     }
 
