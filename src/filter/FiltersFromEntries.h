@@ -27,8 +27,11 @@ class Registry;
 // of the action is a list of its own, which is not touched. Where numbers are taken out, what stands behind
 // moves up, so that the filters stay full up to the last one that has numbers; those behind it stay, empty.
 
+// One entry at a time; the window changes those of all selected rows at once, with NumberFilters below.
+//
 // Adds the entry to the filter of the action (see FilterActions), which is written also when it held it
-// already. True on success.
+// already. Always true, as the settings report no failure; like the other call it tells whether the row of
+// the entry is to change.
 bool AddEntryToFilter(Registry& registry, EntryNumber number, std::int16_t action);
 
 // Takes the entry out. True when there is a number filter for the action, also one that does not hold the
@@ -43,7 +46,9 @@ class NumberFilters {
   public:
     NumberFilters(Registry& registry, std::int16_t action);
 
-    bool Add(EntryNumber number);
+    void Add(EntryNumber number);
+
+    // False, and nothing is done, when there is no number filter for the action.
     bool Remove(EntryNumber number);
 
     // Nothing is written before, and nothing when no entry was added or removed. The first filter is written
