@@ -96,8 +96,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const auto byte = static_cast<unsigned char>(change);
         const EntryNumber number = NumberOf(byte);
         const bool removes = (byte & 1U) != 0;
-        const std::string after =
-            removes ? RemoveFromNumberList(list, number) : AddToNumberList(list, number);
+        NumberListEditor editor;
+        editor.Append(list);
+        removes ? editor.Remove(number) : editor.Add(number);
+        const std::string after = editor.Text();
         CheckChange(list, after, number, removes);
         list = after;
     }

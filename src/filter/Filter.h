@@ -12,12 +12,9 @@
 #include <span>
 #include <string_view>
 
-// True when the filter text is empty or a part of the field, exact characters.
+// True when the filter text is empty or a part of the field, exact characters: for one look at one entry. A
+// run over the entries searches the data of many at once.
 bool MatchText(std::string_view field, std::string_view filterText);
-
-// True when the filter, active or not, matches the entry. One filter against one entry; a run over all
-// entries is ApplyFilters.
-bool MatchFilter(const FilterDefinition& filter, const EntryTable& entries, EntryNumber number);
 
 // What a run tells its surroundings: a percentage from 0 to 100, every hundred entries; 0 at its begin and
 // end.

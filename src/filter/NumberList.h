@@ -25,22 +25,12 @@ std::optional<NumberRange> ParseNumberPart(std::string_view part);
 // The ranges of a list in ascending order, with gaps between them.
 std::vector<NumberRange> ParseNumberList(std::string_view list);
 
-// True when a part of the list matches the entry. Looks at the whole list.
+// True when a part of the list matches the entry: for one look at one entry, as it reads the list anew. A run
+// over the entries reads each list once, with ParseNumberList.
 bool MatchNumberList(EntryNumber entry, std::string_view list);
 
 // A range as a part of a list: one number as that number, more as the bounds joined by "-".
 std::string FormatNumberRange(NumberRange range);
-
-// The list with the number added. One that matches the number stays as it is. Otherwise every part that ends
-// or begins next to the number is extended to it, and the two are not merged (3,5 with 4 is 3-4,4-5); when
-// there is none, the number comes behind the others. Where more than two parts end next to the number, or
-// begin there, the widest takes the place of them all, extended and behind the others. Parts that are not
-// extended keep their text, whatever it is.
-std::string AddToNumberList(std::string_view list, EntryNumber number);
-
-// The list without the number: what remains of a part that holds it is written as one part or two (4-9
-// without 6 is 4-5,7-9), or left out. The other parts keep their text.
-std::string RemoveFromNumberList(std::string_view list, EntryNumber number);
 
 // Calls `visit` with the text of each part, in order, until it returns true; true when it did. An empty list
 // has one part, which is empty.

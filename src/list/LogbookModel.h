@@ -25,7 +25,6 @@ class LogbookModel : public QAbstractTableModel {
 
     // Fills or clears the rows by `change`. Whoever changes the entries clears the rows first.
     void ChangeRows(const std::function<void()>& change);
-    void SetRows(LogbookRows rows);
     const LogbookRows& Rows() const { return rows_; }
 
     // Sorts the rows by a column, as ListSorting.h says. How the list was sorted last is kept over a new

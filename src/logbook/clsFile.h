@@ -18,6 +18,10 @@
 // An object reads one file: new, then open, then closed. Reading, rewinding, saving and restoring are valid
 // only while it is open. Sizes and positions are in bytes.
 //
+// CloseFile, SavePosition with RestoreSavedPosition, LinesRead and BufferLeft are for a reader that closes
+// its file early, must read on before it knows what a line is, or counts lines. The parsers here do not: they
+// look ahead with NextLineStart.
+//
 // A reading position moves through the file in chunks of BufferSize bytes, and CurrentPosition speaks of
 // them. The system is asked for larger blocks, which only this class knows of.
 class clsFile {

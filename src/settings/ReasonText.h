@@ -16,7 +16,7 @@ std::string ReasonText(const std::error_code& error, Language language);
 // The same for a number of the system, as errno has it.
 std::string SystemReason(int number, Language language);
 
-// The reasons of the system that have words: all that work on files and the memory for it can give.
+// The reasons of the system that have words, for whoever checks them all: those that work on files can give.
 struct SystemReasonRow {
     int Number;
     std::string_view English;

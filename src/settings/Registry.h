@@ -55,6 +55,7 @@ class Registry {
     // The same for one sub-key each.
     std::int32_t ReadLogbookSettingLong(std::string_view name, std::int32_t defaultNumber) const;
     std::string ReadLogbookSettingString(std::string_view name, std::string_view defaultText) const;
+    // For a caller to whom the kind is known only when the program runs; the window knows each.
     SettingValue ReadLogbookSetting(std::string_view name, const SettingValue& defaultValue,
                                     SettingType type) const;
     void WriteLogbookSetting(std::string_view name, const SettingValue& value, SettingType type);
