@@ -7,7 +7,6 @@
 #include "sources/OwnArchive.h"
 #include "sources/ZipArchive.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <vector>
 
@@ -66,7 +65,8 @@ class Extraction {
             return std::nullopt;
         }
         const std::optional<std::size_t> system = Find(archive_, SystemArchive);
-        const std::optional<std::size_t> classic = archive_.FindMember(ClassicLog);
+        const std::optional<std::size_t> classic =
+            archive_.FindMember([](const ZipMember& member) { return member.Name == ClassicLog; });
         if (!system && !classic)
             return ExtractOwn();
 
@@ -84,13 +84,8 @@ class Extraction {
 
   private:
     static std::optional<std::size_t> Find(const ZipArchive& archive, std::string_view name) {
-        const std::vector<ZipMember>& members = archive.Members();
-        const auto found = std::find_if(members.begin(), members.end(), [&](const ZipMember& member) {
-            return IsSameWithoutCase(member.Name, name);
-        });
-        if (found == members.end())
-            return std::nullopt;
-        return static_cast<std::size_t>(found - members.begin());
+        return archive.FindMember(
+            [&](const ZipMember& member) { return IsSameWithoutCase(member.Name, name); });
     }
 
     bool Unpack(ZipArchive& archive, std::size_t member, std::string_view fileName) {

@@ -88,14 +88,6 @@ ZipArchive::ZipArchive(const std::filesystem::path& file, Language language, std
     }
 }
 
-std::optional<std::size_t> ZipArchive::FindMember(std::string_view name) const {
-    const auto found = std::find_if(members_.begin(), members_.end(),
-                                    [&](const ZipMember& member) { return member.Name == name; });
-    if (found == members_.end())
-        return std::nullopt;
-    return static_cast<std::size_t>(found - members_.begin());
-}
-
 bool ZipArchive::Fail(std::string_view reason) {
     error_ = reason;
     return false;

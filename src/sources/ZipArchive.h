@@ -3,6 +3,7 @@
 
 #include "settings/Texts.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -48,8 +49,14 @@ class ZipArchive {
 
     const std::vector<ZipMember>& Members() const { return members_; }
 
-    // The first member that is called so.
-    std::optional<std::size_t> FindMember(std::string_view name) const;
+    // The place of the first member that `fits`.
+    template <typename Condition>
+    std::optional<std::size_t> FindMember(const Condition& fits) const {
+        const auto found = std::find_if(members_.begin(), members_.end(), fits);
+        if (found == members_.end())
+            return std::nullopt;
+        return static_cast<std::size_t>(found - members_.begin());
+    }
 
     // Hands a member over piece by piece, as long as `take` wants more. False where it did not want all; and
     // where the member could not be read or is damaged, which Error then tells.
