@@ -2,10 +2,10 @@
 // Any text as a number list, changed by numbers. The first line has a byte for each change, whose lowest bit
 // chooses removal or addition; below it stands the list.
 #include "FuzzSupport.h"
+#include "base/UnicodeCase.h"
 #include "filter/NumberList.h"
 #include "filter/NumberListEditor.h"
 #include "filter/WrappedNumberList.h"
-#include "settings/Registry.h"
 
 #include <algorithm>
 #include <limits>
@@ -60,7 +60,7 @@ void CheckWrapped(const std::string& list) {
     std::string joined;
     for (std::size_t i = 0; i < texts.size(); ++i) {
         const std::size_t room = i == 0 ? FirstRoom : Room;
-        Check(Registry::CharacterCount(texts[i]) <= room || texts[i].find(',') == std::string::npos);
+        Check(CharacterCount(texts[i]) <= room || texts[i].find(',') == std::string::npos);
         Check(i + 1 == texts.size() || texts[i + 1].empty() || GoesOnIn(texts[i], room, texts[i + 1]));
         joined += (joined.empty() ? "" : ",") + texts[i];
     }
@@ -96,8 +96,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const auto byte = static_cast<unsigned char>(change);
         const EntryNumber number = NumberOf(byte);
         const bool removes = (byte & 1U) != 0;
-        const std::string after =
-            removes ? RemoveFromNumberList(list, number) : AddToNumberList(list, number);
+        NumberListEditor editor;
+        editor.Append(list);
+        removes ? editor.Remove(number) : editor.Add(number);
+        const std::string after = editor.Text();
         CheckChange(list, after, number, removes);
         list = after;
     }

@@ -10,6 +10,7 @@
 #include <QMenuBar>
 
 #include <optional>
+#include <string_view>
 
 namespace {
 
@@ -68,7 +69,7 @@ MainMenus::MainMenus(QMainWindow& window, const std::function<void(Command)>& ru
     QMenu* menu = nullptr;
     for (const MenuRow& row : Rows) {
         if (!row.Action) {
-            if (row.Name == PopupName) {
+            if (std::string_view(row.Name) == PopupName) {
                 menu = popup_ = new QMenu(&window);
                 menu->setObjectName(row.Name);
             } else if (row.Text) {

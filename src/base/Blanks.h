@@ -2,11 +2,11 @@
 #pragma once
 
 #include "base/CharacterBits.h"
+#include "base/ShortText.h"
 
 #include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 
 inline constexpr char Blank = ' ';
@@ -18,11 +18,7 @@ inline constexpr std::uint64_t EightBlanks = 0x2020202020202020U;
 inline constexpr bool CanLoadEight = std::endian::native == std::endian::little;
 
 // The difference from eight blanks: a byte that is 0 is a blank.
-inline std::uint64_t DifferenceFromBlanks(const char* eight) {
-    std::uint64_t value = 0;
-    std::memcpy(&value, eight, 8);
-    return value ^ EightBlanks;
-}
+inline std::uint64_t DifferenceFromBlanks(const char* eight) { return LoadEight(eight) ^ EightBlanks; }
 } // namespace BlanksDetail
 
 // The text without the blanks (only 0x20) at both ends.

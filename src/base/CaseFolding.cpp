@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/CaseFolding.h"
 
+#include "base/ShortText.h"
+
 #include <utf8proc.h>
 
 #include <algorithm>
@@ -12,12 +14,6 @@ namespace {
 
 constexpr std::uint64_t EachByte = 0x0101010101010101U;
 constexpr std::uint64_t BeyondAscii = 0x80 * EachByte;
-
-std::uint64_t Load(const char* eight) {
-    std::uint64_t value = 0;
-    std::memcpy(&value, eight, sizeof value);
-    return value;
-}
 
 // The capital letters of eight ASCII bytes made small. The sums reach a byte's highest bit from 'A' on, and
 // from the byte behind 'Z' on.
@@ -39,7 +35,7 @@ std::uint64_t FirstHighest(std::uint64_t bytes) {
 // Up to eight bytes, the first one highest.
 std::uint64_t LoadSome(const char* bytes, std::size_t count) {
     if (count >= 8)
-        return FirstHighest(Load(bytes));
+        return FirstHighest(LoadEight(bytes));
     std::uint64_t value = 0;
     for (std::size_t i = 0; i < count; ++i)
         value |= std::uint64_t{static_cast<unsigned char>(bytes[i])} << (56 - 8 * i);
@@ -49,7 +45,7 @@ std::uint64_t LoadSome(const char* bytes, std::size_t count) {
 bool IsAscii(const char* bytes, std::size_t count) {
     std::size_t i = 0;
     for (; count - i >= 8; i += 8)
-        if ((Load(bytes + i) & BeyondAscii) != 0)
+        if ((LoadEight(bytes + i) & BeyondAscii) != 0)
             return false;
     return (LoadSome(bytes + i, count - i) & BeyondAscii) == 0;
 }
@@ -96,8 +92,8 @@ int CompareFolded(std::string_view a, std::string_view b) {
     // Equal ASCII goes eight bytes at a time; from the first other place on, one byte at a time.
     std::size_t place = 0;
     while (a.size() - place >= 8 && b.size() - place >= 8) {
-        const std::uint64_t eightA = Load(a.data() + place);
-        const std::uint64_t eightB = Load(b.data() + place);
+        const std::uint64_t eightA = LoadEight(a.data() + place);
+        const std::uint64_t eightB = LoadEight(b.data() + place);
         if (((eightA | eightB) & BeyondAscii) != 0 || LowerEight(eightA) != LowerEight(eightB))
             break;
         place += 8;
@@ -117,8 +113,8 @@ int CompareFolded(std::string_view a, std::string_view b) {
 std::size_t CommonFolded(std::string_view folded, std::string_view text) {
     std::size_t place = 0;
     while (folded.size() - place >= 8 && text.size() - place >= 8) {
-        const std::uint64_t eight = Load(text.data() + place);
-        if ((eight & BeyondAscii) != 0 || LowerEight(eight) != Load(folded.data() + place))
+        const std::uint64_t eight = LoadEight(text.data() + place);
+        if ((eight & BeyondAscii) != 0 || LowerEight(eight) != LoadEight(folded.data() + place))
             break;
         place += 8;
     }

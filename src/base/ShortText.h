@@ -13,6 +13,13 @@ inline std::uint64_t LoadEight(const char* bytes) {
     return value;
 }
 
+// Four characters as one number.
+inline std::uint32_t LoadFour(const char* bytes) {
+    std::uint32_t value = 0;
+    std::memcpy(&value, bytes, sizeof value);
+    return value;
+}
+
 // True when two texts are the same. Quicker than memcmp for fields of a line.
 inline bool IsSameShort(std::string_view textA, std::string_view textB) {
     if (textA.size() != textB.size())

@@ -5,6 +5,7 @@
 #include "base/VisibleControls.h"
 #include "cli/ExitStatus.h"
 #include "cli/Messages.h"
+#include "cli/Options.h"
 #include "eventinfo/iZEKEventInfo.h"
 #include "rows/ContentText.h"
 
@@ -16,15 +17,8 @@ CLI::App* AddLookupCommand(CLI::App& app, LookupOptions& options) {
     command
         ->add_option("--language-folder", options.Folder,
                      "The folder of the control's language files instead of \"language\" beside the program")
-        ->check([](const std::string& text) { return std::string(text.empty() ? "the name is empty" : ""); });
-    command
-        ->add_option_function<std::string>(
-            "--language",
-            [&options](const std::string& code) {
-                options.TextLanguage.Number = code == "de" ? Language::German : Language::English;
-            },
-            "Of the text: en or de")
-        ->check(CLI::IsMember({"en", "de"}));
+        ->check(NameIsGiven());
+    AddLanguageOption(*command, options.TextLanguage, "Of the text");
     return command;
 }
 

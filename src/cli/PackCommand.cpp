@@ -4,14 +4,13 @@
 #include "base/AsciiCase.h"
 #include "cli/ExitStatus.h"
 #include "cli/Messages.h"
+#include "cli/Options.h"
 #include "cli/TerminalDocument.h"
 #include "settings/Texts.h"
 
 #include <CLI/CLI.hpp>
 
 CLI::App* AddPackCommand(CLI::App& app, PackOptions& options) {
-    const CLI::Validator notEmpty(
-        [](const std::string& text) { return std::string(text.empty() ? "the name is empty" : ""); }, "", "");
     // The program tells its archives by their names.
     const CLI::Validator archiveName(
         [](const std::string& text) {
@@ -30,9 +29,9 @@ CLI::App* AddPackCommand(CLI::App& app, PackOptions& options) {
         ->required()
         ->check(archiveName);
     command->add_option("--filters", options.Filters, "The filters of this filter file instead")
-        ->check(notEmpty);
+        ->check(NameIsGiven());
     command->add_option("--comments", options.Comments, "The comments of this comments file instead")
-        ->check(notEmpty);
+        ->check(NameIsGiven());
     CLI::Option* const keep = command->add_flag(
         "--keep-comments", options.KeepComments,
         "Keep the comments of the archive that is replaced, too, behind others of the same entry");
@@ -40,14 +39,7 @@ CLI::App* AddPackCommand(CLI::App& app, PackOptions& options) {
         ->add_flag("--drop-comments", options.DropComments,
                    "Let the comments of the archive that is replaced go")
         ->excludes(keep);
-    command
-        ->add_option_function<std::string>(
-            "--language",
-            [&options](const std::string& code) {
-                options.MessageLanguage.Number = code == "de" ? Language::German : Language::English;
-            },
-            "Of messages: en or de")
-        ->check(CLI::IsMember({"en", "de"}));
+    AddLanguageOption(*command, options.MessageLanguage, "Of messages");
     return command;
 }
 

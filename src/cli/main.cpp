@@ -7,6 +7,7 @@
 #include "cli/ExportCommand.h"
 #include "cli/FindCommand.h"
 #include "cli/LookupCommand.h"
+#include "cli/Options.h"
 #include "cli/PackCommand.h"
 
 #include <CLI/CLI.hpp>
@@ -21,8 +22,6 @@ namespace {
 
 // What the commands that print rows have in common.
 void AddListOptions(CLI::App& command, ListOptions& options) {
-    const CLI::Validator notEmpty(
-        [](const std::string& text) { return std::string(text.empty() ? "the name is empty" : ""); }, "", "");
     command
         .add_option("FILE", options.File,
                     "The logbook, a service archive (*.zip), or an own archive (*.qorvix)")
@@ -31,7 +30,7 @@ void AddListOptions(CLI::App& command, ListOptions& options) {
         ->check(CLI::IsMember({"jsonl", "csv"}))
         ->capture_default_str();
     command.add_option("--output", options.Output, "Write to this file instead of standard output")
-        ->check(notEmpty);
+        ->check(NameIsGiven());
     command
         .add_option_function<std::string>(
             "--separator",
@@ -52,7 +51,7 @@ void AddListOptions(CLI::App& command, ListOptions& options) {
 
     CLI::Option* filters =
         command.add_option("--filters", options.Filters, "Only what this filter file lets through")
-            ->check(notEmpty);
+            ->check(NameIsGiven());
     CLI::Option* storedFilters = command
                                      .add_flag("--stored-filters", options.StoredFilters,
                                                "Only what the program's own filters let through")
@@ -62,14 +61,7 @@ void AddListOptions(CLI::App& command, ListOptions& options) {
                   "Only what the filters in the program's own archive let through, if it has some")
         ->excludes(filters)
         ->excludes(storedFilters);
-    command
-        .add_option_function<std::string>(
-            "--language",
-            [&options](const std::string& code) {
-                options.MessageLanguage.Number = code == "de" ? Language::German : Language::English;
-            },
-            "Of messages: en or de")
-        ->check(CLI::IsMember({"en", "de"}));
+    AddLanguageOption(command, options.MessageLanguage, "Of messages");
 }
 
 void AddSearchOptions(CLI::App& command, SearchState& search) {

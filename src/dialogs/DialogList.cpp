@@ -3,9 +3,7 @@
 
 #include "list/QtText.h"
 
-#include <QContextMenuEvent>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -36,13 +34,9 @@ DialogList::DialogList(int columns, QWidget* parent) : ListOfRows(parent) {
     header()->setSectionsMovable(false);
 }
 
-QTreeWidgetItem* DialogList::SelectedRow() const {
-    if (currentItem() != nullptr && currentItem()->isSelected())
-        return currentItem();
-    for (int row = 0; row < topLevelItemCount(); ++row)
-        if (topLevelItem(row)->isSelected())
-            return topLevelItem(row);
-    return nullptr;
+QTreeWidgetItem* DialogList::SelectedItem() const {
+    const std::optional<int> row = SelectedRow();
+    return row ? topLevelItem(*row) : nullptr;
 }
 
 void DialogList::SelectAndShow(QTreeWidgetItem* row) {
@@ -76,29 +70,9 @@ void DialogList::Reorder(std::span<const std::uint32_t> rows) {
         scrollTo(indexFromItem(current));
 }
 
-void DialogList::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Delete) {
-        emit RemoveWanted();
-    } else if (IsPopupKey(*event)) {
-        SelectCurrentIfNone();
-        emit PopupWanted(PopupPosition());
-    } else {
-        return ListOfRows::keyPressEvent(event);
-    }
-    event->accept();
-}
-
-void DialogList::mouseReleaseEvent(QMouseEvent* event) {
-    ListOfRows::mouseReleaseEvent(event);
-    if (event->button() == Qt::RightButton)
-        emit PopupWanted(event->globalPosition().toPoint());
-}
-
-void DialogList::mouseDoubleClickEvent(QMouseEvent* event) {
-    const QPoint place = event->position().toPoint();
-    ListOfRows::mouseDoubleClickEvent(event);
+void DialogList::DoubleClicked(QPoint place) {
     // On a check box it counts as two clicks, which turn the box on and off, and edits nothing.
-    if (event->button() != Qt::LeftButton || IsOnCheckBox(place))
+    if (IsOnCheckBox(place))
         return;
     if (QTreeWidgetItem* const row = itemAt(place); row != nullptr && !row->isSelected())
         SelectAndShow(row);
@@ -114,11 +88,4 @@ bool DialogList::IsOnCheckBox(QPoint place) const {
     option.rect = visualRect(cell);
     option.features |= QStyleOptionViewItem::HasCheckIndicator;
     return style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, this).contains(place);
-}
-
-void DialogList::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
-
-QPoint DialogList::PopupPosition() const {
-    const QRect row = visualItemRect(currentItem()) & viewport()->rect();
-    return viewport()->mapToGlobal(row.isEmpty() ? QPoint() : QPoint(row.left(), row.bottom()));
 }

@@ -9,16 +9,15 @@
 #include <span>
 
 // The list of a dialog: a few rows in columns; several rows can be selected. Signals report what the person
-// wants. The popup menu opens when the right mouse button goes up, and by its keys.
+// wants.
 class DialogList : public ListOfRows<QTreeWidget> {
     Q_OBJECT
 
   public:
     explicit DialogList(int columns, QWidget* parent);
 
-    // The row for an action on one row: the current one if it is selected, otherwise the first selected one;
-    // nullptr when none is selected.
-    QTreeWidgetItem* SelectedRow() const;
+    // The row for an action on one row, see ListOfRows::SelectedRow; nullptr when none is selected.
+    QTreeWidgetItem* SelectedItem() const;
 
     // Selects this row alone and shows it.
     void SelectAndShow(QTreeWidgetItem* row);
@@ -36,12 +35,10 @@ class DialogList : public ListOfRows<QTreeWidget> {
     void RemoveWanted();
 
   protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
+    void OrderRemoval() override { emit RemoveWanted(); }
+    void OrderPopup(const QPoint& globalPosition) override { emit PopupWanted(globalPosition); }
+    void DoubleClicked(QPoint place) override;
 
   private:
-    QPoint PopupPosition() const;
     bool IsOnCheckBox(QPoint place) const;
 };

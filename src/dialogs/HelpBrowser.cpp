@@ -47,8 +47,6 @@ HelpBrowser::HelpBrowser(const HelpBook& book, QString unreadable, QWidget* pare
 
 void HelpBrowser::ShowPage(const std::string& page) { setSource(UrlOf(page), QTextDocument::HtmlResource); }
 
-std::string HelpBrowser::Page() const { return source().path().toStdString(); }
-
 void HelpBrowser::FollowLink(const QUrl& link) {
     const QUrl target = source().resolved(link);
     if (target.scheme() == Scheme)

@@ -17,9 +17,6 @@ class HelpBrowser : public QTextBrowser {
     // Shows a page by its path in the book; a place on it may follow behind "#".
     void ShowPage(const std::string& page);
 
-    // The path of the shown page.
-    std::string Page() const;
-
     // Marks all places of these words and phrases on the page and scrolls to the first one.
     void MarkTerms(const std::vector<std::string>& terms);
 

@@ -176,7 +176,7 @@ void frmLogbookSettings::AddFilter() {
 }
 
 void frmLogbookSettings::EditFilter() {
-    QTreeWidgetItem* const row = lvFilter->SelectedRow();
+    QTreeWidgetItem* const row = lvFilter->SelectedItem();
     if (row == nullptr)
         return;
     frmFilterSettings dialog(context_, lists_.StringFilters, this);

@@ -86,7 +86,7 @@ void frmStringSettings::LoadLanguage() {
 }
 
 void frmStringSettings::accept() {
-    if (const QTreeWidgetItem* const row = lvFilterStrings->SelectedRow())
+    if (const QTreeWidgetItem* const row = lvFilterStrings->SelectedItem())
         resultText_ = row->text(StringColumn);
     QDialog::accept();
 }
@@ -113,7 +113,7 @@ void frmStringSettings::Add() {
 }
 
 void frmStringSettings::Edit() {
-    QTreeWidgetItem* const row = lvFilterStrings->SelectedRow();
+    QTreeWidgetItem* const row = lvFilterStrings->SelectedItem();
     if (row == nullptr)
         return;
     frmFilterString dialog(language_, Read(*row), this);

@@ -9,14 +9,6 @@ bool MatchText(std::string_view field, std::string_view filterText) {
     return field.find(filterText) != std::string_view::npos;
 }
 
-bool MatchFilter(const FilterDefinition& filter, const EntryTable& entries, EntryNumber number) {
-    if (!MatchKind(filter, entries.Kind(number)))
-        return false;
-    if (filter.FilterType == FilterTypes::Numbers)
-        return MatchNumberList(number, filter.StringFilter);
-    return MatchText(entries.Data(number), filter.StringFilter);
-}
-
 bool ApplyFilters(const EntryTable& entries, std::span<const FilterDefinition> filters, LogbookRows& rows,
                   const FilterProgress& progress) {
     constexpr EntryNumber ProgressStep = 100;

@@ -12,11 +12,9 @@
 #include <span>
 #include <string_view>
 
-// True when the filter text is empty or a part of the field; characters compare exactly.
+// True when the filter text is empty or a part of the field; characters compare exactly. This is for one
+// entry; a filter run searches the data of many entries at once.
 bool MatchText(std::string_view field, std::string_view filterText);
-
-// True when the filter, active or not, matches the entry. For a run over all entries use ApplyFilters.
-bool MatchFilter(const FilterDefinition& filter, const EntryTable& entries, EntryNumber number);
 
 // Receives the progress of a run: 0 to 100 percent, every hundred entries; 0 at the run's start and end.
 using FilterProgress = std::function<void(double percent)>;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "filter/FilterStorage.h"
 
+#include "base/UnicodeCase.h"
 #include "filter/FilterText.h"
 #include "settings/Registry.h"
 
@@ -121,7 +122,7 @@ void WriteFilterCount(Registry& registry, std::size_t count) {
 
 std::size_t RoomForText(FilterDefinition filter) {
     filter.StringFilter.clear();
-    const std::size_t others = Registry::CharacterCount(FormatFilter(filter));
+    const std::size_t others = CharacterCount(FormatFilter(filter));
     return Registry::LongestText - std::min(others, Registry::LongestText);
 }
 

@@ -46,10 +46,9 @@ void NumberFilters::FindPlaces() {
     }
 }
 
-bool NumberFilters::Add(EntryNumber number) {
+void NumberFilters::Add(EntryNumber number) {
     used_ = true;
     changed_ = list_.Add(number) || changed_;
-    return true;
 }
 
 bool NumberFilters::Remove(EntryNumber number) {
@@ -101,9 +100,9 @@ void NumberFilters::Write() {
 
 bool AddEntryToFilter(Registry& registry, EntryNumber number, std::int16_t action) {
     NumberFilters filters(registry, action);
-    const bool added = filters.Add(number);
+    filters.Add(number);
     filters.Write();
-    return added;
+    return true;
 }
 
 bool RemoveEntryFromFilter(Registry& registry, EntryNumber number, std::int16_t action) {

@@ -28,8 +28,10 @@ class Registry;
 // is a list of its own and is not touched. When numbers are removed, the numbers behind them move up, so that
 // the filters stay full up to the last one with numbers; the filters behind it stay, empty.
 
+// These two change one entry. For the entries of all selected rows the window uses NumberFilters.
+//
 // Adds the entry to the filter of the action (see FilterActions). Writes the filter also when it already held
-// the entry. True on success.
+// the entry. True, because the settings report no failure: the row of the entry then changes.
 bool AddEntryToFilter(Registry& registry, EntryNumber number, std::int16_t action);
 
 // Removes the entry from the filter. True when there is a number filter for the action; one that does not
@@ -44,7 +46,9 @@ class NumberFilters {
   public:
     NumberFilters(Registry& registry, std::int16_t action);
 
-    bool Add(EntryNumber number);
+    void Add(EntryNumber number);
+
+    // False, and nothing is done, when there is no number filter for the action.
     bool Remove(EntryNumber number);
 
     // Writes the filters, or nothing when no entry was added or removed. Writes the first filter also when it

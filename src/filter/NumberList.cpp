@@ -2,7 +2,6 @@
 #include "filter/NumberList.h"
 
 #include "base/Blanks.h"
-#include "filter/NumberListEditor.h"
 
 #include <algorithm>
 #include <charconv>
@@ -62,18 +61,4 @@ bool MatchNumberList(EntryNumber entry, std::string_view list) {
 std::string FormatNumberRange(NumberRange range) {
     std::string text = std::to_string(range.First);
     return range.First == range.Last ? text : text + "-" + std::to_string(range.Last);
-}
-
-std::string AddToNumberList(std::string_view list, EntryNumber number) {
-    NumberListEditor editor;
-    editor.Append(list);
-    editor.Add(number);
-    return editor.Text();
-}
-
-std::string RemoveFromNumberList(std::string_view list, EntryNumber number) {
-    NumberListEditor editor;
-    editor.Append(list);
-    editor.Remove(number);
-    return editor.Text();
 }

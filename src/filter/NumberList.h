@@ -25,22 +25,12 @@ std::optional<NumberRange> ParseNumberPart(std::string_view part);
 // The ranges of a list in ascending order, with gaps between them.
 std::vector<NumberRange> ParseNumberList(std::string_view list);
 
-// True when a part of the list matches the entry. The cost grows with the whole list.
+// True when a part of the list matches the entry. This is for one entry, as it reads the whole list. A filter
+// run reads each list once, with ParseNumberList.
 bool MatchNumberList(EntryNumber entry, std::string_view list);
 
 // A range as a part of a list: a single number as that number, otherwise the bounds joined by "-".
 std::string FormatNumberRange(NumberRange range);
-
-// The list with the number added. A list that matches the number stays as it is. Otherwise every part that
-// ends or begins next to the number is extended to it, and the parts are not merged (3,5 with 4 is 3-4,4-5).
-// When there is no such part, the number is appended. When more than two parts end next to the number, or
-// begin there, the widest replaces them all; it is extended and moved to the end. Other parts keep their
-// text, whatever it is.
-std::string AddToNumberList(std::string_view list, EntryNumber number);
-
-// The list without the number. The rest of a part that holds it becomes one part or two (4-9 without 6 is
-// 4-5,7-9), or none. The other parts keep their text.
-std::string RemoveFromNumberList(std::string_view list, EntryNumber number);
 
 // Calls `visit` with the text of each part, in order, until it returns true; returns whether it did. An empty
 // list has one part, which is empty.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "filter/WrappedNumberList.h"
 
-#include "settings/Registry.h"
+#include "base/UnicodeCase.h"
 
 #include <algorithm>
 
@@ -34,13 +34,13 @@ std::vector<std::string> WrapNumberList(std::string_view list, std::size_t first
     while (!list.empty()) {
         std::string_view unit = FirstUnit(list);
         list.remove_prefix(std::min(unit.size() + 1, list.size()));
-        std::size_t unitLength = Registry::CharacterCount(unit);
+        std::size_t unitLength = CharacterCount(unit);
         const auto hasRoom = [&] {
             return HasRoom(length, texts.size() == 1 ? firstRoom : room, unitLength);
         };
         if (!hasRoom() && unitLength > room) {
             unit = WithoutEmptyParts(unit);
-            unitLength = Registry::CharacterCount(unit);
+            unitLength = CharacterCount(unit);
         }
         if (!hasRoom()) {
             texts.emplace_back();
@@ -53,6 +53,5 @@ std::vector<std::string> WrapNumberList(std::string_view list, std::size_t first
 }
 
 bool GoesOnIn(std::string_view text, std::size_t room, std::string_view next) {
-    return !next.empty() &&
-           !HasRoom(Registry::CharacterCount(text), room, Registry::CharacterCount(FirstUnit(next)));
+    return !next.empty() && !HasRoom(CharacterCount(text), room, CharacterCount(FirstUnit(next)));
 }

@@ -21,10 +21,6 @@ void LogbookModel::ChangeRows(const std::function<void()>& change) {
     endResetModel();
 }
 
-void LogbookModel::SetRows(LogbookRows rows) {
-    ChangeRows([&] { rows_ = std::move(rows); });
-}
-
 void LogbookModel::SortByColumn(LogbookColumn column) {
     emit layoutAboutToBeChanged({}, VerticalSortHint);
     // The few persistent indexes follow their entries.

@@ -25,7 +25,6 @@ class LogbookModel : public QAbstractTableModel {
 
     // Lets `change` fill or clear the rows. Clear them before changing the entries.
     void ChangeRows(const std::function<void()>& change);
-    void SetRows(LogbookRows rows);
     const LogbookRows& Rows() const { return rows_; }
 
     // Sorts the rows by a column (SortListByColumn). A new filling keeps Order, but its rows are in entry

@@ -5,7 +5,6 @@
 #include "list/RowDelegate.h"
 
 #include <QAccessible>
-#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QHeaderView>
@@ -77,16 +76,6 @@ RowRanges LogbookView::SelectedRanges() const {
     for (const QItemSelectionRange& range : selectionModel()->selection())
         ranges.push_back({static_cast<std::size_t>(range.top()), static_cast<std::size_t>(range.bottom())});
     return Joined(std::move(ranges));
-}
-
-std::optional<int> LogbookView::SelectedRow() const {
-    const QModelIndex current = currentIndex();
-    if (current.isValid() && selectionModel()->isSelected(current))
-        return current.row();
-    std::optional<int> first;
-    for (const QItemSelectionRange& range : selectionModel()->selection())
-        first = std::min(range.top(), first.value_or(range.top()));
-    return first;
 }
 
 void LogbookView::SelectRanges(const RowRanges& ranges, std::optional<int> current) {
@@ -183,9 +172,6 @@ void LogbookView::paintEvent(QPaintEvent* event) {
 
 void LogbookView::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
-    case Qt::Key_Delete:
-        emit RemoveWanted();
-        break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
         emit PropertiesWanted();
@@ -193,19 +179,8 @@ void LogbookView::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Space:
         emit ToggleWanted();
         break;
-    case Qt::Key_Left:
-        horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepSub);
-        break;
-    case Qt::Key_Right:
-        horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd);
-        break;
     default:
-        if (!IsPopupKey(*event)) {
-            ListOfRows::keyPressEvent(event);
-            return;
-        }
-        SelectCurrentIfNone();
-        emit PopupWanted(PopupPosition());
+        return ListOfRows::keyPressEvent(event);
     }
     event->accept();
 }
@@ -222,35 +197,21 @@ void LogbookView::mousePressEvent(QMouseEvent* event) {
 
 void LogbookView::mouseReleaseEvent(QMouseEvent* event) {
     ListOfRows::mouseReleaseEvent(event);
-    const bool right = event->button() == Qt::RightButton;
     const bool onRow = std::exchange(rowPressed_, false) || indexAt(event->position().toPoint()).isValid();
-    if ((right || event->button() == Qt::LeftButton) && onRow)
+    if ((event->button() == Qt::RightButton || event->button() == Qt::LeftButton) && onRow)
         emit RowClicked();
-    if (right)
-        emit PopupWanted(event->globalPosition().toPoint());
     emit MouseUp();
 }
 
-void LogbookView::mouseDoubleClickEvent(QMouseEvent* event) {
-    ListOfRows::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid())
+void LogbookView::DoubleClicked(QPoint place) {
+    if (indexAt(place).isValid())
         emit PropertiesWanted();
 }
-
-// The popup menu opens when the right button goes up, and by its key.
-void LogbookView::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
 
 // The whole row, also the part that is scrolled out of sight.
 QRect LogbookView::RowRect(int row) const {
     return {columnViewportPosition(0), rowViewportPosition(row), horizontalHeader()->length(),
             rowHeight(row)};
-}
-
-QPoint LogbookView::PopupPosition() const {
-    const QRect seen =
-        currentIndex().isValid() ? RowRect(currentIndex().row()) & viewport()->rect() : QRect();
-    return viewport()->mapToGlobal(seen.isEmpty() ? QPoint()
-                                                  : QPoint(viewport()->rect().left(), seen.bottom()));
 }
 
 // Informs a screen reader about those rows that are on the screen; these are few.

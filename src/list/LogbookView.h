@@ -11,8 +11,7 @@
 class LogbookModel;
 
 // The logbook list on the screen. It turns keys, clicks and dropped files into signals to its window; it does
-// not change the logbook itself. The keyboard's focus is on a row and drawn around it; Left and Right scroll
-// sideways.
+// not change the logbook itself. The keyboard's focus is on a row and drawn around it.
 class LogbookView : public ListOfRows<QTableView> {
     Q_OBJECT
 
@@ -24,10 +23,6 @@ class LogbookView : public ListOfRows<QTableView> {
 
     // The selected rows.
     RowRanges SelectedRanges() const;
-
-    // The selected row, when one is needed: the current row if it is selected, otherwise the first selected
-    // row.
-    std::optional<int> SelectedRow() const;
 
     // Selects exactly these rows. Makes `current`, if given, the current row, at which a selection with Shift
     // begins. Does not scroll.
@@ -67,6 +62,9 @@ class LogbookView : public ListOfRows<QTableView> {
     void RowAnnounced(int row);
 
   protected:
+    void OrderRemoval() override { emit RemoveWanted(); }
+    void OrderPopup(const QPoint& globalPosition) override { emit PopupWanted(globalPosition); }
+    void DoubleClicked(QPoint place) override;
     bool event(QEvent* event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -75,15 +73,12 @@ class LogbookView : public ListOfRows<QTableView> {
     void keyReleaseEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
   private:
     QRect RowRect(int row) const;
-    QPoint PopupPosition() const;
     void AnnounceRows(const RowRanges& rows);
     void AnnounceRow(int row);
     static void TakeCopy(QDropEvent* event);

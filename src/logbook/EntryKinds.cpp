@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/EntryKinds.h"
 
+#include "base/HashSlots.h"
 #include "base/ShortText.h"
-
-#include <bit>
-#include <cstring>
 
 namespace {
 
@@ -15,23 +13,17 @@ std::uint64_t Mix(std::uint64_t hash, std::uint64_t value) {
     return hash ^ (hash >> 32U);
 }
 
-std::uint64_t Load(const char* bytes, std::size_t count) {
-    std::uint64_t value = 0;
-    std::memcpy(&value, bytes, count);
-    return value;
-}
-
 // Takes whole words at a time; the last two overlap. The caller adds the length to the hash.
 std::uint64_t MixText(std::uint64_t hash, std::string_view text) {
     const char* bytes = text.data();
     const std::size_t length = text.size();
     if (length >= 8) {
         for (std::size_t i = 0; i + 8 < length; i += 8)
-            hash = Mix(hash, Load(bytes + i, 8));
-        return Mix(hash, Load(bytes + length - 8, 8));
+            hash = Mix(hash, LoadEight(bytes + i));
+        return Mix(hash, LoadEight(bytes + length - 8));
     }
     if (length >= 4)
-        return Mix(hash, Load(bytes, 4) << 32U | Load(bytes + length - 4, 4));
+        return Mix(hash, std::uint64_t{LoadFour(bytes)} << 32U | LoadFour(bytes + length - 4));
     std::uint64_t value = 0;
     for (const char c : text)
         value = value << 8U | static_cast<unsigned char>(c);
@@ -56,7 +48,7 @@ void EntryKinds::Clear() {
 std::uint32_t EntryKinds::Find(const ParsedEntry& entry, const CodePage& codePage) {
     const std::uint64_t hash = HashOf(entry);
     std::size_t slot = hash & (slots_.size() - 1);
-    for (; slots_[slot].Place != nullptr; slot = (slot + 1) & (slots_.size() - 1)) {
+    for (; !slots_[slot].IsFree(); slot = (slot + 1) & (slots_.size() - 1)) {
         const Known& known = *slots_[slot].Place;
         if (slots_[slot].Hash == hash && known.Kind.EventType == entry.EventType &&
             known.Kind.Image == entry.Image && IsSameShort(known.Sender, entry.Sender) &&
@@ -70,19 +62,6 @@ std::uint32_t EntryKinds::Find(const ParsedEntry& entry, const CodePage& codePag
          std::string(entry.Name)});
     slots_[slot] = {hash, &kinds_.back(), number};
     if (kinds_.size() * 2 > slots_.size())
-        DoubleSlots();
+        DoubleSlots(slots_);
     return number;
-}
-
-void EntryKinds::DoubleSlots() {
-    std::vector<Slot> before(slots_.size() * 2);
-    before.swap(slots_);
-    for (const Slot& taken : before) {
-        if (taken.Place == nullptr)
-            continue;
-        std::size_t slot = taken.Hash & (slots_.size() - 1);
-        while (slots_[slot].Place != nullptr)
-            slot = (slot + 1) & (slots_.size() - 1);
-        slots_[slot] = taken;
-    }
 }

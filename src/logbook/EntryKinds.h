@@ -53,6 +53,8 @@ class EntryKinds {
         std::uint64_t Hash = 0;
         const Known* Place = nullptr; // nullptr = free
         std::uint32_t Number = 0;
+
+        bool IsFree() const { return Place == nullptr; }
     };
 
     // Remembers the number for an entry with neither sender nor name, such as a key stroke.
@@ -66,7 +68,6 @@ class EntryKinds {
     }
 
     std::uint32_t Find(const ParsedEntry& entry, const CodePage& codePage);
-    void DoubleSlots();
 
     static constexpr std::uint16_t NamelessSide = 16; // above all event types and icons
     std::array<std::uint32_t, NamelessSide * NamelessSide> nameless_{};

@@ -103,8 +103,7 @@ bool FoldKeyIntoKey(const ParsedEntry& next, ParsedEntry& previous) {
     const std::string_view second = HexToChar(nextWord0);
     if (!first.empty() && !second.empty()) {
         previous.SetData({first, second});
-        previous.EventType = EventTypes::Keystr;
-        previous.KindMemo = nullptr;
+        previous.SetTypeByData(EventTypes::Keystr, previous.Image);
     }
     return true;
 }

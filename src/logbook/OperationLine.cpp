@@ -57,9 +57,7 @@ void ReadMessageBlock(ParsedEntry& entry, clsFile& file) {
 void TurnStartIntoRestart(ParsedEntry& entry) {
     if (entry.Data.find("SYSTEM START") == std::string_view::npos)
         return;
-    entry.EventType = EventTypes::Restart;
-    entry.Image = Images::Restart;
-    entry.KindMemo = nullptr;
+    entry.SetTypeByData(EventTypes::Restart, Images::Restart);
 }
 
 std::string_view CutSender(const KeywordRow& row, std::string_view line) {

@@ -29,8 +29,9 @@ class ParsedEntry {
     std::string_view Time;
     std::int16_t Image = Images::Info;
 
-    // Where the entry table remembers the number of the entry's kind; nullptr when no later entry is known to
-    // have the same kind. Code that changes a field of the kind sets it to nullptr.
+    // Where the entry table remembers the number of the entry's kind (type, icon, sender and name): with the
+    // header that decides the kind. nullptr when there is no such header, or when something else decides,
+    // too (SetTypeByData).
     static constexpr std::uint32_t UnknownKind = 0xFFFFFFFF;
     std::uint32_t* KindMemo = nullptr;
 
@@ -47,6 +48,14 @@ class ParsedEntry {
         Data = {};
         Time = {};
         Image = Images::Info;
+        KindMemo = nullptr;
+    }
+
+    // Sets a type and an icon that the entry's data decides. Entries with the same header may then be of
+    // other kinds, so no kind is remembered with the header.
+    void SetTypeByData(std::int16_t eventType, std::int16_t image) {
+        EventType = eventType;
+        Image = image;
         KindMemo = nullptr;
     }
 

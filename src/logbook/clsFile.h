@@ -18,6 +18,10 @@
 // An object reads one file: it is new, then open, then closed. Reading, rewinding, saving and restoring are
 // valid only while it is open. Sizes and positions are in bytes.
 //
+// CloseFile, SavePosition with RestoreSavedPosition, LinesRead and BufferLeft are for a reader that closes
+// its file early, reads on before it knows what a line is, or counts lines. The parsers here do not need
+// them: they look ahead with NextLineStart.
+//
 // The reading position moves through the file in chunks of BufferSize bytes; CurrentPosition counts in them.
 // Within, the class asks the system for larger blocks.
 class clsFile {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "rows/DistinctData.h"
 
+#include "base/HashSlots.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -21,20 +23,20 @@ class TextNumbers {
     // The text that NumberOf will most probably read.
     void PrefetchText(std::uint32_t hash) const {
         const Slot& slot = slots_[hash & (slots_.size() - 1)];
-        if (slot.NumberAfter != 0)
+        if (!slot.IsFree())
             Prefetch(texts_[slot.NumberAfter - 1].data());
     }
 
     std::uint32_t NumberOf(std::string_view text, std::uint32_t hash) {
         std::size_t slot = hash & (slots_.size() - 1);
-        for (; slots_[slot].NumberAfter != 0; slot = (slot + 1) & (slots_.size() - 1))
+        for (; !slots_[slot].IsFree(); slot = (slot + 1) & (slots_.size() - 1))
             if (slots_[slot].Hash == hash && texts_[slots_[slot].NumberAfter - 1] == text)
                 return slots_[slot].NumberAfter - 1;
         texts_.push_back(text);
         const auto numberAfter = static_cast<std::uint32_t>(texts_.size());
         slots_[slot] = {hash, numberAfter};
         if (texts_.size() * 2 > slots_.size())
-            DoubleSlots();
+            DoubleSlots(slots_);
         return numberAfter - 1;
     }
 
@@ -44,20 +46,9 @@ class TextNumbers {
     struct Slot {
         std::uint32_t Hash = 0;
         std::uint32_t NumberAfter = 0; // the text's number + 1; 0 = free
-    };
 
-    void DoubleSlots() {
-        std::vector<Slot> before(slots_.size() * 2);
-        before.swap(slots_);
-        for (const Slot& taken : before) {
-            if (taken.NumberAfter == 0)
-                continue;
-            std::size_t slot = taken.Hash & (slots_.size() - 1);
-            while (slots_[slot].NumberAfter != 0)
-                slot = (slot + 1) & (slots_.size() - 1);
-            slots_[slot] = taken;
-        }
-    }
+        bool IsFree() const { return NumberAfter == 0; }
+    };
 
     std::vector<std::string_view>& texts_;
     std::vector<Slot> slots_;

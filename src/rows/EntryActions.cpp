@@ -26,16 +26,20 @@ RowRanges ChangedRows(const LogbookRows& rows, const RowRanges& selected, Change
 
 RowRanges RemoveFromList(Registry& registry, const LogbookRows& rows, const RowRanges& selected) {
     NumberFilters filters(registry, FilterActions::Exclude);
-    RowRanges removed =
-        ChangedRows(rows, selected, [&](const LogbookRow& row) { return filters.Add(row.Entry); });
+    for (const RowRange& range : selected)
+        for (std::size_t row = range.First; row <= range.Last; ++row)
+            filters.Add(rows[row].Entry);
     filters.Write();
-    return removed;
+    return Joined(selected);
 }
 
 RowRanges ToggleHighlighting(Registry& registry, const LogbookRows& rows, const RowRanges& selected) {
     NumberFilters filters(registry, FilterActions::Highlight);
     RowRanges toggled = ChangedRows(rows, selected, [&](const LogbookRow& row) {
-        return row.Highlighted != 0 ? filters.Remove(row.Entry) : filters.Add(row.Entry);
+        if (row.Highlighted != 0)
+            return filters.Remove(row.Entry);
+        filters.Add(row.Entry);
+        return true;
     });
     filters.Write();
     return toggled;

@@ -42,8 +42,10 @@ bool TakeApplicationKey(std::string_view& path) {
     return true;
 }
 
-const Json* FindKey(const Json& root, std::string_view path) {
-    const Json* key = &root;
+// The key of a path, nullptr where there is none; one that can be changed where the root can.
+template <typename AnyJson>
+AnyJson* FindKey(AnyJson& root, std::string_view path) {
+    AnyJson* key = &root;
     while (!path.empty()) {
         const auto member = key->find(TakePart(path));
         if (member == key->end() || !member->is_object())
@@ -70,7 +72,7 @@ void DeleteKey(Json& root, std::string_view path) {
     const std::string_view parentPath =
         last == std::string_view::npos ? std::string_view{} : path.substr(0, last);
     const std::string_view name = last == std::string_view::npos ? path : path.substr(last + 1);
-    Json* const parent = const_cast<Json*>(FindKey(root, parentPath));
+    Json* const parent = FindKey(root, parentPath);
     if (parent == nullptr)
         return;
     const auto member = parent->find(name);

@@ -16,7 +16,7 @@ std::string ReasonText(const std::error_code& error, Language language);
 // The same for an error number of the system, as in errno.
 std::string SystemReason(int number, Language language);
 
-// The system's reasons with known words: all that can come from work on files and from its memory.
+// The system's reasons with known words: all that can come from work on files and from its memory. For tests.
 struct SystemReasonRow {
     int Number;
     std::string_view English;

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Registry.h"
 
-#include <algorithm>
+#include "base/UnicodeCase.h"
+
 #include <charconv>
 #include <optional>
+#include <stdexcept>
 
 namespace {
 
@@ -32,11 +34,6 @@ std::optional<std::int32_t> ToInteger(const SettingValue& value) {
 }
 
 } // namespace
-
-std::size_t Registry::CharacterCount(std::string_view utf8) {
-    return static_cast<std::size_t>(std::count_if(
-        utf8.begin(), utf8.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
-}
 
 bool Registry::IsReadBack(std::string_view text) { return CharacterCount(text) <= LongestText; }
 
@@ -128,7 +125,11 @@ void Registry::Change(SettingsChange change) {
         store_.Change({std::move(change)});
 }
 
-Registry::Transaction::Transaction(Registry& registry) : registry_(registry) { registry_.collecting_ = true; }
+Registry::Transaction::Transaction(Registry& registry) : registry_(registry) {
+    if (registry_.collecting_)
+        throw std::logic_error("a transaction of the settings within another");
+    registry_.collecting_ = true;
+}
 
 Registry::Transaction::~Transaction() {
     registry_.collecting_ = false;

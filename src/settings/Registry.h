@@ -33,7 +33,6 @@ class Registry {
 
     // In characters. A longer text reads as the default. A text ends before its first NUL.
     static constexpr std::size_t LongestText = 1023;
-    static std::size_t CharacterCount(std::string_view utf8);
 
     // False when a stored text (UTF-8) would not be read back unchanged because it is too long.
     static bool IsReadBack(std::string_view text);
@@ -56,6 +55,7 @@ class Registry {
     // The same for one sub-key each.
     std::int32_t ReadLogbookSettingLong(std::string_view name, std::int32_t defaultNumber) const;
     std::string ReadLogbookSettingString(std::string_view name, std::string_view defaultText) const;
+    // For a caller to whom the kind is known only when the program runs; the window knows each.
     SettingValue ReadLogbookSetting(std::string_view name, const SettingValue& defaultValue,
                                     SettingType type) const;
     void WriteLogbookSetting(std::string_view name, const SettingValue& value, SettingType type);
@@ -67,7 +67,8 @@ class Registry {
     void DeleteFilterKey();
 
     // While one of these lives, the registry collects its writes and deletions; the destructor makes all of
-    // them at once. Reads see only what is stored. They may not be nested.
+    // them at once. Reads see only what is stored. A second one at the same time is a mistake of the program:
+    // its constructor throws std::logic_error.
     class Transaction {
       public:
         explicit Transaction(Registry& registry);

@@ -297,7 +297,7 @@ struct TextRow {
     AccessKeyGroup Group = AccessKeyGroup::None;
 };
 
-// The table, a row for each id in the order of the ids.
+// The table, a row for each id in the order of the ids: for whoever checks or lists all texts.
 std::span<const TextRow> TextTable();
 
 // A text in the language of the user interface, UTF-8.

@@ -29,7 +29,7 @@ class Look {
          Language language)
         : successor_(successor),
           language_(language),
-          archive_(ToPath(archive), language),
+          archive_(ToPath(archive), language, BoundsBesideLogbook()),
           tempFolder_(tempFolder),
           workplace_(tempFolder) {}
 

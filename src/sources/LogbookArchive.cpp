@@ -8,7 +8,7 @@
 #include "filter/FilterFile.h"
 #include "settings/ReasonText.h"
 #include "settings/Texts.h"
-#include "sources/ZipArchive.h"
+#include "sources/OwnArchive.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -28,9 +28,10 @@ std::string ListOf(const std::vector<Number>& numbers, std::size_t first) {
 
 // Why the program could not unpack the archive that was built; "" when it could.
 std::string RefusalOf(const std::filesystem::path& file, Language language) {
-    const ZipArchive archive(file, language);
+    const ZipArchive archive(file, language, BoundsBesideLogbook());
     for (const ZipMember& member : archive.Members())
-        if (const std::string_view refusal = member.Refusal(language); !refusal.empty())
+        if (const std::string_view refusal = member.Refusal(language, BoundsBesideLogbook());
+            !refusal.empty())
             return std::string(refusal);
     return archive.Error();
 }
@@ -64,8 +65,9 @@ class Saving {
             return Say(TextId::ArchiveInPlaceOfLogbook);
         if (LiesIn(ToPath(path_), tempFolder_.Path()))
             return Say(TextId::ArchiveInTemporaryFolder);
-        if (const ZipMember logbook{"", stamp.Size, stamp.Size}; !logbook.Refusal(language_).empty())
-            return std::string(logbook.Refusal(language_));
+        const ZipMember logbook{"", stamp.Size, stamp.Size};
+        if (const std::string_view refusal = logbook.Refusal(language_, {}); !refusal.empty())
+            return std::string(refusal);
 
         const std::optional<FileStamp> replaced =
             content_.Replaced ? content_.Replaced->Stamp : StampOf(path_, error);

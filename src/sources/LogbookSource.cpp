@@ -7,7 +7,6 @@
 #include "sources/OwnArchive.h"
 #include "sources/ZipArchive.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <vector>
 
@@ -16,9 +15,6 @@ namespace {
 constexpr std::string_view SystemArchive = "sysroot.zip";
 constexpr std::string_view OperationLog = "runtime\\operation.log";
 constexpr std::string_view ClassicLog = "logbook\\lb_act.log";
-constexpr std::string_view LogExtension = ".log";
-constexpr std::string_view FilterExtension = ".fil";
-constexpr std::string_view CommentsExtension = ".cmt";
 
 bool EndsWith(std::string_view text, std::string_view lowerEnd) {
     return LowerCase(text).ends_with(lowerEnd);
@@ -54,7 +50,7 @@ class Extraction {
     Extraction(const std::filesystem::path& archive, const TempFolder& tempFolder,
                std::filesystem::path folder, Language language)
         : language_(language),
-          archive_(archive, language),
+          archive_(archive, language, BoundsBesideLogbook()),
           tempFolder_(tempFolder),
           folder_(std::move(folder)) {}
 
@@ -68,7 +64,8 @@ class Extraction {
             return std::nullopt;
         }
         const std::optional<std::size_t> system = Find(archive_, SystemArchive);
-        const std::optional<std::size_t> classic = archive_.FindMember(ClassicLog);
+        const std::optional<std::size_t> classic =
+            archive_.FindMember([](const ZipMember& member) { return member.Name == ClassicLog; });
         if (!system && !classic)
             return ExtractOwn();
 
@@ -86,13 +83,8 @@ class Extraction {
 
   private:
     static std::optional<std::size_t> Find(const ZipArchive& archive, std::string_view name) {
-        const std::vector<ZipMember>& members = archive.Members();
-        const auto found = std::find_if(members.begin(), members.end(), [&](const ZipMember& member) {
-            return IsSameWithoutCase(member.Name, name);
-        });
-        if (found == members.end())
-            return std::nullopt;
-        return static_cast<std::size_t>(found - members.begin());
+        return archive.FindMember(
+            [&](const ZipMember& member) { return IsSameWithoutCase(member.Name, name); });
     }
 
     bool Unpack(ZipArchive& archive, std::size_t member, std::string_view fileName) {
@@ -107,7 +99,7 @@ class Extraction {
     std::optional<Unpacked> ExtractOperationLog(std::size_t systemArchive) {
         if (!Unpack(archive_, systemArchive, SystemArchive))
             return std::nullopt;
-        ZipArchive inner(folder_ / SystemArchive, language_);
+        ZipArchive inner(folder_ / SystemArchive, language_, BoundsBesideLogbook());
         const std::optional<std::size_t> member = Find(inner, OperationLog);
         if (!member) {
             reason_ = inner.Error();

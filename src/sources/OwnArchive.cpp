@@ -2,41 +2,37 @@
 #include "sources/OwnArchive.h"
 
 #include "base/AsciiCase.h"
+#include "comments/Comments.h"
+#include "filter/FilterFile.h"
 
-#include <algorithm>
-#include <vector>
+#include <array>
 
 namespace {
 
-constexpr std::string_view LogExtension = ".log";
-
-// The first matching member.
-template <typename Condition>
-std::optional<std::size_t> Find(const std::vector<ZipMember>& members, const Condition& fits) {
-    const auto member = std::find_if(members.begin(), members.end(), fits);
-    if (member == members.end())
-        return std::nullopt;
-    return static_cast<std::size_t>(member - members.begin());
-}
+constexpr std::array<ZipBound, 2> Bounds{{
+    {FilterExtension, FilterFileBounds::Bytes.File, TextId::ZipFiltersTooLarge},
+    {CommentsExtension, CommentsFileBounds.File, TextId::ZipCommentsTooLarge},
+}};
 
 } // namespace
 
+std::span<const ZipBound> BoundsBesideLogbook() { return Bounds; }
+
 std::optional<OwnMembers> FindOwnMembers(const ZipArchive& archive) {
-    const std::vector<ZipMember>& members = archive.Members();
-    const std::optional<std::size_t> logbook =
-        Find(members, [](const ZipMember& member) { return LowerCase(member.Name).ends_with(LogExtension); });
+    const std::optional<std::size_t> logbook = archive.FindMember(
+        [](const ZipMember& member) { return LowerCase(member.Name).ends_with(LogExtension); });
     if (!logbook)
         return std::nullopt;
-    const ZipMember& log = members[*logbook];
+    const ZipMember& log = archive.Members()[*logbook];
     const std::string base(log.FileName().substr(0, log.FileName().size() - LogExtension.size()));
     const std::string folder = log.Name.substr(0, log.Name.size() - log.FileName().size());
     const auto beside = [&](std::string_view extension) {
         const std::string name = std::string(base).append(extension);
-        const auto found = Find(
-            members, [&](const ZipMember& member) { return IsSameWithoutCase(member.Name, folder + name); });
-        return found ? found : Find(members, [&](const ZipMember& member) {
+        const auto found = archive.FindMember(
+            [&](const ZipMember& member) { return IsSameWithoutCase(member.Name, folder + name); });
+        return found ? found : archive.FindMember([&](const ZipMember& member) {
             return IsSameWithoutCase(member.FileName(), name);
         });
     };
-    return OwnMembers{base, *logbook, beside(".fil"), beside(".cmt")};
+    return OwnMembers{base, *logbook, beside(FilterExtension), beside(CommentsExtension)};
 }

@@ -3,8 +3,6 @@
 
 #include "base/AsciiCase.h"
 #include "base/StopRequest.h"
-#include "comments/Comments.h"
-#include "filter/FilterFile.h"
 #include "sources/ZipReason.h"
 
 #include <zip.h>
@@ -18,17 +16,6 @@ namespace {
 constexpr std::uint64_t MostUnpacked = std::uint64_t{4} << 30U;
 constexpr std::uint64_t AlwaysUnpacked = std::uint64_t{64} << 20U;
 constexpr std::uint64_t MostExpansion = 1000;
-
-// Files beside a logbook have their own bounds.
-struct BoundOfKind {
-    std::string_view Extension;
-    std::uint64_t Most;
-    TextId Reason;
-};
-constexpr std::array<BoundOfKind, 2> BoundsOfKinds{{
-    {".fil", FilterFileBounds::Bytes.File, TextId::ZipFiltersTooLarge},
-    {".cmt", CommentsFileBounds.File, TextId::ZipCommentsTooLarge},
-}};
 
 struct CloseMember {
     void operator()(zip_file_t* member) const { zip_fclose(member); }
@@ -60,10 +47,10 @@ std::string_view ZipMember::FileName() const {
     return std::string_view(Name).substr(separator == std::string::npos ? 0 : separator + 1);
 }
 
-std::string_view ZipMember::Refusal(Language language) const {
+std::string_view ZipMember::Refusal(Language language, std::span<const ZipBound> bounds) const {
     if (Size > MostUnpacked)
         return Text(TextId::ZipTooLarge, language);
-    for (const BoundOfKind& bound : BoundsOfKinds)
+    for (const ZipBound& bound : bounds)
         if (Size > bound.Most && LowerCase(Name).ends_with(bound.Extension))
             return Text(bound.Reason, language);
     if (Size > AlwaysUnpacked && (Size - 1) / MostExpansion >= PackedSize)
@@ -73,7 +60,8 @@ std::string_view ZipMember::Refusal(Language language) const {
 
 void ZipArchive::Close::operator()(zip* archive) const { zip_discard(archive); }
 
-ZipArchive::ZipArchive(const std::filesystem::path& file, Language language) : language_(language) {
+ZipArchive::ZipArchive(const std::filesystem::path& file, Language language, std::span<const ZipBound> bounds)
+    : language_(language), bounds_(bounds) {
     int code = 0;
     archive_.reset(zip_open(file.string().c_str(), ZIP_RDONLY, &code));
     if (!archive_) {
@@ -100,21 +88,13 @@ ZipArchive::ZipArchive(const std::filesystem::path& file, Language language) : l
     }
 }
 
-std::optional<std::size_t> ZipArchive::FindMember(std::string_view name) const {
-    const auto found = std::find_if(members_.begin(), members_.end(),
-                                    [&](const ZipMember& member) { return member.Name == name; });
-    if (found == members_.end())
-        return std::nullopt;
-    return static_cast<std::size_t>(found - members_.begin());
-}
-
 bool ZipArchive::Fail(std::string_view reason) {
     error_ = reason;
     return false;
 }
 
 bool ZipArchive::Unpack(std::size_t member, const std::filesystem::path& target) {
-    if (const std::string_view refusal = members_[member].Refusal(language_); !refusal.empty())
+    if (const std::string_view refusal = members_[member].Refusal(language_, bounds_); !refusal.empty())
         return Fail(refusal);
     std::ofstream stream(target, std::ios::binary | std::ios::trunc);
     const bool isRead = Read(member, [&](std::string_view piece) {
@@ -130,7 +110,7 @@ bool ZipArchive::Unpack(std::size_t member, const std::filesystem::path& target)
 
 bool ZipArchive::Read(std::size_t member, const std::function<bool(std::string_view)>& take) {
     error_.clear();
-    if (const std::string_view refusal = members_[member].Refusal(language_); !refusal.empty())
+    if (const std::string_view refusal = members_[member].Refusal(language_, bounds_); !refusal.empty())
         return Fail(refusal);
     const std::unique_ptr<zip_file_t, CloseMember> source(zip_fopen_index(archive_.get(), member, 0));
     if (!source)

@@ -126,9 +126,9 @@ class frmMainTest : public MainWindowTest {
             QVERIFY(MessageTexts.isEmpty());
         }
         const std::string archive = Folder / "own.qorvix";
-        WriteZip(archive, {{"x.log", Lines({Header("BERR:    a")})},
-                           {"x.fil", "[Filters]\r\n"},
-                           {"x.cmt", "no comments"}});
+        WriteZip(
+            archive,
+            {{"x.log", Lines({Header("BERR:    a")})}, {"x.fil", "[Filters]\r\n"}, {"x.cmt", "no comments"}});
         StartAfresh();
         AnswerMessages(1);
         Window->RunCommandLine({archive});

@@ -41,6 +41,9 @@ class HelpTest : public QObject {
 
     static HelpBrowser* PageOf(const QWidget& window) { return window.findChild<HelpBrowser*>("txPage"); }
 
+    // The path of the page that the window shows.
+    static std::string PathOf(const QWidget& window) { return PageOf(window)->source().path().toStdString(); }
+
     static std::vector<frmHelp*> HelpWindows() {
         std::vector<frmHelp*> windows;
         for (QWidget* widget : QApplication::topLevelWidgets())

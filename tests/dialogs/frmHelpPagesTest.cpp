@@ -18,16 +18,16 @@ class frmHelpPagesTest : public HelpTest {
         QVERIFY(!back->isEnabled());
         QVERIFY(!forward->isEnabled());
         emit PageOf(window)->anchorClicked(QUrl("sub/c.html"));
-        QCOMPARE(PageOf(window)->Page(), std::string("/sub/c.html"));
+        QCOMPARE(PathOf(window), std::string("/sub/c.html"));
         QVERIFY(PageOf(window)->toPlainText().startsWith("C"));
         QCOMPARE(Find<QTreeWidget>(window, "tvContents")->currentItem()->text(0), QString("A below"));
         emit PageOf(window)->anchorClicked(QUrl("../a.html"));
-        QCOMPARE(PageOf(window)->Page(), std::string("/a.html"));
+        QCOMPARE(PathOf(window), std::string("/a.html"));
         back->trigger();
-        QCOMPARE(PageOf(window)->Page(), std::string("/sub/c.html"));
+        QCOMPARE(PathOf(window), std::string("/sub/c.html"));
         QVERIFY(forward->isEnabled());
         forward->trigger();
-        QCOMPARE(PageOf(window)->Page(), std::string("/a.html"));
+        QCOMPARE(PathOf(window), std::string("/a.html"));
     }
 
     void LinkToAMissingPageSaysSo() {
@@ -45,7 +45,7 @@ class frmHelpPagesTest : public HelpTest {
         QVERIFY(urls_.isEmpty());
         emit PageOf(window)->anchorClicked(QUrl("https://example.com/x"));
         QCOMPARE(urls_, QList<QUrl>{QUrl("https://example.com/x")});
-        QCOMPARE(PageOf(window)->Page(), std::string("/a.html"));
+        QCOMPARE(PathOf(window), std::string("/a.html"));
         QDesktopServices::unsetUrlHandler("https");
     }
 
@@ -90,7 +90,7 @@ class frmHelpPagesTest : public HelpTest {
         window.show();
         auto* contents = Find<QTreeWidget>(window, "tvContents");
         contents->setCurrentItem(contents->topLevelItem(1));
-        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
+        QCOMPARE(PathOf(window), std::string("/b.html"));
         QCOMPARE(PageOf(window)->source().fragment(), QString("place"));
     }
 
@@ -106,9 +106,9 @@ class frmHelpPagesTest : public HelpTest {
         };
         click();
         emit PageOf(window)->anchorClicked(QUrl("d.html"));
-        QCOMPARE(PageOf(window)->Page(), std::string("/d.html"));
+        QCOMPARE(PathOf(window), std::string("/d.html"));
         click();
-        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
+        QCOMPARE(PathOf(window), std::string("/b.html"));
     }
 
   public slots:

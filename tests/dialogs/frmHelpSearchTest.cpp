@@ -23,7 +23,7 @@ class frmHelpSearchTest : public HelpTest {
         QCOMPARE(hits->item(0)->text(), QString("/b.html"));
         QCOMPARE(Find<QLabel>(window, "lblHits")->text(), QString("Pages found: 1"));
         hits->setCurrentRow(0);
-        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
+        QCOMPARE(PathOf(window), std::string("/b.html"));
         QCOMPARE(PageOf(window)->extraSelections().size(), 2);
 
         Find<QLineEdit>(window, "tbSearchWords")->setText("zebra");
@@ -44,16 +44,16 @@ class frmHelpSearchTest : public HelpTest {
                               hits->visualItemRect(hits->item(0)).center());
         };
         click();
-        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
+        QCOMPARE(PathOf(window), std::string("/b.html"));
         emit PageOf(window)->anchorClicked(QUrl("a.html"));
         QVERIFY(PageOf(window)->extraSelections().isEmpty());
         click();
-        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
+        QCOMPARE(PathOf(window), std::string("/b.html"));
         QCOMPARE(PageOf(window)->extraSelections().size(), 2);
         Find<QAction>(window, "actBack")->trigger();
-        QCOMPARE(PageOf(window)->Page(), std::string("/a.html"));
+        QCOMPARE(PathOf(window), std::string("/a.html"));
         click();
-        QCOMPARE(PageOf(window)->Page(), std::string("/b.html"));
+        QCOMPARE(PathOf(window), std::string("/b.html"));
     }
 
     void EmptySearchChangesNothing() {

@@ -82,7 +82,7 @@ class frmHelpTest : public HelpTest {
         QVERIFY(help.DisplaySearch(HelpOf(Language::English), {Language::English}));
         QCOMPARE(HelpWindows(), std::vector<frmHelp*>{window});
         QCOMPARE(Find<QTabWidget>(*window, "tabPages")->currentIndex(), 1);
-        QCOMPARE(PageOf(*window)->Page(), std::string("/filters.html"));
+        QCOMPARE(PathOf(*window), std::string("/filters.html"));
     }
 
     void ClosedAtTheSwitchAndOpenedInTheOtherLanguage() {

@@ -4,6 +4,7 @@
 #include "filter/FilterRun.h"
 #include "filter/FilterText.h"
 #include "support/EntriesFrom.h"
+#include "support/PlainFilters.h"
 
 #include <gtest/gtest.h>
 
@@ -165,21 +166,6 @@ TEST_F(FilterTest, ProgressIsToldEveryHundredEntries) {
     EXPECT_DOUBLE_EQ(told[1], 10.1);
     EXPECT_DOUBLE_EQ(told[9], 90.9);
     EXPECT_EQ(told.back(), 0);
-}
-
-// The rules, one entry and one filter at a time.
-LogbookRows PlainRows(const EntryTable& entries, const std::vector<FilterDefinition>& filters) {
-    LogbookRows rows;
-    const auto anyMatches = [&](std::int16_t action, EntryNumber number) {
-        return std::any_of(filters.begin(), filters.end(), [&](const FilterDefinition& filter) {
-            return filter.Active && filter.Action == action && MatchFilter(filter, entries, number);
-        });
-    };
-    for (EntryNumber number = 0; number < entries.Count(); ++number)
-        if (anyMatches(FilterActions::Include, number) && !anyMatches(FilterActions::Exclude, number))
-            rows.push_back(
-                {.Entry = number & MostEntries, .Highlighted = anyMatches(FilterActions::Highlight, number)});
-    return rows;
 }
 
 TEST(FilterRun, AgreesWithThePlainRulesOnRandomFilters) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "filter/NumberList.h"
 
+#include "filter/NumberListEditor.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -17,6 +19,20 @@ std::string Matches(std::string_view list) {
         if (MatchNumberList(entry, list))
             matches += std::to_string(entry) + " ";
     return matches;
+}
+
+std::string WithNumber(std::string_view list, EntryNumber number) {
+    NumberListEditor editor;
+    editor.Append(list);
+    editor.Add(number);
+    return editor.Text();
+}
+
+std::string WithoutNumber(std::string_view list, EntryNumber number) {
+    NumberListEditor editor;
+    editor.Append(list);
+    editor.Remove(number);
+    return editor.Text();
 }
 
 std::string MatchesOfRanges(std::string_view list) {
@@ -113,7 +129,7 @@ TEST(NumberList, AddingANumber) {
         {"9-12", 13, "9-13"},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(AddToNumberList(c.List, c.Number), c.Expected) << c.List << " + " << c.Number;
+        EXPECT_EQ(WithNumber(c.List, c.Number), c.Expected) << c.List << " + " << c.Number;
 }
 
 TEST(NumberList, RemovingANumber) {
@@ -144,21 +160,21 @@ TEST(NumberList, RemovingANumber) {
         {"9-11", 9, "10-11"},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(RemoveFromNumberList(c.List, c.Number), c.Expected) << c.List << " - " << c.Number;
+        EXPECT_EQ(WithoutNumber(c.List, c.Number), c.Expected) << c.List << " - " << c.Number;
 }
 
 TEST(NumberList, PartsThatDoNotChangeKeepTheirText) {
-    EXPECT_EQ(AddToNumberList(" 1 , x,7-2,, 007 ,30", 31), " 1 , x,7-2,, 007 ,30-31");
-    EXPECT_EQ(AddToNumberList(" 1 , x", 5), " 1 , x,5");
-    EXPECT_EQ(AddToNumberList(" 1 , x", 2), "1-2, x");
-    EXPECT_EQ(AddToNumberList("7-2", 6), "7-2,6") << "a range that matches nothing is not extended";
-    EXPECT_EQ(AddToNumberList("  ", 6), "  ,6");
-    EXPECT_EQ(AddToNumberList(",", 6), ",,6");
-    EXPECT_EQ(AddToNumberList("3--5,äöü|€", 4), "3--5,äöü|€,4");
-    EXPECT_EQ(RemoveFromNumberList("x, 5 ,007,,8", 5), "x,007,,8");
-    EXPECT_EQ(RemoveFromNumberList("x,007", 7), "x");
-    EXPECT_EQ(RemoveFromNumberList("5,", 5), "");
-    EXPECT_EQ(RemoveFromNumberList(" 4 - 6 ,\t", 5), "4,6,\t");
+    EXPECT_EQ(WithNumber(" 1 , x,7-2,, 007 ,30", 31), " 1 , x,7-2,, 007 ,30-31");
+    EXPECT_EQ(WithNumber(" 1 , x", 5), " 1 , x,5");
+    EXPECT_EQ(WithNumber(" 1 , x", 2), "1-2, x");
+    EXPECT_EQ(WithNumber("7-2", 6), "7-2,6") << "a range that matches nothing is not extended";
+    EXPECT_EQ(WithNumber("  ", 6), "  ,6");
+    EXPECT_EQ(WithNumber(",", 6), ",,6");
+    EXPECT_EQ(WithNumber("3--5,äöü|€", 4), "3--5,äöü|€,4");
+    EXPECT_EQ(WithoutNumber("x, 5 ,007,,8", 5), "x,007,,8");
+    EXPECT_EQ(WithoutNumber("x,007", 7), "x");
+    EXPECT_EQ(WithoutNumber("5,", 5), "");
+    EXPECT_EQ(WithoutNumber(" 4 - 6 ,\t", 5), "4,6,\t");
 }
 
 TEST(NumberList, AnyListMatchesWhatItMatchedAndTheNumber) {
@@ -166,8 +182,8 @@ TEST(NumberList, AnyListMatchesWhatItMatchedAndTheNumber) {
     for (int round = 0; round < 20000; ++round) {
         const std::string list = WildList(random);
         const auto number = static_cast<EntryNumber>(random() % 16);
-        const std::string added = AddToNumberList(list, number);
-        const std::string removed = RemoveFromNumberList(list, number);
+        const std::string added = WithNumber(list, number);
+        const std::string removed = WithoutNumber(list, number);
         EXPECT_TRUE(MatchNumberList(number, added)) << list << " + " << number;
         EXPECT_FALSE(MatchNumberList(number, removed)) << list << " - " << number;
         for (EntryNumber other = 0; other <= 30; ++other) {
@@ -191,7 +207,7 @@ TEST(NumberList, AnyPartThatNamesNoEntryKeepsItsText) {
     for (int round = 0; round < 20000; ++round) {
         const std::string list = WildList(random);
         const auto number = static_cast<EntryNumber>(random() % 16);
-        EXPECT_EQ(senseless(AddToNumberList(list, number)), senseless(list)) << list;
-        EXPECT_EQ(senseless(RemoveFromNumberList(list, number)), senseless(list)) << list;
+        EXPECT_EQ(senseless(WithNumber(list, number)), senseless(list)) << list;
+        EXPECT_EQ(senseless(WithoutNumber(list, number)), senseless(list)) << list;
     }
 }

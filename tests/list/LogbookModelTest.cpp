@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "list/LogbookModel.h"
 
+#include "list/SetRows.h"
 #include "rows/LogbookColumns.h"
 #include "support/ReadText.h"
 
@@ -21,7 +22,7 @@ class LogbookModelTest : public QObject {
         LogbookModel model(Result.Book.Entries, rows);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         QCOMPARE(model.rowCount(), 0);
-        model.SetRows({{1, 1}, {0, 0}});
+        SetRows(model, rows, {{1, 1}, {0, 0}});
         QCOMPARE(model.rowCount(), 2);
         QCOMPARE(Cells(model, 0),
                  QStringList({"Fatal", "b", "", "", "04.01.2010 12:34:56.789", "1", "seen"}));
@@ -29,7 +30,7 @@ class LogbookModelTest : public QObject {
                  QStringList({"Info", "Kühlung", "GEO", "AXIS", "04.01.2010 12:34:56.789", "0", ""}));
         QCOMPARE(model.index(0, 0).data(LogbookModel::ImageRole).toInt(), 18);
         QCOMPARE(model.index(1, 0).data(LogbookModel::ImageRole).toInt(), 1);
-        model.SetRows({});
+        SetRows(model, rows, {});
         QCOMPARE(model.rowCount(), 0);
     }
 
@@ -46,7 +47,7 @@ class LogbookModelTest : public QObject {
     void FirstCellTellsAScreenReaderOfTheRow() {
         LogbookRows rows;
         LogbookModel model(Result.Book.Entries, rows);
-        model.SetRows({{1, 1}, {0, 0}});
+        SetRows(model, rows, {{1, 1}, {0, 0}});
         const auto spoken = [&](int row) {
             return model.index(row, 0).data(Qt::AccessibleTextRole).toString();
         };
@@ -65,7 +66,7 @@ class LogbookModelTest : public QObject {
         LogbookRows rows;
         LogbookModel model(Result.Book.Entries, rows);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        model.SetRows({{0, 0}, {1, 1}});
+        SetRows(model, rows, {{0, 0}, {1, 1}});
         QVERIFY(!model.IsSorted());
         const QPersistentModelIndex kept = model.index(0, 3);
         model.SortByColumn(LogbookColumn::Index);
@@ -74,7 +75,7 @@ class LogbookModelTest : public QObject {
         QCOMPARE(Cells(model, 0).at(5), QString("1"));
         QCOMPARE(kept.row(), 1);
         QCOMPARE(kept.data().toString(), QString("AXIS"));
-        model.SetRows({{0, 0}, {1, 1}});
+        SetRows(model, rows, {{0, 0}, {1, 1}});
         QVERIFY(!model.IsSorted());
         QVERIFY(!kept.isValid());
     }
@@ -83,7 +84,7 @@ class LogbookModelTest : public QObject {
         LogbookRows rows;
         LogbookModel model(Result.Book.Entries, rows);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        model.SetRows({{0, 0}, {1, 1}});
+        SetRows(model, rows, {{0, 0}, {1, 1}});
         model.TakeOutRows({{0, 0}});
         QCOMPARE(model.rowCount(), 1);
         QCOMPARE(Cells(model, 0).at(5), QString("1"));

@@ -3,6 +3,7 @@
 
 #include "list/LogbookModel.h"
 #include "list/LogbookView.h"
+#include "list/SetRows.h"
 #include "support/ReadText.h"
 
 #include <QApplication>
@@ -22,7 +23,7 @@ class RowDelegateTest : public QObject {
     void init() {
         ReadText(Lines({Header("BERR:    <b>two  blanks</b> & more")}), Result);
         Model = std::make_unique<LogbookModel>(Result.Book.Entries, Rows);
-        Model->SetRows({{0, 0}});
+        SetRows(*Model, Rows, {{0, 0}});
         List = std::make_unique<LogbookView>();
         List->SetLogbook(Model.get());
         List->resize(900, 200);

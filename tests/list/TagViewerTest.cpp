@@ -3,6 +3,7 @@
 
 #include "list/LogbookModel.h"
 #include "list/LogbookView.h"
+#include "list/SetRows.h"
 #include "support/ReadText.h"
 
 #include <QApplication>
@@ -50,7 +51,7 @@ class TagViewerTest : public QObject {
     void EmptyListClearsThePicture() {
         Show(4, {1, 2});
         QVERIFY(!IsEmpty(Grab()));
-        Model->SetRows({});
+        SetRows(*Model, Rows, {});
         QVERIFY(Viewer->RefreshTagViewer());
         QVERIFY(IsEmpty(Grab()));
     }
@@ -132,10 +133,10 @@ class TagViewerTest : public QObject {
     }
 
     void ToolTipTellsTheRowUnderThePointer() {
-        Model->SetRows({{2, 0}, {1, 0}});
+        SetRows(*Model, Rows, {{2, 0}, {1, 0}});
         QCOMPARE(TipAt(1), QString("2  04.01.2010 12:34:56.789  Restart"));
         QCOMPARE(TipAt(Viewer->height() - 1), QString("1  04.01.2010 12:34:56.789  Error"));
-        Model->SetRows({});
+        SetRows(*Model, Rows, {});
         TipAt(1);
         QTRY_VERIFY(!QToolTip::isVisible());
     }
@@ -193,7 +194,7 @@ class TagViewerTest : public QObject {
         LogbookRows list;
         for (int row = 0; row < rows; ++row)
             list.push_back({static_cast<EntryNumber>(row % 3) & MostEntries, highlighted.contains(row)});
-        Model->SetRows(std::move(list));
+        SetRows(*Model, Rows, std::move(list));
         if (selected >= 0)
             List->SelectAndShow(selected);
     }

@@ -111,6 +111,21 @@ TEST_F(RegistryTest, OtherKeyPathsAreLeftAlone) {
         1);
 }
 
+TEST(RegistryTransaction, WithinAnotherIsRefusedAndTheFirstGoesOn) {
+    MemorySettings store;
+    Registry settings(store);
+    {
+        const Registry::Transaction transaction(settings);
+        settings.WriteFilterSetting("A", 1, SettingType::Integer);
+        EXPECT_THROW(const Registry::Transaction another(settings), std::logic_error);
+        settings.WriteFilterSetting("B", 2, SettingType::Integer);
+        EXPECT_EQ(store.Writes, 0);
+    }
+    EXPECT_EQ(store.Writes, 1);
+    EXPECT_EQ(settings.ReadFilterSettingLong("B", 0), 2);
+    const Registry::Transaction next(settings);
+}
+
 TEST(RegistryTransaction, IsOneWrite) {
     MemorySettings store;
     Registry settings(store);

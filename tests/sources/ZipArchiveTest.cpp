@@ -3,6 +3,7 @@
 
 #include "comments/Comments.h"
 #include "filter/FilterFile.h"
+#include "sources/OwnArchive.h"
 #include "support/SmallFiles.h"
 #include "support/TemporaryFolder.h"
 #include "support/ZipWriter.h"
@@ -14,7 +15,7 @@ namespace {
 constexpr Language English{Language::English};
 
 std::string Refusal(const std::string& name, std::uint64_t size, std::uint64_t packed) {
-    return std::string(ZipMember{name, size, packed}.Refusal(English));
+    return std::string(ZipMember{name, size, packed}.Refusal(English, BoundsBesideLogbook()));
 }
 
 std::string Reason(TextId id) { return std::string(Text(id, English)); }
@@ -33,6 +34,12 @@ TEST(ZipMember, EachBoundIsTheLargestThatIsTaken) {
     EXPECT_EQ(Refusal("a.cmt", Comments + 1, Comments), Reason(TextId::ZipCommentsTooLarge));
 }
 
+TEST(ZipMember, WithoutBoundsEveryExtensionIsTheSame) {
+    constexpr std::uint64_t Large = std::uint64_t{3} << 30U;
+    EXPECT_EQ((ZipMember{"a.fil", Large, Large}.Refusal(English, {})), "");
+    EXPECT_EQ((ZipMember{"a.cmt", Large, Large}.Refusal(English, {})), "");
+}
+
 TEST(ZipMember, DenseOnesAreTakenWhenSmall) {
     constexpr std::uint64_t Small = std::uint64_t{64} << 20U;
     EXPECT_EQ(Refusal("a.log", Small, 0), "");
@@ -45,7 +52,7 @@ TEST(ZipMember, DenseOnesAreTakenWhenSmall) {
 TEST(ZipArchive, MemberThatTheDiskHasNoRoomForLeavesNoFile) {
     const TemporaryFolder folder;
     WriteZip(folder / "a.zip", {{"a.log", std::string(100'000, 'x')}});
-    ZipArchive archive(folder / "a.zip", English);
+    ZipArchive archive(folder / "a.zip", English, {});
     const std::string target = folder / "a.log";
     {
         const SmallFiles full(50'000);

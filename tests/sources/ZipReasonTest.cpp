@@ -79,6 +79,6 @@ TEST(ZipReason, CodeOfALaterLibraryIsToldByItsNumber) {
 
 TEST(ZipReason, ArchiveThatIsNotThereIsToldInTheLanguage) {
     const TemporaryFolder folder;
-    EXPECT_EQ(ZipArchive(folder / "none.zip", {Language::English}).Error(), "No such file");
-    EXPECT_EQ(ZipArchive(folder / "none.zip", {Language::German}).Error(), "Datei nicht gefunden");
+    EXPECT_EQ(ZipArchive(folder / "none.zip", {Language::English}, {}).Error(), "No such file");
+    EXPECT_EQ(ZipArchive(folder / "none.zip", {Language::German}, {}).Error(), "Datei nicht gefunden");
 }

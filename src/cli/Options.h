@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "settings/Language.h"
+
+#include <string>
+
+namespace CLI {
+class App;
+class Validator;
+} // namespace CLI
+
+// What the options of several commands have in common.
+
+// The option --language; `ofWhat` tells in the help what is in that language, as "Of messages".
+void AddLanguageOption(CLI::App& command, Language& language, const std::string& ofWhat);
+
+// Refuses a name that is empty.
+CLI::Validator NameIsGiven();
