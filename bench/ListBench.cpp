@@ -57,10 +57,10 @@ void MeasureSorts(frmMain& window, LogbookView& list) {
             window.ApplyFilter();
             list.selectRow(0);
             first.push_back(Painted(
-                list, [&] { window.SortByColumn(column); }, 1));
+                list, [&] { window.Run(Command::SortByColumn, column); }, 1));
         }
         const double again = Painted(
-            list, [&] { window.SortByColumn(column); }, 3);
+            list, [&] { window.Run(Command::SortByColumn, column); }, 3);
         std::printf("sort by %-8s %8.3f s from entry order, %8.3f s again\n",
                     Text(LogbookColumns[static_cast<std::size_t>(column)].Header, {}).data(), Median(first),
                     again);

@@ -89,7 +89,7 @@ int main(int argc, char** argv) {
                 const bool all = search.Search.SearchText == "tz";
                 search.Found =
                     all ? static_cast<std::int32_t>(MatchingRows(entries, search.Rows, search.Search).size())
-                        : FindInList(entries, search.Rows, 0, search.Search, false);
+                        : FindInList(entries, search.Rows, 0, search.Search, SearchDirection::Down);
             }));
         caseless.push_back(CountWithRipgrep("-i", text, path));
         exact.push_back(CountWithRipgrep("", text, path));

@@ -64,11 +64,12 @@ class Bench {
             runWithout.push_back(Seconds([&] { RunFilters(registry); }));
             LogbookRows shown = rows;
             const auto toggle = [&] {
-                SwitchHighlighting(shown, ToggleHighlighting(registry, shown, selected));
+                ToggleHighlighting(shown, ToggleHighlighting(registry, shown, selected));
             };
             on.push_back(Seconds(toggle));
             off.push_back(Seconds(toggle));
-            removal.push_back(Seconds([&] { RemoveRows(shown, RemoveFromList(registry, shown, selected)); }));
+            removal.push_back(
+                Seconds([&] { RemoveFromList(shown, RemoveFromList(registry, shown, selected)); }));
             run.push_back(Seconds([&] { RunFilters(registry); }));
             const std::vector<FilterDefinition> stored = LoadFilterList(registry).Filters;
             filters = stored.size();

@@ -36,9 +36,10 @@ LogbookRows Shuffled(LogbookRows rows) {
     return rows;
 }
 
-// One sort ascending or descending, whatever the list was sorted by before.
-double SortSeconds(const EntryTable& entries, LogbookRows& rows, LogbookColumn column, bool descending) {
-    ListOrder order{static_cast<std::int16_t>(column), !descending, {}};
+// One sort in this direction, whatever the list was sorted by before.
+double SortSeconds(const EntryTable& entries, LogbookRows& rows, LogbookColumn column,
+                   SortDirection direction) {
+    ListOrder order{static_cast<std::int16_t>(column), Opposite(direction), {}};
     return Seconds([&] {
         if (!SortListByColumn(entries, rows, column, order, [](int) { return true; }))
             std::fprintf(stderr, "the sort failed\n");
@@ -79,9 +80,9 @@ void MeasureColumns(const EntryTable& entries, int rounds) {
     const LogbookRows inOrder = AllRows(entries.Count());
     const LogbookRows shuffled = Shuffled(inOrder);
     LogbookRows byData = inOrder;
-    SortSeconds(entries, byData, LogbookColumn::Data, false);
+    SortSeconds(entries, byData, LogbookColumn::Data, SortDirection::Ascending);
     LogbookRows bySender = inOrder;
-    SortSeconds(entries, bySender, LogbookColumn::Sender, false);
+    SortSeconds(entries, bySender, LogbookColumn::Sender, SortDirection::Ascending);
 
     struct Times {
         std::vector<double> Ascending, Descending, FromOther, FromShuffled;
@@ -106,12 +107,12 @@ void MeasureColumns(const EntryTable& entries, int rounds) {
         for (std::size_t i = 0; i < times.size(); ++i) {
             const auto column = static_cast<LogbookColumn>(i);
             LogbookRows rows = inOrder;
-            times[i].Ascending.push_back(SortSeconds(entries, rows, column, false));
-            times[i].Descending.push_back(SortSeconds(entries, rows, column, true));
+            times[i].Ascending.push_back(SortSeconds(entries, rows, column, SortDirection::Ascending));
+            times[i].Descending.push_back(SortSeconds(entries, rows, column, SortDirection::Descending));
             rows = column == LogbookColumn::Data ? bySender : byData;
-            times[i].FromOther.push_back(SortSeconds(entries, rows, column, false));
+            times[i].FromOther.push_back(SortSeconds(entries, rows, column, SortDirection::Ascending));
             rows = shuffled;
-            times[i].FromShuffled.push_back(SortSeconds(entries, rows, column, false));
+            times[i].FromShuffled.push_back(SortSeconds(entries, rows, column, SortDirection::Ascending));
         }
     }
 
@@ -163,9 +164,9 @@ void MeasureTexts(const EntryTable& entries, int rounds) {
     std::vector<double> fromShuffled;
     for (int round = 0; round < rounds; ++round) {
         LogbookRows rows = inOrder;
-        fromEntries.push_back(SortSeconds(entries, rows, LogbookColumn::Data, false));
+        fromEntries.push_back(SortSeconds(entries, rows, LogbookColumn::Data, SortDirection::Ascending));
         rows = shuffled;
-        fromShuffled.push_back(SortSeconds(entries, rows, LogbookColumn::Data, true));
+        fromShuffled.push_back(SortSeconds(entries, rows, LogbookColumn::Data, SortDirection::Descending));
     }
     std::printf(
         "different texts of %.0f bytes that begin alike: from entry order %.3f s, from shuffled %.3f s\n",
@@ -192,7 +193,7 @@ int main(int argc, char** argv) {
     // The memory of the sort of the data first: later the peak is that of the yardsticks.
     LogbookRows rows = AllRows(logbook.Entries.Count());
     const std::size_t before = ResidentMemory();
-    SortSeconds(logbook.Entries, rows, LogbookColumn::Data, false);
+    SortSeconds(logbook.Entries, rows, LogbookColumn::Data, SortDirection::Ascending);
     const auto perRow = [&](std::size_t bytes) {
         return (static_cast<double>(bytes) - static_cast<double>(before)) / static_cast<double>(rows.size());
     };

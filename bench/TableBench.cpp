@@ -125,7 +125,8 @@ int main(int argc, char** argv) {
         {"search",
          [&] {
              ApplyFilters(logbook.Entries, WithDefault({}), rows);
-             return Seconds([&] { FindInList(logbook.Entries, rows, 0, {MissingText}, false); });
+             return Seconds(
+                 [&] { FindInList(logbook.Entries, rows, 0, {MissingText}, SearchDirection::Down); });
          }},
         {"sort by Time", [&] { return sort(LogbookColumn::Time); }},
         {"sort by Data", [&] { return sort(LogbookColumn::Data); }},

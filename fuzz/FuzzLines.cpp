@@ -18,7 +18,7 @@ struct KeptLine {
 class Reader {
   public:
     Reader(const std::string& path, std::size_t blockSize) : file_(blockSize) {
-        Check(file_.OpenFile(path, false));
+        Check(file_.OpenFile(path, clsFile::IfEmpty::StayOpen));
     }
 
     // What the operation gave, and where the file stands then.

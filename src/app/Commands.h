@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+#include <variant>
+
 // What a person can order in the main window, from whichever menu, button or key.
 enum class Command {
     Open,
@@ -22,7 +25,12 @@ enum class Command {
     RemoveFromList,
     Properties,
     EditFilters,
+    SortByColumn, // a column of the list, counted from 0
+    CopyRows,
 };
+
+// What an order is about besides the selected rows: a column, or for Open the name of a source.
+using OrderSubject = std::variant<std::monostate, int, std::string>;
 
 // True for the commands that read, filter, sort, open or archive, or that change what such a step works with.
 // They do nothing while a logbook is being read.

@@ -21,40 +21,43 @@ void WindowSearch::Find() {
     if (!search)
         return;
     search_ = *search;
-    FindFromSelection(search_.SearchUp);
+    FindFromSelection(DirectionOf(search_));
 }
 
 void WindowSearch::FindNext() {
     if (HasText())
-        FindFromSelection(search_.SearchUp);
+        FindFromSelection(DirectionOf(search_));
 }
 
 void WindowSearch::FindPrevious() {
     if (HasText())
-        FindFromSelection(!search_.SearchUp);
+        FindFromSelection(Opposite(DirectionOf(search_)));
 }
 
-void WindowSearch::FindFromSelection(bool up) {
+void WindowSearch::FindFromSelection(SearchDirection direction) {
     const std::optional<int> selected = list_.SelectedRow();
     {
         const WaitPointer wait;
-        FoundRow = FindInList(entries_, list_.Logbook()->Rows(), selected ? *selected + 1 : 0, search_, up);
+        FoundRow =
+            FindInList(entries_, list_.Logbook()->Rows(), selected ? *selected + 1 : 0, search_, direction);
     }
     if (FoundRow < 0) {
-        user_.ShowMessage(Text(up ? TextId::BeginReached : TextId::EndReached, language_),
-                          UserInterface::MessageIcon::None);
+        user_.ShowMessage(
+            Text(direction == SearchDirection::Up ? TextId::BeginReached : TextId::EndReached, language_),
+            UserInterface::MessageIcon::None);
         return;
     }
     const int row = FoundRow - 1;
     list_.SelectRanges({{static_cast<std::size_t>(row), static_cast<std::size_t>(row)}}, row);
-    EnsureVisible(FoundRow, up);
+    EnsureVisible(FoundRow, direction);
     emit RowFound(row);
 }
 
-void WindowSearch::EnsureVisible(std::int32_t row, bool up) {
+void WindowSearch::EnsureVisible(std::int32_t row, SearchDirection direction) {
     constexpr std::int32_t Context = 3;
-    const std::int32_t target =
-        up ? std::max(row - Context, 1) : std::min(row + Context, list_.model()->rowCount());
+    const std::int32_t target = direction == SearchDirection::Up
+                                    ? std::max(row - Context, 1)
+                                    : std::min(row + Context, list_.model()->rowCount());
     for (const std::int32_t shown : {target, row})
         list_.scrollTo(list_.model()->index(shown - 1, 0));
 }

@@ -36,16 +36,16 @@ class WindowSearch : public QObject {
     // True when there is something to find again.
     bool HasText() const { return !search_.SearchText.empty(); }
 
-    // Scrolls so that the third row beyond a row is seen, counted from 1 and upwards when `up` is set, and
-    // the row itself.
-    void EnsureVisible(std::int32_t row, bool up);
+    // Scrolls so that the third row beyond a row is seen, counted from 1 and in this direction, and the
+    // row itself.
+    void EnsureVisible(std::int32_t row, SearchDirection direction);
 
   signals:
     // A hit has been selected and is in view. Counted from 0.
     void RowFound(int row);
 
   private:
-    void FindFromSelection(bool up);
+    void FindFromSelection(SearchDirection direction);
 
     LogbookView& list_;
     const EntryTable& entries_;

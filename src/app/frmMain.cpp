@@ -98,16 +98,18 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
 
 void frmMain::MakeList() {
     lvLogbook->SetLogbook(model_);
-    connect(lvLogbook->horizontalHeader(), &QHeaderView::sectionClicked, this, &frmMain::SortByColumn);
+    connect(lvLogbook->horizontalHeader(), &QHeaderView::sectionClicked, this,
+            [this](int column) { Run(Command::SortByColumn, column); });
     connect(lvLogbook, &LogbookView::PopupWanted, this,
             [this](const QPoint& position) { menus_.Popup().popup(position); });
-    connect(lvLogbook, &LogbookView::RemoveWanted, this, [this] { Run(Command::RemoveFromList); });
-    connect(lvLogbook, &LogbookView::ToggleWanted, this, [this] { Run(Command::ToggleHighlighting); });
+    connect(lvLogbook, &LogbookView::RemoveFromListWanted, this, [this] { Run(Command::RemoveFromList); });
+    connect(lvLogbook, &LogbookView::ToggleHighlightingWanted, this,
+            [this] { Run(Command::ToggleHighlighting); });
     connect(lvLogbook, &LogbookView::PropertiesWanted, this, [this] { Run(Command::Properties); });
     // Not before the program that the file comes from has got its answer.
     connect(
         lvLogbook, &LogbookView::FileDropped, this,
-        [this](const QString& path) { OpenLogbook(path.toStdString()); }, Qt::QueuedConnection);
+        [this](const QString& path) { Run(Command::Open, path.toStdString()); }, Qt::QueuedConnection);
     connect(lvLogbook, &LogbookView::RowClicked, this, [this] {
         ItemClicked = true;
         pbTagViewer->RefreshTagViewerDelayed();
@@ -133,7 +135,7 @@ void frmMain::MakeList() {
     auto* copy = new QAction(lvLogbook);
     copy->setShortcut(QKeySequence::Copy);
     copy->setShortcutContext(Qt::WidgetShortcut);
-    connect(copy, &QAction::triggered, this, &frmMain::CopySelectedRows);
+    connect(copy, &QAction::triggered, this, [this] { Run(Command::CopyRows); });
     lvLogbook->addAction(copy);
 }
 
@@ -154,12 +156,12 @@ void frmMain::LoadLanguage() {
     txContent->setAccessibleName(QtText(TextId::txContent, language_));
 }
 
-void frmMain::Run(Command command) {
+void frmMain::Run(Command command, const OrderSubject& subject) {
     if (document_.Book().Busy && NeedsIdleLogbook(command))
         return;
     switch (command) {
     case Command::Open:
-        OpenLogbook("");
+        OpenLogbook(std::holds_alternative<std::string>(subject) ? std::get<std::string>(subject) : "");
         break;
     case Command::ZipLogbook:
         document_.ZipLogbook();
@@ -194,10 +196,12 @@ void frmMain::Run(Command command) {
         EditFilters();
         break;
     case Command::HelpContents:
-        ShowHelp(help_.DisplayToc(HelpFile(ProgramFolder(), language_), language_));
+        if (!help_.DisplayToc(HelpFile(ProgramFolder(), language_), language_))
+            ShowNoHelp();
         break;
     case Command::HelpSearch:
-        ShowHelp(help_.DisplaySearch(HelpFile(ProgramFolder(), language_), language_));
+        if (!help_.DisplaySearch(HelpFile(ProgramFolder(), language_), language_))
+            ShowNoHelp();
         break;
     case Command::About:
         frmAbout(language_, QApplication::applicationVersion().toStdString(), LibraryVersions(), this).exec();
@@ -209,21 +213,25 @@ void frmMain::Run(Command command) {
         ChooseLanguage();
         break;
     case Command::ToggleHighlighting:
-        ToggleSelectedEntries();
+        ToggleHighlighting();
         break;
     case Command::RemoveFromList:
-        RemoveSelectedEntries();
+        RemoveFromList();
         break;
     case Command::Properties:
         ShowEntryProperties();
         break;
+    case Command::SortByColumn:
+        SortByColumn(std::get<int>(subject));
+        break;
+    case Command::CopyRows:
+        CopyRows();
+        break;
     }
 }
 
-// Tells when there was no help to show.
-void frmMain::ShowHelp(bool shown) {
-    if (!shown)
-        user_.ShowMessage(Text(TextId::NoHelpFile, language_), UserInterface::MessageIcon::Exclamation);
+void frmMain::ShowNoHelp() {
+    user_.ShowMessage(Text(TextId::NoHelpFile, language_), UserInterface::MessageIcon::Exclamation);
 }
 
 void frmMain::RunCommandLine(const std::vector<std::string>& arguments) {
@@ -293,18 +301,17 @@ void frmMain::FirstActivation(const std::vector<std::string>& arguments) {
     Activated = true;
 }
 
+// The selected row stays in view.
 void frmMain::SortByColumn(int column) {
-    if (document_.Book().Busy)
-        return;
     const WaitPointer wait;
     lvLogbook->SortByColumn(column);
     if (const std::optional<int> row = lvLogbook->SelectedRow())
         lvLogbook->scrollTo(model_->index(*row, 0));
 }
 
-void frmMain::CopySelectedRows() {
+void frmMain::CopyRows() {
     const RowRanges ranges = lvLogbook->SelectedRanges();
-    if (document_.Book().Busy || ranges.empty())
+    if (ranges.empty())
         return;
     const WaitPointer wait;
     QApplication::clipboard()->setText(
@@ -354,17 +361,17 @@ void frmMain::EditFilters() {
         ApplyFilter();
 }
 
-void frmMain::RemoveSelectedEntries() {
+void frmMain::RemoveFromList() {
     const WaitPointer wait;
-    lvLogbook->RemoveRows(RemoveFromList(registry_, model_->Rows(), lvLogbook->SelectedRanges()));
+    lvLogbook->RemoveFromList(::RemoveFromList(registry_, model_->Rows(), lvLogbook->SelectedRanges()));
     ShowSelectedContent();
     if (sbStatusBar->HasCounts())
         shown_.ShowCounts();
 }
 
-void frmMain::ToggleSelectedEntries() {
+void frmMain::ToggleHighlighting() {
     const WaitPointer wait;
-    model_->SwitchHighlighting(ToggleHighlighting(registry_, model_->Rows(), lvLogbook->SelectedRanges()));
+    model_->ToggleHighlighting(::ToggleHighlighting(registry_, model_->Rows(), lvLogbook->SelectedRanges()));
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

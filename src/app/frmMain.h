@@ -48,13 +48,10 @@ class frmMain : public QMainWindow {
     void ApplyFilter() { document_.ApplyFilter(); }
 
     // Carries out a command. Those that need an idle logbook do nothing while one is being read.
-    void Run(Command command);
+    void Run(Command command, const OrderSubject& subject = {});
 
     // A click on the button of the tool bar with this key; any other text does nothing.
     void ToolBarButtonClick(const QString& key);
-
-    // Sorts the list by a column, counted from 0; the selected row stays in view.
-    void SortByColumn(int column);
 
     // Shows the data and the comment of a row, counted from 0, in the content pane.
     void RefreshContentText(int row);
@@ -73,16 +70,17 @@ class frmMain : public QMainWindow {
     void CloseIfWanted();
     void ShowContentPane(bool shown);
     void ChooseLanguage();
-    void CopySelectedRows();
+    void SortByColumn(int column);
+    void CopyRows();
     void ShowEntryProperties();
     void ShowLookupMistake(const FacilityFileMistake& mistake);
     void ShowNotNoted(std::error_code error);
     void ShowStandingMessage();
     void EditFilters();
-    void RemoveSelectedEntries();
-    void ToggleSelectedEntries();
+    void RemoveFromList();
+    void ToggleHighlighting();
     void ShowSelectedContent();
-    void ShowHelp(bool shown);
+    void ShowNoHelp();
 
     LogbookDocument& document_;
     Registry& registry_;

@@ -13,6 +13,7 @@
 #include <cerrno>
 #include <climits>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 
 #include <fcntl.h>
@@ -22,16 +23,19 @@
 
 namespace {
 
+// Who closes a descriptor.
+enum class Owner : std::uint8_t { Stream, Process };
+
 class DescriptorBuffer : public std::streambuf {
   public:
-    DescriptorBuffer(int descriptor, bool isOwn) : descriptor_(descriptor), isOwn_(isOwn) {
+    DescriptorBuffer(int descriptor, Owner owner) : descriptor_(descriptor), owner_(owner) {
         struct stat status = {};
         mayWait_ = ::fstat(descriptor_, &status) != 0 || !S_ISREG(status.st_mode);
         setp(bytes_.data(), bytes_.data() + bytes_.size());
     }
     ~DescriptorBuffer() override {
         DescriptorBuffer::sync();
-        if (isOwn_)
+        if (owner_ == Owner::Stream)
             ::close(descriptor_);
     }
     DescriptorBuffer(const DescriptorBuffer&) = delete;
@@ -79,7 +83,7 @@ class DescriptorBuffer : public std::streambuf {
     }
 
     int descriptor_;
-    bool isOwn_;
+    Owner owner_;
     bool mayWait_ = true;
     std::array<char, 65536> bytes_;
 };
@@ -87,7 +91,7 @@ class DescriptorBuffer : public std::streambuf {
 } // namespace
 
 DeviceStream::DeviceStream()
-    : buffer_(std::make_unique<DescriptorBuffer>(STDOUT_FILENO, false)),
+    : buffer_(std::make_unique<DescriptorBuffer>(STDOUT_FILENO, Owner::Process)),
       isTerminal_(::isatty(STDOUT_FILENO) == 1) {
     stream_.rdbuf(buffer_.get());
 }
@@ -96,7 +100,7 @@ DeviceStream::DeviceStream(const std::string& device) {
     const int descriptor = ::open(ToPath(device).c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC);
     if (descriptor < 0)
         return;
-    buffer_ = std::make_unique<DescriptorBuffer>(descriptor, true);
+    buffer_ = std::make_unique<DescriptorBuffer>(descriptor, Owner::Stream);
     stream_.rdbuf(buffer_.get());
     isTerminal_ = ::isatty(descriptor) == 1;
 }

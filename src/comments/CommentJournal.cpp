@@ -49,15 +49,15 @@ void CommentJournal::Keep(std::vector<LostJournal> journals, std::span<const Ent
     entered_.insert(restored.begin(), restored.end());
 }
 
-void CommentJournal::Saved() { End(true); }
+void CommentJournal::Saved() { End(KeptJournals::Go); }
 
-void CommentJournal::Dropped() { End(restored_); }
+void CommentJournal::Dropped() { End(restored_ ? KeptJournals::Go : KeptJournals::Stay); }
 
-void CommentJournal::End(bool keptGo) {
+void CommentJournal::End(KeptJournals kept) {
     if (IsNameOf(name_, file_))
         RemoveFile();
     file_.Close();
-    if (keptGo)
+    if (kept == KeptJournals::Go)
         for (const LostJournal& journal : kept_)
             journal.Remove();
     kept_.clear();

@@ -6,6 +6,7 @@
 #include "comments/LostJournal.h"
 #include "logbook/EntryTable.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <set>
 #include <span>
@@ -56,7 +57,8 @@ class CommentJournal {
   private:
     std::error_code Begin(const EntryTable& entries);
     void RemoveFile();
-    void End(bool keptGo);
+    enum class KeptJournals : std::uint8_t { Go, Stay };
+    void End(KeptJournals kept);
 
     std::filesystem::path folder_;
     std::filesystem::path name_;

@@ -131,16 +131,17 @@ void frmStringSettings::Remove() {
 
 // The last sorted column inverts the direction; another one keeps it, as in the logbook list.
 void frmStringSettings::SortByColumn(int column) {
-    descending_ = column == lastSortColumn_ ? !descending_ : descending_;
+    if (column == lastSortColumn_)
+        direction_ = Opposite(direction_);
     lastSortColumn_ = column;
     std::vector<std::string> cells;
     cells.reserve(static_cast<std::size_t>(lvFilterStrings->topLevelItemCount()));
     for (int row = 0; row < lvFilterStrings->topLevelItemCount(); ++row)
         cells.push_back(lvFilterStrings->topLevelItem(row)->text(column).toStdString());
-    lvFilterStrings->Reorder(SortedOrder(cells, SortRule::Text, descending_));
+    lvFilterStrings->Reorder(SortedOrder(cells, SortRule::Text, direction_));
     lvFilterStrings->header()->setSortIndicatorShown(true);
-    lvFilterStrings->header()->setSortIndicator(column,
-                                                descending_ ? Qt::DescendingOrder : Qt::AscendingOrder);
+    lvFilterStrings->header()->setSortIndicator(
+        column, direction_ == SortDirection::Descending ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 void frmStringSettings::RowsChanged() { stringFilters_ = Rows(); }

@@ -3,6 +3,7 @@
 
 #include "dialogs/FittedDialog.h"
 #include "filter/FilterDefinition.h"
+#include "rows/SortDirection.h"
 
 #include <cstdint>
 #include <vector>
@@ -43,6 +44,6 @@ class frmStringSettings : public FittedDialog {
     QLabel* lblFilterStrings;
     DialogList* lvFilterStrings;
     int lastSortColumn_ = 0;
-    bool descending_ = false;
+    SortDirection direction_ = SortDirection::Ascending;
     QString resultText_;
 };

@@ -37,7 +37,7 @@ std::string FindInFolder(const std::string& folder, std::string_view name) {
 std::string LanguageFileText(std::string_view bytes) { return CodePage().ToUtf8(bytes); }
 
 LanguageFile::LanguageFile(const std::string& path)
-    : readable_(file_.OpenFile(path, false) && file_.FileSize() <= LargestSize) {}
+    : readable_(file_.OpenFile(path, clsFile::IfEmpty::StayOpen) && file_.FileSize() <= LargestSize) {}
 
 bool LanguageFile::ReadLine(std::string_view& line) {
     line = {};

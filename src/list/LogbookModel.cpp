@@ -61,16 +61,16 @@ void LogbookModel::ShowComments() {
         emit dataChanged(index(0, column), index(rowCount() - 1, column));
 }
 
-void LogbookModel::TakeOutRows(const RowRanges& ranges) {
+void LogbookModel::RemoveFromList(const RowRanges& ranges) {
     beginResetModel();
-    RemoveRows(rows_, ranges);
+    ::RemoveFromList(rows_, ranges);
     endResetModel();
 }
 
-void LogbookModel::SwitchHighlighting(const RowRanges& ranges) {
+void LogbookModel::ToggleHighlighting(const RowRanges& ranges) {
     if (ranges.empty())
         return;
-    ::SwitchHighlighting(rows_, ranges);
+    ::ToggleHighlighting(rows_, ranges);
     emit dataChanged(index(static_cast<int>(ranges.front().First), 0),
                      index(static_cast<int>(ranges.back().Last), 0));
     emit SpokenTextChanged(ranges);

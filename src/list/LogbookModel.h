@@ -40,10 +40,10 @@ class LogbookModel : public QAbstractTableModel {
     void ShowComment(int row);
     void ShowComments();
 
-    void TakeOutRows(const RowRanges& ranges);
+    void RemoveFromList(const RowRanges& ranges);
 
     // Makes plain rows highlighted, and highlighted rows plain.
-    void SwitchHighlighting(const RowRanges& ranges);
+    void ToggleHighlighting(const RowRanges& ranges);
 
     // Sets the language of the column headers and of a screen reader's words.
     void SetLanguage(Language language);

@@ -110,11 +110,11 @@ void LogbookView::SortByColumn(int column) {
     ShowSortIndicator();
 }
 
-void LogbookView::RemoveRows(const RowRanges& ranges) {
+void LogbookView::RemoveFromList(const RowRanges& ranges) {
     if (ranges.empty())
         return;
     const int top = verticalScrollBar()->value();
-    model_->TakeOutRows(ranges);
+    model_->RemoveFromList(ranges);
     verticalScrollBar()->setValue(top);
     const std::size_t next = ranges.back().Last + 1 - RowCount(ranges);
     if (!model_->Rows().empty())
@@ -125,8 +125,9 @@ void LogbookView::ShowSortIndicator() {
     const ListOrder& order = model_->Order();
     horizontalHeader()->setSortIndicatorShown(model_->IsSorted());
     if (model_->IsSorted())
-        horizontalHeader()->setSortIndicator(order.LastSortColumn,
-                                             order.Descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+        horizontalHeader()->setSortIndicator(
+            order.LastSortColumn,
+            order.Direction == SortDirection::Descending ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 void LogbookView::SelectAndShow(int row) {
@@ -177,7 +178,7 @@ void LogbookView::keyPressEvent(QKeyEvent* event) {
         emit PropertiesWanted();
         break;
     case Qt::Key_Space:
-        emit ToggleWanted();
+        emit ToggleHighlightingWanted();
         break;
     default:
         return ListOfRows::keyPressEvent(event);

@@ -33,7 +33,7 @@ class LogbookView : public ListOfRows<QTableView> {
 
     // Removes these rows from the list. Then selects the row that followed the last of them, or else the last
     // row of the list.
-    void RemoveRows(const RowRanges& ranges);
+    void RemoveFromList(const RowRanges& ranges);
 
     // Shows the column by which the list is sorted, if any.
     void ShowSortIndicator();
@@ -46,9 +46,9 @@ class LogbookView : public ListOfRows<QTableView> {
     static constexpr std::size_t MostSelectedRanges = 20000;
 
   signals:
-    void RemoveWanted();
+    void RemoveFromListWanted();
     void PropertiesWanted();
-    void ToggleWanted();
+    void ToggleHighlightingWanted();
     void PopupWanted(const QPoint& globalPosition);
     void FileDropped(const QString& path);
 
@@ -62,7 +62,7 @@ class LogbookView : public ListOfRows<QTableView> {
     void RowAnnounced(int row);
 
   protected:
-    void OrderRemoval() override { emit RemoveWanted(); }
+    void OrderRemoval() override { emit RemoveFromListWanted(); }
     void OrderPopup(const QPoint& globalPosition) override { emit PopupWanted(globalPosition); }
     void DoubleClicked(QPoint place) override;
     bool event(QEvent* event) override;

@@ -129,7 +129,7 @@ bool ReadLogbook(const std::string& path, Logbook& logbook, std::string& title, 
     KnownHeaders headers;
     EntryCollector entries(logbook.Entries, codePage);
     try {
-        if (!file.OpenFile(path, true)) {
+        if (!file.OpenFile(path, clsFile::IfEmpty::Close)) {
             logbook.LoadState = LoadStates::Done;
             logbook.Entries.ResetToOneEmpty(0, Images::None);
             return false;

@@ -25,7 +25,7 @@ void clsFile::ReleaseLines() {
     BlockHasKeptLines = false;
 }
 
-bool clsFile::OpenFile(const std::string& path, bool closeIfEmpty) {
+bool clsFile::OpenFile(const std::string& path, IfEmpty ifEmpty) {
     if (Used)
         return false;
     Used = true;
@@ -39,7 +39,7 @@ bool clsFile::OpenFile(const std::string& path, bool closeIfEmpty) {
     if (File.open(file, std::ios::in | std::ios::binary) == nullptr)
         return false;
     const std::streamoff end = File.pubseekoff(0, std::ios::end);
-    if (end < 0 || (end == 0 && closeIfEmpty) || File.pubseekpos(0) != std::streampos(0)) {
+    if (end < 0 || (end == 0 && ifEmpty == IfEmpty::Close) || File.pubseekpos(0) != std::streampos(0)) {
         File.close();
         return false;
     }

@@ -30,6 +30,9 @@ class clsFile {
     static constexpr std::size_t DefaultBlockSize = 256U * 1024U;
     static constexpr std::int64_t EventStep = 1024 * 1024;
 
+    // What OpenFile does with a file without bytes.
+    enum class IfEmpty : std::uint8_t { Close, StayOpen };
+
     explicit clsFile(std::size_t blockSize = DefaultBlockSize);
 
     // The file's size, taken once at opening.
@@ -40,8 +43,8 @@ class clsFile {
     std::int64_t CurrentPosition() const { return Position() + 1 + BufferSize(); }
 
     // Opens a regular file. False, without a message, when the file is missing or cannot be read, when it is
-    // empty and `closeIfEmpty` is set, or when this object has been used before.
-    bool OpenFile(const std::string& path, bool closeIfEmpty);
+    // empty and `ifEmpty` closes it, or when this object has been used before.
+    bool OpenFile(const std::string& path, IfEmpty ifEmpty);
 
     // From now on pending events run after each further EventStep bytes of the file, however long a line is.
     // When `progress` then wants to stop, the read throws RunTimeError. `progress` must live until reading is

@@ -45,7 +45,7 @@ RowRanges ToggleHighlighting(Registry& registry, const LogbookRows& rows, const 
     return toggled;
 }
 
-void SwitchHighlighting(LogbookRows& rows, const RowRanges& ranges) {
+void ToggleHighlighting(LogbookRows& rows, const RowRanges& ranges) {
     for (const RowRange& range : ranges)
         for (std::size_t row = range.First; row <= range.Last; ++row)
             rows[row].Highlighted = rows[row].Highlighted == 0 ? 1 : 0;

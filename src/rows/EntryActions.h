@@ -13,13 +13,13 @@ class Registry;
 // Costs a logarithm a row. Each call also reads, parses and writes the whole settings, which hold the numbers
 // of all earlier calls: some milliseconds at first, and more than a second with a million scattered numbers.
 
-// Keeps the entries of the selected rows out of the list from now on. Returns the rows to remove from it
-// (RemoveRows).
+// Keeps the entries of the selected rows out of the list from now on. Returns the rows to remove from it.
 RowRanges RemoveFromList(Registry& registry, const LogbookRows& rows, const RowRanges& selected);
 
 // Highlights the entries of the plain selected rows, and makes those of the highlighted ones plain. Returns
-// the rows that change (SwitchHighlighting). A row that another filter highlights turns plain only when there
+// the rows that change. A row that another filter highlights turns plain only when there
 // is a filter of highlighted numbers, and the next filter run highlights it again.
 RowRanges ToggleHighlighting(Registry& registry, const LogbookRows& rows, const RowRanges& selected);
 
-void SwitchHighlighting(LogbookRows& rows, const RowRanges& ranges);
+// Toggles the highlighting of these rows on the screen.
+void ToggleHighlighting(LogbookRows& rows, const RowRanges& ranges);

@@ -3,6 +3,7 @@
 
 #include "filter/LogbookRow.h"
 #include "rows/RadixSort.h"
+#include "rows/SortDirection.h"
 
 #include <algorithm>
 #include <bit>
@@ -39,10 +40,10 @@ bool TakeRows(const Numbers& numbers, std::size_t count, LogbookRows& sorted, So
 template <typename Key>
 class KeyedRows {
   public:
-    KeyedRows(std::size_t count, bool descending)
+    KeyedRows(std::size_t count, SortDirection direction)
         : first_(std::make_unique_for_overwrite<Item[]>(count)),
           items_(first_.get(), count),
-          flip_(descending ? static_cast<Key>(~Key{0}) : Key{0}) {}
+          flip_(direction == SortDirection::Descending ? static_cast<Key>(~Key{0}) : Key{0}) {}
 
     // `keyOf` makes a key from an entry number. Fetch and Sort return false when the sort was stopped.
     template <typename KeyOf>

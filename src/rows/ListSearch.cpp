@@ -17,7 +17,8 @@ std::int32_t RowsTestedSingly(const EntryTable& entries) {
 } // namespace
 
 std::int32_t FindInList(const EntryTable& entries, const LogbookRows& rows, std::int32_t start,
-                        const SearchState& search, bool up) {
+                        const SearchState& search, SearchDirection direction) {
+    const bool up = direction == SearchDirection::Up;
     const auto count = static_cast<std::int32_t>(rows.size());
     const std::int32_t behind = up ? start - 1 : start + 1;
     const std::int32_t first = up && (start == 0 || behind > count) ? count : behind;

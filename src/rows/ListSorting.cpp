@@ -16,24 +16,26 @@ std::string RowTag(const EntryTable& entries, EntryNumber number, const ListOrde
 bool SortListByColumn(const EntryTable& entries, LogbookRows& rows, LogbookColumn column, ListOrder& order,
                       const SortHook& hook) {
     const auto columnNumber = static_cast<std::int16_t>(column);
-    const bool descending = (columnNumber == order.LastSortColumn) != order.Descending;
+    const SortDirection direction =
+        columnNumber == order.LastSortColumn ? Opposite(order.Direction) : order.Direction;
     SortProgress progress(hook);
     try {
         LogbookRows sorted;
-        if (!SortRows(entries, rows, column, descending, sorted, progress))
+        if (!SortRows(entries, rows, column, direction, sorted, progress))
             return false;
         rows = std::move(sorted);
     } catch (const std::bad_alloc&) {
         return false;
     }
-    order.Descending = descending;
+    order.Direction = direction;
     order.LastSortColumn = columnNumber;
     if (LogbookColumns[static_cast<std::size_t>(column)].Rule != SortRule::Text)
         order.TagColumn = column;
     return true;
 }
 
-std::vector<std::uint32_t> SortedOrder(std::span<const std::string> cells, SortRule rule, bool descending) {
+std::vector<std::uint32_t> SortedOrder(std::span<const std::string> cells, SortRule rule,
+                                       SortDirection direction) {
     std::vector<std::string> keys;
     for (const std::string& cell : cells)
         keys.push_back(rule == SortRule::Date     ? DateKey(cell)
@@ -43,7 +45,7 @@ std::vector<std::uint32_t> SortedOrder(std::span<const std::string> cells, SortR
     const TextList source(texts);
     const SortHook noHook;
     SortProgress progress(noHook);
-    TextSort sort(source, texts.size(), descending, progress);
+    TextSort sort(source, texts.size(), direction, progress);
     for (std::uint32_t i = 0; i < texts.size(); ++i)
         sort.Add(i);
     sort.Sort(100);

@@ -3,6 +3,7 @@
 
 #include "filter/LogbookRow.h"
 #include "rows/LogbookColumns.h"
+#include "rows/SortDirection.h"
 #include "rows/SortProgress.h"
 
 #include <cstdint>
@@ -14,7 +15,7 @@
 // How the rows of the list are sorted.
 struct ListOrder {
     std::int16_t LastSortColumn = 0; // from 0 on; 0 when there was no sort yet
-    bool Descending = false;
+    SortDirection Direction = SortDirection::Ascending;
     std::optional<LogbookColumn> TagColumn; // its text is the tag of each row; none = the event type number
 
     // Makes the event types the tags, as for new rows. Direction and column of the last sort stay.
@@ -40,4 +41,5 @@ bool SortListByColumn(const EntryTable& entries, LogbookRows& rows, LogbookColum
 
 // The places of a short list's cells, in the order of a rule; cells with the same key keep their order in
 // either direction.
-std::vector<std::uint32_t> SortedOrder(std::span<const std::string> cells, SortRule rule, bool descending);
+std::vector<std::uint32_t> SortedOrder(std::span<const std::string> cells, SortRule rule,
+                                       SortDirection direction);

@@ -21,6 +21,16 @@ struct SearchState {
     bool operator==(const SearchState&) const = default;
 };
 
+// Which way a search goes through the list.
+enum class SearchDirection : std::uint8_t { Down, Up };
+
+constexpr SearchDirection Opposite(SearchDirection direction) {
+    return direction == SearchDirection::Down ? SearchDirection::Up : SearchDirection::Down;
+}
+inline SearchDirection DirectionOf(const SearchState& search) {
+    return search.SearchUp ? SearchDirection::Up : SearchDirection::Down;
+}
+
 // The columns that a search covers, in this order.
 inline constexpr std::array SearchColumns{LogbookColumn::Event, LogbookColumn::Data, LogbookColumn::Comment};
 

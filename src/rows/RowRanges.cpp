@@ -59,7 +59,7 @@ RowRanges SelectedEntries::RangesIn(const LogbookRows& rows, std::size_t mostRan
     return ranges;
 }
 
-void RemoveRows(LogbookRows& rows, const RowRanges& ranges) {
+void RemoveFromList(LogbookRows& rows, const RowRanges& ranges) {
     if (ranges.empty())
         return;
     auto to = rows.begin() + static_cast<std::ptrdiff_t>(ranges.front().First);

@@ -36,4 +36,4 @@ class SelectedEntries {
 };
 
 // Removes the rows of the ranges from the list; the others keep their order.
-void RemoveRows(LogbookRows& rows, const RowRanges& ranges);
+void RemoveFromList(LogbookRows& rows, const RowRanges& ranges);

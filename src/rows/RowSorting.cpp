@@ -20,8 +20,8 @@ constexpr int RanksPart = 40;
 constexpr int FewRanksPart = 1;
 
 // An entry has at most one row, so two bits for each entry hold everything to sort.
-bool SortByIndex(const EntryTable& entries, const LogbookRows& rows, bool descending, LogbookRows& sorted,
-                 SortProgress& progress) {
+bool SortByIndex(const EntryTable& entries, const LogbookRows& rows, SortDirection direction,
+                 LogbookRows& sorted, SortProgress& progress) {
     const EntryNumber count = entries.Count();
     std::vector<bool> shown(count);
     std::vector<bool> highlighted(count);
@@ -34,14 +34,15 @@ bool SortByIndex(const EntryTable& entries, const LogbookRows& rows, bool descen
     progress.BeginPhase(100, count);
     sorted.reserve(rows.size());
     return progress.ForEach(0, count, [&](std::size_t i) {
-        const auto number = static_cast<EntryNumber>(descending ? count - 1 - i : i);
+        const auto number =
+            static_cast<EntryNumber>(direction == SortDirection::Descending ? count - 1 - i : i);
         if (shown[number])
             sorted.push_back({number & MostEntries, highlighted[number]});
     });
 }
 
-bool SortByTime(const EntryTable& entries, const LogbookRows& rows, bool descending, LogbookRows& sorted,
-                SortProgress& progress) {
+bool SortByTime(const EntryTable& entries, const LogbookRows& rows, SortDirection direction,
+                LogbookRows& sorted, SortProgress& progress) {
     const TimeKeys keys(entries);
     // Seconds from the table's first day on fit into 32 bits for 136 years; a stamp of an odd form may lie
     // outside that time.
@@ -55,21 +56,21 @@ bool SortByTime(const EntryTable& entries, const LogbookRows& rows, bool descend
         return static_cast<std::uint32_t>(seconds);
     };
     {
-        KeyedRows<std::uint32_t> keyed(rows.size(), descending);
+        KeyedRows<std::uint32_t> keyed(rows.size(), direction);
         if (!keyed.Fetch(entries, rows, shortKey, progress))
             return false;
         if (fits)
             return keyed.Sort(sorted, progress);
     }
-    KeyedRows<std::uint64_t> keyed(rows.size(), descending);
+    KeyedRows<std::uint64_t> keyed(rows.size(), direction);
     return keyed.Fetch(
                entries, rows, [&](EntryNumber number) { return keys[number]; }, progress) &&
            keyed.Sort(sorted, progress);
 }
 
 // The kind decides sender, name and event type.
-bool SortByKind(const EntryTable& entries, const LogbookRows& rows, LogbookColumn column, bool descending,
-                LogbookRows& sorted, SortProgress& progress) {
+bool SortByKind(const EntryTable& entries, const LogbookRows& rows, LogbookColumn column,
+                SortDirection direction, LogbookRows& sorted, SortProgress& progress) {
     const EntryKinds& kinds = entries.Kinds();
     std::vector<std::string_view> texts;
     for (std::uint32_t kind = 0; kind < kinds.Count(); ++kind)
@@ -77,7 +78,7 @@ bool SortByKind(const EntryTable& entries, const LogbookRows& rows, LogbookColum
     const std::vector<std::uint32_t> ranks = RanksOf(texts, FewRanksPart, progress);
     if (ranks.size() != texts.size())
         return false;
-    KeyedRows<std::uint32_t> keyed(rows.size(), descending);
+    KeyedRows<std::uint32_t> keyed(rows.size(), direction);
     return keyed.Fetch(
                entries, rows, [&](EntryNumber number) { return ranks[entries.KindNumber(number)]; },
                progress) &&
@@ -112,10 +113,10 @@ class CommentsOfRows : public TextSource {
 };
 
 // Sorts by each row's own text.
-bool SortByOwnData(const EntryTable& entries, const LogbookRows& rows, bool descending, LogbookRows& sorted,
-                   SortProgress& progress) {
+bool SortByOwnData(const EntryTable& entries, const LogbookRows& rows, SortDirection direction,
+                   LogbookRows& sorted, SortProgress& progress) {
     const DataOfRows source(entries);
-    TextSort sort(source, rows.size(), descending, progress);
+    TextSort sort(source, rows.size(), direction, progress);
     for (const LogbookRow& row : rows)
         sort.Add(Packed(row));
     if (!sort.Sort(OrderPart))
@@ -125,19 +126,19 @@ bool SortByOwnData(const EntryTable& entries, const LogbookRows& rows, bool desc
 }
 
 // When texts recur, sorts by the rank of each text.
-bool SortByData(const EntryTable& entries, const LogbookRows& rows, bool descending, LogbookRows& sorted,
-                SortProgress& progress) {
+bool SortByData(const EntryTable& entries, const LogbookRows& rows, SortDirection direction,
+                LogbookRows& sorted, SortProgress& progress) {
     DistinctData distinct;
     progress.BeginPhase(KeysPart, entries.Count());
     if (rows.size() <= entries.Count() / 2 || !FindDistinctData(entries, distinct, progress)) {
         distinct = {};
-        return !progress.IsStopped() && SortByOwnData(entries, rows, descending, sorted, progress);
+        return !progress.IsStopped() && SortByOwnData(entries, rows, direction, sorted, progress);
     }
     const std::vector<std::uint32_t> ranks = RanksOf(distinct.Texts, RanksPart, progress);
     if (ranks.size() != distinct.Texts.size())
         return false;
     distinct.Texts = {};
-    KeyedRows<std::uint32_t> keyed(rows.size(), descending);
+    KeyedRows<std::uint32_t> keyed(rows.size(), direction);
     return keyed.Fetch(
                entries, rows, [&](EntryNumber number) { return ranks[distinct.Numbers[number]]; },
                progress) &&
@@ -145,8 +146,8 @@ bool SortByData(const EntryTable& entries, const LogbookRows& rows, bool descend
 }
 
 // Most rows have no comment: they keep their order, before or behind the others.
-bool SortByComment(const EntryTable& entries, const LogbookRows& rows, bool descending, LogbookRows& sorted,
-                   SortProgress& progress) {
+bool SortByComment(const EntryTable& entries, const LogbookRows& rows, SortDirection direction,
+                   LogbookRows& sorted, SortProgress& progress) {
     std::vector<bool> commented(entries.Count());
     for (const auto& [number, comment] : entries.Comments())
         commented[number] = true;
@@ -154,7 +155,7 @@ bool SortByComment(const EntryTable& entries, const LogbookRows& rows, bool desc
     const auto count = static_cast<std::size_t>(std::count_if(rows.begin(), rows.end(), isCommented));
 
     const CommentsOfRows source(entries);
-    TextSort sort(source, count, descending, progress);
+    TextSort sort(source, count, direction, progress);
     LogbookRows others;
     others.reserve(rows.size());
     progress.BeginPhase(KeysPart, rows.size());
@@ -168,28 +169,29 @@ bool SortByComment(const EntryTable& entries, const LogbookRows& rows, bool desc
     if (!sort.Sort(OrderPart) || !TakeRows(sort, sort.Count(), sorted, progress))
         return false;
     // `others` has room for all rows.
-    others.insert(descending ? others.begin() : others.end(), sorted.begin(), sorted.end());
+    others.insert(direction == SortDirection::Descending ? others.begin() : others.end(), sorted.begin(),
+                  sorted.end());
     sorted = std::move(others);
     return true;
 }
 
 } // namespace
 
-bool SortRows(const EntryTable& entries, const LogbookRows& rows, LogbookColumn column, bool descending,
-              LogbookRows& sorted, SortProgress& progress) {
+bool SortRows(const EntryTable& entries, const LogbookRows& rows, LogbookColumn column,
+              SortDirection direction, LogbookRows& sorted, SortProgress& progress) {
     switch (column) {
     case LogbookColumn::Event:
     case LogbookColumn::Sender:
     case LogbookColumn::Name:
-        return SortByKind(entries, rows, column, descending, sorted, progress);
+        return SortByKind(entries, rows, column, direction, sorted, progress);
     case LogbookColumn::Data:
-        return SortByData(entries, rows, descending, sorted, progress);
+        return SortByData(entries, rows, direction, sorted, progress);
     case LogbookColumn::Time:
-        return SortByTime(entries, rows, descending, sorted, progress);
+        return SortByTime(entries, rows, direction, sorted, progress);
     case LogbookColumn::Index:
-        return SortByIndex(entries, rows, descending, sorted, progress);
+        return SortByIndex(entries, rows, direction, sorted, progress);
     case LogbookColumn::Comment:
-        return SortByComment(entries, rows, descending, sorted, progress);
+        return SortByComment(entries, rows, direction, sorted, progress);
     }
     return false;
 }

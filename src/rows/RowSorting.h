@@ -3,6 +3,7 @@
 
 #include "filter/LogbookRow.h"
 #include "rows/LogbookColumns.h"
+#include "rows/SortDirection.h"
 #include "rows/SortProgress.h"
 
 // Stores the rows in the order of a column in `sorted`, which must be empty. Rows with the same key keep
@@ -10,5 +11,5 @@
 //
 // Sorts integers: entry numbers, seconds, ranks of kinds. Sorts texts only when they belong to single
 // entries.
-bool SortRows(const EntryTable& entries, const LogbookRows& rows, LogbookColumn column, bool descending,
-              LogbookRows& sorted, SortProgress& progress);
+bool SortRows(const EntryTable& entries, const LogbookRows& rows, LogbookColumn column,
+              SortDirection direction, LogbookRows& sorted, SortProgress& progress);

@@ -45,10 +45,11 @@ void MergeSort(std::span<Item> items, std::span<Item> scratch, Less less) {
 
 } // namespace
 
-TextSort::TextSort(const TextSource& texts, std::size_t mostNumbers, bool descending, SortProgress& progress)
+TextSort::TextSort(const TextSource& texts, std::size_t mostNumbers, SortDirection direction,
+                   SortProgress& progress)
     : texts_(texts),
       progress_(progress),
-      flip_(descending ? ~std::uint64_t{0} : 0),
+      flip_(direction == SortDirection::Descending ? ~std::uint64_t{0} : 0),
       first_(std::make_unique_for_overwrite<Item[]>(mostNumbers)),
       second_(std::make_unique_for_overwrite<Item[]>(mostNumbers)),
       items_(first_.get()),
@@ -189,7 +190,7 @@ void TextSort::SortByComparing(std::size_t begin, std::size_t end) {
 std::vector<std::uint32_t> RanksOf(std::span<const std::string_view> texts, int partOfRest,
                                    SortProgress& progress) {
     const TextList source(texts);
-    TextSort sort(source, texts.size(), false, progress);
+    TextSort sort(source, texts.size(), SortDirection::Ascending, progress);
     for (std::size_t i = 0; i < texts.size(); ++i)
         sort.Add(static_cast<std::uint32_t>(i));
     if (!sort.Sort(partOfRest))

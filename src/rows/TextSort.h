@@ -3,6 +3,7 @@
 
 #include "base/Prefetch.h"
 #include "rows/RadixSort.h"
+#include "rows/SortDirection.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -44,7 +45,8 @@ class TextList : public TextSource {
 // behind their common beginning.
 class TextSort {
   public:
-    TextSort(const TextSource& texts, std::size_t mostNumbers, bool descending, SortProgress& progress);
+    TextSort(const TextSource& texts, std::size_t mostNumbers, SortDirection direction,
+             SortProgress& progress);
 
     // At most `mostNumbers` times.
     void Add(std::uint32_t number) { items_[count_++].Number = number; }

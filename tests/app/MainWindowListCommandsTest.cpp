@@ -18,9 +18,9 @@ class MainWindowListCommandsTest : public MainWindowTest {
         Window->OpenLogbook(FileOfErrors(3));
         List()->selectRow(0);
         Book->Busy = true; // the keys are told, their commands wait
-        QSignalSpy remove(List(), &LogbookView::RemoveWanted);
+        QSignalSpy remove(List(), &LogbookView::RemoveFromListWanted);
         QSignalSpy open(List(), &LogbookView::PropertiesWanted);
-        QSignalSpy toggle(List(), &LogbookView::ToggleWanted);
+        QSignalSpy toggle(List(), &LogbookView::ToggleHighlightingWanted);
         QSignalSpy up(List(), &LogbookView::KeyUp);
         QTest::keyClick(List(), Qt::Key_Delete);
         QTest::keyClick(List(), Qt::Key_Return);
@@ -43,12 +43,12 @@ class MainWindowListCommandsTest : public MainWindowTest {
     void RowsAreTakenOutAtOnce() {
         Window->OpenLogbook(FileOfErrors(10));
         List()->SelectRanges({{0, 1}, {4, 6}, {9, 9}}, 4);
-        List()->RemoveRows(List()->SelectedRanges());
+        List()->RemoveFromList(List()->SelectedRanges());
         QCOMPARE(Column(1), QStringList({"2", "3", "7", "8"}));
         List()->selectAll();
-        List()->RemoveRows(List()->SelectedRanges());
+        List()->RemoveFromList(List()->SelectedRanges());
         QCOMPARE(List()->model()->rowCount(), 0);
-        List()->RemoveRows(List()->SelectedRanges());
+        List()->RemoveFromList(List()->SelectedRanges());
     }
 
     void RowBehindTheRemovedOnesIsSelectedAndShown() {

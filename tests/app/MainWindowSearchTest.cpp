@@ -260,7 +260,7 @@ class MainWindowSearchTest : public MainWindowTest {
         QTRY_COMPARE(Marks(), QString(".r..c"));
         Window->ApplyFilter();
         QTRY_COMPARE(Marks(), QString("c..r."));
-        List()->RemoveRows(List()->SelectedRanges());
+        List()->RemoveFromList(List()->SelectedRanges());
         QTRY_COMPARE(Marks(), QString("c..r"));
         const auto* viewer = Find<QWidget>("pbTagViewer");
         QTest::mouseClick(const_cast<QWidget*>(viewer), Qt::LeftButton, {},

@@ -55,7 +55,7 @@ class LogbookModelTest : public QObject {
         QCOMPARE(spoken(1), QString("Info"));
         model.SetLanguage({Language::German});
         QCOMPARE(spoken(0), QString("Fatal, markiert"));
-        model.SwitchHighlighting({{0, 1}});
+        model.ToggleHighlighting({{0, 1}});
         QCOMPARE(spoken(0), QString("Fatal"));
         QCOMPARE(spoken(1), QString("Info, markiert"));
         // The other cells say what they show.
@@ -85,7 +85,7 @@ class LogbookModelTest : public QObject {
         LogbookModel model(Result.Book.Entries, rows);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         SetRows(model, rows, {{0, 0}, {1, 1}});
-        model.TakeOutRows({{0, 0}});
+        model.RemoveFromList({{0, 0}});
         QCOMPARE(model.rowCount(), 1);
         QCOMPARE(Cells(model, 0).at(5), QString("1"));
     }

@@ -13,7 +13,9 @@ namespace {
 // Every test runs with tiny blocks, so that each seam between blocks is hit, and with the real ones.
 class clsFileTest : public testing::TestWithParam<std::size_t> {
   protected:
-    void Open(std::string_view content) { ASSERT_TRUE(File.OpenFile(Folder.Write("a.log", content), false)); }
+    void Open(std::string_view content) {
+        ASSERT_TRUE(File.OpenFile(Folder.Write("a.log", content), clsFile::IfEmpty::StayOpen));
+    }
 
     // The next line, and "+" or "-" for what ReadLine returned.
     std::string Next() {
@@ -172,7 +174,8 @@ TEST_P(clsFileTest, NextLineStartConsumesNothing) {
 TEST(clsFileMemory, BlockOfAKeptLineIsKeptBehindAPassingLine) {
     const TemporaryFolder folder;
     clsFile file(8);
-    ASSERT_TRUE(file.OpenFile(folder.Write("a.log", "a\nb\nxxxxxxxxxxxxxxxx\nc\n"), false));
+    ASSERT_TRUE(
+        file.OpenFile(folder.Write("a.log", "a\nb\nxxxxxxxxxxxxxxxx\nc\n"), clsFile::IfEmpty::StayOpen));
     std::string_view line;
     file.ReadLine(line); // the first block is read for it
     file.ReleaseLines();
@@ -245,21 +248,21 @@ TEST_P(clsFileTest, FileThatBecameShorterIsARunTimeError) {
 
 TEST(clsFileOpening, MissingFileIsFalse) {
     const TemporaryFolder folder;
-    EXPECT_FALSE(clsFile().OpenFile(folder / "missing.log", true));
-    EXPECT_FALSE(clsFile().OpenFile("", true));
+    EXPECT_FALSE(clsFile().OpenFile(folder / "missing.log", clsFile::IfEmpty::Close));
+    EXPECT_FALSE(clsFile().OpenFile("", clsFile::IfEmpty::Close));
 }
 
 TEST(clsFileOpening, FolderIsFalse) {
     const TemporaryFolder folder;
-    EXPECT_FALSE(clsFile().OpenFile(folder.Path().string(), true));
+    EXPECT_FALSE(clsFile().OpenFile(folder.Path().string(), clsFile::IfEmpty::Close));
 }
 
 TEST(clsFileOpening, EmptyFileIsFalseOnlyWhereItShallBeClosed) {
     const TemporaryFolder folder;
     const std::string path = folder.Write("empty.log", "");
-    EXPECT_FALSE(clsFile().OpenFile(path, true));
+    EXPECT_FALSE(clsFile().OpenFile(path, clsFile::IfEmpty::Close));
     clsFile file;
-    EXPECT_TRUE(file.OpenFile(path, false));
+    EXPECT_TRUE(file.OpenFile(path, clsFile::IfEmpty::StayOpen));
     EXPECT_TRUE(file.EndOfFile());
     std::string_view line;
     EXPECT_FALSE(file.ReadLine(line));
@@ -270,12 +273,12 @@ TEST(clsFileOpening, AnObjectOpensOneFileOnly) {
     const TemporaryFolder folder;
     const std::string path = folder.Write("a.log", "x");
     clsFile file;
-    EXPECT_TRUE(file.OpenFile(path, true));
-    EXPECT_FALSE(file.OpenFile(path, true));
+    EXPECT_TRUE(file.OpenFile(path, clsFile::IfEmpty::Close));
+    EXPECT_FALSE(file.OpenFile(path, clsFile::IfEmpty::Close));
     std::string_view line;
     EXPECT_TRUE(file.ReadLine(line));
     file.CloseFile();
-    EXPECT_FALSE(file.OpenFile(path, true));
+    EXPECT_FALSE(file.OpenFile(path, clsFile::IfEmpty::Close));
 }
 
 } // namespace

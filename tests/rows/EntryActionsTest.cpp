@@ -48,9 +48,9 @@ class EntryActions : public testing::Test {
         return texts;
     }
 
-    void Remove(const RowRanges& selected) { RemoveRows(Rows, RemoveFromList(Settings, Rows, selected)); }
+    void Remove(const RowRanges& selected) { RemoveFromList(Rows, RemoveFromList(Settings, Rows, selected)); }
     void Toggle(const RowRanges& selected) {
-        SwitchHighlighting(Rows, ToggleHighlighting(Settings, Rows, selected));
+        ToggleHighlighting(Rows, ToggleHighlighting(Settings, Rows, selected));
     }
 
     EntryTable Entries;

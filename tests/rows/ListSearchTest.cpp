@@ -29,7 +29,9 @@ std::vector<bool> EntriesThatMatch(const EntryTable& entries, const SearchState&
     return match;
 }
 
-std::int32_t RowByRow(const std::vector<bool>& match, const LogbookRows& rows, std::int32_t start, bool up) {
+std::int32_t RowByRow(const std::vector<bool>& match, const LogbookRows& rows, std::int32_t start,
+                      SearchDirection direction) {
+    const bool up = direction == SearchDirection::Up;
     const auto count = static_cast<std::int32_t>(rows.size());
     const std::int32_t step = up ? -1 : 1;
     for (std::int32_t row = start != 0 ? start + step : (up ? count : 1); row >= 1 && row <= count;
@@ -47,16 +49,15 @@ class FindInListTest : public testing::Test {
         Rows = AllRows(Entries);
     }
 
-    std::int32_t Find(std::int32_t start, std::string text, bool up) const {
-        return FindInList(Entries, Rows, start, {.SearchText = std::move(text)}, up);
+    std::int32_t Find(std::int32_t start, std::string text, SearchDirection direction) const {
+        return FindInList(Entries, Rows, start, {.SearchText = std::move(text)}, direction);
     }
 
     EntryTable Entries;
     LogbookRows Rows;
 };
 
-constexpr bool Up = true;
-constexpr bool Down = false;
+using enum SearchDirection;
 
 // Few rows match, and none for a long way: so that all entries are looked through.
 class LongListTest : public testing::Test {
@@ -179,12 +180,12 @@ TEST_F(LongListTest, FindsWhatATestOfEachRowFinds) {
     for (const SearchState& search : Searches()) {
         const std::vector<bool> match = EntriesThatMatch(Entries, search);
         for (const LogbookRows& rows : lists)
-            for (const bool up : {false, true})
+            for (const SearchDirection direction : {Down, Up})
                 for (const std::int32_t start : {0, static_cast<std::int32_t>(random() % rows.size() + 1)}) {
-                    const std::int32_t expected = RowByRow(match, rows, start, up);
-                    ASSERT_EQ(FindInList(Entries, rows, start, search, up), expected)
+                    const std::int32_t expected = RowByRow(match, rows, start, direction);
+                    ASSERT_EQ(FindInList(Entries, rows, start, search, direction), expected)
                         << search.SearchText << " " << search.SearchWholeWord << search.SearchCaseSensitive
-                        << " from " << start << (up ? " up" : " down");
+                        << " from " << start << (direction == Up ? " up" : " down");
                     ++(expected == -1 ? misses : hits);
                 }
     }

@@ -53,18 +53,20 @@ void Append(EntryTable& table, std::string_view data, std::string_view time,
 }
 
 // The cells of the column in the order of one sort of this direction.
-std::vector<std::string> Sorted(const EntryTable& entries, LogbookColumn column, bool descending = false) {
+std::vector<std::string> Sorted(const EntryTable& entries, LogbookColumn column,
+                                SortDirection direction = SortDirection::Ascending) {
     LogbookRows rows = AllRows(entries);
-    ListOrder order{-1, descending, {}};
+    ListOrder order{-1, direction, {}};
     EXPECT_TRUE(SortListByColumn(entries, rows, column, order));
     return Cells(entries, rows, column);
 }
 
-std::vector<std::string> SortedTimes(const std::vector<std::string>& times, bool descending = false) {
+std::vector<std::string> SortedTimes(const std::vector<std::string>& times,
+                                     SortDirection direction = SortDirection::Ascending) {
     EntryTable entries;
     for (const std::string& time : times)
         Append(entries, "", time);
-    return Sorted(entries, LogbookColumn::Time, descending);
+    return Sorted(entries, LogbookColumn::Time, direction);
 }
 
 // What the list compares: the text without its case, or the key that the column's rule makes of it.
@@ -88,9 +90,10 @@ std::vector<std::string> KeysOf(const EntryTable& entries, LogbookColumn column)
     return keys;
 }
 
-LogbookRows PlainlySorted(const std::vector<std::string>& keys, LogbookRows rows, bool descending) {
+LogbookRows PlainlySorted(const std::vector<std::string>& keys, LogbookRows rows, SortDirection direction) {
     std::stable_sort(rows.begin(), rows.end(), [&](const LogbookRow& a, const LogbookRow& b) {
-        return descending ? keys[b.Entry] < keys[a.Entry] : keys[a.Entry] < keys[b.Entry];
+        return direction == SortDirection::Descending ? keys[b.Entry] < keys[a.Entry]
+                                                      : keys[a.Entry] < keys[b.Entry];
     });
     return rows;
 }
@@ -173,13 +176,16 @@ TEST(ListSorting, ASecondClickOnAColumnInvertsTheOrderAndAnotherColumnKeepsIt) {
     ListOrder order;
     EXPECT_TRUE(SortListByColumn(entries, rows, LogbookColumn::Time, order));
     EXPECT_THAT(Numbers(rows), ElementsAre(1, 0, 2));
-    EXPECT_EQ(order, (ListOrder{NumberOf(LogbookColumn::Time), false, LogbookColumn::Time}));
+    EXPECT_EQ(order,
+              (ListOrder{NumberOf(LogbookColumn::Time), SortDirection::Ascending, LogbookColumn::Time}));
     EXPECT_TRUE(SortListByColumn(entries, rows, LogbookColumn::Time, order));
     EXPECT_THAT(Numbers(rows), ElementsAre(2, 0, 1));
-    EXPECT_EQ(order, (ListOrder{NumberOf(LogbookColumn::Time), true, LogbookColumn::Time}));
+    EXPECT_EQ(order,
+              (ListOrder{NumberOf(LogbookColumn::Time), SortDirection::Descending, LogbookColumn::Time}));
     EXPECT_TRUE(SortListByColumn(entries, rows, LogbookColumn::Index, order));
     EXPECT_THAT(Numbers(rows), ElementsAre(2, 1, 0));
-    EXPECT_EQ(order, (ListOrder{NumberOf(LogbookColumn::Index), true, LogbookColumn::Index}));
+    EXPECT_EQ(order,
+              (ListOrder{NumberOf(LogbookColumn::Index), SortDirection::Descending, LogbookColumn::Index}));
     EXPECT_TRUE(SortListByColumn(entries, rows, LogbookColumn::Index, order));
     EXPECT_THAT(Numbers(rows), ElementsAre(0, 1, 2));
 }
@@ -190,7 +196,7 @@ TEST(ListSorting, TheFirstColumnCountsAsSortedBeforeTheFirstSort) {
     LogbookRows rows = AllRows(entries);
     ListOrder order;
     EXPECT_TRUE(SortListByColumn(entries, rows, LogbookColumn::Event, order));
-    EXPECT_TRUE(order.Descending);
+    EXPECT_EQ(order.Direction, SortDirection::Descending);
     EXPECT_THAT(Cells(entries, rows, LogbookColumn::Event), ElementsAre("Warning", "Info"));
 }
 
@@ -215,7 +221,7 @@ TEST(ListSorting, TextsHaveNoCase) {
                         {Info, "a\xE4", "", ""},
                         {Info, "a", "", ""}});
     EXPECT_THAT(Sorted(entries, LogbookColumn::Data), ElementsAre("", "_", "A", "a", "aä", "b", "B", "Ä"));
-    EXPECT_THAT(Sorted(entries, LogbookColumn::Data, true),
+    EXPECT_THAT(Sorted(entries, LogbookColumn::Data, SortDirection::Descending),
                 ElementsAre("Ä", "b", "B", "aä", "A", "a", "_", ""));
 }
 
@@ -232,7 +238,8 @@ TEST(ListSorting, SendersAndNamesOfDifferentKindsMayBeTheSame) {
     EntryTable entries;
     FillTable(entries, {{Info, "0", "SYS", "b"}, {Info, "1", "PLC", "A"}, {Info, "2", "sys", "a"}});
     EXPECT_THAT(Sorted(entries, LogbookColumn::Sender), ElementsAre("PLC", "SYS", "sys"));
-    EXPECT_THAT(Sorted(entries, LogbookColumn::Sender, true), ElementsAre("SYS", "sys", "PLC"));
+    EXPECT_THAT(Sorted(entries, LogbookColumn::Sender, SortDirection::Descending),
+                ElementsAre("SYS", "sys", "PLC"));
     EXPECT_THAT(Sorted(entries, LogbookColumn::Name), ElementsAre("A", "a", "b"));
 }
 
@@ -254,7 +261,8 @@ TEST(ListSorting, CommentsAreTextsAndNoneComesFirst) {
 TEST(ListSorting, ATimeThatIsNoDateComesBeforeAllDates) {
     EXPECT_THAT(SortedTimes({"05.01.2010 00:00:00", "restart", "31.02.2010 12:00:00", "01.01.1970 00:00:00"}),
                 ElementsAre("restart", "31.02.2010 12:00:00", "01.01.1970 00:00:00", "05.01.2010 00:00:00"));
-    EXPECT_THAT(SortedTimes({"05.01.2010 25:00:00", "05.01.2010 00:00:00", "", "04.01.2010 00:00:00"}, true),
+    EXPECT_THAT(SortedTimes({"05.01.2010 25:00:00", "05.01.2010 00:00:00", "", "04.01.2010 00:00:00"},
+                            SortDirection::Descending),
                 ElementsAre("05.01.2010 00:00:00", "04.01.2010 00:00:00", "05.01.2010 25:00:00", ""));
 }
 
@@ -270,7 +278,8 @@ TEST(ListSorting, MillisecondsDoNotCount) {
     const std::vector<std::string> times{"04.01.2010 12:00:00.900", "04.01.2010 12:00:00.100",
                                          "04.01.2010 12:00:00", "04.01.2010 11:59:59.999"};
     EXPECT_THAT(SortedTimes(times), ElementsAre(times[3], times[0], times[1], times[2]));
-    EXPECT_THAT(SortedTimes(times, true), ElementsAre(times[0], times[1], times[2], times[3]));
+    EXPECT_THAT(SortedTimes(times, SortDirection::Descending),
+                ElementsAre(times[0], times[1], times[2], times[3]));
 }
 
 TEST(ListSorting, AStampOutsideTheDaysOfTheTableIsSortedToo) {
@@ -314,7 +323,7 @@ TEST(ListSorting, NoRowsAndOneRow) {
     EntryTable entries;
     FillTable(entries, {{Info, "a", "", ""}});
     for (int column = 0; column < LogbookColumnCount; ++column) {
-        ListOrder order{-1, false, {}};
+        ListOrder order{-1, SortDirection::Ascending, {}};
         LogbookRows none;
         EXPECT_TRUE(SortListByColumn(entries, none, static_cast<LogbookColumn>(column), order));
         EXPECT_TRUE(none.empty());
@@ -322,7 +331,7 @@ TEST(ListSorting, NoRowsAndOneRow) {
         LogbookRows one{{0, 1}};
         EXPECT_TRUE(SortListByColumn(entries, one, static_cast<LogbookColumn>(column), order));
         EXPECT_EQ(one, (LogbookRows{{0, 1}}));
-        EXPECT_TRUE(order.Descending);
+        EXPECT_EQ(order.Direction, SortDirection::Descending);
     }
     const EntryTable empty;
     LogbookRows none;
@@ -363,14 +372,15 @@ TEST_P(ListSortingAtRandom, SortsAsAPlainStableSortDoes) {
             row.Highlighted = random() % 2 != 0;
         for (int column = 0; column < LogbookColumnCount; ++column) {
             const std::vector<std::string> keys = KeysOf(entries, static_cast<LogbookColumn>(column));
-            for (const bool descending : {false, true})
+            for (const SortDirection direction : {SortDirection::Ascending, SortDirection::Descending})
                 for (const bool shuffled : {false, true}) {
                     LogbookRows sorted = shuffled ? Shuffled(rows, random) : rows;
-                    const LogbookRows expected = PlainlySorted(keys, sorted, descending);
-                    ListOrder order{-1, descending, {}};
+                    const LogbookRows expected = PlainlySorted(keys, sorted, direction);
+                    ListOrder order{-1, direction, {}};
                     ASSERT_TRUE(SortListByColumn(entries, sorted, static_cast<LogbookColumn>(column), order));
                     ASSERT_EQ(sorted, expected)
-                        << count << " entries, column " << column << (descending ? " descending" : "");
+                        << count << " entries, column " << column
+                        << (direction == SortDirection::Descending ? " descending" : "");
                 }
         }
     }
@@ -381,7 +391,7 @@ TEST_P(ListSortingAtRandom, TheHookHearsOfTheWayAndMayStopItAnywhere) {
     EntryTable entries;
     FillAtRandom(entries, 70000, GetParam(), random); // more than two calls of a pass over all
     const LogbookRows before = Shuffled(AllRows(entries), random);
-    const ListOrder orderBefore{NumberOf(LogbookColumn::Time), false, LogbookColumn::Time};
+    const ListOrder orderBefore{NumberOf(LogbookColumn::Time), SortDirection::Ascending, LogbookColumn::Time};
     for (int column = 0; column < LogbookColumnCount; ++column) {
         SCOPED_TRACE(column);
         LogbookRows rows = before;
@@ -420,12 +430,14 @@ TEST_P(ListSortingAtRandom, TheHookHearsOfTheWayAndMayStopItAnywhere) {
 
 TEST(SortedOrder, SortsCellsByTheSameRules) {
     const std::vector<std::string> texts{"b", "", "A", "B", "a"};
-    EXPECT_THAT(SortedOrder(texts, SortRule::Text, false), ElementsAre(1, 2, 4, 0, 3));
-    EXPECT_THAT(SortedOrder(texts, SortRule::Text, true), ElementsAre(0, 3, 2, 4, 1));
+    EXPECT_THAT(SortedOrder(texts, SortRule::Text, SortDirection::Ascending), ElementsAre(1, 2, 4, 0, 3));
+    EXPECT_THAT(SortedOrder(texts, SortRule::Text, SortDirection::Descending), ElementsAre(0, 3, 2, 4, 1));
     const std::vector<std::string> numbers{"10", "-1", "9", "x", "-2", "9.0"};
-    EXPECT_THAT(SortedOrder(numbers, SortRule::Number, false), ElementsAre(3, 2, 5, 0, 4, 1));
-    EXPECT_THAT(SortedOrder(numbers, SortRule::Number, true), ElementsAre(1, 4, 0, 2, 5, 3));
+    EXPECT_THAT(SortedOrder(numbers, SortRule::Number, SortDirection::Ascending),
+                ElementsAre(3, 2, 5, 0, 4, 1));
+    EXPECT_THAT(SortedOrder(numbers, SortRule::Number, SortDirection::Descending),
+                ElementsAre(1, 4, 0, 2, 5, 3));
     const std::vector<std::string> dates{"04.01.2010 12:00", "x", "05.01.2009", "12:00:00 04.01.2010"};
-    EXPECT_THAT(SortedOrder(dates, SortRule::Date, false), ElementsAre(1, 2, 0, 3));
-    EXPECT_THAT(SortedOrder({}, SortRule::Text, false), ElementsAre());
+    EXPECT_THAT(SortedOrder(dates, SortRule::Date, SortDirection::Ascending), ElementsAre(1, 2, 0, 3));
+    EXPECT_THAT(SortedOrder({}, SortRule::Text, SortDirection::Ascending), ElementsAre());
 }

@@ -53,7 +53,7 @@ TEST(RowRangesTest, TooManyRangesAreNone) {
 TEST(RowRangesTest, RowsAreTakenOutAndTheOthersKeepTheirOrder) {
     const auto without = [](const RowRanges& ranges) {
         LogbookRows rows = RowsOf({10, 11, 12, 13, 14});
-        RemoveRows(rows, ranges);
+        RemoveFromList(rows, ranges);
         return EntriesOf(rows);
     };
     EXPECT_THAT(without({}), ElementsAre(10, 11, 12, 13, 14));

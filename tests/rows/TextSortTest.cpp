@@ -11,12 +11,12 @@
 
 namespace {
 
-std::vector<std::uint32_t> Sorted(const std::vector<std::string>& texts, bool descending) {
+std::vector<std::uint32_t> Sorted(const std::vector<std::string>& texts, SortDirection direction) {
     const std::vector<std::string_view> views(texts.begin(), texts.end());
     const TextList source(views);
     const SortHook noHook;
     SortProgress progress(noHook);
-    TextSort sort(source, texts.size(), descending, progress);
+    TextSort sort(source, texts.size(), direction, progress);
     for (std::uint32_t i = 0; i < texts.size(); ++i)
         sort.Add(i);
     EXPECT_TRUE(sort.Sort(100));
@@ -32,13 +32,14 @@ void ExpectPlainOrder(const std::vector<std::string>& texts) {
     std::vector<std::string> folded;
     for (const std::string& text : texts)
         folded.push_back(FoldCase(text));
-    for (const bool descending : {false, true}) {
+    for (const SortDirection direction : {SortDirection::Ascending, SortDirection::Descending}) {
         std::vector<std::uint32_t> expected(texts.size());
         std::iota(expected.begin(), expected.end(), 0U);
         std::stable_sort(expected.begin(), expected.end(), [&](std::uint32_t a, std::uint32_t b) {
-            return descending ? folded[b] < folded[a] : folded[a] < folded[b];
+            return direction == SortDirection::Descending ? folded[b] < folded[a] : folded[a] < folded[b];
         });
-        EXPECT_EQ(Sorted(texts, descending), expected) << (descending ? "descending" : "ascending");
+        EXPECT_EQ(Sorted(texts, direction), expected)
+            << (direction == SortDirection::Descending ? "descending" : "ascending");
     }
 }
 
