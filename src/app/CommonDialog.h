@@ -9,7 +9,7 @@
 // form that Qt wants.
 QStringList NameFilters(const QString& filters);
 
-// Asks for one file to open or to save, in the dialog `dlgCommonDialog`. A file to save need not exist;
-// before one that does is replaced, the dialog asks. Nothing when it was cancelled.
+// Asks for one file to open or to save, in the dialog `dlgCommonDialog`. A file to save need not exist; if it
+// does, the dialog asks whether to replace it. Nothing when it was cancelled.
 std::optional<std::string> RunCommonDialog(const FileQuestion& question, QFileDialog::AcceptMode mode,
                                            Language language, QWidget* parent);

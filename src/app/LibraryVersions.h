@@ -5,6 +5,7 @@
 
 #include <vector>
 
-// The libraries that the program runs with, in the order of the about box; versions as the running libraries
-// tell them. Qt's parts are one with it; what only the command-line tool uses is not the window's.
+// The libraries that the window's program runs with, in the order of the about box, with the versions that
+// the running libraries report. The parts of Qt count as one. Libraries that only the command-line tool uses
+// are left out.
 std::vector<LibraryVersion> LibraryVersions();

@@ -22,7 +22,7 @@ class MainArea : public QWidget {
     static constexpr int Gap = 80;
     static constexpr int LowestList = 200;
 
-    // Places everything anew. Where the window is too low for the content pane, the list keeps its height.
+    // Places everything anew. If the window is too low for the content pane, the list keeps its height.
     void RecalculateLayout();
 
     // The height of the content pane after the gap was dragged from startY to y, all in twips; nothing when

@@ -16,7 +16,7 @@ class QPlainTextEdit;
 class WindowProgress;
 class WindowUser;
 
-// What of the window shows a document: the list, the content pane and the status bar.
+// The parts of the window that show a document: the list, the content pane and the status bar.
 class WindowDocument : public DocumentView {
   public:
     struct Parts {

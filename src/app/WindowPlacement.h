@@ -8,15 +8,15 @@ class QHeaderView;
 class QWidget;
 class Registry;
 
-// Where the main window stands: kept in the settings, in twips.
+// The place and size of the main window, which the settings keep in twips.
 class WindowPlacement {
   public:
-    // Places the window as it was left, or as much so as the screens that are there allow. One that no screen
-    // shows any more is brought back to the default place.
+    // Places the window as it was left, as far as the present screens allow. A window that no screen would
+    // show goes to the default place.
     void Load(const Registry& registry, QWidget& window);
 
-    // What the person did not change is stored as it was, also where the screens did not allow it. A
-    // maximised or minimised window keeps the normal place that is stored.
+    // Stores the place and size. Values that the person did not change stay stored as they were, also if the
+    // screens did not allow them. A maximised or minimised window keeps the normal place that is stored.
     void Save(Registry& registry, const QWidget& window) const;
 
   private:
@@ -25,6 +25,6 @@ class WindowPlacement {
     std::array<int, 4> shown_{};           // pixels
 };
 
-// How wide the columns of the main window's list are, in the same way.
+// The column widths of the main window's list, in the same way.
 void LoadColumnWidths(const Registry& registry, QHeaderView& header);
 void SaveColumnWidths(Registry& registry, const QHeaderView& header);

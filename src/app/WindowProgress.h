@@ -9,23 +9,23 @@
 class QProgressBar;
 class QWidget;
 
-// Reading in a window: the progress bar moves, the window stays alive, and closing it ends the read.
+// The progress of a read in a window: the bar moves, the window stays alive, and closing it ends the read.
 class WindowProgress : public ReadingProgress {
   public:
-    // `title` is that of its messages.
+    // Its messages have this title.
     WindowProgress(QWidget* window, QProgressBar* bar, QString title);
 
     void RequestStop() { stopRequested_ = true; }
 
     void SetValue(double percent) override;
 
-    // The same for a step that lets no events run: only the bar is painted.
+    // Sets the value in a step that must not process events: paints only the bar.
     void PaintValue(double percent);
 
-    // Passes over calls that follow the last one within a frame.
+    // Ignores calls that come within a frame's time of the last one.
     void ProcessPendingEvents() override;
 
-    // The same at any time: whether the window was closed until now is known afterwards.
+    // Processes events at once; afterwards it is known whether the window has been closed until now.
     void TakePendingEvents();
 
     bool StopWanted() const override { return stopRequested_; }

@@ -12,11 +12,10 @@ class LogbookView;
 class QWidget;
 class UserInterface;
 
-// Find, find next and find previous in the logbook list. What was searched for last is kept as long as this
-// lives.
+// Find, find next and find previous in the logbook list. Keeps the last search as long as it lives.
 //
-// A search begins beside the selected row and ends at the end of the list, which is then told. A hit is
-// selected alone and scrolled into view with three rows beyond it; without a hit the selection stays.
+// A search begins beside the selected row. If it reaches the end of the list, a message says so, and the
+// selection stays. A hit is selected alone and scrolled into view with three rows beyond it.
 class WindowSearch : public QObject {
     Q_OBJECT
 

@@ -10,11 +10,11 @@
 class QLabel;
 class QWidget;
 
-// Opening and saving in the window: message boxes, file dialogs, and the status text in the first panel of
-// the status bar.
+// The user of the window, who is asked by message boxes and file dialogs, and informed by them and by the
+// first panel of the status bar.
 class WindowUser : public UserInterface {
   public:
-    // `title` is that of its messages and questions.
+    // Its messages and questions have this title.
     WindowUser(QWidget* window, QLabel* statusText, QString title)
         : window_(window), statusText_(statusText), title_(std::move(title)) {}
 

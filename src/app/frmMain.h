@@ -38,8 +38,8 @@ class frmMain : public QMainWindow {
     // Places the window as the settings have it, and shows the document in it. Both must outlive the window.
     frmMain(LogbookDocument& document, Registry& registry);
 
-    // What happens once, when the window is on the screen: the command line is run, and the content pane is
-    // shown where it was shown when the program ended.
+    // Called once, when the window is on the screen. Runs the command line, and shows the content pane if it
+    // was shown when the program ended.
     void FirstActivation(const std::vector<std::string>& arguments);
 
     // As LogbookDocument has them. A read that the person wants to stop closes the window.

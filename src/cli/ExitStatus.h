@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// What a command tells whoever called it.
+// How a command ended.
 namespace ExitStatus {
 inline constexpr int Done = 0;
 inline constexpr int Failed = 1;

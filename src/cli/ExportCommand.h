@@ -3,6 +3,6 @@
 
 #include "cli/PrintedList.h"
 
-// Prints the list of a logbook, a row a line: all entries, or those that the filters let through. What goes
-// wrong is told on standard error; when the logbook cannot be read, nothing is printed.
+// Prints the list of a logbook, a row a line: all entries, or those that the filters let through. Reports
+// failures on standard error; when the logbook cannot be read, nothing is printed.
 int RunExport(const ListOptions& options);

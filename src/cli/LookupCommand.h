@@ -15,9 +15,9 @@ struct LookupOptions {
     Language TextLanguage;
 };
 
-// Adds the command, which fills the options when it is the one called.
+// Adds the command. When the user calls it, it fills the options.
 CLI::App* AddLookupCommand(CLI::App& app, LookupOptions& options);
 
 // Prints the comment that the program proposes for a data text of the list, with LF line ends and one more at
-// its end. Without one nothing is printed and the exit status is 1.
+// its end. When it proposes none, nothing is printed and the exit status is 1.
 int RunLookup(const LookupOptions& options);

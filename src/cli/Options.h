@@ -12,7 +12,7 @@ class Validator;
 
 // What the options of several commands have in common.
 
-// The option --language; `ofWhat` tells in the help what is in that language, as "Of messages".
+// The option --language. `ofWhat` says in the help what is in that language, for example "Of messages".
 void AddLanguageOption(CLI::App& command, Language& language, const std::string& ofWhat);
 
 // Refuses a name that is empty.

@@ -22,10 +22,10 @@ struct ListOptions {
     Language MessageLanguage;     // of messages on standard error
 };
 
-// Opens the logbook, makes the rows that its filters let through, and prints them, a row a line; with
-// `choose` those of them that it gives, and that there are none is a failure. Returns the exit status. What
-// goes wrong is reported on standard error; an output file is then as it was. Comments that cannot be read do
-// not count as that.
+// Opens the logbook, makes the rows that its filters let through, and prints them, a row a line. With
+// `choose` it prints the rows that `choose` returns; if there are none, the command fails. Returns the exit
+// status. Failures are reported on standard error; an output file then stays as it was. Comments that cannot
+// be read are reported, but are no failure.
 int PrintList(
     const ListOptions& options,
     const std::function<LogbookRows(const EntryTable& entries, const LogbookRows& rows)>& choose = {});

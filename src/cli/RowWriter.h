@@ -11,7 +11,7 @@
 struct RowForm {
     std::string Format = "jsonl";    // or "csv"; what follows is of CSV only
     char Separator = ',';            // of fields; or ";" or a TAB
-    bool ByteOrderMark = false;      // at the beginning, which tells some spreadsheets that this is UTF-8
+    bool ByteOrderMark = false;      // at the beginning; some spreadsheets need it to recognise UTF-8
     bool Raw = false;                // no guard against text that a spreadsheet would run
     bool ControlsAreVisible = false; // for a terminal, see logbook/VisibleControls.h; a TAB stays
 };
@@ -28,8 +28,10 @@ class RowWriter {
 // "jsonl": JSON Lines, one object a row, with U+007F to U+009F escaped like the other control characters.
 //
 // "csv": RFC 4180 with a header line. A text with any of the separators, a quotation mark or a line break
-// stands in quotation marks. A program may take another character for the separator than the one that the
-// file has, and begin a cell behind it, within a text: so unless Raw is set, an apostrophe stands before each
-// "=", "+", "-", "@", TAB and CR that a cell may begin with, at the beginning of a text and behind ";", ",",
-// TAB and line breaks, also where blanks, quotation marks or control characters are between.
+// stands in quotation marks.
+//
+// A spreadsheet may take a different character for the separator than the file has. It then begins a cell
+// within a text. So unless Raw is set, an apostrophe is put before each "=", "+", "-", "@", TAB and CR at
+// which a cell may begin: at the beginning of a text, and behind ";", ",", TAB and line breaks, also if only
+// blanks, quotation marks or control characters stand between.
 std::unique_ptr<RowWriter> MakeRowWriter(const RowForm& form);

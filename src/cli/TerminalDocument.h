@@ -9,22 +9,23 @@
 #include <string>
 #include <vector>
 
-// A document that a command works with. Options have answered what a person would be asked, and what goes
-// wrong is reported on standard error. The person's settings and comments that a crash left stay as they are.
+// The document that a command works with. Options answer the questions that a person would be asked. Failures
+// are reported on standard error. The person's settings, and comments that a crash left, stay as they are.
 class TerminalDocument : private DocumentView {
   public:
     struct Options {
-        std::vector<std::string> Files; // that the command is about: clearing up never removes them
+        std::vector<std::string> Files; // the command's own; clearing the temporary folder spares them
         std::vector<FilterDefinition> Filters = DefaultFilters(); // active until others take their place
         UserInterface::Answer ArchiveFilters;                     // whether those of an archive do
         Language MessageLanguage = {};
     };
     explicit TerminalDocument(Options options);
 
-    // Opens a source. False when that failed, which has then been reported; so has what else is missing.
+    // Opens a source. False when that failed. The failure has then been reported, and so has anything else
+    // that is missing.
     bool Open(const std::string& file, const FilesInstead& instead = {});
 
-    // Of the logbook that is open: whether its comments could be read, and whether there are rows.
+    // Whether the comments of the open logbook could be read, and whether its rows could be made.
     bool HasComments() const { return hasComments_; }
     bool HasRows() const { return hasRows_; }
 

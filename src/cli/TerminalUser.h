@@ -8,8 +8,8 @@
 
 #include <string>
 
-// Opening logbooks on a terminal: messages go to standard error, and the one question has been answered by an
-// option. What has no option is not agreed to.
+// The user of a terminal. Messages go to standard error. An option has answered the one question that is
+// asked; all others count as declined.
 class TerminalUser : public UserInterface {
   public:
     explicit TerminalUser(Answer answer) : answer_(answer) {}
@@ -35,8 +35,9 @@ class TerminalUser : public UserInterface {
     bool messageShown_ = false;
 };
 
-// Reading on a terminal: silent, ended by a signal or by a message to the user, after which the command
-// fails. Messages about what is read go to standard error, and the read goes on.
+// The progress of a read on a terminal, which is silent. A signal ends the read, and so does a message to the
+// user, after which the command fails. Messages about what is read go to standard error, and the read goes
+// on.
 class TerminalProgress : public ReadingProgress {
   public:
     // The user must outlive this.

@@ -9,7 +9,7 @@
 
 class Registry;
 
-// The active filters of a document, which decide what its rows are and go into its archives.
+// The active filters of a document. They decide which rows it has, and go into its archives.
 class ActiveFilters {
   public:
     virtual ~ActiveFilters() = default;
@@ -20,15 +20,15 @@ class ActiveFilters {
     virtual bool Replace(std::vector<FilterDefinition> filters, Language language) = 0;
 };
 
-// The filters of the person's settings: what the person changes in the filter dialog or in the list is active
-// at once.
+// The filters of the person's settings. Changes that the person makes in the filter dialog or in the list are
+// active at once.
 class StoredActiveFilters : public ActiveFilters {
   public:
     // The settings must outlive this.
     explicit StoredActiveFilters(Registry& registry) : registry_(registry) {}
 
     std::vector<FilterDefinition> Load() const override;
-    // A filter too long for the settings cannot be kept: it would take the whole list with it.
+    // A filter that is too long for the settings cannot be kept: the whole list would be lost with it.
     bool Replace(std::vector<FilterDefinition> filters, Language language) override;
 
   private:

@@ -5,13 +5,13 @@
 #include "settings/Language.h"
 #include "settings/UserInterface.h"
 
-// The decisions of a person, who is asked.
+// Asks a person for the decisions.
 class ArchiveQuestions : public ArchiveDecisions {
   public:
     ArchiveQuestions(UserInterface& user, Language language) : user_(user), language_(language) {}
 
-    // A name without the archive's extension gets it. Before that replaces a file that the dialog did not
-    // know of, the person is asked.
+    // A name without the archive's extension gets it. If a file of the longer name exists, which the dialog
+    // did not know of, the person is asked before it is replaced.
     std::optional<std::string> Archive(const std::string& folder, const std::string& name) override;
     OldComments DecideOn(const ArchivedComments& lost, bool changedByOthers) override;
     bool AgreesToLosses(std::string_view losses) override;

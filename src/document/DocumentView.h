@@ -14,8 +14,8 @@
 #include <string_view>
 #include <system_error>
 
-// Who shows a LogbookDocument. The document asks the person through it, and reports what becomes of the
-// logbook. What a view does not show it need not answer.
+// Shows a LogbookDocument. Through it the document asks the person, and reports what happens to the logbook.
+// A view overrides only the reports that it shows.
 class DocumentView {
   public:
     virtual ~DocumentView() = default;
@@ -27,10 +27,9 @@ class DocumentView {
     // The logbook with this bare name is open.
     virtual void LogbookIsOpen(std::string_view) {}
 
-    // A read in the order of its steps. When it begins, the rows and comments of the logbook before are gone.
-    // LogbookIsRead gives the name of the file; it does not come for a file that could not be read.
-    // MessageFollows comes where messages are about to be shown; whether the person wants the read to stop is
-    // asked behind it.
+    // The steps of a read, in their order. When it begins, the rows and comments of the previous logbook are
+    // gone. LogbookIsRead has the name of the file; it is left out for a file that could not be read.
+    // MessageFollows precedes messages; after it the document asks whether the person wants the read to stop.
     virtual void ReadingBegins() {}
     virtual void LogbookIsRead(std::string_view) {}
     virtual void ReadingEnds() {}
@@ -41,32 +40,31 @@ class DocumentView {
     virtual void FilteringEnds() {}
     virtual void FilterProgress(double) {} // percent
 
-    // What went wrong. These come when the read or the run has ended, and the person does not want it to
-    // stop. ReadingFailed has one of LoadStates; after a run that FilteringFailed reports, it comes only for
-    // a read.
-    virtual void CommentsFailed(const std::string&, const CommentsFileResult&) {} // the name of their file
+    // Failures. They are reported after the read or the filter run has ended, and not when the person wanted
+    // it to stop. ReadingFailed has one of LoadStates. A read whose filter run failed reports both.
+    virtual void CommentsFailed(const std::string&, const CommentsFileResult&) {} // with their file's name
     virtual void FilteringFailed() {}
     virtual void ReadingFailed(std::int16_t) {}
 
-    // Whether a logbook that was read, and whose rows could not be made, counts as open.
+    // Whether a logbook counts as open if it was read but its rows could not be made.
     virtual bool OpensWithoutRows() const { return false; }
 
-    // How many rows there are, after either.
+    // Shows how many rows there are, after a read or a filter run.
     virtual void ShowCounts() {}
 
-    // Changes the rows; they may be shown before and after, not during the change.
+    // Calls `change`, which changes the rows. During the call the view must not show them.
     virtual void ChangeRows(const std::function<void()>& change) { change(); }
 
     // The entry of the selected row, and the row (from 0) to select instead of it after a filter run.
     virtual std::optional<EntryNumber> SelectedEntry() const { return std::nullopt; }
     virtual void SelectRow(std::size_t) {}
 
-    // How far an archive has been written, in percent; 0 when that has ended.
+    // How much of an archive has been written, in percent; 0 when the writing has ended.
     virtual void PackingProgress(double) {}
 
     // Comments of any entries have changed.
     virtual void CommentsAreChanged() {}
 
-    // Whether comments that are not saved would survive a crash; the error says why not.
+    // Whether unsaved comments would survive a crash; the error says why they would not.
     virtual void CommentsAreSafe(std::error_code) {}
 };

@@ -18,31 +18,31 @@
 #include <string>
 #include <vector>
 
-// Files that take the place of those that a source carries; "" = those of the source.
+// Files to use instead of those that a source carries; "" = those of the source.
 struct FilesInstead {
     std::string Comments = {};
     std::string Filters = {};
 };
 
-// One logbook as a person works with it: the entries, the rows that the filters let through, the comments,
-// where all of it came from, and what a crash must not take.
+// One logbook as a person works with it: its entries, the rows that the filters let through, its comments,
+// its source, and the journal that saves unsaved comments from a crash.
 //
-// While it is busy, which Book().Busy says, it carries out no other order.
+// While Book().Busy is set, it carries out no other order.
 class LogbookDocument {
   public:
     // What a document works with; all of it must outlive the document.
     struct Surroundings {
         ActiveFilters& Filters;
-        Registry& Settings; // has the folders of the last logbook and the last archive
+        Registry& Settings; // which hold the folders of the last logbook and the last archive
         const TempFolder& Temp;
     };
 
-    // Comments are noted in `journalFolder` until they are saved; with "" they are not, and no lost ones are
-    // offered. Texts without a code page of their own have `codePage`.
+    // Notes comments in `journalFolder` until they are saved. If that is "", it notes none, and offers no
+    // lost ones. `codePage` is that of texts which do not name their own.
     LogbookDocument(Surroundings surroundings, CodePage codePage,
                     std::filesystem::path journalFolder = StateFolder());
 
-    // Who shows the document from now on. There must be one before the first order.
+    // Shows the document in this view from now on. Must be called before the first order.
     void ShowIn(DocumentView& view) { view_ = &view; }
 
     const Logbook& Book() const { return logbook_; }
@@ -52,38 +52,38 @@ class LogbookDocument {
     const LogbookRows& Rows() const { return rows_; }
     const CodePage& FileCodePage() const { return codePage_; }
 
-    // Opens the logbooks that a command line names, one after the other, each in place of the one before; the
-    // last that opens stays. Shows the usage where the command line asks for it.
+    // Opens the logbooks that a command line names one after the other; each replaces the one before. Shows
+    // the usage if the command line asks for it.
     void RunCommandLine(const std::vector<std::string>& arguments);
 
-    // Opens one source: a logbook file, a service archive or an own archive; "" asks for it. Before edited
-    // comments go, the person is asked about them. False when the person cancelled or the read was left
-    // unfinished.
+    // Opens one source: a logbook file, a service archive or an own archive; with "" it asks the person
+    // which. Before edited comments are dropped, it asks about them. False when the person cancelled or the
+    // read was left unfinished.
     bool OpenLogbook(std::string name, const FilesInstead& instead = {});
 
-    // Reads the logbook file again, without the comments; the person is asked about edited ones first.
+    // Reads the logbook file again, without the comments. Asks about edited ones first.
     void Refresh();
 
-    // Reads a logbook file with its comments ("" = none), which messages call by a name, and makes the rows.
-    // False when a run-time error left it unfinished, which the view has then been told, or when the person
-    // wants it to stop. A file that cannot be opened gives no rows.
+    // Reads a logbook file and its comments file ("" = none), and makes the rows. Messages call the comments
+    // file by `commentsName`. False when a run-time error, which is then reported to the view, or the person
+    // ended it. A file that cannot be opened gives no rows.
     bool ReadAndShowLogbook(const std::string& file, const std::string& commentsFile,
                             const std::string& commentsName = {});
 
-    // Makes the rows anew with the active filters, and selects the row of the entry that was selected, or the
-    // next one. The rows are then in entry order.
+    // Makes the rows anew with the active filters, in entry order. Selects the row of the entry that was
+    // selected or, if that is gone, the next one.
     void ApplyFilter();
 
     // Sets the comment (UTF-8) of an entry, "" removes it, and notes it.
     void ChangeComment(EntryNumber entry, std::string_view comment);
 
-    // Saves the logbook with its comments and the active filters as an archive; true when it did. Without
-    // decisions of its own the person is asked. See ZipLogbook.h.
+    // Saves the logbook with its comments and the active filters as an archive; true when it did. The first
+    // one asks the person for the decisions. See ZipLogbook.h.
     bool ZipLogbook();
     bool ZipLogbook(ArchiveDecisions& decisions);
 
-    // Asks about edited comments before the document goes; false when the person wants to stay. Where saving
-    // them did not succeed the document may go all the same: they stay in the journal.
+    // Asks about edited comments before the document is closed; false when the person wants to stay. If
+    // saving them failed, the document may be closed all the same: they stay in the journal.
     bool Close();
 
     // Stores in the settings what the document knows of folders.

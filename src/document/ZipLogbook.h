@@ -13,12 +13,12 @@
 
 enum class ZipOutcome : std::uint8_t {
     Saved,
-    SavedWithMore, // comments of the archive that was replaced are now those of the entries, too
+    SavedWithMore, // and the entries now have the kept comments of the archive that was replaced
     Cancelled,
     Failed,
 };
 
-// What saves the logbook that is shown, besides its state.
+// What saving needs besides the state of the logbook.
 struct ZipLogbookParts {
     EntryTable& Entries;
     std::span<const FilterDefinition> Filters; // the active ones
@@ -28,16 +28,17 @@ struct ZipLogbookParts {
     std::string ProgramFolder; // with its trailing separator
 };
 
-// Saves the logbook that is shown, with its comments and the active filters, as the archive that is decided
-// on; the folder of the last one is proposed. Before there is one, which the program's folder stands for,
-// that is the logbook's own folder, unless it is the temporary one. ArchiveDecisions names what else is
-// decided before anything is written. A failure is reported with its reason; an archive of that name is then
+// Saves the logbook that is shown, with its comments and the active filters, as an archive. All decisions are
+// made before anything is written. A failure is reported with its reason; an archive of that name then stays
 // as it was.
 //
-// Comments of an archive of that name that are kept become those of the entries, too. Without Saved the
-// entries have the comments that they had.
+// It proposes the folder of the last archive. As long as there was none, which the program's folder stands
+// for, it proposes the logbook's own folder, unless that is the temporary one.
 //
-// Saved: no comments are edited any more, and the archive's folder is stored. Without a logbook nothing
-// happens: Cancelled.
+// The entries get the comments that are kept of a replaced archive. If nothing was saved, they have the
+// comments that they had.
+//
+// When it has saved, no comments count as edited any more, and the archive's folder is stored. Without a
+// logbook it does nothing and returns Cancelled.
 ZipOutcome ZipLogbook(LogbookState& state, const ZipLogbookParts& parts, ArchiveDecisions& decisions,
                       UserInterface& user, Language language, const PackingProgress& progress = {});
