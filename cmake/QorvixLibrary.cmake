@@ -12,3 +12,9 @@ function(qorvix_library name)
     qorvix_use_precompiled(${name} core)
   endif()
 endfunction()
+
+# qorvix_compile_alone(FILES...): sources with local names that others of their target use as well. A build that compiles a
+# target's sources together (CMAKE_UNITY_BUILD) leaves them apart.
+function(qorvix_compile_alone)
+  set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+endfunction()

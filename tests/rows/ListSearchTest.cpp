@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "rows/ListSearch.h"
 
+#include "support/AllRows.h"
 #include "support/EntriesFrom.h"
 
 #include <gtest/gtest.h>
@@ -12,13 +13,6 @@
 #include <vector>
 
 namespace {
-
-LogbookRows AllRows(const EntryTable& entries) {
-    LogbookRows rows;
-    for (EntryNumber number = 0; number < entries.Count(); ++number)
-        rows.push_back({.Entry = number & MostEntries, .Highlighted = 0});
-    return rows;
-}
 
 // What a test of each entry finds, by entry number.
 std::vector<bool> EntriesThatMatch(const EntryTable& entries, const SearchState& search) {

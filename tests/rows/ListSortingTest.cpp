@@ -2,6 +2,7 @@
 #include "rows/ListSorting.h"
 
 #include "base/CaseFolding.h"
+#include "support/AllRows.h"
 #include "support/EntriesFrom.h"
 
 #include <gmock/gmock.h>
@@ -16,13 +17,6 @@ using testing::ElementsAre;
 constexpr std::int16_t Info = EventTypes::Info;
 
 std::int16_t NumberOf(LogbookColumn column) { return static_cast<std::int16_t>(column); }
-
-LogbookRows AllRows(const EntryTable& entries) {
-    LogbookRows rows;
-    for (EntryNumber number = 0; number < entries.Count(); ++number)
-        rows.push_back({number & MostEntries, 0});
-    return rows;
-}
 
 LogbookRows Shuffled(LogbookRows rows, std::mt19937& random) {
     std::shuffle(rows.begin(), rows.end(), random);
