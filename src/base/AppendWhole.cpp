@@ -5,6 +5,7 @@
 #include "base/SystemFile.h"
 
 #include <cstdlib>
+#include <new>
 #include <string>
 
 #include <fcntl.h>
@@ -32,7 +33,14 @@ FileHandle MakeFileToAppend(std::filesystem::path& name, std::error_code& error)
     errno = 0;
     FileHandle file = SystemFile::Handle(::mkostemp(chosen.data(), O_APPEND | O_CLOEXEC));
     error = file.IsOpen() ? std::error_code() : LastError();
-    name = chosen;
+    try {
+        name = chosen;
+    } catch (const std::bad_alloc&) {
+        // Nobody would know the file.
+        if (file.IsOpen())
+            ::unlink(chosen.c_str());
+        throw;
+    }
     return file;
 }
 

@@ -87,11 +87,12 @@ std::error_code AtomicFile::Commit() {
         return error_ = LastError();
     if (error_ = Finish(part_.Path, target_); error_)
         return error_;
+    const std::filesystem::path folder = target_.parent_path();
     std::filesystem::rename(part_.Path, target_, error_);
     if (error_)
         return error_;
     part_.Path.clear();
-    FlushFolder(target_.parent_path());
+    FlushFolder(folder);
     return {};
 }
 

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "base/Paths.h"
 
+#include "base/LastError.h"
+
 #include <fstream>
+#include <new>
+#include <system_error>
 
 namespace {
 constexpr std::string_view PathSeparators = "\\/";
@@ -18,22 +22,13 @@ void SplitPath(std::string_view path, std::string& folder, std::string& fileName
 
 bool FileExists(const std::string& path) {
     std::error_code error;
-    return std::filesystem::is_regular_file(ToPath(path), error) &&
-           std::ifstream(ToPath(path), std::ios::binary).is_open();
-}
-
-std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder, std::error_code& error) {
-    std::vector<std::filesystem::path> items;
-    const std::filesystem::directory_iterator end;
-    for (std::filesystem::directory_iterator item(folder, error); !error && item != end;
-         item.increment(error))
-        items.push_back(item->path());
-    return items;
-}
-
-std::vector<std::filesystem::path> ItemsIn(const std::filesystem::path& folder) {
-    std::error_code ignored;
-    return ItemsIn(folder, ignored);
+    if (!std::filesystem::is_regular_file(ToPath(path), error))
+        return false;
+    errno = 0;
+    const bool opens = std::ifstream(ToPath(path), std::ios::binary).is_open();
+    if (!opens && LastError() == std::errc::not_enough_memory)
+        throw std::bad_alloc();
+    return opens;
 }
 
 bool LiesIn(const std::filesystem::path& path, const std::filesystem::path& folder) {

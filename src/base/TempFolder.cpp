@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
+#include <new>
 #include <random>
 #include <string>
 #include <string_view>
@@ -68,8 +69,12 @@ TempFolder::TempFolder(const std::filesystem::path& parent, const std::vector<st
 
 TempFolder::~TempFolder() {
     // Another copy may have made a folder of that name since this one's was removed.
-    if (mark_ && mark_->IsThere())
-        mark_->Remove();
+    try {
+        if (mark_ && mark_->IsThere())
+            mark_->Remove();
+    } catch (const std::bad_alloc&) {
+        // The next copy of the program that starts removes it.
+    }
 }
 
 void TempFolder::RemoveLeft(const std::vector<std::string>& kept) const {
@@ -130,8 +135,12 @@ std::filesystem::path TempFolder::MakeSubfolder() const {
 }
 
 void TempFolder::RemoveSubfolder(const std::filesystem::path& folder) const {
-    if (mark_ && !folder.empty())
-        mark_->RemoveFolder(NameIn(path_, folder) + '/');
+    try {
+        if (mark_ && !folder.empty())
+            mark_->RemoveFolder(NameIn(path_, folder) + '/');
+    } catch (const std::bad_alloc&) {
+        // What is left is still noted.
+    }
 }
 
 bool TempFolder::IsForeign(const std::filesystem::path& file) const {

@@ -33,7 +33,7 @@ class TempFolder {
     // folder itself had to be made again, Path gives its new name.
     std::filesystem::path MakeSubfolder() const;
 
-    // Removes such a folder with what was noted in it.
+    // Removes such a folder with what was noted in it; without memory, what is left of it goes in the end.
     void RemoveSubfolder(const std::filesystem::path& folder) const;
 
     // Notes files in the folder before they are made, so that they are removed in the end. False when one

@@ -10,12 +10,21 @@
 #include <nlohmann/json.hpp>
 
 #include <array>
+#include <new>
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace {
 
-std::string Line(const nlohmann::json& value) {
-    return value.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace) + '\n';
+// A text as JSON. Not more than a text is given to the library: the destructor of a JSON object needs memory,
+// and ends the program where there is none.
+std::string Quoted(std::string_view text) {
+    return nlohmann::json(text).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
+std::string CommentLine(EntryNumber number, std::string_view comment) {
+    return "{\"comment\":" + Quoted(comment) + ",\"entry\":" + std::to_string(number) + "}\n";
 }
 
 } // namespace
@@ -25,17 +34,35 @@ CommentJournal::CommentJournal(std::filesystem::path folder) : folder_(std::move
 CommentJournal::~CommentJournal() = default;
 
 std::error_code CommentJournal::Note(const EntryTable& entries, std::span<const EntryNumber> numbers) {
+    const std::error_code noMemory = std::make_error_code(std::errc::not_enough_memory);
+    try {
+        Remember(numbers);
+        if (const std::error_code error = NoteRemembered(entries))
+            return error;
+    } catch (const std::bad_alloc&) {
+        return noMemory;
+    }
+    return forgotSome_ ? noMemory : std::error_code();
+}
+
+void CommentJournal::Remember(std::span<const EntryNumber> numbers) {
+    const bool forgotBefore = std::exchange(forgotSome_, true);
     entered_.insert(numbers.begin(), numbers.end());
     toNote_.insert(numbers.begin(), numbers.end());
+    forgotSome_ = forgotBefore;
+}
+
+std::error_code CommentJournal::NoteRemembered(const EntryTable& entries) {
     if (!IsNameOf(name_, file_)) {
         file_.Close();
+        std::set<EntryNumber> all = entered_;
         if (const std::error_code error = Begin(entries))
             return error;
-        toNote_ = entered_;
+        toNote_.swap(all);
     }
     std::string lines;
     for (const EntryNumber number : toNote_)
-        lines += Line({{"entry", number}, {"comment", entries.Comment(number)}});
+        lines += CommentLine(number, entries.Comment(number));
     // Half a line would spoil the next one, too.
     const std::error_code error = AppendWhole(file_, lines);
     if (!error)
@@ -44,9 +71,9 @@ std::error_code CommentJournal::Note(const EntryTable& entries, std::span<const 
 }
 
 void CommentJournal::Keep(std::vector<LostJournal> journals, std::span<const EntryNumber> restored) {
+    entered_.insert(restored.begin(), restored.end());
     kept_ = std::move(journals);
     restored_ = !restored.empty();
-    entered_.insert(restored.begin(), restored.end());
 }
 
 void CommentJournal::Saved() { End(KeptJournals::Go); }
@@ -64,6 +91,7 @@ void CommentJournal::End(KeptJournals kept) {
     restored_ = false;
     entered_.clear();
     toNote_.clear();
+    forgotSome_ = false;
 }
 
 void CommentJournal::RemoveFile() {
@@ -82,13 +110,13 @@ std::error_code CommentJournal::Begin(const EntryTable& entries) {
     const std::array<EntryNumber, 2> counts{count == 0 ? 0 : count - 1, count};
     const std::vector<std::string> sums = ChecksumsOfBeginnings(entries, counts);
     const std::string last = count == 0 ? std::string() : ChecksumOfEntry(entries, count - 1);
-    const std::string header =
-        Line({{"butLast", sums[0]}, {"entries", count}, {"last", last}, {"whole", sums[1]}});
+    const std::string header = "{\"butLast\":" + Quoted(sums[0]) + ",\"entries\":" + std::to_string(count) +
+                               ",\"last\":" + Quoted(last) + ",\"whole\":" + Quoted(sums[1]) + "}\n";
     std::filesystem::path name = folder_ / JournalNamePattern();
     file_ = MakeFileToAppend(name, error);
     if (error)
         return error;
-    name_ = name;
+    name_ = std::move(name);
     // Where the disk has no locks, the name shows others that the file is in use.
     const LockOutcome lock = TryLock(file_);
     if (lock == LockOutcome::Held || lock == LockOutcome::Unsupported)

@@ -37,11 +37,13 @@ class CommentJournal {
     // Notes the present comments of these entries, and flushes them to the disk. The first comments of a
     // logbook make the file, which costs one pass over the whole logbook. The error says why the comments are
     // not safe; the next call then tries to note them again. If somebody has removed the file, this makes it
-    // again with all comments.
+    // again with all comments. If there is no memory even to remember the numbers, this and all further calls
+    // fail until the comments are saved or dropped.
     std::error_code Note(const EntryTable& entries, std::span<const EntryNumber> numbers);
 
     // Holds journals of this logbook that a crash left, until their comments are saved. The comments of
-    // `restored`, which came from them, are noted again when the file is made.
+    // `restored`, which came from them, are noted again when the file is made. Without memory it throws, and
+    // holds none.
     void Keep(std::vector<LostJournal> journals, std::span<const EntryNumber> restored);
 
     // The comments have been saved: removes all journals that hold any. The next Note makes a new one.
@@ -55,6 +57,8 @@ class CommentJournal {
     const std::filesystem::path& Folder() const { return folder_; }
 
   private:
+    void Remember(std::span<const EntryNumber> numbers);
+    std::error_code NoteRemembered(const EntryTable& entries);
     std::error_code Begin(const EntryTable& entries);
     void RemoveFile();
     enum class KeptJournals : std::uint8_t { Go, Stay };
@@ -66,5 +70,6 @@ class CommentJournal {
     std::set<EntryNumber> entered_; // whose comments are neither saved nor declined
     std::set<EntryNumber> toNote_;  // of these, those not yet in the file
     std::vector<LostJournal> kept_;
-    bool restored_ = false; // the entries now have the comments of the kept journals
+    bool forgotSome_ = false; // the file may lack comments that entered_ does not name
+    bool restored_ = false;   // the entries now have the comments of the kept journals
 };

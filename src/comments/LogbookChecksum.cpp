@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <new>
 #include <string_view>
 #include <tuple>
 #include <utility>
@@ -17,7 +18,11 @@ namespace {
 // code page of the day.
 class Checksum {
   public:
-    Checksum() : state_(XXH3_createState(), XXH3_freeState) { XXH3_128bits_reset(state_.get()); }
+    Checksum() : state_(XXH3_createState(), XXH3_freeState) {
+        if (!state_)
+            throw std::bad_alloc();
+        XXH3_128bits_reset(state_.get());
+    }
 
     void Add(const void* bytes, std::size_t count) { XXH3_128bits_update(state_.get(), bytes, count); }
 

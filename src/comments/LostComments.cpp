@@ -7,43 +7,83 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cstdint>
 #include <fstream>
 #include <optional>
+#include <utility>
 
 namespace {
-
-using Json = nlohmann::json;
 
 // The most journals to offer: each is held, and a process has some hundred handles. The rest are offered the
 // next time.
 constexpr std::size_t MostJournals = 200;
 
-std::optional<EntryNumber> NumberIn(const Json& line, const char* name) {
-    const auto member = line.find(name);
-    if (member == line.end() || !member->is_number_unsigned() || member->get<std::uint64_t>() > MostEntries)
-        return std::nullopt;
-    return static_cast<EntryNumber>(member->get<std::uint64_t>());
-}
+// The numbers and texts in a line. A line of a journal has no nested values, and the reading of one that has
+// ends there, so that no file can exhaust the stack. Not read into the library's own values: their destructor
+// needs memory, and ends the program where there is none.
+class JournalLine : public nlohmann::json_sax<nlohmann::json> {
+  public:
+    // A line that is no such object has no members.
+    explicit JournalLine(const std::string& text) {
+        if (!nlohmann::json::sax_parse(text, this)) {
+            numbers_.clear();
+            texts_.clear();
+        }
+    }
 
-std::optional<std::string> TextIn(const Json& line, const char* name) {
-    const auto member = line.find(name);
-    return member != line.end() && member->is_string() ? std::optional(member->get<std::string>())
-                                                       : std::nullopt;
-}
+    std::optional<EntryNumber> Number(const char* name) const {
+        const auto member = numbers_.find(name);
+        return member == numbers_.end() || member->second > MostEntries
+                   ? std::nullopt
+                   : std::optional(static_cast<EntryNumber>(member->second));
+    }
 
-// The next whole line; a discarded value at the end of the file. A line of a journal has no nested values: a
-// nested line is ignored, so that no file can exhaust the stack.
-Json NextLine(std::istream& stream) {
+    std::optional<std::string> Text(const char* name) const {
+        const auto member = texts_.find(name);
+        return member == texts_.end() ? std::nullopt : std::optional(member->second);
+    }
+
+    bool key(std::string& name) override {
+        name_ = std::move(name);
+        numbers_.erase(name_);
+        texts_.erase(name_);
+        return true;
+    }
+    bool number_unsigned(std::uint64_t number) override {
+        numbers_[name_] = number;
+        return inObject_;
+    }
+    bool string(std::string& text) override {
+        texts_[name_] = std::move(text);
+        return inObject_;
+    }
+    bool start_object(std::size_t) override { return !std::exchange(inObject_, true); }
+    bool start_array(std::size_t) override { return false; }
+
+    bool null() override { return true; }
+    bool boolean(bool) override { return true; }
+    bool number_integer(std::int64_t) override { return true; }
+    bool number_float(double, const std::string&) override { return true; }
+    bool binary(nlohmann::json::binary_t&) override { return true; }
+    bool end_object() override { return true; }
+    bool end_array() override { return true; }
+    bool parse_error(std::size_t, const std::string&, const nlohmann::json::exception&) override {
+        return false;
+    }
+
+  private:
+    bool inObject_ = false;
+    std::string name_; // of the value that follows
+    std::map<std::string, std::uint64_t> numbers_;
+    std::map<std::string, std::string> texts_;
+};
+
+// The next whole line; nothing at the end of the file, and where the stream is bad from now on.
+std::optional<JournalLine> NextLine(std::istream& stream) {
     std::string text;
     if (!std::getline(stream, text) || stream.eof())
-        return Json(Json::value_t::discarded);
-    bool nested = false;
-    const auto watchDepth = [&](int depth, Json::parse_event_t, Json&) {
-        nested = nested || depth > 1;
-        return !nested;
-    };
-    Json line = Json::parse(text, watchDepth, false);
-    return !nested && line.is_object() ? std::move(line) : Json::object();
+        return std::nullopt;
+    return JournalLine(text);
 }
 
 // The logbook that a journal belongs to. Journals of version 0.1 identify it by one checksum of the whole.
@@ -57,14 +97,12 @@ struct JournalHeader {
 
 // Nothing when the next line is no header.
 std::optional<JournalHeader> ReadHeader(std::istream& stream) {
-    const Json line = NextLine(stream);
-    if (!line.is_object())
-        return std::nullopt;
-    const std::optional<EntryNumber> entries = NumberIn(line, "entries");
+    const std::optional<JournalLine> line = NextLine(stream);
+    const std::optional<EntryNumber> entries = line ? line->Number("entries") : std::nullopt;
     if (!entries || *entries == 0)
         return std::nullopt;
-    return JournalHeader{*entries, TextIn(line, "whole"), TextIn(line, "butLast"), TextIn(line, "last"),
-                         TextIn(line, "logbook")};
+    return JournalHeader{*entries, line->Text("whole"), line->Text("butLast"), line->Text("last"),
+                         line->Text("logbook")};
 }
 
 // A logbook that journals may belong to. When the first journal asks, the checksums for all journals are made
@@ -157,13 +195,19 @@ LostComments::LostComments(const std::filesystem::path& folder, const EntryTable
         const std::optional<JournalHeader> header = ReadHeader(stream);
         if (!header || !logbook.BeginsAs(*header))
             continue;
-        journals_.push_back(std::move(*journal));
-        for (Json line = NextLine(stream); !line.is_discarded(); line = NextLine(stream)) {
-            const std::optional<EntryNumber> number = NumberIn(line, "entry");
-            std::optional<std::string> comment = TextIn(line, "comment");
+        std::map<EntryNumber, std::string> comments;
+        for (std::optional<JournalLine> line = NextLine(stream); line; line = NextLine(stream)) {
+            const std::optional<EntryNumber> number = line->Number("entry");
+            std::optional<std::string> comment = line->Text("comment");
             if (number && *number < header->Entries && comment)
-                comments_[*number] = std::move(*comment);
+                comments[*number] = std::move(*comment);
         }
+        // One that cannot be read to its end stays, whole, for the next time.
+        if (stream.bad())
+            continue;
+        journals_.push_back(std::move(*journal));
+        for (auto& [number, comment] : comments)
+            comments_[number] = std::move(comment);
     }
     std::erase_if(comments_,
                   [&](const auto& comment) { return entries.Comment(comment.first) == comment.second; });

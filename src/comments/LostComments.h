@@ -16,7 +16,8 @@
 class LostComments {
   public:
     // Looks for the journals of this logbook in a folder, also from when it had fewer entries; costs nothing
-    // when there is no journal. Ignores other files, and lines that a crash cut off.
+    // when there is no journal. Ignores other files, and lines that a crash cut off. A journal that cannot be
+    // read to its end is left for the next time.
     LostComments(const std::filesystem::path& folder, const EntryTable& entries);
 
     // The comments that differ from those of the logbook, by entry number; an empty text stands for a removed

@@ -68,9 +68,10 @@ bool OfferLostComments(EntryTable& entries, LogbookState& state, CommentJournal&
             entries.SetComment(number, comment);
             restored.push_back(number);
         }
-        journal.Keep(lost.TakeJournals(), restored);
-        state.ChangedComments.insert(restored.begin(), restored.end());
+        // Before the journal holds them: comments that do not count as edited go with it unasked.
         state.CommentsEdited = true;
+        state.ChangedComments.insert(restored.begin(), restored.end());
+        journal.Keep(lost.TakeJournals(), restored);
         return true;
     }
     case UserInterface::Answer::No:

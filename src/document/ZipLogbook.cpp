@@ -5,6 +5,7 @@
 #include "sources/ArchivedComments.h"
 
 #include <map>
+#include <utility>
 
 namespace {
 
@@ -56,29 +57,29 @@ bool IsChangedByOthers(const LogbookState& state, const std::string& path,
 class AddedComments {
   public:
     AddedComments(EntryTable& entries, const std::map<EntryNumber, std::string>& comments)
-        : entries_(entries) {
-        for (const auto& [number, comment] : comments) {
-            before_[number] = entries.Comment(number);
-            entries.SetComment(number, comment);
-        }
+        : entries_(entries), any_(!comments.empty()) {
+        if (!any_)
+            return;
+        others_ = entries.Comments();
+        for (const auto& [number, comment] : comments)
+            others_.insert_or_assign(number, comment);
+        entries_.SwapComments(others_);
     }
+    // May run because there is no memory, and needs none.
     ~AddedComments() {
-        for (const auto& [number, comment] : before_)
-            entries_.SetComment(number, comment);
+        if (any_)
+            entries_.SwapComments(others_);
     }
     AddedComments(const AddedComments&) = delete;
     AddedComments& operator=(const AddedComments&) = delete;
 
     // They stay; true when there are any.
-    bool Stay() {
-        const bool any = !before_.empty();
-        before_.clear();
-        return any;
-    }
+    bool Stay() { return std::exchange(any_, false); }
 
   private:
     EntryTable& entries_;
-    std::map<EntryNumber, std::string> before_;
+    std::map<EntryNumber, std::string> others_; // than the entries have now
+    bool any_;
 };
 
 // Looks into what would be replaced, under a status text: a large logbook takes a while.

@@ -91,5 +91,5 @@ void EntryTable::SetComment(EntryNumber number, std::string_view comment) {
     if (comment.empty())
         comments_.erase(number);
     else
-        comments_[number] = comment;
+        comments_.insert_or_assign(number, std::string(comment));
 }

@@ -68,6 +68,9 @@ class EntryTable {
     // The comments that are not empty, by entry number.
     const std::map<EntryNumber, std::string>& Comments() const { return comments_; }
 
+    // Exchanges them for others, which must be of this table's entries and not empty. Needs no memory.
+    void SwapComments(std::map<EntryNumber, std::string>& others) noexcept { comments_.swap(others); }
+
     // The data of all entries in their order. If an entry's time stamp does not end in a clock time, the
     // stamp follows the entry's data. The text holds no line feed.
     std::string_view Text() const { return {text_.Data(), text_.Size()}; }

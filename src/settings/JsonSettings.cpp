@@ -5,13 +5,18 @@
 #include "base/AtomicFile.h"
 #include "base/FileLock.h"
 #include "base/FileProblem.h"
+#include "base/LastError.h"
 #include "base/Paths.h"
 #include "base/UserFolders.h"
 #include "settings/Registry.h"
 
 #include <array>
+#include <cerrno>
 #include <fstream>
 #include <limits>
+#include <new>
+#include <system_error>
+#include <vector>
 
 namespace {
 
@@ -25,6 +30,76 @@ using Json = JsonSettings::Json;
 
 // In bytes. Five million entries removed from the list one by one make a sixth of it.
 constexpr std::size_t LargestFile = 256U << 20U;
+
+// Empties a value, the innermost values first. The destructor of a filled one needs memory for its values,
+// and ends the program where there is none. A text that is parsed here is not nested deep.
+void Empty(Json& value) noexcept {
+    if (!value.is_structured())
+        return;
+    for (Json& inner : value)
+        Empty(inner);
+    value.clear();
+}
+
+// All settings; goes without memory.
+struct Tree {
+    Tree() = default;
+    ~Tree() { Empty(Root); }
+    Tree(const Tree&) = delete;
+    Tree& operator=(const Tree&) = delete;
+
+    Json Root;
+};
+
+// Puts a text's values into a tree, which so owns all of them whenever memory runs out.
+class TreeReader : public nlohmann::json_sax<Json> {
+  public:
+    explicit TreeReader(Json& root) : root_(root) {}
+
+    bool null() override { return Put(Json()); }
+    bool boolean(bool value) override { return Put(value); }
+    bool number_integer(std::int64_t value) override { return Put(value); }
+    bool number_unsigned(std::uint64_t value) override { return Put(value); }
+    bool number_float(double value, const std::string&) override { return Put(value); }
+    bool string(std::string& value) override { return Put(std::move(value)); }
+    bool binary(Json::binary_t&) override { return false; }
+    bool start_object(std::size_t) override { return Open(Json::object()); }
+    bool start_array(std::size_t) override { return Open(Json::array()); }
+    bool end_object() override { return Close(); }
+    bool end_array() override { return Close(); }
+    bool key(std::string& name) override {
+        member_ = &(*open_.back())[name];
+        return true;
+    }
+    bool parse_error(std::size_t, const std::string&, const Json::exception&) override { return false; }
+
+  private:
+    Json& NextPlace() {
+        if (open_.empty())
+            return root_;
+        return open_.back()->is_array() ? open_.back()->emplace_back() : *member_;
+    }
+    bool Put(Json value) {
+        last_ = &NextPlace();
+        Empty(*last_); // a member that comes twice
+        *last_ = std::move(value);
+        return true;
+    }
+    bool Open(Json value) {
+        Put(std::move(value));
+        open_.push_back(last_);
+        return true;
+    }
+    bool Close() {
+        open_.pop_back();
+        return true;
+    }
+
+    Json& root_;
+    std::vector<Json*> open_; // from the root to what the next value belongs to
+    Json* member_ = nullptr;
+    Json* last_ = nullptr;
+};
 
 // Takes the first part off a key path.
 std::string_view TakePart(std::string_view& path) {
@@ -61,8 +136,10 @@ Json& MakeKey(Json& root, std::string_view path) {
     Json* key = &root;
     while (!path.empty()) {
         key = &(*key)[std::string(TakePart(path))];
-        if (!key->is_object())
+        if (!key->is_object()) {
+            Empty(*key);
             *key = Json::object();
+        }
     }
     return *key;
 }
@@ -76,8 +153,10 @@ void DeleteKey(Json& root, std::string_view path) {
     if (parent == nullptr)
         return;
     const auto member = parent->find(name);
-    if (member != parent->end())
-        parent->erase(member);
+    if (member == parent->end())
+        return;
+    Empty(*member);
+    parent->erase(member);
 }
 
 bool Apply(const SettingsChange& change, Json& root) {
@@ -94,6 +173,7 @@ bool Apply(const SettingsChange& change, Json& root) {
     Json& value = key[change.Name];
     if (value.is_object())
         return false;
+    Empty(value);
     std::visit([&](const auto& newValue) { value = newValue; }, change.Value);
     return true;
 }
@@ -123,25 +203,33 @@ bool IsNestedTooDeep(std::string_view text) {
 bool Parse(const std::string& text, Json& root) {
     if (IsNestedTooDeep(text))
         return false;
-    root = Json::parse(text, nullptr, false);
-    return root.is_object();
+    TreeReader reader(root);
+    return Json::sax_parse(text, &reader) && root.is_object();
 }
 
 } // namespace
 
 std::string JsonSettings::UserFile() { return (ConfigurationFolder() / "Qorvix.json").string(); }
 
+JsonSettings::~JsonSettings() { Empty(known_); }
+
 JsonSettings::Content JsonSettings::Load(Json& root) const {
+    Empty(root);
     root = Json::object();
     const std::error_code error = CheckRegularFile(ToPath(file_));
     if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory)
         return Content::Missing;
     std::error_code ignored;
     std::ifstream stream;
+    errno = 0;
     if (!error && std::filesystem::file_size(ToPath(file_), ignored) <= LargestFile)
         stream.open(ToPath(file_), std::ios::binary);
-    if (!stream.is_open())
+    if (!stream.is_open()) {
+        // The caller's defaults would take the place of the person's settings.
+        if (LastError() == std::errc::not_enough_memory)
+            throw std::bad_alloc();
         return Content::Unreadable;
+    }
     std::string text;
     for (std::array<char, 65536> part; stream && text.size() <= LargestFile;
          text.append(part.data(), static_cast<std::size_t>(stream.gcount())))
@@ -152,6 +240,7 @@ JsonSettings::Content JsonSettings::Load(Json& root) const {
         return Content::Missing;
     if (Parse(text, root))
         return Content::Whole;
+    Empty(root);
     root = Json::object();
     return Content::Damaged;
 }
@@ -159,11 +248,10 @@ JsonSettings::Content JsonSettings::Load(Json& root) const {
 const JsonSettings::Json& JsonSettings::Current() const {
     // The state is taken first, so that a file replaced in between is read again the next time.
     const FileState state = StateOf(file_);
-    if (state.Size < 0)
-        known_ = Json::object();
-    else if (state != knownState_)
-        Load(known_);
-    knownState_ = state;
+    if (state.Size >= 0 && state == knownState_)
+        return known_;
+    // What cannot be read now may be readable the next time.
+    knownState_ = Load(known_) == Content::Unreadable ? FileState() : state;
     return known_;
 }
 
@@ -194,7 +282,8 @@ bool JsonSettings::Change(const std::vector<SettingsChange>& changes) {
     const FileLock lock(file_ + ".lock");
     if (!lock.IsHeld())
         return false;
-    Json root;
+    Tree tree;
+    Json& root = tree.Root;
     const Content before = Load(root);
     if (before == Content::Unreadable)
         return false;

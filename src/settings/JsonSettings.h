@@ -27,6 +27,9 @@ class JsonSettings : public SettingsStore {
     using Json = nlohmann::basic_json<Members>;
 
     explicit JsonSettings(std::string file) : file_(std::move(file)) {}
+    ~JsonSettings() override;
+    JsonSettings(const JsonSettings&) = delete;
+    JsonSettings& operator=(const JsonSettings&) = delete;
 
     // VELTRANDOR/Qorvix.json under $XDG_CONFIG_HOME or ~/.config.
     static std::string UserFile();

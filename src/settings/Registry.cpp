@@ -4,6 +4,8 @@
 #include "base/UnicodeCase.h"
 
 #include <charconv>
+#include <exception>
+#include <new>
 #include <optional>
 #include <stdexcept>
 
@@ -122,10 +124,19 @@ void Registry::Change(SettingsChange change) {
     if (collecting_)
         collected_.push_back(std::move(change));
     else
-        store_.Change({std::move(change)});
+        Store({std::move(change)});
 }
 
-Registry::Transaction::Transaction(Registry& registry) : registry_(registry) {
+void Registry::Store(const std::vector<SettingsChange>& changes) {
+    try {
+        store_.Change(changes);
+    } catch (const std::bad_alloc&) {
+        // A write that fails: the settings are as they were.
+    }
+}
+
+Registry::Transaction::Transaction(Registry& registry)
+    : registry_(registry), exceptionsBefore_(std::uncaught_exceptions()) {
     if (registry_.collecting_)
         throw std::logic_error("a transaction of the settings within another");
     registry_.collecting_ = true;
@@ -133,6 +144,7 @@ Registry::Transaction::Transaction(Registry& registry) : registry_(registry) {
 
 Registry::Transaction::~Transaction() {
     registry_.collecting_ = false;
-    registry_.store_.Change(registry_.collected_);
+    if (std::uncaught_exceptions() == exceptionsBefore_)
+        registry_.Store(registry_.collected_);
     registry_.collected_.clear();
 }

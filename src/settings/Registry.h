@@ -26,7 +26,8 @@ inline constexpr std::string_view StringFilterDialog = "StringFilter";
 enum class SettingType { Text = 1, Integer = 4 };
 
 // The program's operations on the settings. None reports an error: a read that finds no value of the wanted
-// kind gives the caller's default, and a write that fails leaves the settings as they were.
+// kind gives the caller's default, and a write that fails leaves the settings as they were. Both may throw
+// std::bad_alloc: a default that stands for a value which there was no memory to read would be stored as it.
 class Registry {
   public:
     explicit Registry(SettingsStore& store) : store_(store) {}
@@ -67,8 +68,8 @@ class Registry {
     void DeleteFilterKey();
 
     // While one of these lives, the registry collects its writes and deletions; the destructor makes all of
-    // them at once. Reads see only what is stored. A second one at the same time is a mistake of the program:
-    // its constructor throws std::logic_error.
+    // them at once, or none of them when an exception has ended their scope. Reads see only what is stored. A
+    // second one at the same time is a mistake of the program: its constructor throws std::logic_error.
     class Transaction {
       public:
         explicit Transaction(Registry& registry);
@@ -78,10 +79,12 @@ class Registry {
 
       private:
         Registry& registry_;
+        int exceptionsBefore_;
     };
 
   private:
     void Change(SettingsChange change);
+    void Store(const std::vector<SettingsChange>& changes);
 
     SettingsStore& store_;
     bool collecting_ = false;

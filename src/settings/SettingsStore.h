@@ -9,7 +9,31 @@
 #include <vector>
 
 // A value of the settings: text (UTF-8) or a signed 32-bit integer; the kind is kept.
-using SettingValue = std::variant<std::string, std::int32_t>;
+//
+// It copies a text by itself: where there is no memory for that, libstdc++'s variant destroys a value that it
+// never made.
+class SettingValue : public std::variant<std::string, std::int32_t> {
+  public:
+    using Base = std::variant<std::string, std::int32_t>;
+    using Base::Base;
+
+    SettingValue() = default;
+    ~SettingValue() = default;
+    SettingValue(const SettingValue& other) : Base(CopyOf(other)) {}
+    SettingValue(SettingValue&&) noexcept = default;
+    SettingValue& operator=(const SettingValue& other) {
+        Base::operator=(CopyOf(other));
+        return *this;
+    }
+    SettingValue& operator=(SettingValue&&) noexcept = default;
+
+  private:
+    static Base CopyOf(const Base& other) {
+        if (const auto* const text = std::get_if<std::string>(&other))
+            return std::string(*text);
+        return std::get<std::int32_t>(other);
+    }
+};
 
 // One step of a change. Key paths are relative to the user's settings; "\" separates their parts.
 struct SettingsChange {
