@@ -8,8 +8,8 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   # GCC 12 warns of "literal" + std::string where nothing overlaps.
   target_compile_options(qorvix_warnings INTERFACE -Wno-restrict)
 endif()
-if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  # It takes a source that is compiled together with others for a header.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # It takes sources that are compiled together (CMAKE_UNITY_BUILD) for headers.
   target_compile_options(qorvix_warnings INTERFACE -Wno-subobject-linkage)
 endif()
 if(QORVIX_WARNINGS_AS_ERRORS)
