@@ -23,7 +23,7 @@ std::string Quoted(std::string_view text) {
     return nlohmann::json(text).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
-std::string CommentLine(EntryNumber number, std::string_view comment) {
+std::string LineOf(EntryNumber number, std::string_view comment) {
     return "{\"comment\":" + Quoted(comment) + ",\"entry\":" + std::to_string(number) + "}\n";
 }
 
@@ -62,7 +62,7 @@ std::error_code CommentJournal::NoteRemembered(const EntryTable& entries) {
     }
     std::string lines;
     for (const EntryNumber number : toNote_)
-        lines += CommentLine(number, entries.Comment(number));
+        lines += LineOf(number, entries.Comment(number));
     // Half a line would spoil the next one, too.
     const std::error_code error = AppendWhole(file_, lines);
     if (!error)
