@@ -106,6 +106,7 @@ void frmMain::MakeList() {
     connect(lvLogbook, &LogbookView::ToggleHighlightingWanted, this,
             [this] { Run(Command::ToggleHighlighting); });
     connect(lvLogbook, &LogbookView::PropertiesWanted, this, [this] { Run(Command::Properties); });
+    connect(lvLogbook, &LogbookView::CopyWanted, this, [this] { Run(Command::CopyRows); });
     // Not before the program that the file comes from has got its answer.
     connect(
         lvLogbook, &LogbookView::FileDropped, this,
@@ -132,11 +133,6 @@ void frmMain::MakeList() {
     connect(model_, &LogbookModel::modelReset, pbTagViewer, &TagViewer::RefreshTagViewerDelayed);
     connect(model_, &LogbookModel::layoutChanged, pbTagViewer, &TagViewer::RefreshTagViewerDelayed);
     connect(model_, &LogbookModel::dataChanged, pbTagViewer, &TagViewer::RefreshTagViewerDelayed);
-    auto* copy = new QAction(lvLogbook);
-    copy->setShortcut(QKeySequence::Copy);
-    copy->setShortcutContext(Qt::WidgetShortcut);
-    connect(copy, &QAction::triggered, this, [this] { Run(Command::CopyRows); });
-    lvLogbook->addAction(copy);
 }
 
 void frmMain::LoadLanguage() {
@@ -340,7 +336,7 @@ void frmMain::ShowNotNoted(std::error_code error) {
     ShowStandingMessage();
 }
 
-// What stands in the status bar while nothing is done: comments that a crash would take come first.
+// What stands in the status bar while nothing is done: a warning of comments at risk comes first.
 void frmMain::ShowStandingMessage() {
     const std::string mistake = FacilityFileMessage(lookupMistake_, language_);
     std::string message(Text(TextId::StatusReady, language_));
@@ -375,12 +371,9 @@ void frmMain::ToggleHighlighting() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-    if (document_.Book().Busy) {
+    if (document_.Book().Busy)
         progress_.RequestStop();
-        event->ignore();
-        return;
-    }
-    if (!document_.Close()) {
+    if (document_.Book().Busy || !document_.Close()) {
         event->ignore();
         return;
     }

@@ -8,7 +8,7 @@ using ProcessNumber = int;
 
 ProcessNumber ThisProcess();
 
-// False only where no process has the number; the answer may be out of date at once.
+// False when no process has this number. A process may end right after the call.
 bool MayRun(ProcessNumber process);
 
 // The name of this computer; "" where it has none.

@@ -105,6 +105,7 @@ int PrintList(const ListOptions& options,
                                .MessageLanguage = options.MessageLanguage});
     if (!document.Open(options.File, {.Filters = options.Filters}))
         return ExitStatus::Failed;
+    document.RemoveFiles();
     // Without comments that could not be read the list is printed all the same, as the window shows it.
     if (!document.HasRows())
         return Fail(std::string(Text(TextId::FilterFailed, options.MessageLanguage)));

@@ -7,10 +7,10 @@
 
 TerminalDocument::TerminalDocument(Options options)
     : language_(options.MessageLanguage),
-      tempFolder_(TempFolder::SystemFolder(), options.Files),
+      tempFolder_(std::in_place, TempFolder::SystemFolder(), options.Files),
       filters_(std::move(options.Filters)),
       user_(options.ArchiveFilters),
-      document_({.Filters = filters_, .Settings = registry_, .Temp = tempFolder_}, CodePage::OfUser(), {}) {
+      document_({.Filters = filters_, .Settings = registry_, .Temp = *tempFolder_}, CodePage::OfUser(), {}) {
     document_.ShowIn(*this);
 }
 

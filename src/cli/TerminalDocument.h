@@ -16,18 +16,20 @@ class TerminalDocument : private DocumentView {
     struct Options {
         std::vector<std::string> Files; // the command's own; clearing the temporary folder spares them
         std::vector<FilterDefinition> Filters = DefaultFilters(); // active until others take their place
-        UserInterface::Answer ArchiveFilters;                     // whether those of an archive do
+        UserInterface::Answer ArchiveFilters; // whether those of an archive take their place
         Language MessageLanguage = {};
     };
     explicit TerminalDocument(Options options);
 
-    // Opens a source. False when that failed. The failure has then been reported, and so has anything else
-    // that is missing.
+    // Opens a source. False when that failed, which it has then reported.
     bool Open(const std::string& file, const FilesInstead& instead = {});
 
     // Whether the comments of the open logbook could be read, and whether its rows could be made.
     bool HasComments() const { return hasComments_; }
     bool HasRows() const { return hasRows_; }
+
+    // Removes what was unpacked, before a long step that needs only entries and rows.
+    void RemoveFiles() { tempFolder_.reset(); }
 
     bool ZipLogbook(ArchiveDecisions& decisions) { return document_.ZipLogbook(decisions); }
     const EntryTable& Entries() const { return document_.Entries(); }
@@ -43,7 +45,7 @@ class TerminalDocument : private DocumentView {
     bool OpensWithoutRows() const override { return true; }
 
     Language language_;
-    TempFolder tempFolder_;
+    std::optional<TempFolder> tempFolder_; // the document uses it until RemoveFiles
     TransientSettings settings_;
     Registry registry_{settings_};
     ActiveFiltersOfRun filters_;

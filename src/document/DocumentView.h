@@ -62,7 +62,7 @@ class DocumentView {
     // How much of an archive has been written, in percent; 0 when the writing has ended.
     virtual void PackingProgress(double) {}
 
-    // Comments of any entries have changed.
+    // Comments have changed; any entry may be affected.
     virtual void CommentsAreChanged() {}
 
     // Whether unsaved comments would survive a crash; the error says why they would not.

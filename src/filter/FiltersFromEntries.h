@@ -31,7 +31,7 @@ class Registry;
 // These two change one entry. For the entries of all selected rows the window uses NumberFilters.
 //
 // Adds the entry to the filter of the action (see FilterActions). Writes the filter also when it already held
-// the entry. True, because the settings report no failure: the row of the entry then changes.
+// the entry. Always true, because the settings report no failure.
 bool AddEntryToFilter(Registry& registry, EntryNumber number, std::int16_t action);
 
 // Removes the entry from the filter. True when there is a number filter for the action; one that does not
@@ -39,8 +39,8 @@ bool AddEntryToFilter(Registry& registry, EntryNumber number, std::int16_t actio
 bool RemoveEntryFromFilter(Registry& registry, EntryNumber number, std::int16_t action);
 
 // Changes the number filters of one action for many entries: gives the same filters as one of the calls above
-// for each entry in this order, but writes the settings once. Only, those calls may leave more empty filters
-// when a list was longer in between. The constructor reads the filters; nothing else may change the stored
+// for each entry in this order, but writes the settings once. Those calls may leave more empty filters if a
+// list was longer for a while. The constructor reads the filters; nothing else may change the stored
 // filters until Write.
 class NumberFilters {
   public:

@@ -115,7 +115,7 @@ class ListOfRows : public View {
                (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
     }
 
-    // Where no row is selected, the current one is, for an order that is to be given for it.
+    // Selects the current row if none is selected, so that an order has a row.
     void SelectCurrentIfNone() {
         if (!this->selectionModel()->hasSelection() && this->currentIndex().isValid())
             this->setCurrentIndex(this->currentIndex());

@@ -5,6 +5,7 @@
 #include "list/RowDelegate.h"
 
 #include <QAccessible>
+#include <QAction>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QHeaderView>
@@ -60,6 +61,11 @@ LogbookView::LogbookView(QWidget* parent) : ListOfRows(parent) {
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(true);
+    auto* copy = new QAction(this);
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    connect(copy, &QAction::triggered, this, &LogbookView::CopyWanted);
+    addAction(copy);
 }
 
 void LogbookView::SetLogbook(LogbookModel* model) {

@@ -48,6 +48,7 @@ class LogbookView : public ListOfRows<QTableView> {
   signals:
     void RemoveFromListWanted();
     void PropertiesWanted();
+    void CopyWanted();
     void ToggleHighlightingWanted();
     void PopupWanted(const QPoint& globalPosition);
     void FileDropped(const QString& path);
@@ -58,7 +59,7 @@ class LogbookView : public ListOfRows<QTableView> {
     void KeyUp();
     void MouseUp();
 
-    // A screen reader has been told its new words for this row, which is on the screen.
+    // The screen reader has the new words of this visible row.
     void RowAnnounced(int row);
 
   protected:

@@ -10,8 +10,8 @@
 #include <string>
 #include <system_error>
 
-// The file in which libzip builds an archive. On its own, the library would build it in another file, and
-// name and move that itself. This class writes into the existing file, which keeps its permissions and its
+// The file in which libzip builds an archive. Left alone, libzip would write a second file and rename
+// it. This class writes into the existing file, which keeps its permissions and its
 // lock.
 class ZipTarget {
   public:

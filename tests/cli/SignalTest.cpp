@@ -124,6 +124,15 @@ TEST_F(Signals, EndAToolThatWaitsForItsReader) {
     }
 }
 
+TEST_F(Signals, NothingIsLeftUnpackedWhereItIsKilledWhilePrinting) {
+    Start({"export", Archive(3000)});
+    ASSERT_TRUE(Until([&] { return IsPipeFull(); }));
+    EXPECT_TRUE(std::filesystem::is_empty(Temp));
+    ::kill(process_, SIGKILL);
+    EXPECT_TRUE(WIFSIGNALED(End()));
+    EXPECT_TRUE(std::filesystem::is_empty(Temp));
+}
+
 TEST_F(Signals, APipeWithoutAReaderEndsIt) {
     Start({"export", Archive(3000)});
     ASSERT_TRUE(Until([&] { return IsPipeFull(); }));
