@@ -51,7 +51,7 @@ std::string NameIn(const std::filesystem::path& folder, const std::filesystem::p
 
 std::filesystem::path TempFolder::SystemFolder() {
     std::error_code error;
-    const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
+    std::filesystem::path folder = std::filesystem::temp_directory_path(error);
     if (!error)
         return folder;
     // Variables that are set but empty name no folder.

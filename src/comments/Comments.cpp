@@ -90,7 +90,7 @@ std::string WithoutLineBreaks(std::string_view text) {
 
 // A comment as its line holds it.
 std::string FormatText(const std::string& comment) {
-    const std::string text = WithoutLineBreaks(comment);
+    std::string text = WithoutLineBreaks(comment);
     if (text.find_first_of("\",") == std::string::npos && !text.starts_with(Blank) && !text.ends_with(Blank))
         return text;
     std::string quoted(1, Quote);

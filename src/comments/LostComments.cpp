@@ -168,6 +168,7 @@ std::vector<std::filesystem::path> FilesByAge(const std::filesystem::path& folde
     }
     std::sort(files.begin(), files.end());
     std::vector<std::filesystem::path> paths;
+    paths.reserve(files.size());
     for (const auto& [time, path] : files)
         paths.push_back(path);
     return paths;

@@ -78,6 +78,7 @@ std::string TextToStore(const StringFilter& filter) {
 template <typename Filter>
 std::vector<std::string> TextsToStore(const std::vector<Filter>& filters) {
     std::vector<std::string> texts;
+    texts.reserve(filters.size());
     for (const Filter& filter : filters)
         texts.push_back(TextToStore(filter));
     return texts;

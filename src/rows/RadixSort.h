@@ -14,6 +14,7 @@
 // A number with its sort key, packed: 8 bytes with a 32-bit key, 12 with a 64-bit key.
 template <typename Key>
 struct Keyed {
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): a key may be one such word
     std::array<std::uint32_t, sizeof(Key) / sizeof(std::uint32_t)> KeyWords;
     std::uint32_t Number;
 

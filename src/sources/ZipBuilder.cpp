@@ -75,6 +75,6 @@ std::string BuildZip(const std::filesystem::path& archive, std::span<const FileT
         tell(0);
     if (!closed)
         return ErrorOf(zip.get(), language);
-    zip.release();
+    static_cast<void>(zip.release()); // closing has freed it
     return {};
 }
