@@ -6,4 +6,5 @@ namespace ExitStatus {
 inline constexpr int Done = 0;
 inline constexpr int Failed = 1;
 inline constexpr int WrongUsage = 2;
+inline constexpr int Unfinished = 3; // done with what could be read; an error has ended the read
 } // namespace ExitStatus

@@ -3,6 +3,7 @@
 
 #include "base/DeviceStream.h"
 #include "base/VisibleControls.h"
+#include "cli/ErrorsCommand.h"
 #include "cli/ExitStatus.h"
 #include "cli/Messages.h"
 #include "cli/Options.h"
@@ -13,17 +14,38 @@
 
 CLI::App* AddLookupCommand(CLI::App& app, LookupOptions& options) {
     CLI::App* command = app.add_subcommand("lookup", "Print the control's own text for an event or error");
-    command->add_option("DATA", options.Data, "What the list shows as the entry's data")->required();
+    CLI::Option_group* const subject = command->add_option_group("what to look up");
+    subject->add_option("DATA", options.Data, "What the list shows as the entry's data");
+    CLI::Option* const all =
+        subject
+            ->add_option("--all", options.All,
+                         "Every code of this logbook, in both languages, and what is missing")
+            ->check(NameIsGiven());
+    subject->require_option(1);
     command
-        ->add_option("--language-folder", options.Folder,
-                     "The folder of the control's language files instead of \"language\" beside the program")
-        ->check(NameIsGiven());
+        ->add_option("--format", options.Listing.Format,
+                     "With --all: text, jsonl (JSON Lines) or csv (RFC 4180)")
+        ->check(CLI::IsMember({"text", "jsonl", "csv"}))
+        ->needs(all);
+    command
+        ->add_option("--output", options.Listing.Output,
+                     "With --all: write to this file instead of standard output")
+        ->check(NameIsGiven())
+        ->needs(all);
+    AddLanguageFolderOption(*command, options.Folder);
     AddLanguageOption(*command, options.TextLanguage, "Of the text");
     return command;
 }
 
 int RunLookup(const LookupOptions& options) {
-    const std::string folder = options.Folder.empty() ? GetErrorInfoPath() : options.Folder;
+    if (!options.All.empty()) {
+        HistoryOptions listing = options.Listing;
+        listing.File = options.All;
+        listing.LanguageFolder = options.Folder;
+        listing.MessageLanguage = options.TextLanguage;
+        return RunLookupAll(listing);
+    }
+    const std::string folder = LanguageFolder(options.Folder);
     // As the entry's dialog has it: the lines below each other.
     ProposedComment proposed = AutoFillComment(WithLineBreaks(options.Data), options.TextLanguage, folder);
     if (const std::string mistake = FacilityFileMessage(proposed.Mistake, options.TextLanguage);

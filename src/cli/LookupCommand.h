@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/HistoryOptions.h"
 #include "settings/Language.h"
 
 #include <string>
@@ -11,7 +12,9 @@ class App;
 
 struct LookupOptions {
     std::string Data;
-    std::string Folder; // of the language files; "" = the one beside the program
+    std::string All;        // a logbook, whose codes are looked up instead
+    std::string Folder;     // of the language files; "" = the one beside the program
+    HistoryOptions Listing; // with All: how to print; its File and LanguageFolder come from here
     Language TextLanguage;
 };
 
@@ -19,5 +22,6 @@ struct LookupOptions {
 CLI::App* AddLookupCommand(CLI::App& app, LookupOptions& options);
 
 // Prints the comment that the program proposes for a data text of the list, with LF line ends and one more at
-// its end. When it proposes none, nothing is printed and the exit status is 1.
+// its end. When it proposes none, nothing is printed and the exit status is 1. With All it prints the codes
+// of that logbook instead, see RunLookupAll.
 int RunLookup(const LookupOptions& options);

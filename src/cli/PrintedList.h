@@ -19,6 +19,7 @@ struct ListOptions {
     std::string Filters;          // a filter file; "" = none
     bool StoredFilters = false;   // the filters of the user's settings
     bool ArchiveFilters = false;  // the filters that the program's own archive carries, if it does
+    bool Partial = false;         // what could be read of a logbook with an error in it
     Language MessageLanguage;     // of messages on standard error
 };
 

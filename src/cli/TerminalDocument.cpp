@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "cli/TerminalDocument.h"
 
+#include "cli/ExitStatus.h"
 #include "settings/Texts.h"
 
 #include <utility>
 
 TerminalDocument::TerminalDocument(Options options)
     : language_(options.MessageLanguage),
+      partial_(options.Partial),
       tempFolder_(std::in_place, TempFolder::SystemFolder(), options.Files),
       filters_(std::move(options.Filters)),
       user_(options.ArchiveFilters),
+      progress_(user_, options.Partial),
       document_({.Filters = filters_, .Settings = registry_, .Temp = *tempFolder_}, CodePage::OfUser(), {}) {
     document_.ShowIn(*this);
 }
@@ -23,6 +26,19 @@ bool TerminalDocument::Open(const std::string& file, const FilesInstead& instead
     const bool reading = document_.Book().LoadState == LoadStates::Reading;
     Fail(std::string(Text(reading ? TextId::ReadFailed : TextId::OpenFailed, language_)) + ": " + file);
     return false;
+}
+
+int TerminalDocument::StatusOf(int printed) const {
+    if (!isUnfinished_ || printed != ExitStatus::Done)
+        return printed;
+    TellMessage(std::string(Text(TextId::ReadEndedEarly, language_)) +
+                std::to_string(document_.Book().Entries.Count()));
+    return ExitStatus::Unfinished;
+}
+
+void TerminalDocument::LogbookIsUnfinished() {
+    isRead_ = true;
+    isUnfinished_ = true;
 }
 
 void TerminalDocument::CommentsFailed(const std::string& name, const CommentsFileResult& result) {

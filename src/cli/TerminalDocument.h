@@ -18,6 +18,7 @@ class TerminalDocument : private DocumentView {
         std::vector<FilterDefinition> Filters = DefaultFilters(); // active until others take their place
         UserInterface::Answer ArchiveFilters; // whether those of an archive take their place
         Language MessageLanguage = {};
+        bool Partial = false; // a logbook that an error ends early is taken up to there
     };
     explicit TerminalDocument(Options options);
 
@@ -31,7 +32,12 @@ class TerminalDocument : private DocumentView {
     // Removes what was unpacked, before a long step that needs only entries and rows.
     void RemoveFiles() { tempFolder_.reset(); }
 
+    // The exit status of a command that ended with this one. If an error has ended the read, which comes with
+    // Options::Partial only, Done becomes Unfinished, and a message says how much was read.
+    int StatusOf(int printed) const;
+
     bool ZipLogbook(ArchiveDecisions& decisions) { return document_.ZipLogbook(decisions); }
+    const Logbook& Book() const { return document_.Book(); }
     const EntryTable& Entries() const { return document_.Entries(); }
     const LogbookRows& Rows() const { return document_.Rows(); }
 
@@ -43,16 +49,20 @@ class TerminalDocument : private DocumentView {
     void CommentsFailed(const std::string& name, const CommentsFileResult& result) override;
     void FilteringFailed() override { hasRows_ = false; }
     bool OpensWithoutRows() const override { return true; }
+    bool TakesUnfinished() const override { return partial_; }
+    void LogbookIsUnfinished() override;
 
     Language language_;
+    bool partial_;
     std::optional<TempFolder> tempFolder_; // the document uses it until RemoveFiles
     TransientSettings settings_;
     Registry registry_{settings_};
     ActiveFiltersOfRun filters_;
     TerminalUser user_;
-    TerminalProgress progress_{user_};
+    TerminalProgress progress_;
     LogbookDocument document_;
     bool isRead_ = false;
+    bool isUnfinished_ = false;
     bool hasComments_ = true;
     bool hasRows_ = true;
 };

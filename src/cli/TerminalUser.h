@@ -40,12 +40,15 @@ class TerminalUser : public UserInterface {
 // on.
 class TerminalProgress : public ReadingProgress {
   public:
-    // The user must outlive this.
-    explicit TerminalProgress(const TerminalUser& user) : user_(user) {}
+    // The user must outlive this. A partial read ends within a register block where the file does.
+    explicit TerminalProgress(const TerminalUser& user, bool partial = false)
+        : user_(user), partial_(partial) {}
 
     void SetValue(double) override {}
     void ProcessPendingEvents() override {}
     bool StopWanted() const override { return StopRequest::IsMade() || user_.MessageShown(); }
+
+    bool WaitsForBlockEnd() const override { return !partial_; }
 
     void ShowMessage(std::string_view text) override {
         std::string lines(text);
@@ -55,4 +58,5 @@ class TerminalProgress : public ReadingProgress {
 
   private:
     const TerminalUser& user_;
+    bool partial_;
 };

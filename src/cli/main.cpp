@@ -3,12 +3,14 @@
 #include "base/Interruption.h"
 #include "base/UnicodeCase.h"
 #include "base/VisibleControls.h"
+#include "cli/ErrorsCommand.h"
 #include "cli/ExitStatus.h"
 #include "cli/ExportCommand.h"
 #include "cli/FindCommand.h"
 #include "cli/LookupCommand.h"
 #include "cli/Options.h"
 #include "cli/PackCommand.h"
+#include "cli/SessionsCommand.h"
 
 #include <CLI/CLI.hpp>
 
@@ -120,13 +122,19 @@ int Run(int argc, char** argv) {
     app.require_subcommand(1);
 
     ListOptions options;
-    AddListOptions(*app.add_subcommand("export", "Print the list of a logbook, a row a line"), options);
+    CLI::App* const exportCommand = app.add_subcommand("export", "Print the list of a logbook, a row a line");
+    AddListOptions(*exportCommand, options);
+    AddPartialOption(*exportCommand, options.Partial);
     CLI::App* const find = app.add_subcommand(
         "find", "Print the rows of the list that hold a text; the exit status is 1 when none does");
     SearchState search;
     AddListOptions(*find, options);
     AddSearchOptions(*find, search);
 
+    HistoryOptions sessionsOptions;
+    const CLI::App* const sessionsCommand = AddSessionsCommand(app, sessionsOptions);
+    ErrorsOptions errorsOptions;
+    const CLI::App* const errorsCommand = AddErrorsCommand(app, errorsOptions);
     LookupOptions lookupOptions;
     const CLI::App* const lookupCommand = AddLookupCommand(app, lookupOptions);
     PackOptions packOptions;
@@ -137,6 +145,10 @@ int Run(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return Tell(app, error);
     }
+    if (sessionsCommand->parsed())
+        return RunSessions(sessionsOptions);
+    if (errorsCommand->parsed())
+        return RunErrors(errorsOptions);
     if (packCommand->parsed())
         return RunPack(packOptions);
     if (lookupCommand->parsed())

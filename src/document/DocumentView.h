@@ -46,6 +46,11 @@ class DocumentView {
     virtual void FilteringFailed() {}
     virtual void ReadingFailed(std::int16_t) {}
 
+    // Whether a logbook counts as open if an error ended its read; then it has the entries that were read
+    // until then. LogbookIsUnfinished comes instead of LogbookIsRead.
+    virtual bool TakesUnfinished() const { return false; }
+    virtual void LogbookIsUnfinished() {}
+
     // Whether a logbook counts as open if it was read but its rows could not be made.
     virtual bool OpensWithoutRows() const { return false; }
 

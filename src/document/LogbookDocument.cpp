@@ -185,12 +185,17 @@ bool LogbookDocument::ReadAndShowLogbook(const std::string& file, const std::str
     std::string title;
     const bool read = ReadLogbook(file, logbook_, title, view_->Progress(), codePage_);
     view_->User().RestoreStatus();
+    const bool unfinished = !read && logbook_.LoadState != LoadStates::Done && view_->TakesUnfinished() &&
+                            !view_->Progress().StopWanted();
+    const bool hasEntries = read || unfinished;
     if (read)
         view_->LogbookIsRead(title);
-    if (read && !commentsFile.empty())
+    if (unfinished)
+        view_->LogbookIsUnfinished();
+    if (hasEntries && !commentsFile.empty())
         comments = ReadComments(commentsFile);
     const bool hasComments = comments.Result == CommentsFileResult::Outcome::Read;
-    if (read)
+    if (hasEntries)
         filled = MakeRows();
     view_->ReadingEnds();
     view_->ShowCounts();
@@ -206,7 +211,7 @@ bool LogbookDocument::ReadAndShowLogbook(const std::string& file, const std::str
         view_->FilteringFailed();
     if (logbook_.LoadState != LoadStates::Done)
         view_->ReadingFailed(logbook_.LoadState);
-    return logbook_.LoadState == LoadStates::Done || (read && view_->OpensWithoutRows());
+    return logbook_.LoadState == LoadStates::Done || (hasEntries && view_->OpensWithoutRows());
 }
 
 CommentsFileResult LogbookDocument::ReadComments(const std::string& commentsFile) {

@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr std::string_view EventMark = "Event: ";
-
 // The folder of the files in one language.
 std::string FolderOfLanguage(const std::string& folder, Language language) {
     return FindInFolder(folder, language.IsGerman() ? "GERMAN" : "ENGLISH");
@@ -49,6 +47,16 @@ std::string GetErrorInfoPath() {
     return folder.empty() ? folder : folder + "/language/";
 }
 
+FacilityTable FacilitiesIn(const std::string& folder, FacilityFileMistake& mistake) {
+    const std::string facilityFile = FindInFolder(folder, "facilities.csv");
+    const FacilityFileContent facilities = ReadFacilityFile(facilityFile);
+    using Outcome = FacilityFileContent::Outcome;
+    const bool own = facilities.Result == Outcome::Read;
+    if (!own && facilities.Result != Outcome::NotThere)
+        mistake = {facilityFile, facilities.Result, facilities.Line};
+    return own ? facilities.Table : InitFacilityTable();
+}
+
 std::optional<EventCode> ParseEventCode(std::string_view code, const FacilityTable& table) {
     EventCode parsed;
     if (const std::size_t dash = code.find('-'); dash != std::string_view::npos) {
@@ -67,14 +75,7 @@ ProposedComment AutoFillCommentNCK(std::string_view data, Language language, con
     if (mark == std::string_view::npos)
         return proposed;
 
-    const std::string facilityFile = FindInFolder(folder, "facilities.csv");
-    const FacilityFileContent facilities = ReadFacilityFile(facilityFile);
-    using Outcome = FacilityFileContent::Outcome;
-    const bool own = facilities.Result == Outcome::Read;
-    if (!own && facilities.Result != Outcome::NotThere)
-        proposed.Mistake = {facilityFile, facilities.Result, facilities.Line};
-    const FacilityTable table = own ? facilities.Table : InitFacilityTable();
-
+    const FacilityTable table = FacilitiesIn(folder, proposed.Mistake);
     const std::optional<EventCode> code = ParseEventCode(data.substr(mark + EventMark.size()), table);
     if (!code)
         return proposed;

@@ -26,6 +26,13 @@
 // The folder of the language files beside the program, with a separator at its end; "" when it is unknown.
 std::string GetErrorInfoPath();
 
+// Stands before the code in the data of a coded event.
+inline constexpr std::string_view EventMark = "Event: ";
+
+// The facilities of a folder of language files: those of its facilities.csv or, where that is not there or
+// has a mistake, the built-in ones. A mistake is set, none is left as it was.
+FacilityTable FacilitiesIn(const std::string& folder, FacilityFileMistake& mistake);
+
 // The code of an event: "<facility>-<number>" or "<number>", hexadecimal.
 struct EventCode {
     std::int64_t Facility = DefaultFacility;

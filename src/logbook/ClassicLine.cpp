@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "logbook/ClassicLine.h"
 
+#include "base/RunTimeError.h"
 #include "logbook/EventLines.h"
 #include "logbook/KeywordTable.h"
 
@@ -32,6 +33,8 @@ void ReadDataAndTime(std::string_view line, ParsedEntry& entry, clsFile&, Readin
 // ever see what the block would still append, so it waits until it is stopped, and costs neither memory nor
 // much time.
 [[noreturn]] void WaitForStop(ReadingProgress& progress) {
+    if (!progress.WaitsForBlockEnd())
+        throw RunTimeError("a register block has no end");
     for (;;) {
         LetEventsRun(progress);
         std::this_thread::sleep_for(std::chrono::milliseconds(10));

@@ -18,14 +18,18 @@ std::int64_t DivideHalfToEven(std::int64_t value, std::int64_t divisor) {
 void EntryCollector::Begin(std::int64_t fileSize) {
     constexpr std::int64_t BytesPerEntry = 100;
     UpperBound = DivideHalfToEven(fileSize, BytesPerEntry);
+    Starts.clear();
     // Unused room costs nothing, but a table that must grow is moved.
     Entries.Clear(static_cast<std::size_t>(UpperBound) * 2 + 1, static_cast<std::size_t>(fileSize));
 }
 
 void EntryCollector::Store() {
     ParsedEntry& entry = Slots[WorkingSlot];
-    if (StoredCount > 0 && FoldIntoPrevious(entry, Slots[1 - WorkingSlot]))
+    if (StoredCount > 0 && FoldIntoPrevious(entry, Slots[1 - WorkingSlot])) {
+        if (entry.EventType == EventTypes::Restart)
+            NoteStart(entry);
         return;
+    }
     if (StoredCount > UpperBound)
         UpperBound *= 2;
     if (StoredCount > UpperBound)
@@ -36,7 +40,13 @@ void EntryCollector::Store() {
     LastMayChange = entry.EventType == EventTypes::Key;
     if (!LastMayChange)
         Entries.Append(entry, Code);
+    if (entry.EventType == EventTypes::Restart)
+        NoteStartAt(StoredCount - 1, entry);
     WorkingSlot = 1 - WorkingSlot;
+}
+
+void EntryCollector::NoteStartAt(std::int64_t number, const ParsedEntry& start) {
+    Starts.push_back({static_cast<EntryNumber>(number), ReadStamp(start.Time)});
 }
 
 void EntryCollector::End() {

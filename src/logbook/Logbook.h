@@ -2,8 +2,10 @@
 #pragma once
 
 #include "logbook/EntryTable.h"
+#include "logbook/LogbookStart.h"
 
 #include <cstdint>
+#include <vector>
 
 // Phases of showing a logbook. When a run-time error ends a phase, the phase stays in LoadState and selects
 // the message to the user.
@@ -18,7 +20,8 @@ inline constexpr std::int16_t Filtering = 3;
 // The logbook that the program shows. The program makes one at its start and passes it on.
 struct Logbook {
     EntryTable Entries;
-    std::int64_t EntryCount = 0; // from the last read that could open its file
+    std::vector<LogbookStart> Starts; // all that were read, in the order of the file
+    std::int64_t EntryCount = 0;      // from the last read that could open its file
     std::int16_t LoadState = LoadStates::Done;
     bool Busy = false; // a logbook is being read and shown
 };

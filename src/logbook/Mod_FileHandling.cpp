@@ -35,6 +35,8 @@ class Reading {
             // The event below the first separator line is read with it and is not stored.
             ParsedEntry unused;
             ParseSeparatedLine(line, unused, File, Date, Headers);
+            if (unused.EventType == EventTypes::Restart)
+                Entries.NoteStart(unused);
         } else if (line.starts_with(OperationHeading)) {
             Kind = Generation::Operation;
             const std::string_view version = Right(line, SupportedVersion.size());
@@ -127,11 +129,12 @@ bool ReadLogbook(const std::string& path, Logbook& logbook, std::string& title, 
     clsFile file;
     file.TellProgress(progress);
     KnownHeaders headers;
-    EntryCollector entries(logbook.Entries, codePage);
+    EntryCollector entries(logbook.Entries, logbook.Starts, codePage);
     try {
         if (!file.OpenFile(path, clsFile::IfEmpty::Close)) {
             logbook.LoadState = LoadStates::Done;
             logbook.Entries.ResetToOneEmpty(0, Images::None);
+            logbook.Starts.clear();
             return false;
         }
         entries.Begin(file.FileSize());

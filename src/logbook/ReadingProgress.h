@@ -21,6 +21,10 @@ class ReadingProgress {
     // True when the read must end. Asked after each ProcessPendingEvents.
     virtual bool StopWanted() const = 0;
 
+    // Whether a read waits to be stopped where the file ends within a register block. Otherwise it ends there
+    // as at an error.
+    virtual bool WaitsForBlockEnd() const { return true; }
+
     // Shows a message to confirm; `text` is UTF-8 and may hold "\r\n". Reading goes on when it returns.
     virtual void ShowMessage(std::string_view text) = 0;
 };

@@ -14,10 +14,8 @@ enum class SortRule { Text, Date, Number };
 // The moment that a time text names, to the second.
 using LogbookMoment = std::chrono::sys_seconds;
 
-// Reads "day.month.year", a clock time "h:m", "h:m:s" or "h:m:s.fraction", or both in either order with
-// blanks between. A date alone means midnight; a clock time alone is on 30.12.1899. Years have two digits (00
-// to 29 mean 20xx, 30 to 99 mean 19xx) or four, from 0100 on. A fraction does not count. Nothing when the
-// text is something else, or names a day or time that does not exist.
+// Reads a time text as ReadDateAndClock does. A date alone means midnight; a clock time alone is
+// on 30.12.1899. A fraction of a second does not count.
 std::optional<LogbookMoment> ReadMoment(std::string_view text);
 
 // The key of a date: "YYYYMMDDhhmmss", empty when the text cannot be read as a moment.

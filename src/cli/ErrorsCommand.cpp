@@ -1,0 +1,260 @@
+// SPDX-License-Identifier: MIT
+#include "cli/ErrorsCommand.h"
+
+#include "cli/ErrorTexts.h"
+#include "cli/ExitStatus.h"
+#include "cli/HistoryTexts.h"
+#include "cli/Messages.h"
+#include "cli/Options.h"
+#include "cli/Output.h"
+#include "cli/PlainTable.h"
+#include "cli/RecordWriter.h"
+#include "cli/TerminalDocument.h"
+#include "history/ErrorStatistics.h"
+#include "settings/Texts.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <span>
+
+namespace {
+
+using ColumnSide = PlainTable::Side;
+
+constexpr std::size_t Width = 100; // of the text forms, in characters
+
+Record TextOrNull(const std::optional<std::string>& text) { return text ? Record(*text) : Record(); }
+
+// A rate per hour says nothing about a shorter time.
+constexpr std::chrono::minutes LeastRecordedTime{15};
+
+Record PerRecordedHour(std::uint32_t entries, Session::Duration recorded) {
+    if (recorded < LeastRecordedTime)
+        return {};
+    const double hours = static_cast<double>(recorded.count()) / 3'600'000.0;
+    return std::round(entries / hours * 1000.0) / 1000.0;
+}
+
+const Record ErrorNames = {{"key", 0},        {"code", 0},        {"example", 0},    {"type", 0},
+                           {"entries", 0},    {"episodes", 0},    {"sessions", 0},   {"first", 0},
+                           {"last", 0},       {"first_index", 0}, {"last_index", 0}, {"per_recorded_hour", 0},
+                           {"message_en", 0}, {"message_de", 0},  {"chattering", 0}, {"cleared", 0}};
+
+// The errors of a document with the control's texts, and the words for them.
+class ErrorList {
+  public:
+    ErrorList(const TerminalDocument& document, const ErrorChoice& choice, const ErrorsOptions& options)
+        : entries_(document.Entries()), options_(options) {
+        const std::vector<Session> sessions = SessionsOf(entries_, document.Book().Starts);
+        recorded_ = RecordedTime(sessions);
+        errors_ = ErrorsOf(entries_, sessions, ReadErrorKeys(options), choice);
+        printed_ = options.Top == 0 ? errors_.size() : std::min(options.Top, errors_.size());
+        // The text form counts the errors without a text.
+        const std::size_t looked = options.Format == "text" ? errors_.size() : printed_;
+        for (const ErrorRecord& error : std::span(errors_).first(looked))
+            texts_.push_back(TextsOf(error, entries_, LanguageFolder(options.LanguageFolder)));
+    }
+
+    void Write(const RowForm& form, std::ostream& stream) const {
+        if (form.Format == "text")
+            return WriteText(stream);
+        std::vector<Record> records;
+        for (std::size_t i = 0; i < printed_; ++i)
+            records.push_back(RecordOf(i));
+        WriteRecords(records, ErrorNames, form, stream);
+    }
+
+  private:
+    std::string Say(TextId id) const { return std::string(Text(id, options_.MessageLanguage)); }
+
+    Record RecordOf(std::size_t place) const {
+        const ErrorRecord& error = errors_[place];
+        Record record;
+        record["key"] = error.Key;
+        record["code"] = error.Form == ErrorKeys::Form::Code;
+        record["example"] = entries_.Data(error.First);
+        record["type"] = error.EventType;
+        record["entries"] = error.Entries;
+        record["episodes"] = error.Episodes;
+        record["sessions"] = error.Sessions;
+        record["first"] = IsoOrNull(error.FirstStamp);
+        record["last"] = IsoOrNull(error.LastStamp);
+        record["first_index"] = error.First;
+        record["last_index"] = error.Last;
+        record["per_recorded_hour"] = PerRecordedHour(error.Entries, recorded_);
+        record["message_en"] = TextOrNull(FirstLine(texts_[place].English));
+        record["message_de"] = TextOrNull(FirstLine(texts_[place].German));
+        record["chattering"] = error.Chattering;
+        record["cleared"] = error.Cleared ? Record(*error.Cleared) : Record();
+        return record;
+    }
+
+    void WriteText(std::ostream& stream) const {
+        PlainTable table({{Say(TextId::HistoryEntries), 7, 9, ColumnSide::Right},
+                          {"", BarWidth, BarWidth},
+                          {Say(TextId::HistoryEpisodes), 5, 9, ColumnSide::Right},
+                          {Say(TextId::HistoryCleared), 7, 14, ColumnSide::Right},
+                          {Say(TextId::HistoryChatter), 5, 9, ColumnSide::Right},
+                          {Say(TextId::HistoryLast), 16, 16},
+                          {Say(TextId::HistoryErrorAndText), 0, Width}});
+        for (std::size_t i = 0; i < printed_; ++i)
+            table.AddLine(TextLine(i));
+        table.Write(stream, Width);
+        const auto without = [&](std::optional<std::string> ErrorTexts::*language) {
+            const auto count = std::count_if(texts_.begin(), texts_.end(), [&](const ErrorTexts& texts) {
+                return !FirstLine(texts.*language);
+            });
+            return std::to_string(count);
+        };
+        stream << without(&ErrorTexts::English) << Say(TextId::HistoryOf) << errors_.size()
+               << Say(TextId::HistoryWithoutEnglish) << without(&ErrorTexts::German)
+               << Say(TextId::HistoryWithoutGerman) << '\n';
+    }
+
+    std::vector<std::string> TextLine(std::size_t place) const {
+        const ErrorRecord& error = errors_[place];
+        const std::size_t most = errors_.front().Entries;
+        const std::size_t bar = std::max<std::size_t>(1, BarWidth * error.Entries / most);
+        const std::optional<std::string> text =
+            FirstLine(options_.MessageLanguage.IsGerman() ? texts_[place].German : texts_[place].English);
+        return {std::to_string(error.Entries),
+                std::string(bar, '#'),
+                std::to_string(error.Episodes),
+                error.Cleared ? std::to_string(*error.Cleared) : Say(TextId::HistoryEndUnknown),
+                error.Chattering != 0 ? std::to_string(error.Chattering) : std::string(),
+                error.LastStamp ? ReadableText(*error.LastStamp).substr(0, 16)
+                                : Say(TextId::HistoryUnreadable),
+                error.Key + (text ? ' ' + *text : std::string())};
+    }
+
+    static constexpr std::size_t BarWidth = 8;
+
+    const EntryTable& entries_;
+    const ErrorsOptions& options_;
+    Session::Duration recorded_{};
+    std::vector<ErrorRecord> errors_;
+    std::vector<ErrorTexts> texts_; // of the first errors
+    std::size_t printed_ = 0;
+};
+
+// Opens the logbook of a command and prints what `write` writes of it.
+template <typename MakeList>
+int Print(const HistoryOptions& options, const std::string& filters, MakeList makeList) {
+    const OutputPlace place{options.Output, options.MessageLanguage};
+    if (ReplacesSource(place, {options.File, filters}))
+        return FailForReplacedSource(place);
+    TerminalDocument document({.Files = {options.File, filters, options.Output},
+                               .ArchiveFilters = UserInterface::Answer::No,
+                               .MessageLanguage = options.MessageLanguage,
+                               .Partial = options.Partial});
+    if (!document.Open(options.File, {.Filters = filters}))
+        return ExitStatus::Failed;
+    document.RemoveFiles();
+    if (!document.HasRows())
+        return Fail(std::string(Text(TextId::FilterFailed, options.MessageLanguage)));
+    const auto list = makeList(document);
+    return document.StatusOf(WriteOutput(place, [&](std::ostream& stream, bool isTerminal) {
+        list.Write({.Format = options.Format, .ControlsAreVisible = isTerminal}, stream);
+        stream.flush();
+    }));
+}
+
+std::vector<bool> EntriesOf(const LogbookRows& rows, EntryNumber count) {
+    std::vector<bool> entries(count);
+    for (const LogbookRow& row : rows)
+        entries[row.Entry] = true;
+    return entries;
+}
+
+const Record CodeNames = {{"key", 0}, {"entries", 0}, {"text_en", 0}, {"text_de", 0}, {"missing", 0}};
+
+// The codes of a document in the order of their names, with the control's whole texts.
+class CodeList {
+  public:
+    CodeList(const TerminalDocument& document, const HistoryOptions& options)
+        : language_(options.MessageLanguage) {
+        const EntryTable& entries = document.Entries();
+        for (ErrorRecord& error : ErrorsOf(entries, SessionsOf(entries, document.Book().Starts),
+                                           ReadErrorKeys(options), {.Warnings = true}))
+            if (error.Form == ErrorKeys::Form::Code) {
+                ErrorTexts texts = TextsOf(error, entries, LanguageFolder(options.LanguageFolder));
+                codes_.push_back({std::move(error), std::move(texts)});
+            }
+        std::sort(codes_.begin(), codes_.end(),
+                  [](const Code& a, const Code& b) { return a.Error.Key < b.Error.Key; });
+    }
+
+    void Write(const RowForm& form, std::ostream& stream) const {
+        if (form.Format == "text")
+            return WriteText(stream);
+        std::vector<Record> records;
+        for (const Code& code : codes_)
+            records.push_back({{"key", code.Error.Key},
+                               {"entries", code.Error.Entries},
+                               {"text_en", TextOrNull(code.Texts.English)},
+                               {"text_de", TextOrNull(code.Texts.German)},
+                               {"missing", Missing(code.Texts)}});
+        WriteRecords(records, CodeNames, form, stream);
+    }
+
+  private:
+    struct Code {
+        ErrorRecord Error;
+        ErrorTexts Texts;
+    };
+
+    static std::string Missing(const ErrorTexts& texts) {
+        std::string missing = texts.English ? "" : "en";
+        if (!texts.German)
+            missing += missing.empty() ? "de" : " de";
+        return missing;
+    }
+
+    void WriteText(std::ostream& stream) const {
+        const auto say = [&](TextId id) { return std::string(Text(id, language_)); };
+        PlainTable table({{say(TextId::HistoryCode), 9, 17},
+                          {say(TextId::HistoryEntries), 7, 9, ColumnSide::Right},
+                          {say(TextId::HistoryMissing), 5, 5},
+                          {say(TextId::HistoryEnglish), 12, 32},
+                          {say(TextId::HistoryGerman), 0, Width}});
+        for (const Code& code : codes_)
+            table.AddLine({code.Error.Key, std::to_string(code.Error.Entries), Missing(code.Texts),
+                           FirstLine(code.Texts.English).value_or("-"),
+                           FirstLine(code.Texts.German).value_or("-")});
+        table.Write(stream, Width);
+    }
+
+    Language language_;
+    std::vector<Code> codes_;
+};
+
+} // namespace
+
+CLI::App* AddErrorsCommand(CLI::App& app, ErrorsOptions& options) {
+    CLI::App* command =
+        app.add_subcommand("errors", "Print which errors a logbook records, the most frequent first");
+    AddHistoryOptions(*command, options);
+    command->add_option("--top", options.Top, "Only so many of the most frequent")
+        ->check(CLI::PositiveNumber);
+    command->add_option("--type", options.Type, "error (with fatal errors), warning, or all: both")
+        ->check(CLI::IsMember({"error", "warning", "all"}))
+        ->capture_default_str();
+    command->add_option("--filters", options.Filters, "Only entries that this filter file lets through")
+        ->check(NameIsGiven());
+    return command;
+}
+
+int RunErrors(const ErrorsOptions& options) {
+    return Print(options, options.Filters, [&](const TerminalDocument& document) {
+        ErrorChoice choice{.Errors = options.Type != "warning", .Warnings = options.Type != "error"};
+        if (!options.Filters.empty())
+            choice.Entries = EntriesOf(document.Rows(), document.Entries().Count());
+        return ErrorList(document, choice, options);
+    });
+}
+
+int RunLookupAll(const HistoryOptions& options) {
+    return Print(options, {}, [&](const TerminalDocument& document) { return CodeList(document, options); });
+}

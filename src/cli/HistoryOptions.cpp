@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "cli/HistoryOptions.h"
+
+#include "cli/Options.h"
+#include "eventinfo/iZEKEventInfo.h"
+
+#include <CLI/CLI.hpp>
+
+void AddHistoryOptions(CLI::App& command, HistoryOptions& options) {
+    command
+        .add_option("FILE", options.File,
+                    "The logbook, a service archive (*.zip), or an own archive (*.qorvix)")
+        ->required();
+    command.add_option("--format", options.Format, "text, jsonl (JSON Lines) or csv (RFC 4180)")
+        ->check(CLI::IsMember({"text", "jsonl", "csv"}))
+        ->capture_default_str();
+    command.add_option("--output", options.Output, "Write to this file instead of standard output")
+        ->check(NameIsGiven());
+    AddLanguageFolderOption(command, options.LanguageFolder);
+    AddPartialOption(command, options.Partial);
+    AddLanguageOption(command, options.MessageLanguage, "Of messages and of the text form");
+}
+
+std::string LanguageFolder(const std::string& given) { return given.empty() ? GetErrorInfoPath() : given; }
+
+void AddLanguageFolderOption(CLI::App& command, std::string& folder) {
+    command
+        .add_option("--language-folder", folder,
+                    "The folder of the control's language files instead of \"language\" beside the program")
+        ->check(NameIsGiven());
+}
+
+void AddPartialOption(CLI::App& command, bool& partial) {
+    command.add_flag(
+        "--partial", partial,
+        "If an error ends the read of the logbook, use what was read; the exit status is then 3");
+}

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "cli/SessionsCommand.h"
+
+#include "cli/ExitStatus.h"
+#include "cli/HistoryTexts.h"
+#include "cli/Output.h"
+#include "cli/PlainTable.h"
+#include "cli/RecordWriter.h"
+#include "cli/TerminalDocument.h"
+#include "history/Sessions.h"
+#include "settings/Texts.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+using ColumnSide = PlainTable::Side;
+
+constexpr std::size_t Width = 120; // of the text form, in characters
+
+// The sessions of a document, and the words for them.
+class SessionList {
+  public:
+    SessionList(const TerminalDocument& document, ErrorKeys keys, Language language)
+        : entries_(document.Entries()),
+          sessions_(SessionsOf(entries_, document.Book().Starts)),
+          keys_(std::move(keys)),
+          language_(language) {}
+
+    void Write(const RowForm& form, std::ostream& stream) const {
+        if (form.Format == "text")
+            return WriteText(stream);
+        std::vector<Record> records;
+        for (std::size_t i = 0; i < sessions_.size(); ++i)
+            records.push_back(RecordOf(i));
+        WriteRecords(records, Names, form, stream);
+    }
+
+  private:
+    std::string Say(TextId id) const { return std::string(Text(id, language_)); }
+
+    std::string KeyOf(EntryNumber number) const {
+        const EntryKind& kind = entries_.Kind(number);
+        std::string key;
+        keys_.MakeKey(entries_.Data(number), kind.Sender, kind.Name, key);
+        return key;
+    }
+
+    Record RecordOf(std::size_t place) const {
+        const Session& session = sessions_[place];
+        const bool hasEntries = session.EntryCount() > 0;
+        Record record;
+        record["session"] = place + 1;
+        record["start"] = IsoOrNull(session.Start);
+        record["start_recorded"] = session.StartRecorded;
+        record["first_index"] = hasEntries ? Record(session.First) : Record();
+        record["last_index"] = hasEntries ? Record(session.End - 1) : Record();
+        record["entries"] = session.EntryCount();
+        record["last_entry"] = IsoOrNull(session.LastEntry);
+        record["recorded_seconds"] = SecondsOrNull(session.Recorded);
+        record["to_next_seconds"] = SecondsOrNull(session.ToNext);
+        record["errors"] = session.Errors;
+        record["warnings"] = session.Warnings;
+        record["clock_steps"] = session.ClockSteps;
+        record["last_error"] = Record();
+        if (session.LastError)
+            record["last_error"] = {{"index", *session.LastError},
+                                    {"key", KeyOf(*session.LastError)},
+                                    {"seconds_before_end", SecondsOrNull(session.LastErrorBeforeEnd)}};
+        return record;
+    }
+
+    // Starts that nothing follows are one line together.
+    void WriteText(std::ostream& stream) const {
+        PlainTable table({{Say(TextId::HistorySession), 7, 15, ColumnSide::Right},
+                          {Say(TextId::HistoryStart), 23, 23},
+                          {Say(TextId::HistoryRecorded), 8, 12, ColumnSide::Right},
+                          {Say(TextId::HistoryToNext), 8, 12, ColumnSide::Right},
+                          {Say(TextId::HistoryEntries), 7, 10, ColumnSide::Right},
+                          {Say(TextId::HistoryErrors), 6, 10, ColumnSide::Right},
+                          {Say(TextId::HistoryWarnings), 5, 10, ColumnSide::Right},
+                          {Say(TextId::HistoryRemarks), 0, Width}});
+        for (std::size_t i = 0; i < sessions_.size();) {
+            std::size_t end = i;
+            while (end < sessions_.size() && sessions_[end].EntryCount() == 0)
+                ++end;
+            if (end - i > 1) {
+                table.AddLine({std::to_string(i + 1) + '-' + std::to_string(end), StartsInSeconds(i, end)});
+                i = end;
+            } else {
+                table.AddLine(TextLine(i));
+                ++i;
+            }
+        }
+        table.Write(stream, Width);
+        const auto hours = [](Session::Duration time) {
+            return DecimalText(static_cast<double>(time.count()) / 3'600'000.0, 2);
+        };
+        stream << Say(TextId::HistoryRecordedHours) << hours(RecordedTime(sessions_))
+               << Say(TextId::HistoryAtMost) << hours(MostTime(sessions_)) << '\n';
+    }
+
+    std::string StartsInSeconds(std::size_t begin, std::size_t end) const {
+        std::string text = std::to_string(end - begin) + ' ' + Say(TextId::HistoryStarts);
+        const std::optional<Stamp>& first = sessions_[begin].Start;
+        const std::optional<Stamp>& last = sessions_[end - 1].Start;
+        if (first && last)
+            text += ' ' + Say(TextId::HistoryIn) + ' ' +
+                    Record(Seconds(std::max(TimeBetween(*first, *last), Session::Duration(0)))).dump() + " s";
+        return text + (first ? ", " + Say(TextId::HistoryFrom) + ' ' + ReadableText(*first) : std::string());
+    }
+
+    std::vector<std::string> TextLine(std::size_t place) const {
+        const Session& session = sessions_[place];
+        const std::string start = session.Start           ? ReadableText(*session.Start)
+                                  : session.StartRecorded ? Say(TextId::HistoryUnreadable)
+                                                          : Say(TextId::HistoryNotRecorded);
+        return {std::to_string(place + 1),
+                start,
+                ClockText(session.Recorded),
+                ClockText(session.ToNext),
+                std::to_string(session.EntryCount()),
+                std::to_string(session.Errors),
+                std::to_string(session.Warnings),
+                Remarks(session)};
+    }
+
+    // Steps of the clock, then the last error.
+    std::string Remarks(const Session& session) const {
+        std::string text;
+        if (session.ClockSteps > 0) {
+            text = Say(TextId::HistoryClockSteps) + ' ' + std::to_string(session.ClockSteps);
+            if (session.SummerTimeSteps > 0)
+                text += " (" + Say(TextId::HistorySummerTime) + ')';
+        }
+        if (session.LastError) {
+            text += (text.empty() ? "" : "; ") + KeyOf(*session.LastError);
+            if (session.LastErrorBeforeEnd)
+                text += ", " + ClockText(session.LastErrorBeforeEnd) + ' ' + Say(TextId::HistoryBeforeEnd);
+        }
+        return text;
+    }
+
+    static const Record Names;
+
+    const EntryTable& entries_;
+    std::vector<Session> sessions_;
+    ErrorKeys keys_;
+    Language language_;
+};
+
+const Record SessionList::Names = {{"session", 0},
+                                   {"start", 0},
+                                   {"start_recorded", 0},
+                                   {"first_index", 0},
+                                   {"last_index", 0},
+                                   {"entries", 0},
+                                   {"last_entry", 0},
+                                   {"recorded_seconds", 0},
+                                   {"to_next_seconds", 0},
+                                   {"errors", 0},
+                                   {"warnings", 0},
+                                   {"clock_steps", 0},
+                                   {"last_error", {{"index", 0}, {"key", 0}, {"seconds_before_end", 0}}}};
+
+} // namespace
+
+CLI::App* AddSessionsCommand(CLI::App& app, HistoryOptions& options) {
+    CLI::App* command = app.add_subcommand(
+        "sessions", "Print what a logbook records from each start of the control to the next");
+    AddHistoryOptions(*command, options);
+    return command;
+}
+
+int RunSessions(const HistoryOptions& options) {
+    const OutputPlace place{options.Output, options.MessageLanguage};
+    if (ReplacesSource(place, {options.File}))
+        return FailForReplacedSource(place);
+    TerminalDocument document({.Files = {options.File, options.Output},
+                               .ArchiveFilters = UserInterface::Answer::No,
+                               .MessageLanguage = options.MessageLanguage,
+                               .Partial = options.Partial});
+    if (!document.Open(options.File))
+        return ExitStatus::Failed;
+    document.RemoveFiles();
+    const SessionList sessions(document, ReadErrorKeys(options), options.MessageLanguage);
+    return document.StatusOf(WriteOutput(place, [&](std::ostream& stream, bool isTerminal) {
+        sessions.Write({.Format = options.Format, .ControlsAreVisible = isTerminal}, stream);
+        stream.flush();
+    }));
+}
