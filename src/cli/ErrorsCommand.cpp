@@ -23,7 +23,7 @@ namespace {
 
 using ColumnSide = PlainTable::Side;
 
-constexpr std::size_t Width = 100; // of the text forms, in characters
+constexpr std::size_t ErrorsWidth = 100; // of the text forms, in characters
 
 Record TextOrNull(const std::optional<std::string>& text) { return text ? Record(*text) : Record(); }
 
@@ -98,10 +98,10 @@ class ErrorList {
                           {Say(TextId::HistoryCleared), 7, 14, ColumnSide::Right},
                           {Say(TextId::HistoryChatter), 5, 9, ColumnSide::Right},
                           {Say(TextId::HistoryLast), 16, 16},
-                          {Say(TextId::HistoryErrorAndText), 0, Width}});
+                          {Say(TextId::HistoryErrorAndText), 0, ErrorsWidth}});
         for (std::size_t i = 0; i < printed_; ++i)
             table.AddLine(TextLine(i));
-        table.Write(stream, Width);
+        table.Write(stream, ErrorsWidth);
         const auto without = [&](std::optional<std::string> ErrorTexts::*language) {
             const auto count = std::count_if(texts_.begin(), texts_.end(), [&](const ErrorTexts& texts) {
                 return !FirstLine(texts.*language);
@@ -218,12 +218,12 @@ class CodeList {
                           {say(TextId::HistoryEntries), 7, 9, ColumnSide::Right},
                           {say(TextId::HistoryMissing), 5, 5},
                           {say(TextId::HistoryEnglish), 12, 32},
-                          {say(TextId::HistoryGerman), 0, Width}});
+                          {say(TextId::HistoryGerman), 0, ErrorsWidth}});
         for (const Code& code : codes_)
             table.AddLine({code.Error.Key, std::to_string(code.Error.Entries), Missing(code.Texts),
                            FirstLine(code.Texts.English).value_or("-"),
                            FirstLine(code.Texts.German).value_or("-")});
-        table.Write(stream, Width);
+        table.Write(stream, ErrorsWidth);
     }
 
     Language language_;

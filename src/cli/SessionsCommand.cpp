@@ -16,7 +16,7 @@ namespace {
 
 using ColumnSide = PlainTable::Side;
 
-constexpr std::size_t Width = 120; // of the text form, in characters
+constexpr std::size_t SessionsWidth = 120; // of the text form, in characters
 
 // The sessions of a document, and the words for them.
 class SessionList {
@@ -79,7 +79,7 @@ class SessionList {
                           {Say(TextId::HistoryEntries), 7, 10, ColumnSide::Right},
                           {Say(TextId::HistoryErrors), 6, 10, ColumnSide::Right},
                           {Say(TextId::HistoryWarnings), 5, 10, ColumnSide::Right},
-                          {Say(TextId::HistoryRemarks), 0, Width}});
+                          {Say(TextId::HistoryRemarks), 0, SessionsWidth}});
         for (std::size_t i = 0; i < sessions_.size();) {
             std::size_t end = i;
             while (end < sessions_.size() && sessions_[end].EntryCount() == 0)
@@ -92,7 +92,7 @@ class SessionList {
                 ++i;
             }
         }
-        table.Write(stream, Width);
+        table.Write(stream, SessionsWidth);
         const auto hours = [](Session::Duration time) {
             return DecimalText(static_cast<double>(time.count()) / 3'600'000.0, 2);
         };

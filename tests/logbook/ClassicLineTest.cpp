@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr const char* Stamp = "04.01.2010 12:34:56.789";
+constexpr const char* StampText = "04.01.2010 12:34:56.789";
 
 // Makes the file long enough for a table with room for more than one entry; the lines match no keyword.
 std::string Classic(const std::vector<std::string>& lines) {
@@ -66,8 +66,8 @@ TEST(ClassicLine, OneBlankAloneMakesNoLongerStamp) {
 
 TEST(ClassicLine, LongDataPushesTheStamp) {
     const std::string data(60, 'd');
-    EXPECT_EQ(EntriesOf(Classic({"BERR:    " + data + Stamp})),
-              "4 4 [] [] [" + std::string(Stamp) + "] " + data + "\n");
+    EXPECT_EQ(EntriesOf(Classic({"BERR:    " + data + StampText})),
+              "4 4 [] [] [" + std::string(StampText) + "] " + data + "\n");
 }
 
 TEST(ClassicLine, ErrorWithMessageTakesItsSenderFromTheMessage) {
@@ -205,5 +205,5 @@ TEST(ClassicLine, TextIsWindows1252) {
 TEST(ClassicLine, ColumnsCountCharactersNotBytesOfUtf8) {
     std::string line = "Key:     \xE4\xF6\xFC";
     line.resize(49, ' ');
-    EXPECT_EQ(EntriesOf(Classic({line + Stamp})), "6 5 [] [] [04.01.2010 12:34:56.789] äöü\n");
+    EXPECT_EQ(EntriesOf(Classic({line + StampText})), "6 5 [] [] [04.01.2010 12:34:56.789] äöü\n");
 }
