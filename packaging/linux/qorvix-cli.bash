@@ -3,6 +3,7 @@
 _qorvix_cli() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]} words
     local list="--format --output --separator --bom --raw --filters --stored-filters --use-archive-filters --language"
+    local history="--format --output --partial --language --language-folder"
     COMPREPLY=()
     # bash takes "--language=de" for three words.
     if [ "$word" = = ]; then
@@ -11,18 +12,26 @@ _qorvix_cli() {
         before=${COMP_WORDS[COMP_CWORD - 2]}
     fi
     case $before in
-    --format) words="jsonl csv" ;;
+    --format)
+        case $command in
+        sessions | errors | lookup) words="text jsonl csv" ;;
+        *) words="jsonl csv" ;;
+        esac
+        ;;
+    --type) words="error warning all" ;;
     --separator) words="comma semicolon tab" ;;
     --language) words="en de" ;;
     --language-folder) compopt -o dirnames; return ;;
     *)
         if [ "$COMP_CWORD" -eq 1 ]; then
-            words="export find lookup pack --help --version"
+            words="export find sessions errors lookup pack --help --version"
         elif [[ $word == -* ]]; then
             case $command in
-            export) words="$list --help" ;;
+            export) words="$list --partial --help" ;;
             find) words="$list --whole-word --case-sensitive --help" ;;
-            lookup) words="--language --language-folder --help" ;;
+            sessions) words="$history --help" ;;
+            errors) words="$history --top --type --filters --help" ;;
+            lookup) words="--all --format --output --language --language-folder --help" ;;
             pack) words="--filters --comments --keep-comments --drop-comments --language --help" ;;
             esac
         else
