@@ -60,10 +60,8 @@ class ErrorList {
     void Write(const RowForm& form, std::ostream& stream) const {
         if (form.Format == "text")
             return WriteText(stream);
-        std::vector<Record> records;
-        for (std::size_t i = 0; i < printed_; ++i)
-            records.push_back(RecordOf(i));
-        WriteRecords(records, ErrorNames, form, stream);
+        WriteRecords(
+            printed_, [this](std::size_t place) { return RecordOf(place); }, ErrorNames, form, stream);
     }
 
   private:
@@ -146,6 +144,7 @@ int Print(const HistoryOptions& options, const std::string& filters, MakeList ma
     if (ReplacesSource(place, {options.File, filters}))
         return FailForReplacedSource(place);
     TerminalDocument document({.Files = {options.File, filters, options.Output},
+                               .Filters = {}, // without a filter file no rows are wanted
                                .ArchiveFilters = UserInterface::Answer::No,
                                .MessageLanguage = options.MessageLanguage,
                                .Partial = options.Partial});
@@ -189,14 +188,15 @@ class CodeList {
     void Write(const RowForm& form, std::ostream& stream) const {
         if (form.Format == "text")
             return WriteText(stream);
-        std::vector<Record> records;
-        for (const Code& code : codes_)
-            records.push_back({{"key", code.Error.Key},
-                               {"entries", code.Error.Entries},
-                               {"text_en", TextOrNull(code.Texts.English)},
-                               {"text_de", TextOrNull(code.Texts.German)},
-                               {"missing", Missing(code.Texts)}});
-        WriteRecords(records, CodeNames, form, stream);
+        const auto record = [this](std::size_t place) -> Record {
+            const Code& code = codes_[place];
+            return {{"key", code.Error.Key},
+                    {"entries", code.Error.Entries},
+                    {"text_en", TextOrNull(code.Texts.English)},
+                    {"text_de", TextOrNull(code.Texts.German)},
+                    {"missing", Missing(code.Texts)}};
+        };
+        WriteRecords(codes_.size(), record, CodeNames, form, stream);
     }
 
   private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/RecordWriter.h"
 
+#include "base/StopRequest.h"
 #include "base/VisibleControls.h"
 
 #include <string>
@@ -14,25 +15,23 @@ void AppendValue(const Record& value, CsvLine& line) {
         line.Append(value.is_null() ? std::string() : value.dump());
 }
 
-void WriteCsv(const std::vector<Record>& records, const Record& names, const RowForm& form,
-              std::ostream& stream) {
-    CsvLine line(form);
+void WriteNames(const Record& names, CsvLine& line) {
     for (const auto& [name, value] : names.items())
         if (value.is_object())
             for (const auto& [inner, ignored] : value.items())
                 line.Append(name + '_' + inner);
         else
             line.Append(name);
-    stream << (form.ByteOrderMark ? ByteOrderMark : "");
-    line.Write(stream);
-    for (const Record& record : records) {
-        for (const auto& [name, value] : names.items())
-            if (value.is_object())
-                for (const auto& [inner, ignored] : value.items())
-                    AppendValue(record[name].is_null() ? Record() : record[name][inner], line);
-            else
-                AppendValue(record[name], line);
-        line.Write(stream);
+}
+
+void AppendRecord(const Record& record, const Record& names, CsvLine& line) {
+    for (const auto& [name, value] : names.items()) {
+        const Record& field = record.at(name);
+        if (!value.is_object())
+            AppendValue(field, line);
+        else
+            for (const auto& [inner, ignored] : value.items())
+                AppendValue(field.is_null() ? field : field.at(inner), line);
     }
 }
 
@@ -44,10 +43,20 @@ Record Seconds(std::chrono::milliseconds time) {
     return static_cast<double>(time.count()) / 1000.0;
 }
 
-void WriteRecords(const std::vector<Record>& records, const Record& names, const RowForm& form,
-                  std::ostream& stream) {
-    if (form.Format == "csv")
-        return WriteCsv(records, names, form, stream);
-    for (const Record& record : records)
-        stream << WithVisibleControls(record.dump()) << '\n';
+void WriteRecords(std::size_t count, const std::function<Record(std::size_t)>& record, const Record& names,
+                  const RowForm& form, std::ostream& stream) {
+    const bool csv = form.Format == "csv";
+    CsvLine line(form);
+    if (csv) {
+        WriteNames(names, line);
+        stream << (form.ByteOrderMark ? ByteOrderMark : "");
+        line.Write(stream);
+    }
+    for (std::size_t i = 0; i < count && stream && !StopRequest::IsMade(); ++i)
+        if (csv) {
+            AppendRecord(record(i), names, line);
+            line.Write(stream);
+        } else {
+            stream << WithVisibleControls(record(i).dump()) << '\n';
+        }
 }

@@ -30,10 +30,8 @@ class SessionList {
     void Write(const RowForm& form, std::ostream& stream) const {
         if (form.Format == "text")
             return WriteText(stream);
-        std::vector<Record> records;
-        for (std::size_t i = 0; i < sessions_.size(); ++i)
-            records.push_back(RecordOf(i));
-        WriteRecords(records, Names, form, stream);
+        WriteRecords(
+            sessions_.size(), [this](std::size_t place) { return RecordOf(place); }, Names, form, stream);
     }
 
   private:
@@ -177,6 +175,7 @@ int RunSessions(const HistoryOptions& options) {
     if (ReplacesSource(place, {options.File}))
         return FailForReplacedSource(place);
     TerminalDocument document({.Files = {options.File, options.Output},
+                               .Filters = {}, // no rows are wanted
                                .ArchiveFilters = UserInterface::Answer::No,
                                .MessageLanguage = options.MessageLanguage,
                                .Partial = options.Partial});

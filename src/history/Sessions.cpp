@@ -35,8 +35,8 @@ class SessionStamps {
 
 // Counts the entries of a session and takes their stamps. An entry that stands for the session's start has
 // the stamp that was taken with it.
-void TakeEntries(const EntryTable& entries, const EntryStamps& stamps, bool startIsEntry,
-                 SessionStamps& taken, Session& session) {
+void TakeEntries(const EntryTable& entries, std::span<const std::int16_t> types, const EntryStamps& stamps,
+                 bool startIsEntry, SessionStamps& taken, Session& session) {
     std::optional<Stamp> errorStamp;
     for (EntryNumber number = session.First; number < session.End; ++number) {
         const std::optional<Stamp> stamp = stamps[number];
@@ -44,7 +44,7 @@ void TakeEntries(const EntryTable& entries, const EntryStamps& stamps, bool star
             taken.Take(stamp, session);
         if (stamp)
             session.LastEntry = stamp;
-        const std::int16_t type = entries.Kind(number).EventType;
+        const std::int16_t type = types[entries.KindNumber(number)];
         if (type == EventTypes::Warning)
             ++session.Warnings;
         if (type != EventTypes::Error && type != EventTypes::Fatal)
@@ -77,6 +77,9 @@ std::vector<Session> SessionsOf(const EntryTable& entries, std::span<const Logbo
                             .First = std::min(starts[i].Entry, count),
                             .End = i + 1 < starts.size() ? std::min(starts[i + 1].Entry, count) : count});
 
+    std::vector<std::int16_t> types; // by number of kind
+    for (std::uint32_t kind = 0; kind < entries.Kinds().Count(); ++kind)
+        types.push_back(entries.Kinds()[kind].EventType);
     SessionStamps taken;
     for (std::size_t i = 0; i < sessions.size(); ++i) {
         Session& session = sessions[i];
@@ -84,7 +87,7 @@ std::vector<Session> SessionsOf(const EntryTable& entries, std::span<const Logbo
         taken.Take(session.Start, session);
         const bool startIsEntry = session.StartRecorded && session.EntryCount() > 0 &&
                                   entries.Kind(session.First).EventType == EventTypes::Restart;
-        TakeEntries(entries, stamps, startIsEntry, taken, session);
+        TakeEntries(entries, types, stamps, startIsEntry, taken, session);
         if (i + 1 < sessions.size() && session.Start && sessions[i + 1].Start)
             session.ToNext =
                 std::max(TimeBetween(*session.Start, *sessions[i + 1].Start), Session::Duration(0));

@@ -108,14 +108,6 @@ std::optional<Stamp> ReadStamp(std::string_view text) {
     return Stamp{*time->Date + *time->Clock, time->HasFraction};
 }
 
-std::chrono::milliseconds TimeBetween(const Stamp& from, const Stamp& to) {
-    using std::chrono::floor;
-    using std::chrono::seconds;
-    if (from.HasMilliseconds && to.HasMilliseconds)
-        return to.Moment - from.Moment;
-    return floor<seconds>(to.Moment) - floor<seconds>(from.Moment);
-}
-
 std::string IsoText(const Stamp& stamp) {
     const auto day = std::chrono::floor<std::chrono::days>(stamp.Moment);
     const std::chrono::year_month_day date(day);

@@ -32,7 +32,13 @@ std::optional<Stamp> ReadStamp(std::string_view text);
 
 // The time from one stamp to the other, negative when the second is the earlier one. In whole seconds unless
 // both have milliseconds: a stamp without them may be up to a second later than it says.
-std::chrono::milliseconds TimeBetween(const Stamp& from, const Stamp& to);
+inline std::chrono::milliseconds TimeBetween(const Stamp& from, const Stamp& to) {
+    using std::chrono::floor;
+    using std::chrono::seconds;
+    if (from.HasMilliseconds && to.HasMilliseconds)
+        return to.Moment - from.Moment;
+    return floor<seconds>(to.Moment) - floor<seconds>(from.Moment);
+}
 
 // ISO 8601: "2010-01-04T12:45:02", or "2010-01-04T12:45:02.123" for a stamp with milliseconds.
 std::string IsoText(const Stamp& stamp);
