@@ -35,9 +35,9 @@ class LogbookWriter {
         while (WantsMore(entries) && out.good()) {
             lines.MakeRoom();
             const std::size_t begin = lines.Waiting();
-            const MachineEvent& event = planter ? planter->Next() : story.Next();
+            const MachineEvent& event = NextEvent();
             AppendEvent(event);
-            if (truth)
+            if (truth) [[unlikely]]
                 truth->Take(event, story.Clock(), lines.WaitingFrom(begin));
             ++entries;
         }
@@ -76,6 +76,12 @@ class LogbookWriter {
             separatorDay = story.Clock().Day();
             return AppendSeparatedEvent(lines, event, story);
         }
+    }
+
+    const MachineEvent& NextEvent() {
+        if (planter) [[unlikely]]
+            return planter->Next();
+        return story.Next();
     }
 
     LogbookOrder order;

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 enum class Happening {
@@ -29,7 +30,7 @@ enum class Happening {
 enum class Lamp { On, Blink, Off };
 
 // What was planted on purpose. An event that only happened to come so is None.
-enum class Plant {
+enum class Plant : std::uint8_t {
     None,
     ClockStep, // the first event behind a step of the clock
     Precursor, // comes before an error that is Foretold

@@ -128,9 +128,9 @@ Happening MachineStory::ChooseNext() {
         return Happening::Restart;
     const bool typed = event.happening == Happening::Stroke;
     Happening next = Choose(told, chance);
-    while ((typed && next == Happening::Stroke) || (!restarts && next == Happening::Restart))
+    while (typed && next == Happening::Stroke)
         next = Choose(told, chance);
-    return next;
+    return restarts || next != Happening::Restart ? next : Happening::Info;
 }
 
 // The first letter of the text tells whose error it is.
