@@ -36,9 +36,11 @@ struct PrecursorPair {
 };
 
 inline constexpr auto PrecursorPairs = std::to_array<PrecursorPair>({
-    {true, {"PLC", "COOLANT", "Durchfluss {V} %"}, {"PLC", "COOLANT", "P012 Kühlmittelstand niedrig"}},
-    {true, {"MOTION", "SPINDLE", "bearing at {V} °C"}, {"PLC", "SPINDLE", "P2451 Spindellager zu heiß"}},
-    {false, {"PLC", "HYDRAULIC", "pressure {V} bar"}, {"PLC", "HYDRAULIC", "P103 Hydraulikdruck zu niedrig"}},
+    {true, {"PLC", "COOLANT", "Durchfluss {D} %"}, {"PLC", "COOLANT", "P012 Kühlmittelstand niedrig"}},
+    {true,
+     {"MOTION", "SPINDLE", "bearing vibration {V} %"},
+     {"PLC", "SPINDLE", "P2451 Spindellager zu heiß"}},
+    {false, {"PLC", "HYDRAULIC", "pressure {D} bar"}, {"PLC", "HYDRAULIC", "P103 Hydraulikdruck zu niedrig"}},
 });
 
 // Errors that come many times within a minute.
