@@ -38,6 +38,11 @@ class LineBuffer {
     void PadTo(std::size_t column);
     void EndLine();
 
+    // How many bytes wait to be handed on, and those of them from the `begin`th on. Valid until the next
+    // append.
+    std::size_t Waiting() const { return used; }
+    std::string_view WaitingFrom(std::size_t begin) const { return {buffer.get() + begin, used - begin}; }
+
     void Flush();
     // The bytes appended so far, handed on or not.
     std::uint64_t BytesWritten() const { return handedOn + used; }

@@ -5,8 +5,12 @@
 #include "tools/LineBuffer.h"
 #include "tools/MachineStory.h"
 #include "tools/OperationWriter.h"
+#include "tools/Planter.h"
 #include "tools/SeparatedWriter.h"
+#include "tools/Truth.h"
 
+#include <cstddef>
+#include <optional>
 #include <ostream>
 #include <sstream>
 #include <utility>
@@ -15,18 +19,31 @@ namespace {
 
 class LogbookWriter {
   public:
-    LogbookWriter(const LogbookOrder& wanted, std::ostream& sink)
-        : order(wanted), out(sink), story(order.generation, order.seed), lines(sink) {}
+    LogbookWriter(const LogbookOrder& wanted, std::ostream& sink, std::ostream* truthSink)
+        : order(wanted), out(sink), story(order.generation, order.seed, order.firstDay), lines(sink) {
+        if (order.plants.Any())
+            planter.emplace(order, story);
+        if (truthSink != nullptr)
+            truth.emplace(order.generation, *truthSink);
+    }
 
     LogbookSize Write() {
         AppendHeading();
+        if (truth)
+            truth->TakeHeading(lines.WaitingFrom(0));
         std::uint64_t entries = 0;
         while (WantsMore(entries) && out.good()) {
             lines.MakeRoom();
-            AppendEvent();
+            const std::size_t begin = lines.Waiting();
+            const MachineEvent& event = NextEvent();
+            AppendEvent(event);
+            if (truth) [[unlikely]]
+                truth->Take(event, story.Clock(), lines.WaitingFrom(begin));
             ++entries;
         }
         lines.Flush();
+        if (truth)
+            truth->End();
         return {entries, lines.BytesWritten()};
     }
 
@@ -47,8 +64,7 @@ class LogbookWriter {
         separatorDay = story.Clock().Day();
     }
 
-    void AppendEvent() {
-        const MachineEvent& event = story.Next();
+    void AppendEvent(const MachineEvent& event) {
         switch (order.generation) {
         case Generation::Classic:
             return AppendClassicEvent(lines, event, story);
@@ -62,17 +78,25 @@ class LogbookWriter {
         }
     }
 
+    const MachineEvent& NextEvent() {
+        if (planter) [[unlikely]]
+            return planter->Next();
+        return story.Next();
+    }
+
     LogbookOrder order;
     std::ostream& out;
     MachineStory story;
+    std::optional<Planter> planter;
+    std::optional<Truth> truth;
     LineBuffer lines;
     std::int64_t separatorDay = 0;
 };
 
 } // namespace
 
-LogbookSize WriteLogbook(const LogbookOrder& order, std::ostream& out) {
-    return LogbookWriter(order, out).Write();
+LogbookSize WriteLogbook(const LogbookOrder& order, std::ostream& out, std::ostream* truth) {
+    return LogbookWriter(order, out, truth).Write();
 }
 
 std::string LogbookText(const LogbookOrder& order) {

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tools/MachineClock.h"
+#include "tools/Plants.h"
+
 #include <cstdint>
 #include <iosfwd>
 #include <string>
@@ -16,6 +19,8 @@ struct LogbookOrder {
     std::uint64_t entries = 0;
     std::uint64_t bytes = 0;
     std::uint64_t seed = 1;
+    std::int64_t firstDay = MachineClock::UsualFirstDay; // days since 1 January 1970
+    Plants plants;
 };
 
 struct LogbookSize {
@@ -24,8 +29,9 @@ struct LogbookSize {
 };
 
 // Writes a logbook of believable machine events: Windows-1252, line ends CR LF. The same order gives the same
-// bytes on every platform. Stops early when the stream fails. Returns what was written.
-LogbookSize WriteLogbook(const LogbookOrder& order, std::ostream& out);
+// bytes on every platform. Stops early when the stream fails. Returns what was written. `truth` gets what
+// tools/README.md calls the truth.
+LogbookSize WriteLogbook(const LogbookOrder& order, std::ostream& out, std::ostream* truth = nullptr);
 
 // The same as one text.
 std::string LogbookText(const LogbookOrder& order);

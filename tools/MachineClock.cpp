@@ -24,6 +24,20 @@ void MachineClock::Advance(std::uint64_t milliseconds) {
     timeOfDay %= DayLength;
 }
 
+void MachineClock::Set(std::int64_t milliseconds) {
+    constexpr auto Length = static_cast<std::int64_t>(DayLength);
+    SetDay(milliseconds / Length);
+    timeOfDay = static_cast<std::uint64_t>(milliseconds % Length);
+}
+
+std::string MachineClock::IsoDate() const {
+    const auto twoDigits = [](unsigned number) {
+        return std::string{static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
+    };
+    return twoDigits(year / 100) + twoDigits(year % 100) + '-' + twoDigits(month) + '-' +
+           twoDigits(dayOfMonth);
+}
+
 void MachineClock::SetDay(std::int64_t newDay) {
     day = newDay;
     const std::chrono::sys_days date{std::chrono::days{static_cast<int>(newDay)}};

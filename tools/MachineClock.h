@@ -2,19 +2,31 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 class LineBuffer;
 
-// The clock of the machine. It starts on Monday 4 January 2010, early in the morning, and only moves when it
-// is told to; the clock of the computer plays no part.
+// The clock of the machine. It starts early in the morning, on Monday 4 January 2010 when no other day is
+// given, and only moves when it is told to; the clock of the computer plays no part.
 class MachineClock {
   public:
-    MachineClock() { SetDay(FirstDay); }
+    static constexpr std::int64_t UsualFirstDay = 14613; // days since 1 January 1970
+
+    explicit MachineClock(std::int64_t firstDay = UsualFirstDay) { SetDay(firstDay); }
 
     void Advance(std::uint64_t milliseconds);
 
+    // Milliseconds since 1 January 1970 by this clock, which knows no time zones.
+    std::int64_t Now() const {
+        return day * static_cast<std::int64_t>(DayLength) + static_cast<std::int64_t>(timeOfDay);
+    }
+    // Sets the clock, forth or back.
+    void Set(std::int64_t milliseconds);
+
     // Counts the days; a new number is a new date.
     std::int64_t Day() const { return day; }
+    // YYYY-MM-DD
+    std::string IsoDate() const;
 
     // HH:MM:SS
     void AppendTime(LineBuffer& lines) const;
@@ -26,7 +38,6 @@ class MachineClock {
     void AppendEnglishDate(LineBuffer& lines) const;
 
   private:
-    static constexpr std::int64_t FirstDay = 14613; // days since 1 January 1970
     static constexpr std::uint64_t FirstTime = 6 * 3600 * 1000 + 12 * 60 * 1000;
     static constexpr std::uint64_t DayLength = 24 * 3600 * 1000;
 

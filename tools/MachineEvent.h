@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 enum class Happening {
@@ -28,6 +29,16 @@ enum class Happening {
 
 enum class Lamp { On, Blink, Off };
 
+// What was planted on purpose. An event that only happened to come so is None.
+enum class Plant : std::uint8_t {
+    None,
+    ClockStep, // the first event behind a step of the clock
+    Precursor, // comes before an error that is Foretold
+    Foretold,
+    Chatter, // one error many times
+    LastOfChatter,
+};
+
 // One thing that happens at the machine, in the words of no particular generation. Only the fields that
 // belong to the happening have a meaning. The texts are those of the tables, with their places not yet
 // filled.
@@ -46,4 +57,5 @@ struct MachineEvent {
     Lamp lamp = Lamp::On;
 
     bool milliseconds = true; // the stamp carries them
+    Plant plant = Plant::None;
 };

@@ -6,6 +6,8 @@
 #include "tools/InfoTexts.h"
 #include "tools/KeyTable.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr std::uint64_t Second = 1000;
@@ -75,7 +77,7 @@ void MachineStory::ReleaseKey() {
 }
 
 void MachineStory::BeginNew() {
-    clock.Advance(Pause(chance));
+    clock.Advance(std::min(Pause(chance), longestPause));
     event.happening = ChooseNext();
     switch (event.happening) {
     case Happening::Restart:
@@ -121,13 +123,14 @@ void MachineStory::BeginNew() {
 // No word is typed straight behind another, so that the strokes of a word stay together and apart from
 // others.
 Happening MachineStory::ChooseNext() {
-    if (firstShiftLeft > 0 && --firstShiftLeft == 0)
+    const bool restarts = longestPause == NoLimit;
+    if (restarts && firstShiftLeft > 0 && --firstShiftLeft == 0)
         return Happening::Restart;
     const bool typed = event.happening == Happening::Stroke;
     Happening next = Choose(told, chance);
     while (typed && next == Happening::Stroke)
         next = Choose(told, chance);
-    return next;
+    return restarts || next != Happening::Restart ? next : Happening::Info;
 }
 
 // The first letter of the text tells whose error it is.
@@ -162,10 +165,14 @@ void MachineStory::BeginReport() {
     AddContinuations();
 }
 
-// Ends a shift or follows a fault. What was going on before is forgotten.
-void MachineStory::BeginRestart() {
+void MachineStory::Forget() {
     releaseDue = false;
     nextLamp = Lamp::On;
+}
+
+// Ends a shift or follows a fault.
+void MachineStory::BeginRestart() {
+    Forget();
     milliseconds = !chance.OneIn(7);
     clock.Advance(chance.OneIn(4) ? chance.Between(2 * Hour, 14 * Hour)
                                   : chance.Between(Minute, 20 * Minute));

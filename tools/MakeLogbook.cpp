@@ -1,104 +1,83 @@
 // SPDX-License-Identifier: MIT
 #include "tools/LogbookWriter.h"
+#include "tools/OrderOptions.h"
+#include "tools/RingCutter.h"
 
-#include <charconv>
 #include <cstdio>
 #include <fstream>
-#include <limits>
+#include <iterator>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
-constexpr const char* Usage =
-    "usage: make-logbook GENERATION OUT (--entries N | --bytes N[k|M|G]) [--seed S]\n"
-    "  GENERATION  classic, separated or operation\n"
-    "  --entries   stop after N events\n"
-    "  --bytes     stop with the event that reaches N bytes; k, M and G are 2^10, 2^20, 2^30\n"
-    "  --seed      another story; 1 when not given\n";
+constexpr int Failed = 1;
+constexpr int WrongUsage = 2;
 
-std::optional<std::uint64_t> ReadNumber(std::string_view text) {
-    std::uint64_t value = 0;
-    const char* end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value);
-    if (error != std::errc{} || stop != end)
-        return std::nullopt;
-    return value;
+int TellUsage() {
+    std::fputs(MakeLogbookUsage, stderr);
+    return WrongUsage;
 }
 
-std::optional<std::uint64_t> ReadSize(std::string_view text) {
-    unsigned shift = 0;
-    if (text.ends_with('k'))
-        shift = 10;
-    else if (text.ends_with('M'))
-        shift = 20;
-    else if (text.ends_with('G'))
-        shift = 30;
-    if (shift > 0)
-        text.remove_suffix(1);
-    const std::optional<std::uint64_t> value = ReadNumber(text);
-    if (!value || *value > (std::numeric_limits<std::uint64_t>::max() >> shift))
-        return std::nullopt;
-    return *value << shift;
+int TellProblem(const char* problem, const std::string& name) {
+    std::fprintf(stderr, "make-logbook: %s %s\n", problem, name.c_str());
+    return Failed;
 }
 
-std::optional<Generation> ReadGeneration(std::string_view text) {
-    if (text == "classic")
-        return Generation::Classic;
-    if (text == "separated")
-        return Generation::Separated;
-    if (text == "operation")
-        return Generation::Operation;
-    return std::nullopt;
-}
-
-std::optional<LogbookOrder> ReadOrder(std::string_view generation, std::span<char* const> options) {
-    const std::optional<Generation> known = ReadGeneration(generation);
-    if (!known || options.size() % 2 != 0)
-        return std::nullopt;
-    LogbookOrder order{.generation = *known};
-    for (std::size_t i = 0; i < options.size(); i += 2) {
-        const std::string_view option = options[i];
-        const std::string_view text = options[i + 1];
-        const std::optional<std::uint64_t> value = option == "--bytes" ? ReadSize(text) : ReadNumber(text);
-        if (!value)
-            return std::nullopt;
-        if (option == "--entries")
-            order.entries = *value;
-        else if (option == "--bytes")
-            order.bytes = *value;
-        else if (option == "--seed")
-            order.seed = *value;
-        else
-            return std::nullopt;
+int MakeLogbook(const std::string& name, const LogbookCommand& command) {
+    std::ofstream out(name, std::ios::binary | std::ios::trunc);
+    std::ofstream truth;
+    if (!command.truthFile.empty())
+        truth.open(command.truthFile, std::ios::binary | std::ios::trunc);
+    const LogbookSize size = WriteLogbook(command.order, out, command.truthFile.empty() ? nullptr : &truth);
+    out.close();
+    if (!out)
+        return TellProblem("cannot write", name);
+    if (!command.truthFile.empty()) {
+        truth.close();
+        if (!truth)
+            return TellProblem("cannot write", command.truthFile);
     }
-    if ((order.entries == 0) == (order.bytes == 0))
-        return std::nullopt;
-    return order;
+    std::printf("%llu entries, %llu bytes\n", static_cast<unsigned long long>(size.entries),
+                static_cast<unsigned long long>(size.bytes));
+    return 0;
+}
+
+int MakeExports(const std::string& logbookName, const std::string& prefix, const RingOrder& order) {
+    std::ifstream in(logbookName, std::ios::binary);
+    const std::string logbook{std::istreambuf_iterator<char>(in), {}};
+    if (!in)
+        return TellProblem("cannot read", logbookName);
+    const std::optional<std::vector<RingPiece>> pieces = CutRing(logbook, order);
+    if (!pieces)
+        return TellProblem("too short for these exports:", logbookName);
+    for (std::size_t i = 0; i < pieces->size(); ++i) {
+        const RingPiece& piece = (*pieces)[i];
+        const std::string name = prefix + '-' + std::to_string(i + 1) + ".log";
+        std::ofstream out(name, std::ios::binary | std::ios::trunc);
+        out << ExportOf(logbook, piece);
+        out.close();
+        if (!out)
+            return TellProblem("cannot write", name);
+        std::printf("%s %zu %zu\n", name.c_str(), piece.begin, piece.end);
+    }
+    return 0;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    const std::span<char* const> arguments(argv, static_cast<std::size_t>(argc));
-    if (arguments.size() < 3) {
-        std::fputs(Usage, stderr);
-        return 2;
+    const std::vector<std::string_view> arguments(argv, argv + argc);
+    if (arguments.size() < 4)
+        return TellUsage();
+    if (arguments[1] == "ring") {
+        const std::optional<RingOrder> order = ReadRingOrder(std::span(arguments).subspan(4));
+        return order ? MakeExports(argv[2], argv[3], *order) : TellUsage();
     }
-    const std::optional<LogbookOrder> order = ReadOrder(arguments[1], arguments.subspan(3));
-    if (!order) {
-        std::fputs(Usage, stderr);
-        return 2;
-    }
-    std::ofstream out(arguments[2], std::ios::binary | std::ios::trunc);
-    const LogbookSize size = WriteLogbook(*order, out);
-    out.close();
-    if (!out) {
-        std::fprintf(stderr, "make-logbook: cannot write %s\n", arguments[2]);
-        return 1;
-    }
-    std::printf("%llu entries, %llu bytes\n", static_cast<unsigned long long>(size.entries),
-                static_cast<unsigned long long>(size.bytes));
-    return 0;
+    const std::optional<LogbookCommand> command =
+        ReadLogbookCommand(arguments[1], std::span(arguments).subspan(3));
+    return command ? MakeLogbook(argv[2], *command) : TellUsage();
 }

@@ -1,43 +1,58 @@
 // SPDX-License-Identifier: MIT
 #include "tools/LogbookWriter.h"
+#include "tools/WrittenLogbook.h"
 
 #include "support/ReadText.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 namespace {
 
 struct Sample {
-    Generation Kind;
     const char* Name;
-    std::uint64_t Seed;
+    LogbookOrder Order;
 };
 
-constexpr Sample Samples[] = {{Generation::Classic, "classic", 975},
-                              {Generation::Separated, "separated", 59},
-                              {Generation::Operation, "operation", 146}};
+constexpr std::int64_t LastSaturdayOfOctober = 14912; // 2010
+
+constexpr Sample Samples[] = {
+    {"classic",
+     {.generation = Generation::Classic,
+      .entries = 380,
+      .seed = 975,
+      .plants = {.codedErrors = 47, .cleared = 32, .clockSteps = 145, .bursts = 177, .precursors = 41}}},
+    {"separated",
+     {.generation = Generation::Separated,
+      .entries = 380,
+      .seed = 1814,
+      .firstDay = LastSaturdayOfOctober,
+      .plants = {.codedErrors = 44, .cleared = 35, .bursts = 124, .precursors = 41, .summerTime = true}}},
+    {"operation",
+     {.generation = Generation::Operation,
+      .entries = 380,
+      .seed = 1120,
+      .plants = {.codedErrors = 65, .clockSteps = 198, .bursts = 203, .precursors = 36}}}};
+
+std::string Path(const Sample& sample) {
+    return QORVIX_SOURCE_FOLDER "/samples/" + std::string(sample.Name) + ".log";
+}
 
 } // namespace
 
 TEST(LogbookWriter, SamplesAreWhatItWrites) {
-    for (const auto& [generation, name, seed] : Samples) {
-        LogbookOrder order;
-        order.generation = generation;
-        order.entries = 300;
-        order.seed = seed;
-        const std::string sample = FileContent(QORVIX_SOURCE_FOLDER "/samples/" + std::string(name) + ".log");
-        EXPECT_TRUE(LogbookText(order) == sample) << name;
-    }
+    for (const Sample& sample : Samples)
+        EXPECT_TRUE(LogbookText(sample.Order) == FileContent(Path(sample))) << sample.Name;
 }
 
 TEST(LogbookWriter, SamplesHoldEveryKindOfEvent) {
-    for (const auto& [generation, name, seed] : Samples) {
-        SCOPED_TRACE(seed);
+    for (const Sample& sample : Samples) {
+        SCOPED_TRACE(sample.Name);
         ReadResult result;
-        ReadText(FileContent(QORVIX_SOURCE_FOLDER "/samples/" + std::string(name) + ".log"), result);
+        ReadText(FileContent(Path(sample)), result);
         ASSERT_TRUE(result.Read);
         std::set<int> types;
         bool umlaut = false;
@@ -46,13 +61,32 @@ TEST(LogbookWriter, SamplesHoldEveryKindOfEvent) {
             umlaut = umlaut || result.Book.Entries.Data(number).find("ü") != std::string_view::npos;
         }
         std::set<int> expected{1, 2, 3, 4, 5, 6, 7, 9};
-        if (generation == Generation::Operation)
+        if (sample.Order.generation == Generation::Operation)
             expected.erase(EventTypes::Fatal); // this generation has no such events
         for (const int type : types)
-            EXPECT_TRUE(expected.contains(type)) << name << " " << type;
+            EXPECT_TRUE(expected.contains(type)) << type;
         for (const int type : {1, 2, 3, 5, 6, 7})
-            EXPECT_TRUE(types.contains(type)) << name << " " << type;
-        EXPECT_TRUE(umlaut) << name;
+            EXPECT_TRUE(types.contains(type)) << type;
+        EXPECT_TRUE(umlaut);
+    }
+}
+
+TEST(LogbookWriter, SamplesTellTheirStories) {
+    for (const Sample& sample : Samples) {
+        SCOPED_TRACE(sample.Name);
+        const WrittenLogbook book(sample.Order);
+        EXPECT_GE(book.TruthOf("precursor").size(), 3U);
+        const nlohmann::json fault = book.TruthOf("precursor").front()["before"];
+        const auto isOfFault = [&](const nlohmann::json& object) { return object["key"] == fault; };
+        const std::vector<nlohmann::json> errors = book.TruthOf("error");
+        EXPECT_GE(std::count_if(errors.begin(), errors.end(), isOfFault), 4);
+        const std::vector<nlohmann::json> cleared = book.TruthOf("cleared");
+        EXPECT_EQ(std::count_if(cleared.begin(), cleared.end(), isOfFault),
+                  sample.Order.plants.cleared > 0 ? 1 : 0);
+        const std::vector<nlohmann::json> steps = book.TruthOf("clock");
+        EXPECT_TRUE(std::any_of(steps.begin(), steps.end(),
+                                [](const nlohmann::json& step) { return step["to"] < step["from"]; }));
+        EXPECT_GE(book.TruthOf("start").size(), 10U);
     }
 }
 
