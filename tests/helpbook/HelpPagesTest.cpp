@@ -101,8 +101,9 @@ bool MustBeExplained(const TextRow& row) {
         lbTime,           lbIndex,          ButtonFind,         HelpSearchLabel, HelpSearchButton,
         HelpPagesFound,   AboutDesignation, AboutVersion,       AboutLicence,    AboutLibraries,
         AboutLicenceText, LanguageLabel,    LanguageNote,       LanguageEnglish, LanguageGerman,
-        LanguageItalian,  LanguageSpanish,  LanguageFrench,     LanguageSwedish, LanguageFinnish,
-        LanguageCzech,    LanguagePolish,   LanguageDanish};
+        HistoryCode,      HistoryEnglish,   HistoryGerman,      HistoryFrom,     HistoryIn,
+        HistoryOf,        HistoryStarts,    LanguageItalian,    LanguageSpanish, LanguageFrench,
+        LanguageSwedish,  LanguageFinnish,  LanguageCzech,      LanguagePolish,  LanguageDanish};
     static constexpr auto NoWords = {CountSeparator, FilterFileUnreadableAfter};
     static constexpr auto NotShown = {PageSetup};
     const auto isOneOf = [&](const auto& list) {
