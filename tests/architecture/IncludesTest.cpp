@@ -14,9 +14,9 @@
 namespace {
 
 // In order of dependency: a folder includes files of its own and of folders before it.
-constexpr std::array<std::string_view, 14> Folders{"base",     "logbook", "settings",  "filter",   "rows",
-                                                   "comments", "sources", "eventinfo", "document", "helpbook",
-                                                   "list",     "dialogs", "app",       "cli"};
+constexpr std::array<std::string_view, 15> Folders{"base",     "logbook", "settings",  "filter",  "rows",
+                                                   "comments", "sources", "eventinfo", "history", "document",
+                                                   "helpbook", "list",    "dialogs",   "app",     "cli"};
 constexpr std::array<std::string_view, 3> FoldersWithQt{"list", "dialogs", "app"};
 
 template <typename Table>
