@@ -9,6 +9,7 @@
 #include "cli/LookupCommand.h"
 #include "cli/Options.h"
 #include "cli/PackCommand.h"
+#include "cli/StitchCommand.h"
 
 #include <CLI/CLI.hpp>
 
@@ -131,6 +132,8 @@ int Run(int argc, char** argv) {
     const CLI::App* const lookupCommand = AddLookupCommand(app, lookupOptions);
     PackOptions packOptions;
     const CLI::App* const packCommand = AddPackCommand(app, packOptions);
+    StitchOptions stitchOptions;
+    const CLI::App* const stitchCommand = AddStitchCommand(app, stitchOptions);
 
     try {
         app.parse(argc, argv);
@@ -139,6 +142,8 @@ int Run(int argc, char** argv) {
     }
     if (packCommand->parsed())
         return RunPack(packOptions);
+    if (stitchCommand->parsed())
+        return RunStitch(stitchOptions);
     if (lookupCommand->parsed())
         return RunLookup(lookupOptions);
     return find->parsed() ? RunFind(options, search) : RunExport(options);
