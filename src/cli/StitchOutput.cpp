@@ -95,6 +95,8 @@ class CommentsBeside {
             old_.emplace(path_);
             if (!old_->Path().empty())
                 old_->Stream() << std::ifstream(ToPath(path_), std::ios::binary).rdbuf();
+            if (const std::error_code error = old_->Prepare())
+                return FailFor(path_, error, input_.MessageLanguage);
         }
         if (const std::error_code error = SaveComments(path_, comments, input_.FileCodePage))
             return FailFor(path_, error, input_.MessageLanguage);
@@ -156,9 +158,15 @@ bool WriteStitchedLog(const std::string& path, const StitchInput& input, Stitche
         return false;
     AtomicFile file(path);
     CarriedComments carried;
-    if (!Write(file, path, input, result, carried) || !comments.Replace(carried.Placed))
+    if (!Write(file, path, input, result, carried))
         return false;
-    const std::error_code error = file.Commit();
+    // From here on only moving can fail.
+    std::error_code error = file.Prepare();
+    if (error)
+        return FailFor(path, error, input.MessageLanguage);
+    if (!comments.Replace(carried.Placed))
+        return false;
+    error = file.Commit();
     if (!error)
         return true;
     comments.PutBack();
