@@ -11,19 +11,23 @@ _qorvix_cli() {
         before=${COMP_WORDS[COMP_CWORD - 2]}
     fi
     case $before in
-    --format) words="jsonl csv" ;;
+    --format)
+        words="jsonl csv"
+        [ "$command" != stitch ] || words="text jsonl"
+        ;;
     --separator) words="comma semicolon tab" ;;
     --language) words="en de" ;;
     --language-folder) compopt -o dirnames; return ;;
     *)
         if [ "$COMP_CWORD" -eq 1 ]; then
-            words="export find lookup pack --help --version"
+            words="export find lookup pack stitch --help --version"
         elif [[ $word == -* ]]; then
             case $command in
             export) words="$list --help" ;;
             find) words="$list --whole-word --case-sensitive --help" ;;
             lookup) words="--language --language-folder --help" ;;
             pack) words="--filters --comments --keep-comments --drop-comments --language --help" ;;
+            stitch) words="--output --format --language --help" ;;
             esac
         else
             # readline's own names of files, which it knows how to quote.

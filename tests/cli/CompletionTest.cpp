@@ -32,7 +32,7 @@ std::string CompletionsOf(const std::vector<std::string>& words) {
 } // namespace
 
 TEST(Completion, Commands) {
-    EXPECT_EQ(CompletionsOf({""}), "export\nfind\nlookup\npack\n--help\n--version\n");
+    EXPECT_EQ(CompletionsOf({""}), "export\nfind\nlookup\npack\nstitch\n--help\n--version\n");
     EXPECT_EQ(CompletionsOf({"exp"}), "export\n");
 }
 
@@ -41,6 +41,7 @@ TEST(Completion, OptionsAreThoseOfTheCommand) {
     EXPECT_EQ(CompletionsOf({"export", "--w"}), "");
     EXPECT_EQ(CompletionsOf({"lookup", "--l"}), "--language\n--language-folder\n");
     EXPECT_THAT(CompletionsOf({"pack", "-"}), HasSubstr("--comments\n"));
+    EXPECT_EQ(CompletionsOf({"stitch", "--o"}), "--output\n");
 }
 
 TEST(Completion, ValuesOfOptionsInBothForms) {
@@ -49,6 +50,7 @@ TEST(Completion, ValuesOfOptionsInBothForms) {
     EXPECT_EQ(CompletionsOf({"export", "--language", "=", "d"}), "de\n");
     EXPECT_EQ(CompletionsOf({"find", "--format", "c"}), "csv\n");
     EXPECT_EQ(CompletionsOf({"find", "--format", "=", "j"}), "jsonl\n");
+    EXPECT_EQ(CompletionsOf({"stitch", "--format", ""}), "text\njsonl\n");
     EXPECT_EQ(CompletionsOf({"export", "--separator", ""}), "comma\nsemicolon\ntab\n");
     EXPECT_EQ(CompletionsOf({"export", "--b"}), "--bom\n");
 }
