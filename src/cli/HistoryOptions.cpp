@@ -30,7 +30,7 @@ void AddLanguageFolderOption(CLI::App& command, std::string& folder) {
         ->check(NameIsGiven());
 }
 
-void AddPartialOption(CLI::App& command, bool& partial) {
+CLI::Option* AddPartialOption(CLI::App& command, bool& partial) {
     command.add_flag(
         "--partial", partial,
         "If an error ends the read of the logbook, use what was read; the exit status is then 3");
