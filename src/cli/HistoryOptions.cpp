@@ -31,7 +31,7 @@ void AddLanguageFolderOption(CLI::App& command, std::string& folder) {
 }
 
 CLI::Option* AddPartialOption(CLI::App& command, bool& partial) {
-    command.add_flag(
+    return command.add_flag(
         "--partial", partial,
         "If an error ends the read of the logbook, use what was read; the exit status is then 3");
 }
