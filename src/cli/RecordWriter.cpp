@@ -19,7 +19,7 @@ void WriteNames(const Record& names, CsvLine& line) {
     for (const auto& [name, value] : names.items())
         if (value.is_object())
             for (const auto& [inner, ignored] : value.items())
-                line.Append(name + '_' + inner);
+                line.Append(std::string(name).append("_").append(inner));
         else
             line.Append(name);
 }
