@@ -43,6 +43,7 @@ std::vector<StitchCounts> CountEntries(const StitchedLog& log, const std::string
             known[place];
     }
     std::vector<std::uint64_t> places;
+    places.reserve(known.size());
     for (const auto& [place, entry] : known)
         places.push_back(place);
     const auto entries = EntriesAt(file, places);
