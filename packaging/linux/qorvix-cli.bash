@@ -31,7 +31,7 @@ _qorvix_cli() {
             find) words="$list --whole-word --case-sensitive --help" ;;
             sessions) words="$history --help" ;;
             errors) words="$history --top --type --filters --help" ;;
-            lookup) words="--all --format --output --language --language-folder --help" ;;
+            lookup) words="--all --format --output --partial --language --language-folder --help" ;;
             pack) words="--filters --comments --keep-comments --drop-comments --language --help" ;;
             esac
         else

@@ -25,8 +25,8 @@ void AddLanguageFolderOption(CLI::App& command, std::string& folder) {
         ->check(NameIsGiven());
 }
 
-void AddPartialOption(CLI::App& command, bool& partial) {
-    command.add_flag(
+CLI::Option* AddPartialOption(CLI::App& command, bool& partial) {
+    return command.add_flag(
         "--partial", partial,
         "If an error ends the read of the logbook, use what was read; the exit status is then 3");
 }

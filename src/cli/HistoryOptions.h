@@ -7,7 +7,8 @@
 
 namespace CLI {
 class App;
-}
+class Option;
+} // namespace CLI
 
 // What the commands have in common that print what a logbook records of its machine.
 struct HistoryOptions {
@@ -29,4 +30,4 @@ std::string LanguageFolder(const std::string& given);
 void AddLanguageFolderOption(CLI::App& command, std::string& folder);
 
 // The option --partial.
-void AddPartialOption(CLI::App& command, bool& partial);
+CLI::Option* AddPartialOption(CLI::App& command, bool& partial);

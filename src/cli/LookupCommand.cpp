@@ -32,6 +32,7 @@ CLI::App* AddLookupCommand(CLI::App& app, LookupOptions& options) {
                      "With --all: write to this file instead of standard output")
         ->check(NameIsGiven())
         ->needs(all);
+    AddPartialOption(*command, options.Listing.Partial)->needs(all);
     AddLanguageFolderOption(*command, options.Folder);
     AddLanguageOption(*command, options.TextLanguage, "Of the text");
     return command;

@@ -14,7 +14,7 @@ namespace {
 
 using ColumnSide = PlainTable::Side;
 
-constexpr std::size_t SessionsWidth = 120; // of the text form, in characters
+constexpr std::size_t SessionsWidth = 1000; // of the text form, in characters: nothing of a remark is cut
 
 // The sessions of a document, and the words for them.
 class SessionList {
@@ -78,7 +78,7 @@ class SessionList {
                           {Say(TextId::HistoryRemarks), 0, SessionsWidth}});
         for (std::size_t i = 0; i < sessions_.size();) {
             std::size_t end = i;
-            while (end < sessions_.size() && sessions_[end].EntryCount() == 0)
+            while (end < sessions_.size() && IsMereStart(sessions_[end]))
                 ++end;
             if (end - i > 1) {
                 table.AddLine({std::to_string(i + 1) + '-' + std::to_string(end), StartsInSeconds(i, end)});
@@ -89,21 +89,24 @@ class SessionList {
             }
         }
         table.Write(stream, SessionsWidth);
-        const auto hours = [](Session::Duration time) {
-            return DecimalText(static_cast<double>(time.count()) / 3'600'000.0, 2);
+        const auto hours = [](const std::optional<Session::Duration>& time) {
+            return time ? DecimalText(static_cast<double>(time->count()) / 3'600'000.0, 2) : std::string("-");
         };
         stream << Say(TextId::HistoryRecordedHours) << hours(RecordedTime(sessions_))
                << Say(TextId::HistoryAtMost) << hours(MostTime(sessions_)) << '\n';
     }
 
+    // A start with nothing to say but its time.
+    static bool IsMereStart(const Session& session) {
+        return session.EntryCount() == 0 && session.Start && session.ClockSteps == 0;
+    }
+
     std::string StartsInSeconds(std::size_t begin, std::size_t end) const {
-        std::string text = std::to_string(end - begin) + ' ' + Say(TextId::HistoryStarts);
-        const std::optional<Stamp>& first = sessions_[begin].Start;
-        const std::optional<Stamp>& last = sessions_[end - 1].Start;
-        if (first && last)
-            text += ' ' + Say(TextId::HistoryIn) + ' ' +
-                    Record(Seconds(std::max(TimeBetween(*first, *last), Session::Duration(0)))).dump() + " s";
-        return text + (first ? ", " + Say(TextId::HistoryFrom) + ' ' + ReadableText(*first) : std::string());
+        const Stamp first = sessions_[begin].Start.value_or(Stamp{});
+        const Stamp last = sessions_[end - 1].Start.value_or(Stamp{});
+        return std::to_string(end - begin) + ' ' + Say(TextId::HistoryStarts) + ' ' + Say(TextId::HistoryIn) +
+               ' ' + Seconds(TimeBetween(first, last)).dump() + " s, " + Say(TextId::HistoryFrom) + ' ' +
+               ReadableText(first);
     }
 
     std::vector<std::string> TextLine(std::size_t place) const {

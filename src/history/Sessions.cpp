@@ -102,9 +102,13 @@ Session::Duration RecordedTime(std::span<const Session> sessions) {
                            });
 }
 
-Session::Duration MostTime(std::span<const Session> sessions) {
+std::optional<Session::Duration> MostTime(std::span<const Session> sessions) {
     Session::Duration sum{0};
-    for (const Session& session : sessions)
-        sum += session.ToNext.value_or(session.Recorded.value_or(Session::Duration(0)));
-    return sum;
+    bool bounded = false;
+    for (const Session& session : sessions) {
+        const Session::Duration recorded = session.Recorded.value_or(Session::Duration(0));
+        sum += std::max(session.ToNext.value_or(recorded), recorded);
+        bounded = bounded || session.ToNext;
+    }
+    return bounded ? std::optional(sum) : std::nullopt;
 }

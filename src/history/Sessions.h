@@ -50,6 +50,8 @@ std::vector<Session> SessionsOf(const EntryTable& entries, std::span<const Logbo
 // The sum of what the sessions record.
 Session::Duration RecordedTime(std::span<const Session> sessions);
 
-// The sum of the times to the next start: what was running cannot have been running longer, as far as starts
-// and stamps can be read. The last session, and one without a readable start, counts with what it records.
-Session::Duration MostTime(std::span<const Session> sessions);
+// How long the sessions can have lasted together, as far as starts say: the sum of the times to the next
+// start. A session that records more than that, because the clock was set back, counts with what it records;
+// so does one without a readable start at both ends, such as the last one. Nothing when there is no time to a
+// next start.
+std::optional<Session::Duration> MostTime(std::span<const Session> sessions);

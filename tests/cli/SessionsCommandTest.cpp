@@ -79,6 +79,16 @@ TEST_F(SessionsCommand, FoldsStartsWithoutEntriesIntoOneLine) {
                 HasSubstr("  2 Starts in 15 s, ab 2010-11-01 08:00:10\n"));
 }
 
+TEST_F(SessionsCommand, FoldsNoStartThatHasMoreToSay) {
+    Log = Folder.Write("b.log", Lines({ResetLine("31.10.2010 02:59:58"), ResetLine("31.10.2010 02:59:59"),
+                                       ResetLine("31.10.2010 02:00:07"), ResetLine("31.10.2010 02:00:09"),
+                                       ResetLine("31.13.2010 02:00:10"), ResetLine("31.10.2010 02:00:11")}));
+    const std::string text = Sessions().Output;
+    EXPECT_THAT(text, HasSubstr("\n      3  2010-10-31 02:00:07"));
+    EXPECT_THAT(text, HasSubstr("clock steps back: 1 (perhaps summer time)\n"));
+    EXPECT_THAT(text, HasSubstr("\n      5  unreadable"));
+}
+
 TEST_F(SessionsCommand, PrintsCsv) {
     std::istringstream lines(Sessions({"--format", "csv"}).Output);
     std::string line;

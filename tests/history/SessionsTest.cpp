@@ -49,6 +49,12 @@ TEST_F(Sessions, ReachFromOneStartToTheNext) {
     EXPECT_EQ(Found[1].Start, ReadStamp("04.01.2010 09:00:00"));
     EXPECT_EQ(RecordedTime(Found), std::chrono::seconds(45));
     EXPECT_EQ(MostTime(Found), std::chrono::seconds(10 + 3600 + 5));
+    // A clock that was set back does not make the bound smaller than what is recorded.
+    Read({StartAt("06:00:00"), StatusAt("08:00:00"), StartAt("05:00:00"), StatusAt("05:10:00")});
+    EXPECT_EQ(RecordedTime(Found), std::chrono::minutes(130));
+    EXPECT_EQ(MostTime(Found), std::chrono::minutes(130));
+    Read({StatusAt("06:00:00"), StartAt("07:00:00"), StatusAt("08:00:00")});
+    EXPECT_EQ(MostTime(Found), std::nullopt);
 }
 
 TEST_F(Sessions, BeginWithEachStartAlsoWhereNothingFollowsIt) {
