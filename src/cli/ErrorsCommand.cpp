@@ -2,14 +2,11 @@
 #include "cli/ErrorsCommand.h"
 
 #include "cli/ErrorTexts.h"
-#include "cli/ExitStatus.h"
 #include "cli/HistoryTexts.h"
-#include "cli/Messages.h"
 #include "cli/Options.h"
-#include "cli/Output.h"
 #include "cli/PlainTable.h"
+#include "cli/PrintedHistory.h"
 #include "cli/RecordWriter.h"
-#include "cli/TerminalDocument.h"
 #include "history/ErrorStatistics.h"
 #include "settings/Texts.h"
 
@@ -137,29 +134,6 @@ class ErrorList {
     std::size_t printed_ = 0;
 };
 
-// Opens the logbook of a command and prints what `write` writes of it.
-template <typename MakeList>
-int Print(const HistoryOptions& options, const std::string& filters, MakeList makeList) {
-    const OutputPlace place{options.Output, options.MessageLanguage};
-    if (ReplacesSource(place, {options.File, filters}))
-        return FailForReplacedSource(place);
-    TerminalDocument document({.Files = {options.File, filters, options.Output},
-                               .Filters = {}, // without a filter file no rows are wanted
-                               .ArchiveFilters = UserInterface::Answer::No,
-                               .MessageLanguage = options.MessageLanguage,
-                               .Partial = options.Partial});
-    if (!document.Open(options.File, {.Filters = filters}))
-        return ExitStatus::Failed;
-    document.RemoveFiles();
-    if (!document.HasRows())
-        return Fail(std::string(Text(TextId::FilterFailed, options.MessageLanguage)));
-    const auto list = makeList(document);
-    return document.StatusOf(WriteOutput(place, [&](std::ostream& stream, bool isTerminal) {
-        list.Write({.Format = options.Format, .ControlsAreVisible = isTerminal}, stream);
-        stream.flush();
-    }));
-}
-
 std::vector<bool> EntriesOf(const LogbookRows& rows, EntryNumber count) {
     std::vector<bool> entries(count);
     for (const LogbookRow& row : rows)
@@ -247,7 +221,7 @@ CLI::App* AddErrorsCommand(CLI::App& app, ErrorsOptions& options) {
 }
 
 int RunErrors(const ErrorsOptions& options) {
-    return Print(options, options.Filters, [&](const TerminalDocument& document) {
+    return PrintHistory(options, options.Filters, [&](const TerminalDocument& document) {
         ErrorChoice choice{.Errors = options.Type != "warning", .Warnings = options.Type != "error"};
         if (!options.Filters.empty())
             choice.Entries = EntriesOf(document.Rows(), document.Entries().Count());
@@ -256,5 +230,6 @@ int RunErrors(const ErrorsOptions& options) {
 }
 
 int RunLookupAll(const HistoryOptions& options) {
-    return Print(options, {}, [&](const TerminalDocument& document) { return CodeList(document, options); });
+    return PrintHistory(options, {},
+                        [&](const TerminalDocument& document) { return CodeList(document, options); });
 }

@@ -7,15 +7,10 @@
 #include <CLI/CLI.hpp>
 
 void AddHistoryOptions(CLI::App& command, HistoryOptions& options) {
-    command
-        .add_option("FILE", options.File,
-                    "The logbook, a service archive (*.zip), or an own archive (*.qorvix)")
-        ->required();
+    AddSourceAndOutput(command, options.File, options.Output);
     command.add_option("--format", options.Format, "text, jsonl (JSON Lines) or csv (RFC 4180)")
         ->check(CLI::IsMember({"text", "jsonl", "csv"}))
         ->capture_default_str();
-    command.add_option("--output", options.Output, "Write to this file instead of standard output")
-        ->check(NameIsGiven());
     AddLanguageFolderOption(command, options.LanguageFolder);
     AddPartialOption(command, options.Partial);
     AddLanguageOption(command, options.MessageLanguage, "Of messages and of the text form");

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "cli/SessionsCommand.h"
 
-#include "cli/ExitStatus.h"
 #include "cli/HistoryTexts.h"
-#include "cli/Output.h"
 #include "cli/PlainTable.h"
+#include "cli/PrintedHistory.h"
 #include "cli/RecordWriter.h"
-#include "cli/TerminalDocument.h"
 #include "history/Sessions.h"
 #include "settings/Texts.h"
 
@@ -174,20 +172,7 @@ CLI::App* AddSessionsCommand(CLI::App& app, HistoryOptions& options) {
 }
 
 int RunSessions(const HistoryOptions& options) {
-    const OutputPlace place{options.Output, options.MessageLanguage};
-    if (ReplacesSource(place, {options.File}))
-        return FailForReplacedSource(place);
-    TerminalDocument document({.Files = {options.File, options.Output},
-                               .Filters = {}, // no rows are wanted
-                               .ArchiveFilters = UserInterface::Answer::No,
-                               .MessageLanguage = options.MessageLanguage,
-                               .Partial = options.Partial});
-    if (!document.Open(options.File))
-        return ExitStatus::Failed;
-    document.RemoveFiles();
-    const SessionList sessions(document, ReadErrorKeys(options), options.MessageLanguage);
-    return document.StatusOf(WriteOutput(place, [&](std::ostream& stream, bool isTerminal) {
-        sessions.Write({.Format = options.Format, .ControlsAreVisible = isTerminal}, stream);
-        stream.flush();
-    }));
+    return PrintHistory(options, {}, [&](const TerminalDocument& document) {
+        return SessionList(document, ReadErrorKeys(options), options.MessageLanguage);
+    });
 }

@@ -25,15 +25,10 @@ namespace {
 
 // What the commands that print rows have in common.
 void AddListOptions(CLI::App& command, ListOptions& options) {
-    command
-        .add_option("FILE", options.File,
-                    "The logbook, a service archive (*.zip), or an own archive (*.qorvix)")
-        ->required();
+    AddSourceAndOutput(command, options.File, options.Output);
     command.add_option("--format", options.Format, "jsonl (JSON Lines) or csv (RFC 4180)")
         ->check(CLI::IsMember({"jsonl", "csv"}))
         ->capture_default_str();
-    command.add_option("--output", options.Output, "Write to this file instead of standard output")
-        ->check(NameIsGiven());
     command
         .add_option_function<std::string>(
             "--separator",

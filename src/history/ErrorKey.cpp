@@ -4,6 +4,7 @@
 #include "base/Blanks.h"
 #include "eventinfo/Numbers.h"
 #include "eventinfo/iZEKEventInfo.h"
+#include "logbook/EventLines.h"
 
 #include <array>
 #include <charconv>
@@ -11,9 +12,6 @@
 #include <utility>
 
 namespace {
-
-// How the list joins the lines of an entry's data; the lookup has line breaks there, which are no blanks.
-constexpr std::string_view LineSeparator = " | ";
 
 void AppendHexadecimal(std::int64_t number, std::size_t leastDigits, std::string& text) {
     std::array<char, 16> digits{};
@@ -26,7 +24,7 @@ void AppendHexadecimal(std::int64_t number, std::size_t leastDigits, std::string
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-// Whether a text has a blank that separates words, not lines.
+// Whether a text has a blank that separates words, not lines: the lookup has line breaks between lines.
 bool HasBlankInLine(std::string_view text) {
     for (std::size_t blank = text.find(Blank); blank != std::string_view::npos;
          blank = text.find(Blank, blank)) {

@@ -63,6 +63,17 @@ TEST(Partial, ARegisterBlockWithoutItsEndEndsTheRead) {
     }
 }
 
+TEST(Partial, ListsTheCodesThatWereRead) {
+    const TemporaryFolder folder;
+    const std::string log =
+        folder.Write("a.log", Lines({Header("BERR:    N938 x"), Header("BREG:"), "  D0=1"}));
+    const ProgramResult result =
+        RunCommandLineTool({"lookup", "--all", log, "--partial", "--format", "jsonl"});
+    EXPECT_EQ(result.ExitStatus, 3);
+    EXPECT_THAT(result.Output, HasSubstr("{\"key\":\"N938\",\"entries\":1,"));
+    EXPECT_EQ(RunCommandLineTool({"lookup", "N938 x", "--partial"}).ExitStatus, 2);
+}
+
 // A logbook that is cut anywhere gives what was read, whether or not the cut is an error.
 TEST(Partial, OfALogbookCutAnywhereIsNeverNothing) {
     const TemporaryFolder folder;

@@ -15,20 +15,9 @@ constexpr std::uint64_t Seeds = 50;
 class WrittenTruth : public testing::TestWithParam<Generation> {
   protected:
     static WrittenLogbook Write(std::uint64_t seed, const Plants& plants) {
-        LogbookOrder order;
-        order.generation = GetParam();
-        order.entries = 1200;
-        order.seed = seed;
-        order.firstDay = 14908; // Tuesday 26 October 2010
-        order.plants = plants;
-        return WrittenLogbook(order);
+        return WriteOctober(GetParam(), 1200, seed, plants);
     }
 };
-
-std::string GenerationName(const testing::TestParamInfo<Generation>& info) {
-    constexpr std::array Names{"Classic", "Separated", "Operation"};
-    return Names[static_cast<std::size_t>(info.param)];
-}
 
 // A time of the truth: seconds or milliseconds since a fixed day.
 struct Time {
@@ -66,7 +55,7 @@ bool IsError(const nlohmann::json& truth) { return truth["what"] == "error"; }
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Of, WrittenTruth, testing::ValuesIn(AllGenerations), GenerationName);
+INSTANTIATE_TEST_SUITE_P(Of, WrittenTruth, testing::ValuesIn(AllGenerations), NameOfGeneration);
 
 TEST_P(WrittenTruth, SessionsBeginWithTheWrittenStarts) {
     for (std::uint64_t seed = 1; seed <= Seeds; ++seed)

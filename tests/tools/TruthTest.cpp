@@ -14,20 +14,9 @@ constexpr std::uint64_t Seeds = 50;
 class Truth : public testing::TestWithParam<Generation> {
   protected:
     static WrittenLogbook Write(std::uint64_t seed, const Plants& plants) {
-        LogbookOrder order;
-        order.generation = GetParam();
-        order.entries = 1000;
-        order.seed = seed;
-        order.firstDay = 14908; // Tuesday 26 October 2010
-        order.plants = plants;
-        return WrittenLogbook(order);
+        return WriteOctober(GetParam(), 1000, seed, plants);
     }
 };
-
-std::string NameOf(const testing::TestParamInfo<Generation>& info) {
-    constexpr std::array Names{"Classic", "Separated", "Operation"};
-    return Names[static_cast<std::size_t>(info.param)];
-}
 
 bool IsError(const LogbookEntry& entry) {
     return entry.EventType == EventTypes::Error || entry.EventType == EventTypes::Fatal;
@@ -51,7 +40,7 @@ int SecondsBetween(const std::string& from, const std::string& to) {
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Of, Truth, testing::ValuesIn(AllGenerations), NameOf);
+INSTANTIATE_TEST_SUITE_P(Of, Truth, testing::ValuesIn(AllGenerations), NameOfGeneration);
 
 TEST_P(Truth, ErrorsAreThoseOfTheList) {
     for (std::uint64_t seed = 1; seed <= Seeds; ++seed)

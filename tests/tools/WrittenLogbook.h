@@ -7,6 +7,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <gtest/gtest.h>
+
 #include <array>
 #include <sstream>
 #include <string>
@@ -27,6 +29,11 @@ inline Plants ManyPlants() {
     plants.chatter = 120;
     plants.summerTime = true;
     return plants;
+}
+
+inline std::string NameOfGeneration(const testing::TestParamInfo<Generation>& info) {
+    constexpr std::array Names{"Classic", "Separated", "Operation"};
+    return Names[static_cast<std::size_t>(info.param)];
 }
 
 // A logbook, what the generator says of it, and what reading gives.
@@ -59,6 +66,18 @@ class WrittenLogbook {
     std::vector<nlohmann::json> Truth;
     ReadResult Read;
 };
+
+// A logbook of the last week of summer time.
+inline WrittenLogbook WriteOctober(Generation generation, std::uint64_t entries, std::uint64_t seed,
+                                   const Plants& plants) {
+    LogbookOrder order;
+    order.generation = generation;
+    order.entries = entries;
+    order.seed = seed;
+    order.firstDay = 14908; // Tuesday 26 October 2010
+    order.plants = plants;
+    return WrittenLogbook(order);
+}
 
 // "04.01.2010 12:45:02.123" as 2010-01-04T12:45:02.123
 inline std::string Iso(std::string_view stamp) {

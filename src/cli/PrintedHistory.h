@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/CsvLine.h"
+#include "cli/ExitStatus.h"
+#include "cli/HistoryOptions.h"
+#include "cli/Messages.h"
+#include "cli/Output.h"
+#include "cli/TerminalDocument.h"
+#include "settings/Texts.h"
+
+#include <string>
+
+// Opens the logbook of a command, with a filter file ("" = none), and prints the list that `makeList` makes
+// of the document: its Write(form, stream). Without a filter file the document has no rows. Returns the exit
+// status; failures are reported on standard error, and an output file then stays as it was.
+template <typename MakeList>
+int PrintHistory(const HistoryOptions& options, const std::string& filters, MakeList makeList) {
+    const OutputPlace place{options.Output, options.MessageLanguage};
+    if (ReplacesSource(place, {options.File, filters}))
+        return FailForReplacedSource(place);
+    TerminalDocument document({.Files = {options.File, filters, options.Output},
+                               .Filters = {}, // rows cost time and memory
+                               .ArchiveFilters = UserInterface::Answer::No,
+                               .MessageLanguage = options.MessageLanguage,
+                               .Partial = options.Partial});
+    if (!document.Open(options.File, {.Filters = filters}))
+        return ExitStatus::Failed;
+    document.RemoveFiles();
+    if (!document.HasRows())
+        return Fail(std::string(Text(TextId::FilterFailed, options.MessageLanguage)));
+    const auto list = makeList(document);
+    return document.StatusOf(WriteOutput(place, [&](std::ostream& stream, bool isTerminal) {
+        list.Write({.Format = options.Format, .ControlsAreVisible = isTerminal}, stream);
+        stream.flush();
+    }));
+}
