@@ -20,7 +20,7 @@ struct LogbookOrder {
     std::uint64_t bytes = 0;
     std::uint64_t seed = 1;
     std::int64_t firstDay = MachineClock::UsualFirstDay; // days since 1 January 1970
-    Plants plants;
+    Plants plants = {};
 };
 
 struct LogbookSize {

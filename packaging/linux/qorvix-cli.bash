@@ -15,6 +15,7 @@ _qorvix_cli() {
     --format)
         case $command in
         sessions | errors | lookup) words="text jsonl csv" ;;
+        stitch) words="text jsonl" ;;
         *) words="jsonl csv" ;;
         esac
         ;;
@@ -24,7 +25,7 @@ _qorvix_cli() {
     --language-folder) compopt -o dirnames; return ;;
     *)
         if [ "$COMP_CWORD" -eq 1 ]; then
-            words="export find sessions errors lookup pack --help --version"
+            words="export find sessions errors lookup pack stitch --help --version"
         elif [[ $word == -* ]]; then
             case $command in
             export) words="$list --partial --help" ;;
@@ -33,6 +34,7 @@ _qorvix_cli() {
             errors) words="$history --top --type --filters --help" ;;
             lookup) words="--all --format --output --partial --language --language-folder --help" ;;
             pack) words="--filters --comments --keep-comments --drop-comments --language --help" ;;
+            stitch) words="--output --format --language --help" ;;
             esac
         else
             # readline's own names of files, which it knows how to quote.

@@ -78,14 +78,19 @@ AtomicFile::~AtomicFile() {
         std::filesystem::remove(part_.Path, ignored);
 }
 
-std::error_code AtomicFile::Commit() {
-    if (error_)
+std::error_code AtomicFile::Prepare() {
+    if (error_ || isPrepared_)
         return error_;
     errno = 0;
     stream_.close();
     if (!stream_)
         return error_ = LastError();
-    if (error_ = Finish(part_.Path, target_); error_)
+    isPrepared_ = true;
+    return error_ = Finish(part_.Path, target_);
+}
+
+std::error_code AtomicFile::Commit() {
+    if (Prepare())
         return error_;
     const std::filesystem::path folder = target_.parent_path();
     std::filesystem::rename(part_.Path, target_, error_);

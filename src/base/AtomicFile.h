@@ -30,12 +30,17 @@ class AtomicFile {
     // it. Empty when the file could not be made; Commit reports that.
     const std::filesystem::path& Path() const { return part_.Path; }
 
+    // Flushes the file to the disk, so that Commit only has to move it. Nothing can be written any more. For
+    // files that take their places together: what can fail of all of them comes before the first is moved.
+    std::error_code Prepare();
+
     // Flushes the file to the disk and moves it to its place. On failure it returns the reason, and the old
     // file is unchanged.
     std::error_code Commit();
 
   private:
     std::error_code error_;
+    bool isPrepared_ = false;
     std::filesystem::path target_;
     PartFile part_;
     std::ofstream stream_;

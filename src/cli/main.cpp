@@ -11,6 +11,7 @@
 #include "cli/Options.h"
 #include "cli/PackCommand.h"
 #include "cli/SessionsCommand.h"
+#include "cli/StitchCommand.h"
 
 #include <CLI/CLI.hpp>
 
@@ -134,6 +135,8 @@ int Run(int argc, char** argv) {
     const CLI::App* const lookupCommand = AddLookupCommand(app, lookupOptions);
     PackOptions packOptions;
     const CLI::App* const packCommand = AddPackCommand(app, packOptions);
+    StitchOptions stitchOptions;
+    const CLI::App* const stitchCommand = AddStitchCommand(app, stitchOptions);
 
     try {
         app.parse(argc, argv);
@@ -146,6 +149,8 @@ int Run(int argc, char** argv) {
         return RunErrors(errorsOptions);
     if (packCommand->parsed())
         return RunPack(packOptions);
+    if (stitchCommand->parsed())
+        return RunStitch(stitchOptions);
     if (lookupCommand->parsed())
         return RunLookup(lookupOptions);
     return find->parsed() ? RunFind(options, search) : RunExport(options);

@@ -166,11 +166,16 @@ std::string CommentAsStored(std::string_view comment, const CodePage& codePage) 
 }
 
 std::error_code SaveComments(const std::string& path, const EntryTable& entries, const CodePage& codePage) {
+    return SaveComments(path, entries.Comments(), codePage);
+}
+
+std::error_code SaveComments(const std::string& path, const std::map<EntryNumber, std::string>& comments,
+                             const CodePage& codePage) {
     AtomicFile file(path);
     TextFileRoom room(CommentsFileBounds);
     std::error_code error = room.Take(Header);
     file.Stream() << Header << "\r\n";
-    for (const auto& [number, comment] : entries.Comments()) {
+    for (const auto& [number, comment] : comments) {
         const std::string line =
             Blank + std::to_string(number) + Blank + FormatText(codePage.FromUtf8(comment).Text);
         if (error = room.Take(line); error)

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -61,6 +62,8 @@ std::vector<EntryNumber> CommentsThatLose(const EntryTable& entries, const CodeP
 // A comment as a file would give it back.
 std::string CommentAsStored(std::string_view comment, const CodePage& codePage);
 
-// Writes the comments of all entries; replaces an existing file when the new one is whole. Also fails for
-// comments beyond the bounds.
+// Writes the comments of all entries, or these by entry number; replaces an existing file when the new one is
+// whole. Also fails for comments beyond the bounds.
 std::error_code SaveComments(const std::string& path, const EntryTable& entries, const CodePage& codePage);
+std::error_code SaveComments(const std::string& path, const std::map<EntryNumber, std::string>& comments,
+                             const CodePage& codePage);

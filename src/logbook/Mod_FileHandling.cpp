@@ -4,6 +4,7 @@
 #include "base/Paths.h"
 #include "logbook/ClassicLine.h"
 #include "logbook/EntryCollector.h"
+#include "logbook/EntryCounter.h"
 #include "logbook/OperationLine.h"
 #include "logbook/SeparatedLine.h"
 #include "logbook/clsFile.h"
@@ -19,10 +20,11 @@ constexpr std::string_view SeparatorMark = "___";
 constexpr std::string_view OperationHeading = "Operation Logbook Version";
 constexpr std::string_view SupportedVersion = "1.0";
 
-// One read from the file's first line to its last.
+// One read from the file's first line to its last. `Collector` takes the entries.
+template <typename Collector>
 class Reading {
   public:
-    Reading(clsFile& file, KnownHeaders& headers, EntryCollector& entries, ReadingProgress& progress,
+    Reading(clsFile& file, KnownHeaders& headers, Collector& entries, ReadingProgress& progress,
             const CodePage& codePage)
         : File(file), Headers(headers), Entries(entries), Progress(progress), Code(codePage) {}
 
@@ -47,19 +49,26 @@ class Reading {
         }
     }
 
-    void ReadEntries() {
+    // Calls `note` with the place of the first line, in bytes, of each event that was read; false ends the
+    // read.
+    template <typename Note>
+    void ReadEntries(const Note& note) {
         std::string_view line;
         while (!File.EndOfFile()) {
             if (File.KeepsLines()) {
                 Entries.KeepLast();
                 File.ReleaseLines();
             }
+            const std::int64_t place = File.FileSize() - File.FileLeft();
             File.ReadLine(line);
             ShowProgress();
             ParsedEntry& entry = Entries.Working();
             ParseLine(line, entry);
-            if (entry.EventType != EventTypes::None)
-                Entries.Store();
+            if (entry.EventType == EventTypes::None)
+                continue;
+            Entries.Store();
+            if (!note(place))
+                return;
         }
     }
 
@@ -99,7 +108,7 @@ class Reading {
 
     clsFile& File;
     KnownHeaders& Headers;
-    EntryCollector& Entries;
+    Collector& Entries;
     ReadingProgress& Progress;
     const CodePage& Code;
     Generation Kind = Generation::Classic;
@@ -145,7 +154,7 @@ bool ReadLogbook(const std::string& path, Logbook& logbook, std::string& title, 
         SplitPath(path, folder, title);
         logbook.LoadState = LoadStates::Reading;
         logbook.EntryCount = 0;
-        reading.ReadEntries();
+        reading.ReadEntries([](std::int64_t) { return true; });
         entries.End();
     } catch (const RunTimeError&) {
         return EndUnfinished(logbook, entries);
@@ -157,5 +166,30 @@ bool ReadLogbook(const std::string& path, Logbook& logbook, std::string& title, 
         logbook.Entries.ResetToOneEmpty(EventTypes::None, Images::Info);
     logbook.EntryCount = logbook.Entries.Count();
     progress.SetValue(0);
+    return true;
+}
+
+bool ReadEntryPlaces(const std::string& path, ReadingProgress& progress, const TakeEntryPlace& take) {
+    clsFile file;
+    file.TellProgress(progress);
+    KnownHeaders headers;
+    EntryCounter entries;
+    const CodePage codePage;
+    try {
+        if (!file.OpenFile(path, clsFile::IfEmpty::Close))
+            return false;
+        Reading reading(file, headers, entries, progress, codePage);
+        reading.Begin();
+        std::int64_t taken = 0;
+        reading.ReadEntries([&](std::int64_t place) {
+            if (entries.Count() == taken)
+                return true;
+            return take(taken++, static_cast<std::uint64_t>(place));
+        });
+    } catch (const RunTimeError&) {
+        return false;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
     return true;
 }

@@ -5,6 +5,8 @@
 #include "logbook/Logbook.h"
 #include "logbook/ReadingProgress.h"
 
+#include <cstdint>
+#include <functional>
 #include <string>
 
 // Reads a logbook file of any generation into logbook.Entries, in one pass.
@@ -19,3 +21,14 @@
 // and some hundred bytes for each different kind of entry and each different date.
 bool ReadLogbook(const std::string& path, Logbook& logbook, std::string& title, ReadingProgress& progress,
                  const CodePage& codePage);
+
+// Takes the number of an entry and where its first line begins, in bytes from the file's beginning. A
+// separator line that is read with the entry counts as its first line. False ends the read.
+using TakeEntryPlace = std::function<bool(std::int64_t number, std::uint64_t place)>;
+
+// Finds out where the entries of a logbook file begin: reads it as ReadLogbook does, and hands over each
+// entry that ReadLogbook would store, in their order. Keeps no entries, so memory does not grow with the
+// file.
+//
+// False when the file could not be opened, was empty, or when a run-time error ended the read.
+bool ReadEntryPlaces(const std::string& path, ReadingProgress& progress, const TakeEntryPlace& take);

@@ -71,7 +71,8 @@ bool ReadClock(std::string_view text, DateAndClock& time) {
             return false;
         time.HasFraction = !text.empty();
         if (time.HasFraction) {
-            if (!Take(text, '.') || text.empty() || !AreDigits(text))
+            time.HasColonFraction = Take(text, ':');
+            if ((!time.HasColonFraction && !Take(text, '.')) || text.empty() || !AreDigits(text))
                 return false;
             milliseconds = Milliseconds(text);
         }

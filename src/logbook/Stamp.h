@@ -11,12 +11,13 @@ struct DateAndClock {
     std::optional<std::chrono::sys_days> Date;
     std::optional<std::chrono::milliseconds> Clock; // below a day
     bool HasFraction = false;                       // of a second
+    bool HasColonFraction = false;                  // and a colon stands before it
 };
 
 // Reads "day.month.year", a clock time "h:m", "h:m:s" or "h:m:s.fraction", or both in either order with
 // blanks between. Years have two digits (00 to 29 mean 20xx, 30 to 99 mean 19xx) or four, from 0100 on. Of a
 // fraction three digits count. Nothing when the text is something else, or names a day or time that does not
-// exist.
+// exist. Some controls write a colon before the fraction.
 std::optional<DateAndClock> ReadDateAndClock(std::string_view text);
 
 // The moment that an entry's time names. A logbook has local time, and does not say which.

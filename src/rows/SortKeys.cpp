@@ -28,7 +28,7 @@ bool Take(std::string_view& text, char c) {
 
 std::optional<LogbookMoment> ReadMoment(std::string_view text) {
     const std::optional<DateAndClock> time = ReadDateAndClock(text);
-    if (!time)
+    if (!time || time->HasColonFraction)
         return {};
     return time->Date.value_or(DayOfClockAlone) +
            std::chrono::floor<std::chrono::seconds>(time->Clock.value_or(std::chrono::milliseconds(0)));

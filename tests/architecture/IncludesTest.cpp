@@ -136,6 +136,20 @@ TEST(Includes, EventInfoAsksSettingsAndLogbookOnly) {
     EXPECT_GT(includes, 10U);
 }
 
+TEST(Includes, HistoryAsksWhatIsReadAndWrittenByAPersonOnly) {
+    constexpr std::array<std::string_view, 6> allowed{"history",  "eventinfo", "comments",
+                                                      "settings", "logbook",   "base"};
+    std::size_t includes = 0;
+    for (const SourceFile& file : SourceFiles())
+        for (const std::string& include : file.Includes)
+            if (file.Folder == "history" && include.front() == '"') {
+                ++includes;
+                EXPECT_TRUE(Contains(allowed, include.substr(1, include.find('/') - 1)))
+                    << file.Name << " includes " << include;
+            }
+    EXPECT_GT(includes, 10U);
+}
+
 TEST(Includes, OnlyBaseKnowsTheOperatingSystem) {
     std::size_t exceptions = 0;
     for (const SourceFile& file : SourceFiles()) {

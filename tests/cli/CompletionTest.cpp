@@ -32,7 +32,8 @@ std::string CompletionsOf(const std::vector<std::string>& words) {
 } // namespace
 
 TEST(Completion, Commands) {
-    EXPECT_EQ(CompletionsOf({""}), "export\nfind\nsessions\nerrors\nlookup\npack\n--help\n--version\n");
+    EXPECT_EQ(CompletionsOf({""}),
+              "export\nfind\nsessions\nerrors\nlookup\npack\nstitch\n--help\n--version\n");
     EXPECT_EQ(CompletionsOf({"exp"}), "export\n");
 }
 
@@ -43,6 +44,7 @@ TEST(Completion, OptionsAreThoseOfTheCommand) {
     EXPECT_THAT(CompletionsOf({"pack", "-"}), HasSubstr("--comments\n"));
     EXPECT_EQ(CompletionsOf({"errors", "--t"}), "--top\n--type\n");
     EXPECT_EQ(CompletionsOf({"sessions", "--p"}), "--partial\n");
+    EXPECT_EQ(CompletionsOf({"stitch", "--o"}), "--output\n");
 }
 
 TEST(Completion, ValuesOfOptionsInBothForms) {
@@ -53,6 +55,7 @@ TEST(Completion, ValuesOfOptionsInBothForms) {
     EXPECT_EQ(CompletionsOf({"find", "--format", "=", "j"}), "jsonl\n");
     EXPECT_EQ(CompletionsOf({"sessions", "--format", ""}), "text\njsonl\ncsv\n");
     EXPECT_EQ(CompletionsOf({"errors", "--type", "w"}), "warning\n");
+    EXPECT_EQ(CompletionsOf({"stitch", "--format", ""}), "text\njsonl\n");
     EXPECT_EQ(CompletionsOf({"export", "--separator", ""}), "comma\nsemicolon\ntab\n");
     EXPECT_EQ(CompletionsOf({"export", "--b"}), "--bom\n");
 }

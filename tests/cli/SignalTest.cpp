@@ -180,6 +180,22 @@ TEST_F(Signals, AnArchiveIsNeverHalf) {
     EXPECT_TRUE(std::filesystem::is_empty(Target));
 }
 
+TEST_F(Signals, AStitchedLogbookIsNeverHalf) {
+    std::string log;
+    for (int i = 0; i < 1'000'000; ++i)
+        log += Header("BERR:    " + std::to_string(i)) + "\r\n";
+    const std::string older = Folder.Write("older.log", log);
+    const std::string newer =
+        Folder.Write("newer.log", log.substr(log.size() / 2) + Header("BERR:    new") + "\r\n");
+    for (const char* const name : {"/a.log", "/a.qorvix"}) {
+        Start({"stitch", older, newer, "--output", Target + name});
+        ASSERT_TRUE(Until([&] { return !std::filesystem::is_empty(Target); }));
+        ::kill(process_, SIGTERM);
+        ExpectEndBy(SIGTERM);
+        EXPECT_TRUE(std::filesystem::is_empty(Target)) << name;
+    }
+}
+
 TEST_F(Signals, UnpackingAndReadingEnd) {
     const std::string archive = Archive(120000);
     const auto unpacked = [&](std::uintmax_t least) {

@@ -101,6 +101,15 @@ TEST_F(AtomicWrites, PrintedList) {
     ExpectFlushes(Run({"find", LogFile, "1", "--output", list}), list);
 }
 
+TEST_F(AtomicWrites, StitchedLogbookAndItsComments) {
+    const std::string archive = Work + "/older.qorvix";
+    WriteZip(archive, {{"older.log", LogbookOf(500)}, {"older.cmt", "[Comments]\r\n 3 oil\r\n"}});
+    const std::string newer = Folder.Write("work/newer.log", LogbookOf(600).substr(LogbookOf(400).size()));
+    const std::vector<DiskCall> calls = Run({"stitch", archive, newer, "--output", Work + "/x.log"});
+    ExpectFlushes(calls, Work + "/x.log");
+    ExpectFlushes(calls, Work + "/x.cmt");
+}
+
 TEST_F(AtomicWrites, SettingsArchiveAndJournalOfTheWindow) {
     const std::string archive = Work + "/a.qorvix";
     ProgramWindow window({LogFile}, Variables(Recording()));

@@ -28,7 +28,7 @@ class ErrorStatistics : public testing::Test {
     std::vector<ErrorRecord> Found;
 };
 
-using Count = std::optional<std::uint32_t>;
+using ClearedCount = std::optional<std::uint32_t>;
 
 } // namespace
 
@@ -91,15 +91,15 @@ TEST_F(ErrorStatistics, ClearedCountsTheEpisodesThatSuchAMessageEnds) {
     Read({Fault("08:00:00"), Cleared("08:00:05"), "  P1", Fault("08:10:00"), Cleared("08:10:01"), "  P1 CE",
           Cleared("08:10:02"), "  P1", Fault("08:20:00")});
     EXPECT_EQ(Found[0].Episodes, 3U);
-    EXPECT_EQ(Found[0].Cleared, Count(2));
+    EXPECT_EQ(Found[0].Cleared, ClearedCount(2));
     // In the middle of an episode it ends nothing.
     Read({Fault("08:00:00"), Cleared("08:00:05"), "  P1", Fault("08:00:10")});
-    EXPECT_EQ(Found[0].Cleared, Count(0));
+    EXPECT_EQ(Found[0].Cleared, ClearedCount(0));
     // Of another session, and of another error.
     Read({Fault("08:00:00"), Reset("08:00:01"), Cleared("08:00:05"), "  P1"});
-    EXPECT_EQ(Found[0].Cleared, Count(0));
+    EXPECT_EQ(Found[0].Cleared, ClearedCount(0));
     Read({Fault("08:00:00"), Cleared("08:00:05"), "  P2"});
-    EXPECT_EQ(Found[0].Cleared, Count());
+    EXPECT_EQ(Found[0].Cleared, ClearedCount());
 }
 
 TEST_F(ErrorStatistics, ChoosesTypesAndEntries) {
@@ -117,5 +117,5 @@ TEST_F(ErrorStatistics, ChoosesTypesAndEntries) {
     Read(lines, {.Entries = {false, false, true, false}});
     ASSERT_EQ(Found.size(), 1U);
     EXPECT_EQ(Found[0].First, 2U);
-    EXPECT_EQ(Found[0].Cleared, Count(1)); // also where the message is not chosen
+    EXPECT_EQ(Found[0].Cleared, ClearedCount(1)); // also where the message is not chosen
 }

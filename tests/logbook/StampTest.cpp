@@ -30,6 +30,8 @@ TEST(Stamp, HasThreeDigitsOfAFraction) {
     EXPECT_EQ(IsoOf("04.01.2010 12:45:02.1"), "2010-01-04T12:45:02.100");
     EXPECT_EQ(IsoOf("04.01.2010 12:45:02.1239"), "2010-01-04T12:45:02.123");
     EXPECT_EQ(IsoOf("04.01.2010 12:45:02.000"), "2010-01-04T12:45:02.000");
+    EXPECT_EQ(IsoOf("04.01.2010 12:45:02:250"), "2010-01-04T12:45:02.250");
+    EXPECT_EQ(IsoOf("04.01.2010 12:45:02:"), "none");
 }
 
 TEST(Stamp, NeedsADayAndAClockThatExist) {
