@@ -8,8 +8,16 @@ function(qorvix_library name)
   target_link_libraries(${name} PUBLIC ${LIB_USES} PRIVATE qorvix_warnings)
   if(LIB_WINDOW)
     qorvix_use_precompiled(${name} window)
+    qorvix_no_optimising_under_sanitizers(${name})
   else()
     qorvix_use_precompiled(${name} core)
+  endif()
+endfunction()
+
+# qorvix_no_optimising_under_sanitizers(TARGET): tests spend little time in it, the compiler much.
+function(qorvix_no_optimising_under_sanitizers target)
+  if(QORVIX_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    target_compile_options(${target} PRIVATE -O0)
   endif()
 endfunction()
 

@@ -2,6 +2,7 @@
 #include "app/AppIcons.h"
 
 #include "support/IconPixels.h"
+#include "support/WindowTest.h"
 
 #include <QFile>
 #include <QTest>
@@ -60,5 +61,5 @@ class AppIconsTest : public QObject {
     }
 };
 
-QTEST_MAIN(AppIconsTest)
+QORVIX_WINDOW_TEST(AppIconsTest)
 #include "AppIconsTest.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindowTest.h"
 
+#include "support/WindowTest.h"
 #include "support/ZipWriter.h"
 
 // Opening and saving with the common file dialog, and the question about edited comments.
@@ -340,5 +341,5 @@ class ArchiveTest : public MainWindowTest {
     }
 };
 
-QTEST_MAIN(ArchiveTest)
+QORVIX_WINDOW_TEST(ArchiveTest)
 #include "ArchiveTest.moc"

@@ -3,6 +3,7 @@
 
 #include "app/WindowUser.h"
 #include "support/TemporaryFolder.h"
+#include "support/WindowTest.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -183,5 +184,5 @@ class CommonDialogTest : public QObject {
     QStringList Questions;
 };
 
-QTEST_MAIN(CommonDialogTest)
+QORVIX_WINDOW_TEST(CommonDialogTest)
 #include "CommonDialogTest.moc"

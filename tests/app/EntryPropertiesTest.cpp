@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindowTest.h"
 
+#include "support/WindowTest.h"
 #include "support/ZipWriter.h"
 
 #include <QLineEdit>
@@ -193,5 +194,5 @@ class EntryPropertiesTest : public MainWindowTest {
     }
 };
 
-QTEST_MAIN(EntryPropertiesTest)
+QORVIX_WINDOW_TEST(EntryPropertiesTest)
 #include "EntryPropertiesTest.moc"

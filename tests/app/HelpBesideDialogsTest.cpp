@@ -4,6 +4,7 @@
 #include "app/MainWindowTest.h"
 
 #include "dialogs/frmHelp.h"
+#include "support/WindowTest.h"
 
 #include <QComboBox>
 #include <QTextBrowser>
@@ -228,5 +229,5 @@ class HelpBesideDialogsTest : public MainWindowTest {
     int dialogs_ = 0;
 };
 
-QTEST_MAIN(HelpBesideDialogsTest)
+QORVIX_WINDOW_TEST(HelpBesideDialogsTest)
 #include "HelpBesideDialogsTest.moc"

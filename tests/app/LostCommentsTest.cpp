@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindowTest.h"
 
+#include "support/WindowTest.h"
+
 #include <filesystem>
 
 // Comments that were entered in the window and not saved when the program crashed.
@@ -204,5 +206,5 @@ class LostCommentsTest : public MainWindowTest {
     }
 };
 
-QTEST_MAIN(LostCommentsTest)
+QORVIX_WINDOW_TEST(LostCommentsTest)
 #include "LostCommentsTest.moc"

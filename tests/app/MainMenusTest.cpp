@@ -3,6 +3,7 @@
 
 #include "app/MainToolBar.h"
 #include "list/QtText.h"
+#include "support/WindowTest.h"
 
 #include <QMenuBar>
 #include <QPushButton>
@@ -270,5 +271,5 @@ class MainMenusTest : public MainWindowTest {
     }
 };
 
-QTEST_MAIN(MainMenusTest)
+QORVIX_WINDOW_TEST(MainMenusTest)
 #include "MainMenusTest.moc"

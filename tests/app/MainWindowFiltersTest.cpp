@@ -3,6 +3,7 @@
 
 #include "filter/FilterStorage.h"
 #include "list/TagViewer.h"
+#include "support/WindowTest.h"
 
 #include <QComboBox>
 #include <QTreeWidget>
@@ -180,5 +181,5 @@ class MainWindowFiltersTest : public MainWindowTest {
     }
 };
 
-QTEST_MAIN(MainWindowFiltersTest)
+QORVIX_WINDOW_TEST(MainWindowFiltersTest)
 #include "MainWindowFiltersTest.moc"

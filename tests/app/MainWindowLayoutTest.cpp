@@ -4,6 +4,7 @@
 #include "app/MainArea.h"
 #include "list/Twips.h"
 #include "support/Screens.h"
+#include "support/WindowTest.h"
 
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -332,10 +333,9 @@ class MainWindowLayoutTest : public MainWindowTest {
     }
 };
 
-int main(int argc, char** argv) {
+static int RunMainWindowLayout(int argc, char** argv) {
     const Screens screens({{1920, 1080}, {960, 540}});
-    QApplication application(argc, argv);
-    MainWindowLayoutTest test;
-    return QTest::qExec(&test, argc, argv);
+    return RunWindowTest<MainWindowLayoutTest>(argc, argv);
 }
+QORVIX_WINDOW_TEST_RUN(MainWindowLayoutTest, RunMainWindowLayout)
 #include "MainWindowLayoutTest.moc"

@@ -2,6 +2,7 @@
 #include "app/MainWindowTest.h"
 
 #include "filter/FilterStorage.h"
+#include "support/WindowTest.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -203,5 +204,5 @@ class MainWindowListCommandsTest : public MainWindowTest {
     QString Content() const { return Find<QPlainTextEdit>("txContent")->toPlainText(); }
 };
 
-QTEST_MAIN(MainWindowListCommandsTest)
+QORVIX_WINDOW_TEST(MainWindowListCommandsTest)
 #include "MainWindowListCommandsTest.moc"

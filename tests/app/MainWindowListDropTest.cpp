@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindowTest.h"
 
+#include "support/WindowTest.h"
+
 #include <QDropEvent>
 #include <QMimeData>
 #include <QScrollBar>
@@ -64,5 +66,5 @@ class MainWindowListDropTest : public MainWindowTest {
     }
 };
 
-QTEST_MAIN(MainWindowListDropTest)
+QORVIX_WINDOW_TEST(MainWindowListDropTest)
 #include "MainWindowListDropTest.moc"

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindowTest.h"
 
+#include "support/WindowTest.h"
+
 #include <QMouseEvent>
 
 class MainWindowListSelectionTest : public MainWindowTest {
@@ -120,5 +122,5 @@ class MainWindowListSelectionTest : public MainWindowTest {
     QString Content() const { return Find<QPlainTextEdit>("txContent")->toPlainText(); }
 };
 
-QTEST_MAIN(MainWindowListSelectionTest)
+QORVIX_WINDOW_TEST(MainWindowListSelectionTest)
 #include "MainWindowListSelectionTest.moc"

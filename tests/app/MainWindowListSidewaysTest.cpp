@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindowTest.h"
 
+#include "support/WindowTest.h"
+
 #include <QScrollBar>
 
 class MainWindowListSidewaysTest : public MainWindowTest {
@@ -107,5 +109,5 @@ class MainWindowListSidewaysTest : public MainWindowTest {
     QPoint RowPointAt(int x, int row) const { return {x, RowPoint(row).y()}; }
 };
 
-QTEST_MAIN(MainWindowListSidewaysTest)
+QORVIX_WINDOW_TEST(MainWindowListSidewaysTest)
 #include "MainWindowListSidewaysTest.moc"

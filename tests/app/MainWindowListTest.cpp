@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindowTest.h"
 
+#include "support/WindowTest.h"
+
 #include <QStyledItemDelegate>
 
 class MainWindowListTest : public MainWindowTest {
@@ -137,5 +139,5 @@ class MainWindowListTest : public MainWindowTest {
     }
 };
 
-QTEST_MAIN(MainWindowListTest)
+QORVIX_WINDOW_TEST(MainWindowListTest)
 #include "MainWindowListTest.moc"

@@ -4,6 +4,7 @@
 #include "dialogs/frmSearchForString.h"
 #include "filter/FilterStorage.h"
 #include "list/QtText.h"
+#include "support/WindowTest.h"
 
 #include <QCheckBox>
 #include <QImage>
@@ -336,5 +337,5 @@ class MainWindowSearchTest : public MainWindowTest {
     SearchState Seen;
 };
 
-QTEST_MAIN(MainWindowSearchTest)
+QORVIX_WINDOW_TEST(MainWindowSearchTest)
 #include "MainWindowSearchTest.moc"

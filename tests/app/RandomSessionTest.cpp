@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/session/Session.h"
 
+#include "support/WindowTest.h"
+
 // A long session of random orders, each followed by a look at all that the window shows and stores.
 //
 // QORVIX_SESSION_SEED and QORVIX_SESSION_STEPS choose another session than the usual one; with
@@ -52,5 +54,5 @@ class RandomSessionTest : public QObject {
     }
 };
 
-QTEST_MAIN(RandomSessionTest)
+QORVIX_WINDOW_TEST(RandomSessionTest)
 #include "RandomSessionTest.moc"

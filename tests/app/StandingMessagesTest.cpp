@@ -3,6 +3,7 @@
 
 #include "dialogs/ElidedLabel.h"
 #include "eventinfo/iZEKEventInfo.h"
+#include "support/WindowTest.h"
 
 #include <QAccessible>
 #include <QComboBox>
@@ -131,5 +132,5 @@ class StandingMessagesTest : public MainWindowTest {
     }
 };
 
-QTEST_MAIN(StandingMessagesTest)
+QORVIX_WINDOW_TEST(StandingMessagesTest)
 #include "StandingMessagesTest.moc"

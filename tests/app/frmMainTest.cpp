@@ -2,6 +2,7 @@
 #include "app/MainWindowTest.h"
 
 #include "filter/FilterStorage.h"
+#include "support/WindowTest.h"
 #include "support/ZipWriter.h"
 
 #include <QComboBox>
@@ -383,5 +384,5 @@ class frmMainTest : public MainWindowTest {
     }
 };
 
-QTEST_MAIN(frmMainTest)
+QORVIX_WINDOW_TEST(frmMainTest)
 #include "frmMainTest.moc"

@@ -2,6 +2,7 @@
 #include "dialogs/DialogList.h"
 
 #include "dialogs/DialogTest.h"
+#include "support/WindowTest.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
@@ -163,5 +164,5 @@ class DialogListTest : public DialogTest {
     DialogList* List = nullptr;
 };
 
-QTEST_MAIN(DialogListTest)
+QORVIX_WINDOW_TEST(DialogListTest)
 #include "DialogListTest.moc"

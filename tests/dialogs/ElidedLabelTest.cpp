@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/ElidedLabel.h"
 
+#include "support/WindowTest.h"
+
 #include <QApplication>
 #include <QHelpEvent>
 #include <QTest>
@@ -81,5 +83,5 @@ class ElidedLabelTest : public QObject {
     }
 };
 
-QTEST_MAIN(ElidedLabelTest)
+QORVIX_WINDOW_TEST(ElidedLabelTest)
 #include "ElidedLabelTest.moc"

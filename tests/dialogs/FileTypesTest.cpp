@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/FileTypes.h"
 
+#include "support/WindowTest.h"
+
 #include <QComboBox>
 #include <QTest>
 
@@ -26,5 +28,5 @@ class FileTypesTest : public QObject {
     }
 };
 
-QTEST_MAIN(FileTypesTest)
+QORVIX_WINDOW_TEST(FileTypesTest)
 #include "FileTypesTest.moc"

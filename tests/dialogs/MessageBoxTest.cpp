@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/MessageBox.h"
 
+#include "support/WindowTest.h"
+
 #include <QLabel>
 #include <QTest>
 
@@ -43,5 +45,5 @@ class MessageBoxTest : public QObject {
     }
 };
 
-QTEST_MAIN(MessageBoxTest)
+QORVIX_WINDOW_TEST(MessageBoxTest)
 #include "MessageBoxTest.moc"

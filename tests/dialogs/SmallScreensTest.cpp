@@ -15,6 +15,7 @@
 #include "settings/Registry.h"
 #include "support/MemorySettings.h"
 #include "support/Screens.h"
+#include "support/WindowTest.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -206,11 +207,10 @@ class SmallScreensTest : public QObject {
     std::vector<StringFilter> Strings;
 };
 
-int main(int argc, char** argv) {
+static int RunSmallScreens(int argc, char** argv) {
     // The last is one of 1280 x 900 at a scale of 1.5, the one before it one of 1920 x 1080 at a scale of 2.
     const Screens screens({{1920, 1080}, {1366, 768}, {960, 540}, {853, 600}});
-    QApplication application(argc, argv);
-    SmallScreensTest test;
-    return QTest::qExec(&test, argc, argv);
+    return RunWindowTest<SmallScreensTest>(argc, argv);
 }
+QORVIX_WINDOW_TEST_RUN(SmallScreensTest, RunSmallScreens)
 #include "SmallScreensTest.moc"

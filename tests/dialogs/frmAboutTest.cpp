@@ -2,6 +2,7 @@
 #include "dialogs/frmAbout.h"
 
 #include "dialogs/TabWalk.h"
+#include "support/WindowTest.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -125,5 +126,5 @@ class frmAboutTest : public QObject {
     }
 };
 
-QTEST_MAIN(frmAboutTest)
+QORVIX_WINDOW_TEST(frmAboutTest)
 #include "frmAboutTest.moc"

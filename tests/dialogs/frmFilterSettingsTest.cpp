@@ -4,6 +4,7 @@
 #include "dialogs/DialogTest.h"
 #include "dialogs/frmStringSettings.h"
 #include "filter/FilterText.h"
+#include "support/WindowTest.h"
 
 #include <QComboBox>
 #include <QGroupBox>
@@ -368,5 +369,5 @@ class frmFilterSettingsTest : public DialogTest {
     std::vector<StringFilter> Strings;
 };
 
-QTEST_MAIN(frmFilterSettingsTest)
+QORVIX_WINDOW_TEST(frmFilterSettingsTest)
 #include "frmFilterSettingsTest.moc"

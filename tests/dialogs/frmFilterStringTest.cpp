@@ -2,6 +2,7 @@
 #include "dialogs/frmFilterString.h"
 
 #include "dialogs/DialogTest.h"
+#include "support/WindowTest.h"
 
 #include <QLineEdit>
 
@@ -119,5 +120,5 @@ class frmFilterStringTest : public DialogTest {
     static QLineEdit* Box(const QWidget& dialog, const char* name) { return Find<QLineEdit>(dialog, name); }
 };
 
-QTEST_MAIN(frmFilterStringTest)
+QORVIX_WINDOW_TEST(frmFilterStringTest)
 #include "frmFilterStringTest.moc"

@@ -2,6 +2,8 @@
 #include "dialogs/HelpTest.h"
 #include "support/TemporaryFolder.h"
 
+#include "support/WindowTest.h"
+
 #include <QAction>
 #include <QBuffer>
 #include <QDesktopServices>
@@ -118,5 +120,5 @@ class frmHelpPagesTest : public HelpTest {
     QList<QUrl> urls_;
 };
 
-QTEST_MAIN(frmHelpPagesTest)
+QORVIX_WINDOW_TEST(frmHelpPagesTest)
 #include "frmHelpPagesTest.moc"

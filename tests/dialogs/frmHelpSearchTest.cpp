@@ -2,6 +2,8 @@
 #include "dialogs/HTMLHelp.h"
 #include "dialogs/HelpTest.h"
 
+#include "support/WindowTest.h"
+
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
@@ -113,5 +115,5 @@ class frmHelpSearchTest : public HelpTest {
     QWidget owner_;
 };
 
-QTEST_MAIN(frmHelpSearchTest)
+QORVIX_WINDOW_TEST(frmHelpSearchTest)
 #include "frmHelpSearchTest.moc"

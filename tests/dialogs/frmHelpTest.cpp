@@ -4,6 +4,8 @@
 #include "dialogs/TabWalk.h"
 #include "support/TemporaryFolder.h"
 
+#include "support/WindowTest.h"
+
 #include <QAction>
 #include <QLabel>
 #include <QPushButton>
@@ -205,5 +207,5 @@ class frmHelpTest : public HelpTest {
     QWidget owner_;
 };
 
-QTEST_MAIN(frmHelpTest)
+QORVIX_WINDOW_TEST(frmHelpTest)
 #include "frmHelpTest.moc"

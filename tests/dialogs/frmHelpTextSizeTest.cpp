@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/HelpTest.h"
 
+#include "support/WindowTest.h"
+
 #include <QAction>
 #include <QWheelEvent>
 
@@ -73,5 +75,5 @@ class frmHelpTextSizeTest : public HelpTest {
     }
 };
 
-QTEST_MAIN(frmHelpTextSizeTest)
+QORVIX_WINDOW_TEST(frmHelpTextSizeTest)
 #include "frmHelpTextSizeTest.moc"

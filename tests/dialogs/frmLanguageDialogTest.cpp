@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/frmLanguageDialog.h"
 
+#include "support/WindowTest.h"
+
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
@@ -80,5 +82,5 @@ class frmLanguageDialogTest : public QObject {
     }
 };
 
-QTEST_MAIN(frmLanguageDialogTest)
+QORVIX_WINDOW_TEST(frmLanguageDialogTest)
 #include "frmLanguageDialogTest.moc"

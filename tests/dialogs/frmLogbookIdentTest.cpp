@@ -2,6 +2,7 @@
 #include "dialogs/frmLogbookIdent.h"
 
 #include "list/QtText.h"
+#include "support/WindowTest.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -201,5 +202,5 @@ class frmLogbookIdentTest : public QObject {
     QStringList AskedFor;
 };
 
-QTEST_MAIN(frmLogbookIdentTest)
+QORVIX_WINDOW_TEST(frmLogbookIdentTest)
 #include "frmLogbookIdentTest.moc"

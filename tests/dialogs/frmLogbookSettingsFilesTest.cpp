@@ -5,6 +5,8 @@
 #include "support/OddFiles.h"
 #include "support/TemporaryFolder.h"
 
+#include "support/WindowTest.h"
+
 #include <QComboBox>
 #include <QFileDialog>
 #include <QStyledItemDelegate>
@@ -305,5 +307,5 @@ class frmLogbookSettingsFilesTest : public LogbookSettingsTest {
     std::unique_ptr<TemporaryFolder> Folder;
 };
 
-QTEST_MAIN(frmLogbookSettingsFilesTest)
+QORVIX_WINDOW_TEST(frmLogbookSettingsFilesTest)
 #include "frmLogbookSettingsFilesTest.moc"

@@ -2,6 +2,8 @@
 #include "dialogs/LogbookSettingsTest.h"
 #include "dialogs/frmFilterSettings.h"
 
+#include "support/WindowTest.h"
+
 #include <QComboBox>
 #include <QTextDocument>
 
@@ -278,5 +280,5 @@ class frmLogbookSettingsRowsTest : public LogbookSettingsTest {
     }
 };
 
-QTEST_MAIN(frmLogbookSettingsRowsTest)
+QORVIX_WINDOW_TEST(frmLogbookSettingsRowsTest)
 #include "frmLogbookSettingsRowsTest.moc"

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/LogbookSettingsTest.h"
 
+#include "support/WindowTest.h"
+
 class frmLogbookSettingsTest : public LogbookSettingsTest {
     Q_OBJECT
 
@@ -258,5 +260,5 @@ class frmLogbookSettingsTest : public LogbookSettingsTest {
     }
 };
 
-QTEST_MAIN(frmLogbookSettingsTest)
+QORVIX_WINDOW_TEST(frmLogbookSettingsTest)
 #include "frmLogbookSettingsTest.moc"

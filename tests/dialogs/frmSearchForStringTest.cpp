@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/frmSearchForString.h"
 
+#include "support/WindowTest.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QGroupBox>
@@ -122,5 +124,5 @@ class frmSearchForStringTest : public QObject {
     }
 };
 
-QTEST_MAIN(frmSearchForStringTest)
+QORVIX_WINDOW_TEST(frmSearchForStringTest)
 #include "frmSearchForStringTest.moc"

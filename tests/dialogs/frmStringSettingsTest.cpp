@@ -3,6 +3,7 @@
 
 #include "dialogs/DialogTest.h"
 #include "dialogs/frmFilterString.h"
+#include "support/WindowTest.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
@@ -264,5 +265,5 @@ class frmStringSettingsTest : public DialogTest {
     std::vector<StringFilter> Strings;
 };
 
-QTEST_MAIN(frmStringSettingsTest)
+QORVIX_WINDOW_TEST(frmStringSettingsTest)
 #include "frmStringSettingsTest.moc"

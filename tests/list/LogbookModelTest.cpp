@@ -4,6 +4,7 @@
 #include "list/SetRows.h"
 #include "rows/LogbookColumns.h"
 #include "support/ReadText.h"
+#include "support/WindowTest.h"
 
 #include <QAbstractItemModelTester>
 #include <QTest>
@@ -101,5 +102,5 @@ class LogbookModelTest : public QObject {
     ReadResult Result;
 };
 
-QTEST_GUILESS_MAIN(LogbookModelTest)
+QORVIX_WINDOW_TEST(LogbookModelTest)
 #include "LogbookModelTest.moc"

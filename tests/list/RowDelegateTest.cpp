@@ -5,6 +5,7 @@
 #include "list/LogbookView.h"
 #include "list/SetRows.h"
 #include "support/ReadText.h"
+#include "support/WindowTest.h"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -83,5 +84,5 @@ class RowDelegateTest : public QObject {
     std::unique_ptr<LogbookView> List;
 };
 
-QTEST_MAIN(RowDelegateTest)
+QORVIX_WINDOW_TEST(RowDelegateTest)
 #include "RowDelegateTest.moc"

@@ -2,6 +2,7 @@
 #include "list/RowIcons.h"
 
 #include "support/IconPixels.h"
+#include "support/WindowTest.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -132,5 +133,5 @@ class RowIconsTest : public QObject {
     const RowIcons Icons;
 };
 
-QTEST_MAIN(RowIconsTest)
+QORVIX_WINDOW_TEST(RowIconsTest)
 #include "RowIconsTest.moc"

@@ -5,6 +5,7 @@
 #include "list/LogbookView.h"
 #include "list/SetRows.h"
 #include "support/ReadText.h"
+#include "support/WindowTest.h"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -263,5 +264,5 @@ class TagViewerTest : public QObject {
     TagViewer* Viewer = nullptr;
 };
 
-QTEST_MAIN(TagViewerTest)
+QORVIX_WINDOW_TEST(TagViewerTest)
 #include "TagViewerTest.moc"

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "list/ToolTip.h"
 
+#include "support/WindowTest.h"
+
 #include <QLabel>
 #include <QTest>
 #include <QTextDocument>
@@ -60,5 +62,5 @@ class ToolTipTest : public QObject {
     }
 };
 
-QTEST_MAIN(ToolTipTest)
+QORVIX_WINDOW_TEST(ToolTipTest)
 #include "ToolTipTest.moc"

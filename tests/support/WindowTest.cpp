@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "support/WindowTest.h"
+
+#include <iostream>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace {
+std::map<std::string, WindowTestRun>& WindowTests() {
+    static std::map<std::string, WindowTestRun> tests;
+    return tests;
+}
+} // namespace
+
+bool AddWindowTest(const char* name, WindowTestRun run) { return WindowTests().emplace(name, run).second; }
+
+int main(int argc, char** argv) {
+    const auto test = WindowTests().find(argc > 1 ? argv[1] : "");
+    if (test == WindowTests().end()) {
+        std::cerr << "usage: " << argv[0] << " TEST [option of Qt Test...]; the tests are:\n";
+        for (const auto& [name, run] : WindowTests())
+            std::cerr << "  " << name << '\n';
+        return 2;
+    }
+    std::vector<char*> arguments(argv, argv + argc);
+    arguments.erase(arguments.begin() + 1);
+    arguments.push_back(nullptr);
+    return test->second(argc - 1, arguments.data());
+}
