@@ -35,3 +35,6 @@ set(often_included_of_qt <QAbstractItemView> <QAction> <QApplication> <QDialog> 
                          <QTreeWidget> <QWidget>)
 qorvix_precompile(core HEADERS ${often_included})
 qorvix_precompile(window HEADERS ${often_included} ${often_included_of_qt} USES Qt6::Widgets)
+if(QORVIX_PRECOMPILED_HEADERS)
+  qorvix_no_optimising_under_sanitizers(precompiled_window)
+endif()
