@@ -3,6 +3,7 @@
 #include "app/frmMain.h"
 #include "base/FileSizeLimit.h"
 #include "base/Paths.h"
+#include "base/StandardStreams.h"
 #include "sources/CommandLine.h"
 
 #include <QApplication>
@@ -26,6 +27,7 @@ std::vector<std::string> FilesToOpen(const std::vector<std::string>& arguments) 
 } // namespace
 
 int main(int argc, char** argv) {
+    OpenMissingStandardStreams();
     FailAtFileSizeLimit();
     // All words are logbooks or options of this program, as bytes: none is for Qt, and a file's name need not
     // be UTF-8.

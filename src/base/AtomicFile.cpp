@@ -81,7 +81,9 @@ AtomicFile::~AtomicFile() {
 std::error_code AtomicFile::Prepare() {
     if (error_ || isPrepared_)
         return error_;
-    errno = 0;
+    // Closing does not say again why a write failed.
+    if (stream_)
+        errno = 0;
     stream_.close();
     if (!stream_)
         return error_ = LastError();
