@@ -4,12 +4,14 @@
 #include "tools/RingCutter.h"
 
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace {
@@ -27,7 +29,14 @@ int TellProblem(const char* problem, const std::string& name) {
     return Failed;
 }
 
+bool AreSameFile(const std::string& one, const std::string& other) {
+    std::error_code ignored;
+    return one == other || std::filesystem::equivalent(one, other, ignored);
+}
+
 int MakeLogbook(const std::string& name, const LogbookCommand& command) {
+    if (AreSameFile(name, command.truthFile))
+        return TellProblem("logbook and truth would be the same file:", name);
     std::ofstream out(name, std::ios::binary | std::ios::trunc);
     std::ofstream truth;
     if (!command.truthFile.empty())
@@ -47,8 +56,14 @@ int MakeLogbook(const std::string& name, const LogbookCommand& command) {
 }
 
 int MakeExports(const std::string& logbookName, const std::string& prefix, const RingOrder& order) {
+    std::error_code ignored;
     std::ifstream in(logbookName, std::ios::binary);
+    if (!std::filesystem::is_regular_file(logbookName, ignored) || !in)
+        return TellProblem("cannot read", logbookName);
     const std::string logbook{std::istreambuf_iterator<char>(in), {}};
+    for (std::size_t i = 1; i <= order.exports; ++i)
+        if (AreSameFile(prefix + '-' + std::to_string(i) + ".log", logbookName))
+            return TellProblem("an export would replace the logbook", logbookName);
     if (!in)
         return TellProblem("cannot read", logbookName);
     const std::optional<std::vector<RingPiece>> pieces = CutRing(logbook, order);

@@ -19,7 +19,7 @@ const char* const MakeLogbookUsage =
     "  --seed S         another story; 1 when not given\n"
     "  --first-day DAY  the day of the first event, YYYY-MM-DD; 2010-01-04 when not given\n"
     "  --truth FILE     what the logbook holds, as JSON Lines (tools/README.md)\n"
-    "plants into the story, one in about N events each, nothing when not given:\n"
+    "plants into the story, one in about N (at least 1) events each, nothing when not given:\n"
     "  --coded-errors N  errors by their code, \"Event: 232-0005\"\n"
     "  --cleared N       messages that an error which came before is cleared (not operation)\n"
     "  --clock-steps N   the clock is set, forth or back\n"
@@ -166,9 +166,11 @@ std::optional<LogbookCommand> ReadLogbookCommand(std::string_view generation,
             order.firstDay = day.value_or(order.firstDay);
             return day.has_value();
         }
-        return TakeNumber(LogbookNumbers, name, text, order);
+        // Nothing cannot be planted; who wants nothing leaves the option out.
+        return (ReadNumber(text) != 0U || name == "--seed") && TakeNumber(LogbookNumbers, name, text, order);
     };
-    if (!WalkOptions(options, takeFlag, takeValue) || (order.entries == 0) == (order.bytes == 0))
+    if (!WalkOptions(options, takeFlag, takeValue) || (order.entries == 0) == (order.bytes == 0) ||
+        (order.plants.cleared != 0 && order.generation == Generation::Operation))
         return std::nullopt;
     return command;
 }

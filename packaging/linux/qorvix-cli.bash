@@ -3,7 +3,7 @@
 _qorvix_cli() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]} words
     local list="--format --output --separator --bom --raw --filters --stored-filters --use-archive-filters --language"
-    local history="--format --output --partial --language --language-folder"
+    local history="--format --output --separator --bom --raw --partial --language --language-folder"
     COMPREPLY=()
     # bash takes "--language=de" for three words.
     if [ "$word" = = ]; then
@@ -32,7 +32,7 @@ _qorvix_cli() {
             find) words="$list --whole-word --case-sensitive --help" ;;
             sessions) words="$history --help" ;;
             errors) words="$history --top --type --filters --help" ;;
-            lookup) words="--all --format --output --partial --language --language-folder --help" ;;
+            lookup) words="$history --all --help" ;;
             pack) words="--filters --comments --keep-comments --drop-comments --language --help" ;;
             stitch) words="--output --format --language --help" ;;
             esac

@@ -105,6 +105,15 @@ void RemoveLeftPartFiles(const std::filesystem::path& target) {
             RemoveIfLeft(item);
 }
 
+bool WritingTouches(const std::filesystem::path& target, const std::filesystem::path& other) {
+    std::error_code ignored;
+    if (std::filesystem::equivalent(target, other, ignored))
+        return true;
+    const std::filesystem::path place = std::filesystem::weakly_canonical(target, ignored);
+    const std::filesystem::path file = std::filesystem::weakly_canonical(other, ignored);
+    return file.parent_path() == place.parent_path() && IsPartFileOf(file.filename().string(), place);
+}
+
 bool IsPartFileOf(std::string_view name, const std::filesystem::path& target) {
     const std::string begin = BeginOf(target);
     return name.starts_with(begin) && name.size() == begin.size() + DigitCount &&

@@ -25,5 +25,9 @@ PartFile MakePartFile(const std::filesystem::path& target, std::error_code& erro
 // is that of a part file and whose lock is free. On a disk without locks it removes none.
 void RemoveLeftPartFiles(const std::filesystem::path& target);
 
+// True when writing the file `target` would replace or remove the existing file `other`: they are the same
+// file, or `other` has the name of a part file of the target. Links are followed.
+bool WritingTouches(const std::filesystem::path& target, const std::filesystem::path& other);
+
 // True when `name`, without a folder, is that of a part file of the target.
 bool IsPartFileOf(std::string_view name, const std::filesystem::path& target);

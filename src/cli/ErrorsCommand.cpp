@@ -49,7 +49,7 @@ class ErrorList {
         errors_ = ErrorsOf(entries_, sessions, ReadErrorKeys(options), choice);
         printed_ = options.Top == 0 ? errors_.size() : std::min(options.Top, errors_.size());
         // The text form counts the errors without a text.
-        const std::size_t looked = options.Format == "text" ? errors_.size() : printed_;
+        const std::size_t looked = options.Form.Format == "text" ? errors_.size() : printed_;
         for (const ErrorRecord& error : std::span(errors_).first(looked))
             texts_.push_back(TextsOf(error, entries_, LanguageFolder(options.LanguageFolder)));
     }
@@ -206,12 +206,23 @@ class CodeList {
 
 } // namespace
 
+static CLI::Validator AtLeastOne() {
+    return CLI::Validator(
+        [](const std::string& text) {
+            const bool isNumber = !text.empty() &&
+                                  text.find_first_not_of("0123456789") == std::string::npos &&
+                                  text.find_first_not_of('0') != std::string::npos;
+            return std::string(isNumber ? "" : "the number must be at least 1");
+        },
+        "", "");
+}
+
 CLI::App* AddErrorsCommand(CLI::App& app, ErrorsOptions& options) {
     CLI::App* command =
         app.add_subcommand("errors", "Print which errors a logbook records, the most frequent first");
     AddHistoryOptions(*command, options);
-    command->add_option("--top", options.Top, "Only so many of the most frequent")
-        ->check(CLI::PositiveNumber);
+    command->add_option("--top", options.Top, "Only so many of the most frequent, at least 1")
+        ->check(AtLeastOne());
     command->add_option("--type", options.Type, "error (with fatal errors), warning, or all: both")
         ->check(CLI::IsMember({"error", "warning", "all"}))
         ->capture_default_str();

@@ -8,9 +8,7 @@
 
 void AddHistoryOptions(CLI::App& command, HistoryOptions& options) {
     AddSourceAndOutput(command, options.File, options.Output);
-    command.add_option("--format", options.Format, "text, jsonl (JSON Lines) or csv (RFC 4180)")
-        ->check(CLI::IsMember({"text", "jsonl", "csv"}))
-        ->capture_default_str();
+    AddFormOptions(command, options.Form);
     AddLanguageFolderOption(command, options.LanguageFolder);
     AddPartialOption(command, options.Partial);
     AddLanguageOption(command, options.MessageLanguage, "Of messages and of the text form");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/CsvLine.h"
 #include "settings/Language.h"
 
 #include <string>
@@ -13,11 +14,11 @@ class Option;
 // What the commands have in common that print what a logbook records of its machine.
 struct HistoryOptions {
     std::string File;
-    std::string Format = "text"; // or "jsonl", "csv"
-    std::string Output;          // "" = standard output
-    std::string LanguageFolder;  // of the control's language files; "" = the one beside the program
-    bool Partial = false;        // what could be read of a logbook with an error in it
-    Language MessageLanguage;    // of the text form, too
+    RowForm Form{.Format = "text"}; // or "jsonl", "csv"
+    std::string Output;             // "" = standard output
+    std::string LanguageFolder;     // of the control's language files; "" = the one beside the program
+    bool Partial = false;           // what could be read of a logbook with an error in it
+    Language MessageLanguage;       // of the text form, too
 };
 
 // Adds them to a command. The file is its argument of that name, and is required.

@@ -4,6 +4,7 @@
 #include "cli/Messages.h"
 #include "eventinfo/iZEKEventInfo.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -29,10 +30,13 @@ std::string ClockText(const std::optional<std::chrono::milliseconds>& time) {
     return text.data();
 }
 
-std::string DecimalText(double number, int decimals) {
+std::string DecimalText(double number, int decimals, Language language) {
     std::array<char, 64> text{};
     std::snprintf(text.data(), text.size(), "%.*f", decimals, number);
-    return text.data();
+    std::string decimal = text.data();
+    if (language.IsGerman())
+        std::replace(decimal.begin(), decimal.end(), '.', ',');
+    return decimal;
 }
 
 ErrorKeys ReadErrorKeys(const HistoryOptions& options) {

@@ -21,8 +21,8 @@ std::string ReadableText(const Stamp& stamp);
 // "26:03:07": hours, minutes, seconds; "-" for no time.
 std::string ClockText(const std::optional<std::chrono::milliseconds>& time);
 
-// A number with so many decimals, and a point in every language.
-std::string DecimalText(double number, int decimals);
+// A number with so many decimals, behind a comma in German.
+std::string DecimalText(double number, int decimals, Language language);
 
 // The keys of errors with the facilities of the language files. Reports a mistake in their table.
 ErrorKeys ReadErrorKeys(const HistoryOptions& options);

@@ -22,17 +22,11 @@ CLI::App* AddLookupCommand(CLI::App& app, LookupOptions& options) {
                          "Every code of this logbook, in both languages, and what is missing")
             ->check(NameIsGiven());
     subject->require_option(1);
-    command
-        ->add_option("--format", options.Listing.Format,
-                     "With --all: text, jsonl (JSON Lines) or csv (RFC 4180)")
-        ->check(CLI::IsMember({"text", "jsonl", "csv"}))
-        ->needs(all);
-    command
-        ->add_option("--output", options.Listing.Output,
-                     "With --all: write to this file instead of standard output")
-        ->check(NameIsGiven())
-        ->needs(all);
-    AddPartialOption(*command, options.Listing.Partial)->needs(all);
+    std::vector<CLI::Option*> listing = AddFormOptions(*command, options.Listing.Form);
+    listing.push_back(AddOutputOption(*command, options.Listing.Output));
+    listing.push_back(AddPartialOption(*command, options.Listing.Partial));
+    for (CLI::Option* const option : listing)
+        option->needs(all)->group("With --all");
     AddLanguageFolderOption(*command, options.Folder);
     AddLanguageOption(*command, options.TextLanguage, "Of the text");
     return command;

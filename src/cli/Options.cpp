@@ -17,8 +17,45 @@ void AddLanguageOption(CLI::App& command, Language& language, const std::string&
 void AddSourceAndOutput(CLI::App& command, std::string& file, std::string& output) {
     command.add_option("FILE", file, "The logbook, a service archive (*.zip), or an own archive (*.qorvix)")
         ->required();
-    command.add_option("--output", output, "Write to this file instead of standard output")
+    AddOutputOption(command, output);
+}
+
+CLI::Option* AddOutputOption(CLI::App& command, std::string& output) {
+    return command.add_option("--output", output, "Write to this file instead of standard output")
         ->check(NameIsGiven());
+}
+
+std::vector<CLI::Option*> AddFormOptions(CLI::App& command, RowForm& form) {
+    const bool hasText = form.Format == "text";
+    CLI::Option* format =
+        command
+            .add_option("--format", form.Format,
+                        std::string(hasText ? "text, " : "") + "jsonl (JSON Lines) or csv (RFC 4180)")
+            ->capture_default_str();
+    if (hasText)
+        format->check(CLI::IsMember({"text", "jsonl", "csv"}));
+    else
+        format->check(CLI::IsMember({"jsonl", "csv"}));
+    CLI::Option* separator =
+        command
+            .add_option_function<std::string>(
+                "--separator",
+                [&form](const std::string& name) {
+                    form.Separator = name == "semicolon" ? ';' : name == "tab" ? '\t' : ',';
+                },
+                "CSV: what stands between the fields: comma (without this option), semicolon or tab")
+            ->check(CLI::IsMember({"comma", "semicolon", "tab"}));
+    CLI::Option* mark = command.add_flag(
+        "--bom", form.ByteOrderMark,
+        "CSV: begin with a byte order mark, which tells some spreadsheets that this is UTF-8");
+    CLI::Option* raw = command.add_flag(
+        "--raw", form.Raw, "CSV: leave text that a spreadsheet would take for a formula as it is");
+    command.parse_complete_callback([&command, &form] {
+        for (const char* const option : {"--separator", "--bom"})
+            if (command.count(option) != 0 && form.Format != "csv")
+                throw CLI::ValidationError(option, "is for --format csv only");
+    });
+    return {format, separator, mark, raw};
 }
 
 CLI::Validator NameIsGiven() {

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Output.h"
 
+#include "base/AsciiCase.h"
 #include "base/AtomicFile.h"
 #include "base/DeviceStream.h"
 #include "base/FileProblem.h"
 #include "base/FollowLinks.h"
+#include "base/PartFiles.h"
 #include "base/Paths.h"
 #include "base/StopRequest.h"
 #include "cli/ExitStatus.h"
@@ -26,16 +28,23 @@ bool IsDevice(const std::string& path) {
 
 } // namespace
 
-bool ReplacesSource(const OutputPlace& place, const std::vector<std::string>& sources) {
-    return !place.File.empty() && !IsDevice(place.File) &&
-           std::any_of(sources.begin(), sources.end(), [&](const std::string& source) {
-               std::error_code noSuchFile;
-               return std::filesystem::equivalent(ToPath(source), ToPath(place.File), noSuchFile);
-           });
-}
-
-int FailForReplacedSource(const OutputPlace& place) {
-    return Fail(place.File + ": " + std::string(Text(TextId::ListInPlaceOfSource, place.MessageLanguage)));
+bool RefusesOutput(const OutputPlace& place, const std::vector<std::string>& sources) {
+    if (place.File.empty() || IsDevice(place.File))
+        return false;
+    const auto refuse = [&](TextId reason) {
+        Fail(place.File + ": " + std::string(Text(reason, place.MessageLanguage)));
+        return true;
+    };
+    if (std::any_of(sources.begin(), sources.end(), [&](const std::string& source) {
+            return WritingTouches(ToPath(place.File), ToPath(source));
+        }))
+        return refuse(TextId::ListInPlaceOfSource);
+    const std::string name = LowerCase(place.File);
+    std::error_code ignored;
+    if ((name.ends_with(".qorvix") || name.ends_with(".cmt") || name.ends_with(".fil")) &&
+        std::filesystem::exists(ToPath(place.File), ignored))
+        return refuse(TextId::ListInPlaceOfOther);
+    return false;
 }
 
 int WriteOutput(const OutputPlace& place,

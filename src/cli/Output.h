@@ -14,11 +14,9 @@ struct OutputPlace {
     Language MessageLanguage;
 };
 
-// True when writing the output would take the place of one of these files, which it is made from.
-bool ReplacesSource(const OutputPlace& place, const std::vector<std::string>& sources);
-
-// Fails with a message about that.
-int FailForReplacedSource(const OutputPlace& place);
+// True when the output may not be written there, which has then been reported: it would replace one of these
+// files, which it is made from, or an existing file of comments, filters or an own archive.
+bool RefusesOutput(const OutputPlace& place, const std::vector<std::string>& sources);
 
 // Lets `write` print on the place; `isTerminal` when a person reads it there. A file takes its place as a
 // whole, or stays as it was. A pipe or a device cannot be replaced, so it is written to. Returns the exit

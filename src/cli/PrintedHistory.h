@@ -17,8 +17,8 @@
 template <typename MakeList>
 int PrintHistory(const HistoryOptions& options, const std::string& filters, MakeList makeList) {
     const OutputPlace place{options.Output, options.MessageLanguage};
-    if (ReplacesSource(place, {options.File, filters}))
-        return FailForReplacedSource(place);
+    if (RefusesOutput(place, {options.File, filters}))
+        return ExitStatus::Failed;
     TerminalDocument document({.Files = {options.File, filters, options.Output},
                                .Filters = {}, // rows cost time and memory
                                .ArchiveFilters = UserInterface::Answer::No,
@@ -27,11 +27,15 @@ int PrintHistory(const HistoryOptions& options, const std::string& filters, Make
     if (!document.Open(options.File, {.Filters = filters}))
         return ExitStatus::Failed;
     document.RemoveFiles();
+    if (!document.HasEvents())
+        return document.FailForNothingRead();
     if (!document.HasRows())
         return Fail(std::string(Text(TextId::FilterFailed, options.MessageLanguage)));
     const auto list = makeList(document);
     return document.StatusOf(WriteOutput(place, [&](std::ostream& stream, bool isTerminal) {
-        list.Write({.Format = options.Format, .ControlsAreVisible = isTerminal}, stream);
+        RowForm form = options.Form;
+        form.ControlsAreVisible = isTerminal;
+        list.Write(form, stream);
         stream.flush();
     }));
 }

@@ -15,11 +15,9 @@ namespace {
 
 void WriteRows(const EntryTable& entries, const LogbookRows& rows, const ListOptions& options,
                std::ostream& stream, bool isTerminal) {
-    const auto writer = MakeRowWriter({.Format = options.Format,
-                                       .Separator = options.Separator,
-                                       .ByteOrderMark = options.ByteOrderMark,
-                                       .Raw = options.Raw,
-                                       .ControlsAreVisible = isTerminal});
+    RowForm form = options.Form;
+    form.ControlsAreVisible = isTerminal;
+    const auto writer = MakeRowWriter(form);
     writer->WriteHeader(stream);
     for (const LogbookRow& row : rows) {
         writer->WriteRow(entries, row, stream);
@@ -43,8 +41,8 @@ int PrintList(const ListOptions& options,
               const std::function<LogbookRows(const EntryTable& entries, const LogbookRows& rows)>& choose) {
     using Answer = UserInterface::Answer;
     const OutputPlace place{options.Output, options.MessageLanguage};
-    if (ReplacesSource(place, {options.File, options.Filters}))
-        return FailForReplacedSource(place);
+    if (RefusesOutput(place, {options.File, options.Filters}))
+        return ExitStatus::Failed;
     TerminalDocument document({.Files = {options.File, options.Filters, options.Output},
                                .Filters = FiltersAtFirst(options),
                                .ArchiveFilters = options.ArchiveFilters ? Answer::Yes : Answer::No,
@@ -53,6 +51,8 @@ int PrintList(const ListOptions& options,
     if (!document.Open(options.File, {.Filters = options.Filters}))
         return ExitStatus::Failed;
     document.RemoveFiles();
+    if (options.Partial && !document.HasEvents())
+        return document.FailForNothingRead();
     // Without comments that could not be read the list is printed all the same, as the window shows it.
     if (!document.HasRows())
         return Fail(std::string(Text(TextId::FilterFailed, options.MessageLanguage)));

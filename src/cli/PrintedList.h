@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/CsvLine.h"
 #include "filter/LogbookRow.h"
 #include "logbook/EntryTable.h"
 #include "settings/Language.h"
@@ -11,16 +12,13 @@
 // Which list a command prints, and how: what all commands that print rows have in common.
 struct ListOptions {
     std::string File;
-    std::string Format = "jsonl"; // or "csv"
-    std::string Output;           // "" = standard output
-    char Separator = ',';         // CSV: of fields
-    bool ByteOrderMark = false;   // CSV: at the beginning
-    bool Raw = false;             // CSV: no guard against text that a spreadsheet would run
-    std::string Filters;          // a filter file; "" = none
-    bool StoredFilters = false;   // the filters of the user's settings
-    bool ArchiveFilters = false;  // the filters that the program's own archive carries, if it does
-    bool Partial = false;         // what could be read of a logbook with an error in it
-    Language MessageLanguage;     // of messages on standard error
+    RowForm Form;                // "jsonl" or "csv"
+    std::string Output;          // "" = standard output
+    std::string Filters;         // a filter file; "" = none
+    bool StoredFilters = false;  // the filters of the user's settings
+    bool ArchiveFilters = false; // the filters that the program's own archive carries, if it does
+    bool Partial = false;        // what could be read of a logbook with an error in it
+    Language MessageLanguage;    // of messages on standard error
 };
 
 // Opens the logbook, makes the rows that its filters let through, and prints them, a row a line. With

@@ -89,8 +89,9 @@ class SessionList {
             }
         }
         table.Write(stream, SessionsWidth);
-        const auto hours = [](const std::optional<Session::Duration>& time) {
-            return time ? DecimalText(static_cast<double>(time->count()) / 3'600'000.0, 2) : std::string("-");
+        const auto hours = [this](const std::optional<Session::Duration>& time) {
+            return time ? DecimalText(static_cast<double>(time->count()) / 3'600'000.0, 2, language_)
+                        : std::string("-");
         };
         stream << Say(TextId::HistoryRecordedHours) << hours(RecordedTime(sessions_))
                << Say(TextId::HistoryAtMost) << hours(MostTime(sessions_)) << '\n';
@@ -105,8 +106,13 @@ class SessionList {
         const Stamp first = sessions_[begin].Start.value_or(Stamp{});
         const Stamp last = sessions_[end - 1].Start.value_or(Stamp{});
         return std::to_string(end - begin) + ' ' + Say(TextId::HistoryStarts) + ' ' + Say(TextId::HistoryIn) +
-               ' ' + Seconds(TimeBetween(first, last)).dump() + " s, " + Say(TextId::HistoryFrom) + ' ' +
+               ' ' + SecondsText(TimeBetween(first, last)) + " s, " + Say(TextId::HistoryFrom) + ' ' +
                ReadableText(first);
+    }
+
+    std::string SecondsText(std::chrono::milliseconds time) const {
+        const int decimals = time.count() % 1000 == 0 ? 0 : 3;
+        return DecimalText(static_cast<double>(time.count()) / 1000.0, decimals, language_);
     }
 
     std::vector<std::string> TextLine(std::size_t place) const {

@@ -18,6 +18,7 @@ TerminalDocument::TerminalDocument(Options options)
 }
 
 bool TerminalDocument::Open(const std::string& file, const FilesInstead& instead) {
+    file_ = file;
     document_.OpenLogbook(file, instead);
     if (user_.MessageShown())
         return false;
@@ -26,6 +27,10 @@ bool TerminalDocument::Open(const std::string& file, const FilesInstead& instead
     const bool reading = document_.Book().LoadState == LoadStates::Reading;
     Fail(std::string(Text(reading ? TextId::ReadFailed : TextId::OpenFailed, language_)) + ": " + file);
     return false;
+}
+
+int TerminalDocument::FailForNothingRead() const {
+    return Fail(file_ + ": " + std::string(Text(TextId::NothingRead, language_)));
 }
 
 int TerminalDocument::StatusOf(int printed) const {

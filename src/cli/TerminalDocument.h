@@ -32,6 +32,10 @@ class TerminalDocument : private DocumentView {
     // Removes what was unpacked, before a long step that needs only entries and rows.
     void RemoveFiles() { tempFolder_.reset(); }
 
+    // Whether any event was read. FailForNothingRead reports that there is none and returns the exit status.
+    bool HasEvents() const { return Entries().HasEvents() || !Book().Starts.empty(); }
+    int FailForNothingRead() const;
+
     // The exit status of a command that ended with this one. If an error has ended the read, which comes with
     // Options::Partial only, Done becomes Unfinished, and a message says how much was read.
     int StatusOf(int printed) const;
@@ -52,6 +56,7 @@ class TerminalDocument : private DocumentView {
     bool TakesUnfinished() const override { return partial_; }
     void LogbookIsUnfinished() override;
 
+    std::string file_; // that was opened
     Language language_;
     bool partial_;
     std::optional<TempFolder> tempFolder_; // the document uses it until RemoveFiles

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/FileSizeLimit.h"
 #include "base/Interruption.h"
+#include "base/StandardStreams.h"
 #include "base/UnicodeCase.h"
 #include "base/VisibleControls.h"
 #include "cli/ErrorsCommand.h"
@@ -26,27 +27,7 @@ namespace {
 // What the commands that print rows have in common.
 void AddListOptions(CLI::App& command, ListOptions& options) {
     AddSourceAndOutput(command, options.File, options.Output);
-    command.add_option("--format", options.Format, "jsonl (JSON Lines) or csv (RFC 4180)")
-        ->check(CLI::IsMember({"jsonl", "csv"}))
-        ->capture_default_str();
-    command
-        .add_option_function<std::string>(
-            "--separator",
-            [&options](const std::string& name) {
-                options.Separator = name == "semicolon" ? ';' : name == "tab" ? '\t' : ',';
-            },
-            "CSV: what stands between the fields: comma (without this option), semicolon or tab")
-        ->check(CLI::IsMember({"comma", "semicolon", "tab"}));
-    command.add_flag("--bom", options.ByteOrderMark,
-                     "CSV: begin with a byte order mark, which tells some spreadsheets that this is UTF-8");
-    command.add_flag("--raw", options.Raw,
-                     "CSV: leave text that a spreadsheet would take for a formula as it is");
-    command.parse_complete_callback([&command, &options] {
-        for (const char* const option : {"--separator", "--bom"})
-            if (command.count(option) != 0 && options.Format != "csv")
-                throw CLI::ValidationError(option, "is for --format csv only");
-    });
-
+    AddFormOptions(command, options.Form);
     CLI::Option* filters =
         command.add_option("--filters", options.Filters, "Only what this filter file lets through")
             ->check(NameIsGiven());
@@ -159,6 +140,7 @@ int Run(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    OpenMissingStandardStreams();
     FailAtFileSizeLimit();
     std::ios::sync_with_stdio(false);
     const Interruption interruption;

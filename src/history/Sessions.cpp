@@ -58,14 +58,10 @@ void TakeEntries(const EntryTable& entries, std::span<const std::int16_t> types,
             std::max(TimeBetween(*errorStamp, *session.LastEntry), Session::Duration(0));
 }
 
-bool IsEmpty(const EntryTable& entries) {
-    return entries.Count() == 0 || (entries.Count() == 1 && entries.Kind(0).EventType <= 0);
-}
-
 } // namespace
 
 std::vector<Session> SessionsOf(const EntryTable& entries, std::span<const LogbookStart> starts) {
-    const EntryNumber count = IsEmpty(entries) ? 0 : entries.Count();
+    const EntryNumber count = entries.HasEvents() ? entries.Count() : 0;
     const EntryStamps stamps(entries);
     std::vector<Session> sessions;
     const EntryNumber firstStart = starts.empty() ? count : std::min(starts.front().Entry, count);

@@ -42,6 +42,9 @@ class EntryTable {
 
     EntryNumber Count() const { return static_cast<EntryNumber>(records_.Size()); }
 
+    // False when there is no entry but an empty one.
+    bool HasEvents() const { return Count() > 1 || (Count() == 1 && Kind(0).EventType > 0); }
+
     // The entry with a number below Count, and its single fields for runs over many entries.
     LogbookEntry operator[](EntryNumber number) const;
     const EntryKind& Kind(EntryNumber number) const { return kinds_[records_[number].Kind]; }

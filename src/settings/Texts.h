@@ -204,7 +204,9 @@ enum class TextId : std::uint16_t {
     ListNotWritten,
     FileNotWritten,
     ListInPlaceOfSource,
+    ListInPlaceOfOther,
     ReadEndedEarly,
+    NothingRead,
     HistorySession,
     HistoryStart,
     HistoryRecorded,
@@ -254,6 +256,8 @@ enum class TextId : std::uint16_t {
     StitchCommentOfEntry,
     StitchNoPlace,
     StitchCommentsWithoutLogbook,
+    StitchCommentsBeside,
+    StitchNumberFilters,
     StitchCommentsLost,
     StitchCommentsReplaced,
     // The event entry dialog, and the labels in the comment that it proposes

@@ -44,6 +44,32 @@ TEST(Partial, PrintsWhatWasReadBeforeAnError) {
                 HasSubstr("\"entries\":2"));
 }
 
+TEST(Partial, SaysWhereNothingCouldBeRead) {
+    const TemporaryFolder folder;
+    for (const std::string& text :
+         {std::string("abc\r\ndef\r\n"), std::string("Operation Logbook Version 1.0"), std::string(),
+          Lines({Separator})}) {
+        const std::string log = folder.Write("a.log", text);
+        for (const std::vector<std::string>& command : {std::vector<std::string>{"export", log},
+                                                        {"sessions", log},
+                                                        {"errors", log},
+                                                        {"lookup", "--all", log}}) {
+            for (const bool partial : {true, false}) {
+                std::vector<std::string> arguments = command;
+                if (partial)
+                    arguments.emplace_back("--partial");
+                EXPECT_EQ(RunCommandLineTool(arguments).ExitStatus, 1) << command[0] << ' ' << text;
+            }
+        }
+        if (text.empty())
+            continue;
+        EXPECT_EQ(RunCommandLineTool({"sessions", log, "--partial"}).Errors,
+                  "qorvix-cli: " + log + ": no event could be read; is this a logbook?\n");
+        EXPECT_EQ(RunCommandLineTool({"export", log, "--partial", "--language", "de"}).Errors,
+                  "qorvix-cli: " + log + ": kein Ereignis konnte gelesen werden; ist das ein Logbuch?\n");
+    }
+}
+
 TEST(Partial, ChangesNothingForAWholeLogbook) {
     const std::string log = QORVIX_SOURCE_FOLDER "/samples/classic.log";
     const ProgramResult partial = RunCommandLineTool({"export", log, "--partial"});

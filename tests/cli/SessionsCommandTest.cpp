@@ -123,6 +123,47 @@ TEST_F(SessionsCommand, SaysWhatIsWrong) {
 TEST_F(SessionsCommand, IsEmptyWithoutEntries) {
     Log = Folder.Write("c.log", "nothing of a logbook\r\nand nothing more\r\n");
     const ProgramResult result = Sessions({"--format", "jsonl"});
-    EXPECT_EQ(result.ExitStatus, 0);
+    EXPECT_EQ(result.ExitStatus, 1);
     EXPECT_EQ(result.Output, "");
+    EXPECT_EQ(result.Errors, "qorvix-cli: " + Log + ": no event could be read; is this a logbook?\n");
+}
+
+TEST_F(SessionsCommand, CsvIsForSpreadsheetsOfOtherRegions) {
+    const ProgramResult comma = Sessions({"--format", "csv"});
+    std::string semicolons = comma.Output;
+    std::replace(semicolons.begin(), semicolons.end(), ',', ';');
+    EXPECT_EQ(Sessions({"--format", "csv", "--separator", "semicolon", "--bom"}).Output,
+              "\xEF\xBB\xBF" + semicolons);
+    EXPECT_EQ(Sessions({"--bom"}).ExitStatus, 2);
+    for (const char* const command : {"errors", "lookup"})
+        EXPECT_EQ(RunCommandLineTool({command, command == std::string("lookup") ? "--all" : "--raw", Log,
+                                      "--format", "csv", "--separator", "tab"})
+                      .ExitStatus,
+                  0)
+            << command;
+}
+
+TEST_F(SessionsCommand, AListReplacesNoArchiveCommentsOrFilters) {
+    for (const std::string name : {"a.qorvix", "A.QORVIX", "a.cmt", "a.fil"}) {
+        const std::string file = Folder.Write(name, "mine");
+        for (const char* const command : {"sessions", "errors", "export"}) {
+            const ProgramResult result = RunCommandLineTool({command, Log, "--output", file});
+            EXPECT_EQ(result.ExitStatus, 1);
+            EXPECT_EQ(result.Errors,
+                      "qorvix-cli: " + file + ": a list does not replace an archive, comments or filters\n");
+            EXPECT_THAT(RunCommandLineTool({command, Log, "--output", file, "--language", "de"}).Errors,
+                        HasSubstr("eine Liste ersetzt kein Archiv, keine Kommentare und keine Filter"));
+        }
+        EXPECT_EQ(FileContent(file), "mine");
+    }
+}
+
+// A file that is opened must not get the number of a missing output.
+TEST_F(SessionsCommand, MissingStandardOutputIsAFailure) {
+    const std::string command = "timeout 20 " QORVIX_PROGRAM_FOLDER "/qorvix-cli sessions '" + Log + "'";
+    EXPECT_EQ(std::system((command + " >/dev/null").c_str()), 0);
+    const int closed = std::system((command + " >&- 2>/dev/null").c_str());
+    EXPECT_EQ(WEXITSTATUS(closed), 1);
+    const int allClosed = std::system((command + " <&- >&- 2>&-").c_str());
+    EXPECT_EQ(WEXITSTATUS(allClosed), 1);
 }

@@ -56,6 +56,10 @@ TEST(OrderOptions, WrongLogbookOrdersAreRefused) {
     EXPECT_FALSE(isTaken({"--entries", "3", "--bursts", "x"}));
     EXPECT_FALSE(isTaken({"--entries", "3", "--cut"}));
     EXPECT_FALSE(isTaken({"--entries", "3", "--truth", ""}));
+    EXPECT_FALSE(isTaken({"--entries", "3", "--chatter", "0"}));
+    EXPECT_TRUE(isTaken({"--entries", "3", "--seed", "0"}));
+    EXPECT_TRUE(isTaken({"--entries", "3", "--cleared", "1"}));
+    EXPECT_FALSE(ReadLogbookCommand("operation", Options{"--entries", "3", "--cleared", "1"}));
     for (const std::string_view day : {"2010-13-01", "2010-02-29", "1969-12-31", "2010-1-1", "01.01.2010"})
         EXPECT_FALSE(isTaken({"--entries", "3", "--first-day", day})) << day;
     EXPECT_FALSE(ReadLogbookCommand("ring", Options{"--entries", "3"}));
