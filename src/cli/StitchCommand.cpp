@@ -71,18 +71,18 @@ class Stitching {
             return FailForOutput(TextId::StitchInPlaceOfSource);
         const StitchPlan plan = PlanStitch(sources_.Exports());
         TellDuplicates(plan, sources_, options_.MessageLanguage);
-        if (plan.Refused)
+        if (plan.Refused && !(plan.Refused->NothingAdds && DuplicatesHaveComments(plan)))
             return TellRefusal(plan, sources_, options_.MessageLanguage);
 
         StitchInput input{.Sources = sources_,
                           .Plan = plan,
                           .Comments = {},
-                          .FilterFile = {},
+                          .Filters = {},
                           .FileCodePage = codePage_,
                           .Temp = temp_,
                           .MessageLanguage = options_.MessageLanguage};
         StitchedResult result;
-        if (!TakeComments(plan, input.Comments) || (isArchive && !TakeFilters(plan, input.FilterFile)) ||
+        if (!TakeComments(plan, input.Comments) || (isArchive && !TakeFilters(plan, input)) ||
             !(isArchive ? WriteStitchedArchive : WriteStitchedLog)(options_.Output, input, result))
             return ExitStatus::Failed;
         TellUnplaced(result, sources_, options_.MessageLanguage);
@@ -103,6 +103,22 @@ class Stitching {
         return Fail(options_.Output + ": " + std::string(Text(reason, options_.MessageLanguage)));
     }
 
+    // Whether duplicates of the only export that is left may bring comments that this one does not have.
+    // Comments that cannot be read are reported when they are taken.
+    bool DuplicatesHaveComments(const StitchPlan& plan) const {
+        std::vector<CommentOfExport> own;
+        sources_.AppendComments(plan.Order.front(), codePage_, own);
+        return std::any_of(plan.Duplicates.begin(), plan.Duplicates.end(), [&](const auto& duplicate) {
+            std::vector<CommentOfExport> comments;
+            if (!sources_.AppendComments(duplicate.Export, codePage_, comments))
+                return false;
+            return std::any_of(comments.begin(), comments.end(), [&](CommentOfExport& comment) {
+                comment.Export = plan.Order.front();
+                return duplicate.Common || std::find(own.begin(), own.end(), comment) == own.end();
+            });
+        });
+    }
+
     bool TakeComments(const StitchPlan& plan, std::vector<CommentOfExport>& comments) const {
         for (const std::size_t source : NewestFirst(plan))
             if (!sources_.AppendComments(source, codePage_, comments))
@@ -111,19 +127,20 @@ class Stitching {
     }
 
     // Those of the newest own archive that has some.
-    bool TakeFilters(const StitchPlan& plan, std::string& filterFile) const {
+    bool TakeFilters(const StitchPlan& plan, StitchInput& input) const {
         for (const std::size_t source : NewestFirst(plan)) {
             const std::string& file = sources_.FilterFile(source);
             if (file.empty())
                 continue;
-            const FilterFileContent content = ImportFilterFile(file, codePage_);
+            FilterFileContent content = ImportFilterFile(file, codePage_);
             if (content.Result != FilterFileContent::Outcome::Read) {
                 Fail(FilterFileMessage(sources_.Name(source), content, options_.MessageLanguage));
                 return false;
             }
             if (content.Filters.empty())
                 continue;
-            filterFile = file;
+            input.Filters = std::move(content.Filters);
+            input.FiltersOf = source;
             return true;
         }
         return true;

@@ -2,15 +2,22 @@
 #include "cli/StitchOutput.h"
 
 #include "base/AtomicFile.h"
+#include "base/Blanks.h"
+#include "base/FileLock.h"
 #include "base/Paths.h"
 #include "base/StopRequest.h"
+#include "base/TextFile.h"
+#include "base/UserFolders.h"
 #include "base/Workplace.h"
 #include "cli/Messages.h"
 #include "cli/TerminalDocument.h"
 #include "comments/Comments.h"
+#include "filter/FilterFile.h"
+#include "filter/NumberList.h"
 #include "settings/ReasonText.h"
 #include "settings/Texts.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -50,51 +57,36 @@ bool Write(AtomicFile& file, const std::string& name, const StitchInput& input, 
     return !StopRequest::IsMade();
 }
 
-// The comments file beside a logbook, and what it held before.
+// The comments file beside a logbook.
 class CommentsBeside {
   public:
     CommentsBeside(const std::string& logbook, const StitchInput& input)
         : path_(ChangeExtension(logbook, ".cmt")), logbook_(logbook), input_(input) {}
 
     // Whether the file may be replaced, as far as that can be told without the new comments.
-    bool MayBeReplaced() {
-        std::error_code error;
+    bool MayBeReplaced() const {
         if (input_.Sources.Include(path_))
             return FailFor(path_, Say(TextId::StitchInPlaceOfSource, input_));
-        isThere_ = std::filesystem::exists(std::filesystem::symlink_status(ToPath(path_), error));
-        if (!isThere_)
-            return true;
-        if (!std::filesystem::exists(ToPath(logbook_), error))
+        std::error_code error;
+        if (IsThere() && !std::filesystem::exists(ToPath(logbook_), error))
             return FailFor(path_, Say(TextId::StitchCommentsWithoutLogbook, input_));
-        const CommentsFileResult read =
-            ReadCommentsFile(path_, input_.FileCodePage,
-                             [&](std::int64_t entry, std::string text) { before_[entry] = std::move(text); });
-        if (read.Result == CommentsFileResult::Outcome::Read)
-            return true;
-        const std::string message = CommentsFileMessage(path_, read, input_.MessageLanguage);
-        if (read.Result == CommentsFileResult::Outcome::NoHeader)
-            return FailFor(path_, message);
-        Fail(message);
-        return false;
+        return true;
     }
 
-    // Puts the new comments there. The old ones can be put back until the end of this object.
+    // Puts the new comments there, if none of the old ones is lost. These can be put back until the end of
+    // this object.
     bool Replace(const std::map<EntryNumber, std::string>& comments) {
-        std::set<std::string> stored;
-        for (const auto& [entry, text] : comments)
-            stored.insert(CommentAsStored(text, input_.FileCodePage));
-        std::size_t lost = 0;
-        for (const auto& [entry, text] : before_)
-            if (!text.empty() && !stored.contains(text))
-                ++lost;
-        if (lost != 0)
-            return FailFor(path_, Say(TextId::StitchCommentsLost, input_) + std::to_string(lost));
+        const bool isThere = IsThere();
+        if (isThere && !KeepsAll(comments))
+            return false;
         if (comments.empty())
             return true;
-        if (isThere_) {
+        if (isThere) {
             old_.emplace(path_);
-            if (!old_->Path().empty())
-                old_->Stream() << std::ifstream(ToPath(path_), std::ios::binary).rdbuf();
+            std::ifstream before(ToPath(path_), std::ios::binary);
+            // To copy nothing counts as a failure.
+            if (!old_->Path().empty() && before.peek() != std::ifstream::traits_type::eof())
+                old_->Stream() << before.rdbuf();
             if (const std::error_code error = old_->Prepare())
                 return FailFor(path_, error, input_.MessageLanguage);
         }
@@ -118,14 +110,82 @@ class CommentsBeside {
     }
 
   private:
+    bool IsThere() const {
+        std::error_code ignored;
+        return std::filesystem::exists(std::filesystem::symlink_status(ToPath(path_), ignored));
+    }
+
+    // Whether the new file has every line of the old one: the same comment of the same entry. A line that is
+    // no comment, or one that a person wrote in another way, would be lost.
+    bool KeepsAll(const std::map<EntryNumber, std::string>& comments) const {
+        std::set<std::string> lines;
+        for (const auto& [entry, text] : comments)
+            lines.insert(CommentsFileLine(entry, text, input_.FileCodePage));
+        TextFile file(path_, CommentsFileBounds);
+        std::size_t lost = 0;
+        std::string_view line;
+        if (file.ReadLine(line) && line != CommentsFileHeader)
+            return FailFor(path_, Say(TextId::CommentsFileNoComments, input_));
+        while (file.ReadLine(line))
+            if (!Trim(line).empty() && !lines.contains(std::string(line)))
+                ++lost;
+        if (file.Error()) {
+            const CommentsFileResult result{CommentsFileResult::Outcome::CannotRead, file.Error()};
+            Fail(CommentsFileMessage(path_, result, input_.MessageLanguage));
+            return false;
+        }
+        return lost == 0 || FailFor(path_, Say(TextId::StitchCommentsLost, input_) + std::to_string(lost));
+    }
+
     std::string path_;
     std::string logbook_;
     const StitchInput& input_;
-    bool isThere_ = false;
     bool isReplaced_ = false;
-    std::map<std::int64_t, std::string> before_;
     std::optional<AtomicFile> old_;
 };
+
+// Two runs must not put the logbook of one beside the comments of the other. They hold a lock meanwhile,
+// which copies of the program of this user share.
+std::string PairLock() {
+    std::error_code ignored;
+    std::filesystem::create_directories(StateFolder(), ignored);
+    return (StateFolder() / "stitch.lock").string();
+}
+
+// What is added to the number of an entry of an export; nothing where that is not known.
+std::optional<std::int64_t> ShiftOf(std::size_t exportNumber, const StitchPlan& plan,
+                                    const StitchedResult& result) {
+    for (const StitchPlan::Duplicate& duplicate : plan.Duplicates)
+        if (duplicate.Export == exportNumber && !duplicate.Common)
+            exportNumber = duplicate.Of;
+    if (plan.Order.front() == exportNumber)
+        return 0;
+    for (std::size_t i = 0; i < plan.Pairs.size(); ++i)
+        if (plan.Pairs[i].Newer == exportNumber)
+            return result.Counts[i].Shift;
+    return std::nullopt;
+}
+
+// The filters for the stitched logbook, whose entries have other numbers. Reports filters by number that
+// cannot be carried.
+std::vector<FilterDefinition> CarriedFilters(const StitchInput& input, const StitchedResult& result) {
+    if (input.Filters.empty())
+        return DefaultFilters();
+    const std::optional<std::int64_t> shift = ShiftOf(input.FiltersOf, input.Plan, result);
+    std::vector<FilterDefinition> filters = input.Filters;
+    const auto isByNumber = [](const FilterDefinition& filter) {
+        return filter.FilterType == FilterTypes::Numbers;
+    };
+    if (!shift && std::any_of(filters.begin(), filters.end(), isByNumber)) {
+        TellMessage(input.Sources.Name(input.FiltersOf) + ": " + Say(TextId::StitchNumberFilters, input));
+        std::erase_if(filters, isByNumber);
+    }
+    if (shift && *shift != 0)
+        for (FilterDefinition& filter : filters)
+            if (isByNumber(filter))
+                filter.StringFilter = ShiftNumberList(filter.StringFilter, *shift);
+    return filters;
+}
 
 // Refuses what nobody can be asked about.
 class StitchDecisions : public ArchiveDecisions {
@@ -164,6 +224,7 @@ bool WriteStitchedLog(const std::string& path, const StitchInput& input, Stitche
     std::error_code error = file.Prepare();
     if (error)
         return FailFor(path, error, input.MessageLanguage);
+    const FileLock alone(PairLock());
     if (!comments.Replace(carried.Placed))
         return false;
     error = file.Commit();
@@ -177,7 +238,8 @@ bool WriteStitchedArchive(const std::string& path, const StitchInput& input, Sti
     const Workplace workplace(input.Temp);
     const std::filesystem::path log = workplace.Path() / "stitched.log";
     const std::filesystem::path comments = workplace.Path() / "stitched.cmt";
-    if (workplace.Path().empty() || !input.Temp.Note({log, comments}))
+    const std::filesystem::path filters = workplace.Path() / "stitched.fil";
+    if (workplace.Path().empty() || !input.Temp.Note({log, comments, filters}))
         return FailFor(path, Say(TextId::NoTemporaryFolder, input));
     AtomicFile file(log.string());
     CarriedComments carried;
@@ -189,14 +251,19 @@ bool WriteStitchedArchive(const std::string& path, const StitchInput& input, Sti
     error = SaveComments(comments.string(), carried.Placed, input.FileCodePage);
     if (error)
         return FailFor(comments.string(), error, input.MessageLanguage);
+    error = ExportFilterFile(filters.string(), CarriedFilters(input, result), input.FileCodePage);
+    if (error)
+        return FailFor(filters.string(), error, input.MessageLanguage);
 
     std::vector<std::string> files{path};
     for (std::size_t i = 0; i < input.Sources.Exports().size(); ++i)
         files.push_back(input.Sources.Name(i));
+    // The newest export may have been cut within an event, which ends the read early.
     TerminalDocument document({.Files = files,
                                .ArchiveFilters = UserInterface::Answer::Yes,
-                               .MessageLanguage = input.MessageLanguage});
-    if (!document.Open(log.string(), {.Comments = comments.string(), .Filters = input.FilterFile}) ||
+                               .MessageLanguage = input.MessageLanguage,
+                               .Partial = true});
+    if (!document.Open(log.string(), {.Comments = comments.string(), .Filters = filters.string()}) ||
         !document.HasComments())
         return false;
     StitchDecisions decisions(path, input.MessageLanguage);

@@ -21,7 +21,9 @@ struct StitchInput {
     const StitchSources& Sources;
     const StitchPlan& Plan;
     std::vector<CommentOfExport> Comments; // of newer exports first
-    std::string FilterFile;                // for an own archive; "" = the filter that shows all
+    // For an own archive: the filters of the export FiltersOf. None = the filter that shows all.
+    std::vector<FilterDefinition> Filters;
+    std::size_t FiltersOf = 0;
     const CodePage& FileCodePage;
     const TempFolder& Temp;
     Language MessageLanguage;

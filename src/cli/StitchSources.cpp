@@ -2,6 +2,7 @@
 #include "cli/StitchSources.h"
 
 #include "base/FileProblem.h"
+#include "base/PartFiles.h"
 #include "base/Paths.h"
 #include "cli/Messages.h"
 #include "cli/TerminalUser.h"
@@ -10,6 +11,7 @@
 #include "settings/Texts.h"
 #include "sources/LogbookSource.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -33,8 +35,10 @@ bool StitchSources::Add(const std::string& path) {
 bool StitchSources::Resolve(const std::string& path, Source& source) {
     source.Name = path;
     source.LogbookFile = path;
-    if (!IsArchive(path))
+    if (!IsArchive(path)) {
+        TellOfCommentsBeside(path);
         return true;
+    }
     if (const std::error_code error = CheckRegularFile(ToPath(path))) {
         Fail(path + ": " + ReasonText(error, language_));
         return false;
@@ -55,6 +59,14 @@ bool StitchSources::Resolve(const std::string& path, Source& source) {
     return false;
 }
 
+// Only archives bring comments. Those beside a plain logbook may be what an earlier stitch wrote.
+void StitchSources::TellOfCommentsBeside(const std::string& logbook) const {
+    const std::string comments = ChangeExtension(logbook, ".cmt");
+    std::error_code ignored;
+    if (std::filesystem::is_regular_file(ToPath(comments), ignored))
+        TellMessage(comments + ": " + std::string(Text(TextId::StitchCommentsBeside, language_)));
+}
+
 // Moves an unpacked file to the last workplace, before the next archive takes its place.
 bool StitchSources::MoveApart(std::string& file, const char* name) {
     if (file.empty())
@@ -69,12 +81,9 @@ bool StitchSources::MoveApart(std::string& file, const char* name) {
 }
 
 bool StitchSources::Include(const std::string& path) const {
-    for (const Source& source : sources_) {
-        std::error_code noSuchFile;
-        if (std::filesystem::equivalent(ToPath(source.Name), ToPath(path), noSuchFile))
-            return true;
-    }
-    return false;
+    return std::any_of(sources_.begin(), sources_.end(), [&](const Source& source) {
+        return WritingTouches(ToPath(path), ToPath(source.Name));
+    });
 }
 
 bool StitchSources::AreUnchanged() const {

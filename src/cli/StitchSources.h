@@ -30,7 +30,7 @@ class StitchSources {
 
     std::span<const ExportLines> Exports() const { return exports_; }
 
-    // True when a path names one of the sources.
+    // True when writing a file would replace or remove one of the sources.
     bool Include(const std::string& path) const;
 
     // False when the logbook of a source has changed since it was read, which has then been reported.
@@ -54,6 +54,7 @@ class StitchSources {
     };
 
     bool Resolve(const std::string& path, Source& source);
+    void TellOfCommentsBeside(const std::string& logbook) const;
     bool MoveApart(std::string& file, const char* name);
 
     const TempFolder& tempFolder_;

@@ -17,7 +17,6 @@
 
 namespace {
 
-constexpr std::string_view Header = "[Comments]";
 constexpr char Quote = '"';
 constexpr char Comma = ',';
 
@@ -106,7 +105,7 @@ bool ReadComments(TextFile& file, const CodePage& codePage, const TakeComment& t
     std::string_view line;
     if (!file.ReadLine(line))
         return true;
-    if (line != Header)
+    if (line != CommentsFileHeader)
         return false;
     while (file.ReadLine(line))
         if (const std::optional<CommentLine> comment = ParseLine(line))
@@ -165,6 +164,10 @@ std::string CommentAsStored(std::string_view comment, const CodePage& codePage) 
     return codePage.ToUtf8(WithoutLineBreaks(codePage.FromUtf8(comment).Text));
 }
 
+std::string CommentsFileLine(EntryNumber number, std::string_view comment, const CodePage& codePage) {
+    return Blank + std::to_string(number) + Blank + FormatText(codePage.FromUtf8(comment).Text);
+}
+
 std::error_code SaveComments(const std::string& path, const EntryTable& entries, const CodePage& codePage) {
     return SaveComments(path, entries.Comments(), codePage);
 }
@@ -173,11 +176,10 @@ std::error_code SaveComments(const std::string& path, const std::map<EntryNumber
                              const CodePage& codePage) {
     AtomicFile file(path);
     TextFileRoom room(CommentsFileBounds);
-    std::error_code error = room.Take(Header);
-    file.Stream() << Header << "\r\n";
+    std::error_code error = room.Take(CommentsFileHeader);
+    file.Stream() << CommentsFileHeader << "\r\n";
     for (const auto& [number, comment] : comments) {
-        const std::string line =
-            Blank + std::to_string(number) + Blank + FormatText(codePage.FromUtf8(comment).Text);
+        const std::string line = CommentsFileLine(number, comment, codePage);
         if (error = room.Take(line); error)
             return error;
         file.Stream() << line << "\r\n";

@@ -62,6 +62,12 @@ std::vector<EntryNumber> CommentsThatLose(const EntryTable& entries, const CodeP
 // A comment as a file would give it back.
 std::string CommentAsStored(std::string_view comment, const CodePage& codePage);
 
+// The first line of a comments file.
+inline constexpr std::string_view CommentsFileHeader = "[Comments]";
+
+// The line of a comments file for a comment, without its end.
+std::string CommentsFileLine(EntryNumber number, std::string_view comment, const CodePage& codePage);
+
 // Writes the comments of all entries, or these by entry number; replaces an existing file when the new one is
 // whole. Also fails for comments beyond the bounds.
 std::error_code SaveComments(const std::string& path, const EntryTable& entries, const CodePage& codePage);

@@ -62,3 +62,19 @@ std::string FormatNumberRange(NumberRange range) {
     std::string text = std::to_string(range.First);
     return range.First == range.Last ? text : text + "-" + std::to_string(range.Last);
 }
+
+std::string ShiftNumberList(std::string_view list, std::int64_t shift) {
+    constexpr std::int64_t Largest = std::numeric_limits<EntryNumber>::max();
+    std::string shifted;
+    AnyNumberPart(list, [&](std::string_view part) {
+        const std::optional<NumberRange> range = ParseNumberPart(part);
+        if (!range || range->Last + shift < 0)
+            return false;
+        const NumberRange moved{
+            static_cast<EntryNumber>(std::clamp<std::int64_t>(range->First + shift, 0, Largest)),
+            static_cast<EntryNumber>(std::clamp<std::int64_t>(range->Last + shift, 0, Largest))};
+        shifted.append(shifted.empty() ? "" : ",").append(FormatNumberRange(moved));
+        return false;
+    });
+    return shifted;
+}

@@ -4,6 +4,7 @@
 #include "logbook/EntryTable.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,6 +32,10 @@ bool MatchNumberList(EntryNumber entry, std::string_view list);
 
 // A range as a part of a list: a single number as that number, otherwise the bounds joined by "-".
 std::string FormatNumberRange(NumberRange range);
+
+// The list for entries whose numbers have grown by `shift`, which may be negative. Numbers below 0 are left
+// out, and so are parts that match nothing.
+std::string ShiftNumberList(std::string_view list, std::int64_t shift);
 
 // Calls `visit` with the text of each part, in order, until it returns true; returns whether it did. An empty
 // list has one part, which is empty.

@@ -50,6 +50,17 @@ std::map<std::uint64_t, EntryNumber> EntriesThere(const std::string& file,
     return numbers;
 }
 
+// A comment that was carried before may be several that were joined then.
+std::vector<std::string_view> PartsOf(std::string_view text) {
+    std::vector<std::string_view> parts;
+    for (std::size_t end; (end = text.find(LineSeparator)) != std::string_view::npos;) {
+        parts.push_back(text.substr(0, end));
+        text.remove_prefix(end + LineSeparator.size());
+    }
+    parts.push_back(text);
+    return parts;
+}
+
 } // namespace
 
 CarriedComments CarryComments(const StitchedLog& log, const std::string& file,
@@ -58,17 +69,17 @@ CarriedComments CarryComments(const StitchedLog& log, const std::string& file,
     const auto places = PlacesInLog(log, exports, comments);
     const auto entries = EntriesThere(file, places);
     CarriedComments carried;
-    std::map<EntryNumber, std::set<std::string>> texts;
+    std::map<EntryNumber, std::set<std::string_view>> texts;
     for (std::size_t i = 0; i < comments.size(); ++i) {
         const auto entry = places[i] ? entries.find(*places[i]) : entries.end();
         if (entry == entries.end()) {
             carried.Unplaced.push_back(comments[i]);
             continue;
         }
-        if (!texts[entry->second].insert(comments[i].Text).second)
-            continue;
         std::string& placed = carried.Placed[entry->second];
-        placed.append(placed.empty() ? std::string_view{} : LineSeparator).append(comments[i].Text);
+        for (const std::string_view part : PartsOf(comments[i].Text))
+            if (texts[entry->second].insert(part).second)
+                placed.append(placed.empty() ? std::string_view{} : LineSeparator).append(part);
     }
     return carried;
 }

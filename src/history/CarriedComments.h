@@ -31,7 +31,8 @@ struct CarriedComments {
 // part of another one; its comment is then not placed.
 //
 // `comments` come with those of newer exports first. An entry that gets several different ones has them all,
-// in this order. `file` holds the written logbook. Reads every export with comments, and the logbook.
+// in this order. One that was joined of several before counts as these, so that stitching again adds nothing.
+// `file` holds the written logbook. Reads every export with comments, and the logbook.
 CarriedComments CarryComments(const StitchedLog& log, const std::string& file,
                               std::span<const ExportLines> exports,
                               std::span<const CommentOfExport> comments);

@@ -17,10 +17,14 @@ class Planning {
         DropSameBytes();
         Compare();
         DropContained();
-        if (kept_.size() < 2)
+        if (plan_.Refused)
+            return std::move(plan_);
+        if (kept_.size() < 2) {
             Refuse({.NothingAdds = true});
-        else
+            plan_.Order = kept_;
+        } else {
             PutInOrder();
+        }
         return std::move(plan_);
     }
 
@@ -68,9 +72,23 @@ class Planning {
             });
             if (in == kept_.end())
                 continue;
+            if (MayBeContinuedBy(one, *in))
+                return Refuse({.First = one, .Second = *in, .Why = Reason::SeveralPlaces});
             plan_.Duplicates.push_back({.Export = one, .Of = *in, .Common = Relation(*in, one)});
             std::erase(kept_, one);
         }
+    }
+
+    // Whether an export that lies in another one may just as well be continued by it, at another place: the
+    // lines that both have are then not known to be the same.
+    bool MayBeContinuedBy(std::size_t one, std::size_t in) const {
+        const CommonLines& onward = Relation(one, in);
+        if (onward.What == Outcome::None)
+            return onward.Why == Reason::SeveralPlaces;
+        // Line 1 of `one` is line `inside` of the other; line 1 of the other is line `place` of `one`.
+        const std::int64_t inside = Relation(in, one).Place;
+        const std::int64_t place = onward.Place;
+        return inside - 1 != 1 - place;
     }
 
     // A reason that says more about two exports is greater.

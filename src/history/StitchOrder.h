@@ -30,13 +30,13 @@ struct StitchPlan {
         std::size_t Second = 0;
         CommonLines::Reason Why = CommonLines::Reason::NoneInCommon;
         LineNumber Lines = 0;     // of TooFew
-        bool NothingAdds = false; // only one export is no duplicate
+        bool NothingAdds = false; // only one export is no duplicate; Order then has it alone
     };
 
     std::vector<std::size_t> Order; // from the oldest to the newest, without duplicates
     std::vector<Pair> Pairs;        // one fewer
     std::vector<Duplicate> Duplicates;
-    std::optional<Refusal> Refused; // then Order and Pairs are empty
+    std::optional<Refusal> Refused; // then Order and Pairs are empty, unless NothingAdds
 };
 
 // Finds out which export continues which, by trying each with each. The order of the list makes no

@@ -12,6 +12,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <thread>
 
 using testing::HasSubstr;
 
@@ -186,6 +187,55 @@ TEST_F(StitchCommand, CommentsAndFiltersTravelToAnArchive) {
                                                          {"plain.cmt", "[Comments]\r\n"}}));
 }
 
+// The list of such a logbook ends where an error ends the read; its lines are all there.
+TEST_F(StitchCommand, NewestExportMayEndWithinAnEvent) {
+    WriteZip(Folder / "old.qorvix", {{"old.log", Events(0, 30)}, {"old.cmt", "[Comments]\r\n 3 oil\r\n"}});
+    const std::string block = Header("BREG:") + "\r\n  R0 0x00000000\r\n";
+    for (const std::string& end : {block, std::string("Key:     Y-")}) {
+        Folder.Write("new.log", Events(15, 50) + end);
+        for (const std::string& file : {Out, OutArchive, Folder / "out.cmt"})
+            std::filesystem::remove(file);
+        Stitch({Folder / "old.qorvix", New, "--output", Out});
+        EXPECT_EQ(FileContent(Out), Events(0, 50) + end);
+        Stitch({Folder / "old.qorvix", New, "--output", OutArchive});
+        EXPECT_EQ(ReadZip(OutArchive), (Members{{"out.log", Events(0, 50) + end},
+                                                {"out.fil", "[Filters]\r\nI|0||||1\r\n"},
+                                                {"out.cmt", "[Comments]\r\n 3 oil\r\n"}}));
+    }
+}
+
+TEST_F(StitchCommand, DuplicateWithCommentsBringsThemToTheOnlyExport) {
+    WriteZip(Folder / "part.qorvix", {{"part.log", Events(5, 25)}, {"part.cmt", "[Comments]\r\n 3 oil\r\n"}});
+    const std::string part = Folder / "part.qorvix";
+    EXPECT_EQ(Stitch({part, Old, "--output", OutArchive},
+                     "qorvix-cli: " + part + ": adds nothing, all of its lines are in " + Old + "\n"),
+              "");
+    EXPECT_EQ(ReadZip(OutArchive)[2].second, "[Comments]\r\n 8 oil\r\n");
+
+    // The same bytes with another comment, and then with none that is new.
+    WriteZip(Folder / "a.qorvix", {{"a.log", Events(0, 30)}, {"a.cmt", "[Comments]\r\n 3 pump\r\n"}});
+    WriteZip(Folder / "b.qorvix",
+             {{"b.log", Events(0, 30)}, {"b.cmt", "[Comments]\r\n 3 pump\r\n 4 door\r\n"}});
+    Stitch({Folder / "a.qorvix", Folder / "b.qorvix", "--output", Out},
+           "qorvix-cli: " + (Folder / "b.qorvix") + ": adds nothing, all of its lines are in " +
+               (Folder / "a.qorvix") + "\n");
+    EXPECT_EQ(FileContent(Out), Events(0, 30));
+    EXPECT_EQ(FileContent(Folder / "out.cmt"), "[Comments]\r\n 3 pump\r\n 4 door\r\n");
+    EXPECT_EQ(Run({Folder / "b.qorvix", Folder / "a.qorvix", "--output", Out}).ExitStatus, 1);
+    EXPECT_EQ(Run({Folder / "b.qorvix", Folder / "b.qorvix", "--output", Out}).ExitStatus, 1);
+}
+
+TEST_F(StitchCommand, StitchedAgainAddsNoTextToComments) {
+    WriteZip(Folder / "old.qorvix", {{"old.log", Events(0, 30)}, {"old.cmt", "[Comments]\r\n 20 A\r\n"}});
+    WriteZip(Folder / "new.qorvix", {{"new.log", Events(15, 50)}, {"new.cmt", "[Comments]\r\n 5 B\r\n"}});
+    Stitch({Folder / "old.qorvix", Folder / "new.qorvix", "--output", OutArchive});
+    const std::string newest = Folder.Write("newest.log", Events(40, 60));
+    EXPECT_EQ(
+        Run({OutArchive, Folder / "old.qorvix", Folder / "new.qorvix", newest, "--output", Out}).ExitStatus,
+        0);
+    EXPECT_EQ(FileContent(Folder / "out.cmt"), "[Comments]\r\n 20 B | A\r\n");
+}
+
 TEST_F(StitchCommand, CommentsStandBesideAPlainLogbook) {
     WriteZip(Folder / "old.qorvix",
              {{"old.log", Events(0, 30)}, {"old.cmt", "[Comments]\r\n 3 \"oil, filter\"\r\n"}});
@@ -231,7 +281,89 @@ TEST_F(StitchCommand, CommentsFileOfOthersIsNotReplaced) {
     };
     refused("", "[Comments]\r\n 3 oil\r\n", "is there without its logbook and is not replaced");
     refused("old", "[Comments]\r\n 3 mine\r\n 5 mine\r\n", "comments in this file that the result lacks: 2");
+    // The same text at another entry, and what a reader of comments leaves out.
+    refused("old", "[Comments]\r\n 4 oil\r\n", "comments in this file that the result lacks: 1");
+    refused("old", "[Comments]\r\n 3 oil, and more\r\n", "comments in this file that the result lacks: 1");
+    refused("old", "[Comments]\r\n 3 oil, first\r\n 3 oil, second\r\nnotes\r\n",
+            "comments in this file that the result lacks: 3");
     refused("old", "letter\r\n", "File includes no comment information!");
+}
+
+TEST_F(StitchCommand, EmptyCommentsFileIsReplaced) {
+    WriteZip(Folder / "old.qorvix", {{"old.log", Events(0, 30)}, {"old.cmt", "[Comments]\r\n 3 oil\r\n"}});
+    for (const char* const empty : {"", "[Comments]\r\n", "[Comments]\n\n"}) {
+        Folder.Write("out.log", "old");
+        Folder.Write("out.cmt", empty);
+        Stitch({Folder / "old.qorvix", New, "--output", Out});
+        EXPECT_EQ(FileContent(Folder / "out.cmt"), "[Comments]\r\n 3 oil\r\n");
+    }
+}
+
+// The logbook of one run never stands beside the comments of the other, and no comment is lost.
+TEST_F(StitchCommand, TwoRunsOntoOneLogbookDoNotMix) {
+    WriteZip(Folder / "old.qorvix", {{"old.log", Events(0, 30)}, {"old.cmt", "[Comments]\r\n 3 A\r\n"}});
+    WriteZip(Folder / "older.qorvix",
+             {{"older.log", Events(60, 90)}, {"older.cmt", "[Comments]\r\n 3 B\r\n"}});
+    const std::string newer = Folder.Write("newer.log", Events(75, 120));
+    for (int round = 0; round < 20; ++round) {
+        std::filesystem::remove(Out);
+        std::filesystem::remove(Folder / "out.cmt");
+        ProgramResult first;
+        std::thread other([&] { first = Run({Folder / "old.qorvix", New, "--output", Out}); });
+        const ProgramResult second = Run({Folder / "older.qorvix", newer, "--output", Out});
+        other.join();
+        EXPECT_EQ(first.ExitStatus + second.ExitStatus, 1) << first.Errors << second.Errors;
+        const bool isFirst = first.ExitStatus == 0;
+        EXPECT_EQ(FileContent(Out), isFirst ? Events(0, 50) : Events(60, 120));
+        EXPECT_EQ(FileContent(Folder / "out.cmt"),
+                  isFirst ? "[Comments]\r\n 3 A\r\n" : "[Comments]\r\n 3 B\r\n");
+    }
+}
+
+TEST_F(StitchCommand, CommentsBesideAnExportAreSaidNotToBeTaken) {
+    const std::string comments = Folder.Write("old.cmt", "[Comments]\r\n 3 oil\r\n");
+    Stitch({Old, New, "--output", OutArchive},
+           "qorvix-cli: " + comments +
+               ": these comments are not taken; pack them with their logbook first\n");
+    EXPECT_EQ(ReadZip(OutArchive)[2].second, "[Comments]\r\n");
+    EXPECT_THAT(
+        Run({Old, New, "--output", OutArchive, "--language", "de"}).Errors,
+        HasSubstr("diese Kommentare werden nicht übernommen; packen Sie sie zuerst mit ihrem Logbuch"));
+    EXPECT_EQ(FileContent(comments), "[Comments]\r\n 3 oil\r\n");
+}
+
+TEST_F(StitchCommand, FiltersByNumberGoWithTheirEntries) {
+    WriteZip(Folder / "new.qorvix",
+             {{"new.log", Events(15, 50)}, {"new.fil", "[Filters]\r\nI|0||||1\r\nH|8|3-5,20|||1\r\n"}});
+    Stitch({Old, Folder / "new.qorvix", "--output", OutArchive});
+    EXPECT_EQ(ReadZip(OutArchive)[1].second, "[Filters]\r\nI|0||||1\r\nH|8|18-20,35|||1\r\n");
+
+    // Nobody knows the numbers of an export that lies in another one.
+    WriteZip(Folder / "part.qorvix",
+             {{"part.log", Events(20, 40)},
+              {"part.fil", "[Filters]\r\nI|0||||1\r\nX|8|3|||1\r\nX|3|BERR|||1\r\n"}});
+    const std::string plain = Folder.Write("plain.log", Events(15, 50));
+    std::filesystem::remove(OutArchive);
+    const std::string part = Folder / "part.qorvix";
+    Stitch({Old, plain, part, "--output", OutArchive},
+           "qorvix-cli: " + part + ": adds nothing, all of its lines are in " + plain + "\nqorvix-cli: " +
+               part + ": filters by number are not taken, as the numbers of the entries are unknown\n");
+    EXPECT_EQ(ReadZip(OutArchive)[1].second, "[Filters]\r\nI|0||||1\r\nX|3|BERR|||1\r\n");
+    EXPECT_THAT(
+        Run({Old, plain, part, "--output", OutArchive, "--language", "de"}).Errors,
+        HasSubstr(
+            "Filter nach Nummern werden nicht übernommen, weil die Nummern der Einträge unbekannt sind"));
+}
+
+// What a killed run left may be the only copy that a person has.
+TEST_F(StitchCommand, ExportWithTheNameOfAPartFileIsKept) {
+    const std::string left = Folder.Write("out.log.qorvix-part-0123456789abcdef", Events(0, 30));
+    const ProgramResult result = Run({left, New, "--output", Out});
+    EXPECT_EQ(result.ExitStatus, 1);
+    EXPECT_EQ(result.Errors, "qorvix-cli: " + Out + ": the result would replace one of its sources\n");
+    EXPECT_EQ(FileContent(left), Events(0, 30));
+    EXPECT_EQ(RunCommandLineTool({"sessions", left, "--output", Out}).ExitStatus, 1);
+    EXPECT_EQ(FileContent(left), Events(0, 30));
 }
 
 TEST_F(StitchCommand, ArchiveWithOtherCommentsIsNotReplaced) {

@@ -98,6 +98,15 @@ TEST(NumberList, RangesAreSortedAndMerged) {
               (std::vector<NumberRange>{{1, 5}, {6, 6}, {9, 9}, {20, 20}}));
 }
 
+TEST(NumberList, NumbersGrowWithTheirEntries) {
+    EXPECT_EQ(ShiftNumberList("3-5, 20 ,7", 15), "18-20,35,22");
+    EXPECT_EQ(ShiftNumberList("3-5,20", -4), "0-1,16");
+    EXPECT_EQ(ShiftNumberList("3,x,5-4,9", 1), "4,10");
+    EXPECT_EQ(ShiftNumberList("3", -4), "");
+    EXPECT_EQ(ShiftNumberList("", 4), "");
+    EXPECT_EQ(ShiftNumberList("4294967295", 4), "4294967295");
+}
+
 TEST(NumberList, AddingANumber) {
     struct Case {
         const char* List;

@@ -50,6 +50,28 @@ TEST(StitchOrder, OnlyDuplicatesAreRefused) {
     }
 }
 
+// One that is the beginning of another lies in it and is continued by it, both at the same place.
+TEST(StitchOrder, BeginningOfAnotherIsADuplicate) {
+    const Stitches stitches({StampedLines(0, 40), StampedLines(0, 20), StampedLines(30, 60)});
+    EXPECT_EQ(stitches.Log(), StampedLines(0, 60));
+    ASSERT_EQ(stitches.Plan().Duplicates.size(), 1U);
+    EXPECT_EQ(stitches.Plan().Duplicates[0].Export, 1U);
+}
+
+// While the clock stands still, lines that lie in another export may as well come before it.
+TEST(StitchOrder, EqualLinesInAnotherExportMayBeOthers) {
+    std::string same;
+    for (int i = 0; i < 16; ++i)
+        same += StampedLines(0, 1);
+    const std::size_t line = same.size() / 16;
+    const std::string after = StampedLines(1, 20);
+    const Stitches stitches(
+        {same.substr(5, 14 * line + 15), same.substr(2 * line + 3) + after, after + StampedLines(20, 30)});
+    ASSERT_TRUE(stitches.Plan().Refused);
+    EXPECT_EQ(stitches.Plan().Refused->Why, Reason::SeveralPlaces);
+    EXPECT_TRUE(stitches.Plan().Order.empty());
+}
+
 TEST(StitchOrder, HoleIsRefusedWithTheTwoExports) {
     const Stitches stitches({StampedLines(0, 40), StampedLines(50, 90), StampedLines(30, 45)});
     ASSERT_TRUE(stitches.Plan().Refused);
