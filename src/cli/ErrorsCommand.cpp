@@ -50,8 +50,9 @@ class ErrorList {
         printed_ = options.Top == 0 ? errors_.size() : std::min(options.Top, errors_.size());
         // The text form counts the errors without a text.
         const std::size_t looked = options.Form.Format == "text" ? errors_.size() : printed_;
+        const std::string folder = LanguageFolder(options.LanguageFolder);
         for (const ErrorRecord& error : std::span(errors_).first(looked))
-            texts_.push_back(TextsOf(error, entries_, LanguageFolder(options.LanguageFolder)));
+            texts_.push_back(TextsOf(error, entries_, folder));
     }
 
     void Write(const RowForm& form, std::ostream& stream) const {
@@ -149,10 +150,11 @@ class CodeList {
     CodeList(const TerminalDocument& document, const HistoryOptions& options)
         : language_(options.MessageLanguage) {
         const EntryTable& entries = document.Entries();
+        const std::string folder = LanguageFolder(options.LanguageFolder);
         for (ErrorRecord& error : ErrorsOf(entries, SessionsOf(entries, document.Book().Starts),
                                            ReadErrorKeys(options), {.Warnings = true}))
             if (error.Form == ErrorKeys::Form::Code) {
-                ErrorTexts texts = TextsOf(error, entries, LanguageFolder(options.LanguageFolder));
+                ErrorTexts texts = TextsOf(error, entries, folder);
                 codes_.push_back({std::move(error), std::move(texts)});
             }
         std::sort(codes_.begin(), codes_.end(),

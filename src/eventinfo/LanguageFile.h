@@ -32,6 +32,9 @@ class LanguageFile {
     bool Readable() const { return readable_; }
 
   private:
-    clsFile file_;
+    // A lookup opens several files and mostly finds its text near their beginnings.
+    static constexpr std::size_t BlockSize = 16U * 1024U;
+
+    clsFile file_{BlockSize};
     bool readable_;
 };

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "history/ErrorStatistics.h"
 
+#include "history/KeyNumbers.h"
 #include "logbook/EntryStamps.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <deque>
 #include <string_view>
-#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -94,18 +94,23 @@ class Counting {
         return kind.Image == Images::ErrorCleared ? Role::Cleared : Role::None;
     }
 
+    // The key of an error by its number.
+    auto KeyOf() const {
+        return [this](std::size_t number) -> const std::string& { return counted_[number].Record.Key; };
+    }
+
     Counted& Find(EntryNumber entry) {
         const EntryKind& kind = entries_.Kind(entry);
         const ErrorKeys::Form form = keys_.MakeKey(entries_.Data(entry), kind.Sender, kind.Name, key_);
-        const auto [place, isNew] = numbers_.try_emplace(key_, counted_.size());
-        if (isNew) {
+        const std::size_t number = numbers_.FindOrAdd(key_, KeyOf());
+        if (number == counted_.size()) {
             Counted& counted = counted_.emplace_back();
             counted.Record.Key = key_;
             counted.Record.Form = form;
             counted.Record.First = entry;
             counted.Record.FirstStamp = stamps_[entry];
         }
-        return counted_[place->second];
+        return counted_[number];
     }
 
     void TakeError(EntryNumber entry, std::size_t session) {
@@ -159,10 +164,10 @@ class Counting {
         if (code.empty())
             return;
         cleared_.insert(code);
-        const auto number = numbers_.find(code);
-        if (number == numbers_.end())
+        const std::optional<std::size_t> number = numbers_.Find(code, KeyOf());
+        if (!number)
             return;
-        Counted& counted = counted_[number->second];
+        Counted& counted = counted_[*number];
         counted.ClearedSince = counted.ClearedSince || counted.LastSession == session;
     }
 
@@ -177,7 +182,7 @@ class Counting {
     const ErrorChoice& choice_;
     std::vector<Role> roles_; // by number of kind
     std::string key_;         // its room is used again
-    std::unordered_map<std::string, std::size_t> numbers_;
+    KeyNumbers numbers_;      // of errors by their keys
     std::deque<Counted> counted_;
     std::unordered_set<std::string> cleared_; // the codes that such messages name
 };
