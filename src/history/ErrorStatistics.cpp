@@ -88,8 +88,8 @@ class Counting {
     enum class Role : std::uint8_t { None, Error, Cleared };
 
     Role RoleOf(const EntryKind& kind) const {
-        const bool isError = kind.EventType == EventTypes::Error || kind.EventType == EventTypes::Fatal;
-        if ((isError && choice_.Errors) || (kind.EventType == EventTypes::Warning && choice_.Warnings))
+        if ((EventTypes::IsError(kind.EventType) && choice_.Errors) ||
+            (kind.EventType == EventTypes::Warning && choice_.Warnings))
             return Role::Error;
         return kind.Image == Images::ErrorCleared ? Role::Cleared : Role::None;
     }

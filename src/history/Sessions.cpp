@@ -47,7 +47,7 @@ void TakeEntries(const EntryTable& entries, std::span<const std::int16_t> types,
         const std::int16_t type = types[entries.KindNumber(number)];
         if (type == EventTypes::Warning)
             ++session.Warnings;
-        if (type != EventTypes::Error && type != EventTypes::Fatal)
+        if (!EventTypes::IsError(type))
             continue;
         ++session.Errors;
         session.LastError = number;

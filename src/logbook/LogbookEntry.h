@@ -16,6 +16,9 @@ inline constexpr std::int16_t Status = 5;
 inline constexpr std::int16_t Key = 6;
 inline constexpr std::int16_t Restart = 7;
 inline constexpr std::int16_t Keystr = 9; // a run of key strokes folded into one text
+
+// What a person calls an error.
+constexpr bool IsError(std::int16_t type) { return type == Error || type == Fatal; }
 } // namespace EventTypes
 
 // Icon numbers of the list.

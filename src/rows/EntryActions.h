@@ -21,5 +21,10 @@ RowRanges RemoveFromList(Registry& registry, const LogbookRows& rows, const RowR
 // is a filter of highlighted numbers, and the next filter run highlights it again.
 RowRanges ToggleHighlighting(Registry& registry, const LogbookRows& rows, const RowRanges& selected);
 
+// Keeps all entries out of the list whose numbers lie before those of the selected rows, or behind them, also
+// entries that the logbook gets later. Adds one filter at the end of the stored ones. The caller then runs
+// the filters. False, and nothing changes, without a selected row.
+bool KeepBetween(Registry& registry, const LogbookRows& rows, const RowRanges& selected);
+
 // Toggles the highlighting of these rows on the screen.
 void ToggleHighlighting(LogbookRows& rows, const RowRanges& ranges);

@@ -169,3 +169,23 @@ TEST_F(EntryActions, ManyRowsGiveTheSameFiltersAsOneByOne) {
     EXPECT_EQ(Memory.Values, otherMemory.Values);
     EXPECT_EQ(Memory.Writes, 2);
 }
+
+TEST_F(EntryActions, OnlyWhatLiesBetweenIsKeptByOneFilter) {
+    EXPECT_TRUE(KeepBetween(Settings, Rows, {{2, 2}, {5, 6}}));
+    EXPECT_EQ(Loaded(), (Texts{"I|0||||1", "X|8|0-1,7-2147483647|||1"}));
+    EXPECT_EQ(Memory.Writes, 1);
+    EXPECT_EQ(RunFilters(), (LogbookRows{{2, 0}, {3, 0}, {4, 0}, {5, 0}, {6, 0}}));
+
+    // By the numbers of the entries, in whatever order the rows stand.
+    Store({"I|0||||1", "X|8|3|||1", "H|1||||1"});
+    EXPECT_TRUE(KeepBetween(Settings, {{8, 0}, {0, 0}, {4, 0}}, {{1, 2}}));
+    EXPECT_EQ(Loaded(), (Texts{"I|0||||1", "X|8|3|||1", "H|1||||1", "X|8|5-2147483647|||1"}));
+    EXPECT_EQ(RunFilters().size(), 4U);
+    Store({"I|0||||1"});
+    EXPECT_TRUE(KeepBetween(Settings, Rows, {{1, 1}}));
+    EXPECT_EQ(Loaded()[1], "X|8|0,2-2147483647|||1");
+
+    Store({"I|0||||1"});
+    EXPECT_FALSE(KeepBetween(Settings, Rows, {}));
+    EXPECT_EQ(Memory.Writes, 0);
+}

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "filter/FilterDefinition.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+class Registry;
+
+// The person's changes of the stored filters, so that they can be taken back one by one, the last one first,
+// and made again. A step restores the list of filters exactly as it stood. It keeps only the filters that
+// changed. Where the stored list is another one than the last step left, because the person edited it or
+// another copy of the program changed it, nothing can be taken back behind that.
+class FilterHistory {
+  public:
+    enum class Act : std::uint8_t { Remove, ToggleHighlighting, KeepBetween };
+    enum class Outcome : std::uint8_t { Done, Nothing, ChangedElsewhere };
+
+    explicit FilterHistory(Registry& registry) : registry_(registry) {}
+
+    // Forgets all steps.
+    void Clear();
+
+    // Calls `change`, which may change the stored filters, and remembers that as a step if it did. Steps that
+    // were taken back are then forgotten. Reads the stored filters twice.
+    template <typename Change>
+    void Record(Act act, Change change) {
+        std::vector<FilterDefinition> before = Stored();
+        change();
+        Remember(act, std::move(before), Stored());
+    }
+
+    // What Undo and Redo would take back or make again.
+    std::optional<Act> ToUndo() const;
+    std::optional<Act> ToRedo() const;
+
+    // Change the stored filters, or nothing. The caller then runs the filters.
+    Outcome Undo();
+    Outcome Redo();
+
+  private:
+    // The filters from place Begin on that were replaced by others.
+    struct Step {
+        Act What = Act::Remove;
+        std::size_t Begin = 0;
+        std::vector<FilterDefinition> Before;
+        std::vector<FilterDefinition> After;
+        bool FollowsTheOneBefore = true; // nothing else changed the list in between
+    };
+
+    std::vector<FilterDefinition> Stored() const;
+    void Remember(Act act, std::vector<FilterDefinition> before, std::vector<FilterDefinition> after);
+    Outcome Replace(std::size_t begin, const std::vector<FilterDefinition>& old,
+                    const std::vector<FilterDefinition>& replacement);
+
+    Registry& registry_;
+    std::vector<Step> steps_;
+    std::size_t done_ = 0;              // so many of them are in force
+    std::vector<FilterDefinition> now_; // as the last step left it, in either direction
+};
