@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "rows/SortDirection.h"
+
 #include <string>
 #include <variant>
 
@@ -27,10 +29,29 @@ enum class Command {
     EditFilters,
     SortByColumn, // a column of the list, counted from 0
     CopyRows,
+    KeepBetween,
+    Undo,
+    Redo,
+    GoToTime,
+    NextError,
+    PreviousError,
+    NextHighlighted,
+    PreviousHighlighted,
+    NextCommented,
+    PreviousCommented,
+    SortInOrder, // a ColumnOrder
+    FitColumnWidths,
 };
 
-// What an order is about besides the selected rows: a column, or for Open the name of a source.
-using OrderSubject = std::variant<std::monostate, int, std::string>;
+// A column of the list, counted from 0, and the direction of its sort.
+struct ColumnOrder {
+    int Column = 0;
+    SortDirection Direction = SortDirection::Ascending;
+};
+
+// What an order is about besides the selected rows: a column, an order of it, or for Open the name of a
+// source.
+using OrderSubject = std::variant<std::monostate, int, std::string, ColumnOrder>;
 
 // True for the commands that read, filter, sort, open or archive, or that change what such a step works with.
 // They do nothing while a logbook is being read.

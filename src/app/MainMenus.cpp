@@ -2,6 +2,7 @@
 #include "app/MainMenus.h"
 
 #include "list/QtText.h"
+#include "rows/LogbookColumns.h"
 
 #include <QAction>
 #include <QKeySequence>
@@ -15,6 +16,7 @@
 namespace {
 
 constexpr const char* PopupName = "mnuPopup";
+constexpr const char* SortMenuName = "mnuAnalysisSort"; // a menu in the menu above it
 constexpr QKeyCombination NoKey = Qt::Key_unknown;
 constexpr bool Disabled = false;
 
@@ -50,6 +52,25 @@ const MenuRow Rows[] = {
     {"mnuExtrasFilters", TextId::mnuExtrasFilters, Command::Filters},
     {"mnnuExtrasSep2", {}, {}},
     {"mnuExtrasDialogLanguage", TextId::mnuExtrasDialogLanguage, Command::DialogLanguage},
+    {"mnuAnalysis", TextId::mnuAnalysis, {}},
+    {"mnuAnalysisGoToTime", TextId::mnuAnalysisGoToTime, Command::GoToTime, Qt::CTRL | Qt::Key_G},
+    {"mnuAnalysisNextError", TextId::mnuAnalysisNextError, Command::NextError, Qt::Key_F4},
+    {"mnuAnalysisPrevError", TextId::mnuAnalysisPrevError, Command::PreviousError, Qt::SHIFT | Qt::Key_F4},
+    {"mnuAnalysisNextHighlighted", TextId::mnuAnalysisNextHighlighted, Command::NextHighlighted, Qt::Key_F7},
+    {"mnuAnalysisPrevHighlighted", TextId::mnuAnalysisPrevHighlighted, Command::PreviousHighlighted,
+     Qt::SHIFT | Qt::Key_F7},
+    {"mnuAnalysisNextCommented", TextId::mnuAnalysisNextCommented, Command::NextCommented, Qt::Key_F8},
+    {"mnuAnalysisPrevCommented", TextId::mnuAnalysisPrevCommented, Command::PreviousCommented,
+     Qt::SHIFT | Qt::Key_F8},
+    {"mnuAnalysisSep1", {}, {}},
+    {"mnuAnalysisKeepBetween", TextId::mnuAnalysisKeepBetween, Command::KeepBetween},
+    {"mnuAnalysisUndo", TextId::mnuAnalysisUndo, Command::Undo, Qt::CTRL | Qt::Key_Z, MenuRow::Plain,
+     Disabled},
+    {"mnuAnalysisRedo", TextId::mnuAnalysisRedo, Command::Redo, Qt::CTRL | Qt::Key_Y, MenuRow::Plain,
+     Disabled},
+    {"mnuAnalysisSep2", {}, {}},
+    {SortMenuName, TextId::mnuAnalysisSort, {}},
+    {"mnuAnalysisFitColumns", TextId::mnuAnalysisFitColumns, Command::FitColumnWidths},
     {"mnuHelp", TextId::mnuHelp, {}},
     {"mnuHelpContents", TextId::mnuHelpContents, Command::HelpContents, Qt::Key_F1},
     {"mnuHelpSearch", TextId::mnuHelpSearch, Command::HelpSearch},
@@ -65,13 +86,17 @@ const MenuRow Rows[] = {
 
 } // namespace
 
-MainMenus::MainMenus(QMainWindow& window, const std::function<void(Command)>& run) : window_(window) {
+MainMenus::MainMenus(QMainWindow& window, const RunOrder& run) : window_(window) {
     QMenu* menu = nullptr;
     for (const MenuRow& row : Rows) {
         if (!row.Action) {
             if (std::string_view(row.Name) == PopupName) {
                 menu = popup_ = new QMenu(&window);
                 menu->setObjectName(row.Name);
+            } else if (std::string_view(row.Name) == SortMenuName) {
+                QMenu* const inner = menu->addMenu(QString());
+                inner->setObjectName(row.Name);
+                AddSortItems(*inner, run);
             } else if (row.Text) {
                 menu = window.menuBar()->addMenu(QString());
                 menu->setObjectName(row.Name);
@@ -87,16 +112,39 @@ MainMenus::MainMenus(QMainWindow& window, const std::function<void(Command)>& ru
         item->setCheckable(row.Check != MenuRow::Plain);
         item->setChecked(row.Check == MenuRow::CheckedAtStart);
         item->setEnabled(row.Enabled);
-        QObject::connect(item, &QAction::triggered, &window, [run, command = *row.Action] { run(command); });
+        QObject::connect(item, &QAction::triggered, &window,
+                         [run, command = *row.Action] { run(command, {}); });
         items_[*row.Action] = item;
     }
 }
 
+void MainMenus::AddSortItems(QMenu& menu, const RunOrder& run) {
+    for (int column = 0; column < LogbookColumnCount; ++column)
+        for (const SortDirection direction : {SortDirection::Ascending, SortDirection::Descending}) {
+            QAction* const item = menu.addAction(QString());
+            item->setObjectName(menu.objectName() + QString::number(sortItems_.size()));
+            QObject::connect(item, &QAction::triggered, &window_, [run, column, direction] {
+                run(Command::SortInOrder, ColumnOrder{column, direction});
+            });
+            sortItems_.push_back(item);
+        }
+}
+
 void MainMenus::LoadLanguage(Language language) {
+    for (std::size_t i = 0; i < sortItems_.size(); ++i)
+        sortItems_[i]->setText(QtText(LogbookColumns[i / 2].Header, language) +
+                               QtText(i % 2 == 0 ? TextId::SortAscending : TextId::SortDescending, language));
     for (const MenuRow& row : Rows) {
         if (row.Action)
             items_.at(*row.Action)->setText(QtText(*row.Text, language));
         else if (row.Text)
             window_.findChild<QMenu*>(row.Name)->setTitle(QtText(*row.Text, language));
     }
+}
+
+void MainMenus::Offer(Command command, std::optional<TextId> act, Language language) {
+    QAction& item = Item(command);
+    const TextId text = command == Command::Undo ? TextId::mnuAnalysisUndo : TextId::mnuAnalysisRedo;
+    item.setEnabled(act.has_value());
+    item.setText(QtText(text, language) + (act ? ": " + QtPlainText(*act, language) : QString()));
 }

@@ -2,14 +2,18 @@
 #include "app/WindowSearch.h"
 
 #include "app/WaitPointer.h"
+#include "dialogs/frmGoToTime.h"
 #include "dialogs/frmSearchForString.h"
 #include "list/LogbookModel.h"
 #include "list/LogbookView.h"
 #include "rows/ListSearch.h"
+#include "rows/WantedTime.h"
 #include "settings/Texts.h"
 #include "settings/UserInterface.h"
 
 #include <algorithm>
+#include <string>
+#include <utility>
 
 WindowSearch::WindowSearch(LogbookView& list, const EntryTable& entries, UserInterface& user, QWidget& window)
     : QObject(&window), list_(list), entries_(entries), user_(user), window_(window) {}
@@ -36,20 +40,67 @@ void WindowSearch::FindPrevious() {
 
 void WindowSearch::FindFromSelection(SearchDirection direction) {
     const std::optional<int> selected = list_.SelectedRow();
+    std::int32_t found = -1;
     {
         const WaitPointer wait;
-        FoundRow =
+        found =
             FindInList(entries_, list_.Logbook()->Rows(), selected ? *selected + 1 : 0, search_, direction);
     }
-    if (FoundRow < 0) {
+    Show(found, direction);
+}
+
+void WindowSearch::GoToNext(RowMark mark, SearchDirection direction) {
+    std::optional<std::size_t> start;
+    if (const std::optional<int> selected = list_.SelectedRow())
+        start = static_cast<std::size_t>(*selected);
+    std::optional<std::size_t> found;
+    {
+        const WaitPointer wait;
+        found = NextRow(entries_, list_.Logbook()->Rows(), start, mark, direction);
+    }
+    Show(found ? static_cast<std::int32_t>(*found) + 1 : -1, direction);
+}
+
+void WindowSearch::GoToTime() {
+    const LogbookRows& rows = list_.Logbook()->Rows();
+    std::optional<std::chrono::sys_days> day;
+    if (const std::optional<int> selected = list_.SelectedRow())
+        if (const std::optional<Stamp> stamp =
+                ReadStamp(entries_.Time(rows[static_cast<std::size_t>(*selected)].Entry)))
+            day = std::chrono::floor<std::chrono::days>(stamp->Moment);
+    std::vector<LogbookDay> days;
+    {
+        const WaitPointer wait;
+        days = DaysOf(entries_);
+    }
+    frmGoToTime dialog(language_, std::move(days), day, &window_);
+    dialog.exec();
+    const std::optional<Stamp> wanted = dialog.Time();
+    if (!wanted)
+        return;
+    TimeFound found;
+    {
+        const WaitPointer wait;
+        found = FindTime(entries_, rows, *wanted, list_.Logbook()->LiesInTime());
+    }
+    Show(found.Row ? static_cast<std::int32_t>(*found.Row) + 1 : -1, SearchDirection::Down);
+    if (found.HiddenEntry)
+        user_.ShowMessage(std::string(Text(TextId::GoToTimeHidden, language_)) +
+                              entries_.Time(*found.HiddenEntry),
+                          UserInterface::MessageIcon::None);
+}
+
+// A row counted from 1; below 1 for none.
+void WindowSearch::Show(std::int32_t found, SearchDirection direction) {
+    if (found < 1) {
         user_.ShowMessage(
             Text(direction == SearchDirection::Up ? TextId::BeginReached : TextId::EndReached, language_),
             UserInterface::MessageIcon::None);
         return;
     }
-    const int row = FoundRow - 1;
+    const int row = found - 1;
     list_.SelectRanges({{static_cast<std::size_t>(row), static_cast<std::size_t>(row)}}, row);
-    EnsureVisible(FoundRow, direction);
+    EnsureVisible(found, direction);
     emit RowFound(row);
 }
 

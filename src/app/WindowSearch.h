@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "rows/NextRow.h"
 #include "rows/RowMatches.h"
 #include "settings/Language.h"
 
@@ -12,7 +13,8 @@ class LogbookView;
 class QWidget;
 class UserInterface;
 
-// Find, find next and find previous in the logbook list. Keeps the last search as long as it lives.
+// Find, find next and find previous in the logbook list, and steps from one marked row to the next. Keeps the
+// last search as long as it lives.
 //
 // A search begins beside the selected row. If it reaches the end of the list, a message says so, and the
 // selection stays. A hit is selected alone and scrolled into view with three rows beyond it.
@@ -32,6 +34,13 @@ class WindowSearch : public QObject {
     void FindNext();
     void FindPrevious();
 
+    // Selects the nearest row with a mark in this direction.
+    void GoToNext(RowMark mark, SearchDirection direction);
+
+    // Asks for a time, and selects the first row at or after it; where the list is not in the order of time,
+    // the nearest one. Says when the filters hide a nearer entry.
+    void GoToTime();
+
     // True when there is something to find again.
     bool HasText() const { return !search_.SearchText.empty(); }
 
@@ -45,6 +54,7 @@ class WindowSearch : public QObject {
 
   private:
     void FindFromSelection(SearchDirection direction);
+    void Show(std::int32_t found, SearchDirection direction);
 
     LogbookView& list_;
     const EntryTable& entries_;
@@ -52,5 +62,4 @@ class WindowSearch : public QObject {
     QWidget& window_;
     Language language_;
     SearchState search_;
-    std::int32_t FoundRow = -1; // of the last search, counted from 1; -1 = none
 };

@@ -20,12 +20,9 @@
 #include "list/QtText.h"
 #include "list/TagViewer.h"
 #include "rows/ContentText.h"
-#include "rows/EntryActions.h"
-#include "rows/RowsAsText.h"
 #include "settings/ReasonText.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QHeaderView>
 #include <QLabel>
@@ -48,7 +45,7 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
       area_(new MainArea(lvLogbook, pbTagViewer, txContent, this)),
       tbToolBar(new MainToolBar(this)),
       sbStatusBar(new MainStatusBar(this)),
-      menus_(*this, [this](Command command) { Run(command); }),
+      menus_(*this, [this](Command command, const OrderSubject& subject) { Run(command, subject); }),
       progress_(this, sbStatusBar->Progress(), BaseCaption),
       user_(this, sbStatusBar->StatusText(), BaseCaption),
       shown_(document,
@@ -59,11 +56,23 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
               .Progress = progress_,
               .User = user_},
              {.LogbookIsOpen =
-                  [this](std::string_view name) { setWindowTitle(ToQString(name) + " - " + BaseCaption); },
+                  [this](std::string_view name) {
+                      setWindowTitle(ToQString(name) + " - " + BaseCaption);
+                      filterOrders_.Clear();
+                  },
               .CommentsAreSafe = [this](std::error_code error) { ShowNotNoted(error); },
               .SelectedContentChanged = [this] { ShowSelectedContent(); }}),
       tmExtrasFilters(new QTimer(this)),
       search_(new WindowSearch(*lvLogbook, document.Entries(), user_, *this)),
+      listOrders_(*lvLogbook, document.Entries(), *search_),
+      filterOrders_(*lvLogbook, registry, menus_, user_,
+                    {.FiltersChanged = [this] { ApplyFilter(); },
+                     .RowsRemoved =
+                         [this] {
+                             ShowSelectedContent();
+                             if (sbStatusBar->HasCounts())
+                                 shown_.ShowCounts();
+                         }}),
       help_(this, HelpReader(ProgramFolder())) {
     setObjectName("frmMain");
     setWindowTitle(BaseCaption);
@@ -142,8 +151,10 @@ void frmMain::LoadLanguage() {
     shown_.SetLanguage(language_);
     filterTypeLabels_.SetLanguage(language_);
     search_->SetLanguage(language_);
+    listOrders_.SetLanguage(language_);
     help_.CloseAll();
     menus_.LoadLanguage(language_);
+    filterOrders_.SetLanguage(language_);
     tbToolBar->LoadLanguage(language_);
     sbStatusBar->LoadLanguage(language_);
     model_->SetLanguage(language_);
@@ -177,17 +188,6 @@ void frmMain::Run(Command command, const OrderSubject& subject) {
     case Command::Refresh:
         Refresh();
         break;
-    case Command::Find:
-        search_->Find();
-        for (const Command again : {Command::FindNext, Command::FindPrevious})
-            menus_.Item(again).setEnabled(search_->HasText());
-        break;
-    case Command::FindNext:
-        search_->FindNext();
-        break;
-    case Command::FindPrevious:
-        search_->FindPrevious();
-        break;
     case Command::Filters:
         EditFilters();
         break;
@@ -208,20 +208,14 @@ void frmMain::Run(Command command, const OrderSubject& subject) {
     case Command::DialogLanguage:
         ChooseLanguage();
         break;
-    case Command::ToggleHighlighting:
-        ToggleHighlighting();
-        break;
-    case Command::RemoveFromList:
-        RemoveFromList();
-        break;
     case Command::Properties:
         ShowEntryProperties();
         break;
-    case Command::SortByColumn:
-        SortByColumn(std::get<int>(subject));
-        break;
-    case Command::CopyRows:
-        CopyRows();
+    default:
+        if (!filterOrders_.Run(command))
+            listOrders_.Run(command, subject);
+        for (const Command again : {Command::FindNext, Command::FindPrevious})
+            menus_.Item(again).setEnabled(search_->HasText());
         break;
     }
 }
@@ -297,23 +291,6 @@ void frmMain::FirstActivation(const std::vector<std::string>& arguments) {
     Activated = true;
 }
 
-// The selected row stays in view.
-void frmMain::SortByColumn(int column) {
-    const WaitPointer wait;
-    lvLogbook->SortByColumn(column);
-    if (const std::optional<int> row = lvLogbook->SelectedRow())
-        lvLogbook->scrollTo(model_->index(*row, 0));
-}
-
-void frmMain::CopyRows() {
-    const RowRanges ranges = lvLogbook->SelectedRanges();
-    if (ranges.empty())
-        return;
-    const WaitPointer wait;
-    QApplication::clipboard()->setText(
-        ToQString(RowsAsText(document_.Entries(), model_->Rows(), ranges, language_)));
-}
-
 void frmMain::ShowEntryProperties() {
     ShowEntryDialogs(
         lvLogbook->SelectedRanges(), document_, *model_, language_, this,
@@ -355,19 +332,6 @@ void frmMain::EditFilters() {
     dialog.exec();
     if (dialog.ResultText() == "OK")
         ApplyFilter();
-}
-
-void frmMain::RemoveFromList() {
-    const WaitPointer wait;
-    lvLogbook->RemoveFromList(::RemoveFromList(registry_, model_->Rows(), lvLogbook->SelectedRanges()));
-    ShowSelectedContent();
-    if (sbStatusBar->HasCounts())
-        shown_.ShowCounts();
-}
-
-void frmMain::ToggleHighlighting() {
-    const WaitPointer wait;
-    model_->ToggleHighlighting(::ToggleHighlighting(registry_, model_->Rows(), lvLogbook->SelectedRanges()));
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

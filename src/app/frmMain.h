@@ -2,6 +2,8 @@
 #pragma once
 
 #include "app/Commands.h"
+#include "app/FilterOrders.h"
+#include "app/ListOrders.h"
 #include "app/MainMenus.h"
 #include "app/QtCatalogue.h"
 #include "app/WindowDocument.h"
@@ -70,15 +72,11 @@ class frmMain : public QMainWindow {
     void CloseIfWanted();
     void ShowContentPane(bool shown);
     void ChooseLanguage();
-    void SortByColumn(int column);
-    void CopyRows();
     void ShowEntryProperties();
     void ShowLookupMistake(const FacilityFileMistake& mistake);
     void ShowNotNoted(std::error_code error);
     void ShowStandingMessage();
     void EditFilters();
-    void RemoveFromList();
-    void ToggleHighlighting();
     void ShowSelectedContent();
     void ShowNoHelp();
 
@@ -106,6 +104,8 @@ class frmMain : public QMainWindow {
     WindowDocument shown_;
     QTimer* tmExtrasFilters;
     WindowSearch* search_;
+    ListOrders listOrders_;
+    FilterOrders filterOrders_;
     HtmlHelp help_;
     bool ItemClicked = false; // a row was clicked, and the mouse button is not up yet
 };

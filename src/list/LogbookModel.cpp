@@ -21,7 +21,7 @@ void LogbookModel::ChangeRows(const std::function<void()>& change) {
     endResetModel();
 }
 
-void LogbookModel::SortByColumn(LogbookColumn column) {
+void LogbookModel::SortByColumn(LogbookColumn column, std::optional<SortDirection> direction) {
     emit layoutAboutToBeChanged({}, VerticalSortHint);
     // The few persistent indexes follow their entries.
     const QModelIndexList before = persistentIndexList();
@@ -32,7 +32,15 @@ void LogbookModel::SortByColumn(LogbookColumn column) {
         rowOf[entryOf.back()] = index.row();
     }
 
-    sorted_ = SortListByColumn(entries_, rows_, column, order_) || sorted_;
+    ListOrder order = order_;
+    // The column of the last sort inverts the direction.
+    if (direction)
+        order.Direction =
+            order.LastSortColumn == static_cast<int>(column) ? Opposite(*direction) : *direction;
+    if (SortListByColumn(entries_, rows_, column, order)) {
+        order_ = order;
+        sorted_ = true;
+    }
 
     if (!before.isEmpty()) {
         for (std::size_t row = 0; row < rows_.size(); ++row)
@@ -44,6 +52,13 @@ void LogbookModel::SortByColumn(LogbookColumn column) {
         changePersistentIndexList(before, after);
     }
     emit layoutChanged({}, VerticalSortHint);
+}
+
+RowsInTime LogbookModel::LiesInTime() const {
+    const auto column = static_cast<LogbookColumn>(order_.LastSortColumn);
+    const bool isInTime = !sorted_ || (order_.Direction == SortDirection::Ascending &&
+                                       (column == LogbookColumn::Time || column == LogbookColumn::Index));
+    return isInTime ? RowsInTime::Onward : RowsInTime::Anyhow;
 }
 
 std::string LogbookModel::Tag(int row) const {

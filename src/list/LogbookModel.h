@@ -3,11 +3,13 @@
 
 #include "rows/ListSorting.h"
 #include "rows/RowRanges.h"
+#include "rows/WantedTime.h"
 #include "settings/Language.h"
 
 #include <QAbstractTableModel>
 
 #include <functional>
+#include <optional>
 #include <string>
 
 // The logbook list's rows for a view. Copies and prepares nothing: makes the text of a cell from its entry
@@ -27,11 +29,14 @@ class LogbookModel : public QAbstractTableModel {
     void ChangeRows(const std::function<void()>& change);
     const LogbookRows& Rows() const { return rows_; }
 
-    // Sorts the rows by a column (SortListByColumn). A new filling keeps Order, but its rows are in entry
-    // order.
-    void SortByColumn(LogbookColumn column);
+    // Sorts the rows by a column (SortListByColumn), or in this direction. A new filling keeps Order, but its
+    // rows are in entry order.
+    void SortByColumn(LogbookColumn column, std::optional<SortDirection> direction = {});
     const ListOrder& Order() const { return order_; }
     bool IsSorted() const { return sorted_; }
+
+    // Whether the rows stand in the order in which the logbook recorded them, or in that of their times.
+    RowsInTime LiesInTime() const;
 
     // The tag of a row (RowTag).
     std::string Tag(int row) const;

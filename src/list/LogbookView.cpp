@@ -98,14 +98,14 @@ void LogbookView::SelectRanges(const RowRanges& ranges, std::optional<int> curre
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
 
-void LogbookView::SortByColumn(int column) {
+void LogbookView::SortByColumn(int column, std::optional<SortDirection> direction) {
     const SelectedEntries selected(model_->Rows(), SelectedRanges());
     std::optional<EntryNumber> current;
     if (currentIndex().isValid())
         current = model_->Rows()[static_cast<std::size_t>(currentIndex().row())].Entry;
     // Otherwise the sort would carry each selected cell along singly.
     selectionModel()->reset();
-    model_->SortByColumn(static_cast<LogbookColumn>(column));
+    model_->SortByColumn(static_cast<LogbookColumn>(column), direction);
     std::optional<int> currentRow;
     if (current)
         if (const auto row = std::find_if(model_->Rows().begin(), model_->Rows().end(),
@@ -114,6 +114,13 @@ void LogbookView::SortByColumn(int column) {
             currentRow = static_cast<int>(row - model_->Rows().begin());
     SelectRanges(selected.RangesIn(model_->Rows(), MostSelectedRanges), currentRow);
     ShowSortIndicator();
+}
+
+void LogbookView::FitColumnWidths() {
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        resizeColumnToContents(column);
+        setColumnWidth(column, std::min(columnWidth(column), viewport()->width()));
+    }
 }
 
 void LogbookView::RemoveFromList(const RowRanges& ranges) {

@@ -3,6 +3,7 @@
 
 #include "list/ListOfRows.h"
 #include "rows/RowRanges.h"
+#include "rows/SortDirection.h"
 
 #include <QTableView>
 
@@ -28,8 +29,13 @@ class LogbookView : public ListOfRows<QTableView> {
     // begins. Does not scroll.
     void SelectRanges(const RowRanges& ranges, std::optional<int> current);
 
-    // Sorts by a column; the selection stays on its entries.
-    void SortByColumn(int column);
+    // Sorts by a column, as a click on its header does or in this direction; the selection stays on its
+    // entries.
+    void SortByColumn(int column, std::optional<SortDirection> direction = {});
+
+    // Makes each column as wide as the header and the rows around the shown ones need, and no wider than the
+    // list.
+    void FitColumnWidths();
 
     // Removes these rows from the list. Then selects the row that followed the last of them, or else the last
     // row of the list.

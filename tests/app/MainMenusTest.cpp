@@ -24,7 +24,7 @@ class MainMenusTest : public MainWindowTest {
         for (const QAction* menu : Window->menuBar()->actions()) {
             names << menu->menu()->objectName();
             for (const QAction* item : menu->menu()->actions())
-                names << item->objectName();
+                names << (item->menu() != nullptr ? item->menu()->objectName() : item->objectName());
         }
         QCOMPARE(names, QStringList({"mnuFile",
                                      "mnuFileOpen",
@@ -45,6 +45,21 @@ class MainMenusTest : public MainWindowTest {
                                      "mnuExtrasFilters",
                                      "mnnuExtrasSep2",
                                      "mnuExtrasDialogLanguage",
+                                     "mnuAnalysis",
+                                     "mnuAnalysisGoToTime",
+                                     "mnuAnalysisNextError",
+                                     "mnuAnalysisPrevError",
+                                     "mnuAnalysisNextHighlighted",
+                                     "mnuAnalysisPrevHighlighted",
+                                     "mnuAnalysisNextCommented",
+                                     "mnuAnalysisPrevCommented",
+                                     "mnuAnalysisSep1",
+                                     "mnuAnalysisKeepBetween",
+                                     "mnuAnalysisUndo",
+                                     "mnuAnalysisRedo",
+                                     "mnuAnalysisSep2",
+                                     "mnuAnalysisSort",
+                                     "mnuAnalysisFitColumns",
                                      "mnuHelp",
                                      "mnuHelpContents",
                                      "mnuHelpSearch",
@@ -72,15 +87,29 @@ class MainMenusTest : public MainWindowTest {
                 QCOMPARE(item != nullptr ? item->text() : menu->title(), QtText(row.Id, {number}));
                 ++seen;
             }
-            QCOMPARE(seen, 23);
+            QCOMPARE(seen, 35);
         }
     }
 
     void StandardKeysAreSet() {
         const std::pair<const char*, const char*> keys[] = {
-            {"mnuFileOpen", "Ctrl+O"},     {"mnuFileZipLogbook", "Ctrl+S"}, {"mnuViewRefresh", "F5"},
-            {"mnuExtrasSearch", "Ctrl+F"}, {"mnuExtrasFindNext", "F3"},     {"mnuExtrasFindPrev", "Shift+F3"},
-            {"mnuHelpContents", "F1"},     {"mnuFileExit", "Ctrl+Q"},
+            {"mnuFileOpen", "Ctrl+O"},
+            {"mnuFileZipLogbook", "Ctrl+S"},
+            {"mnuViewRefresh", "F5"},
+            {"mnuExtrasSearch", "Ctrl+F"},
+            {"mnuExtrasFindNext", "F3"},
+            {"mnuExtrasFindPrev", "Shift+F3"},
+            {"mnuHelpContents", "F1"},
+            {"mnuFileExit", "Ctrl+Q"},
+            {"mnuAnalysisGoToTime", "Ctrl+G"},
+            {"mnuAnalysisUndo", "Ctrl+Z"},
+            {"mnuAnalysisRedo", "Ctrl+Y"},
+            {"mnuAnalysisNextError", "F4"},
+            {"mnuAnalysisPrevError", "Shift+F4"},
+            {"mnuAnalysisNextHighlighted", "F7"},
+            {"mnuAnalysisPrevHighlighted", "Shift+F7"},
+            {"mnuAnalysisNextCommented", "F8"},
+            {"mnuAnalysisPrevCommented", "Shift+F8"},
         };
         for (const auto& [name, key] : keys)
             QCOMPARE(Item(name)->shortcut().toString(QKeySequence::PortableText), QString(key));
@@ -144,7 +173,8 @@ class MainMenusTest : public MainWindowTest {
         for (const QAction* item : Window->findChildren<QAction*>())
             if (item->objectName().startsWith("mnu") && !item->isEnabled())
                 disabled << item->objectName();
-        QCOMPARE(disabled, QStringList({"mnuExtrasFindNext", "mnuExtrasFindPrev"}));
+        QCOMPARE(disabled, QStringList({"mnuExtrasFindNext", "mnuExtrasFindPrev", "mnuAnalysisUndo",
+                                        "mnuAnalysisRedo"}));
         for (const QAction* button : Find<MainToolBar>("tbToolBar")->actions())
             QVERIFY(button->isEnabled());
     }
@@ -246,6 +276,18 @@ class MainMenusTest : public MainWindowTest {
             {TextId::mnuView, "mnuView"},
             {TextId::mnuExtras, "mnuExtras"},
             {TextId::mnuHelp, "mnuHelp"},
+            {TextId::mnuAnalysis, "mnuAnalysis"},
+            {TextId::mnuAnalysisGoToTime, "mnuAnalysisGoToTime"},
+            {TextId::mnuAnalysisNextError, "mnuAnalysisNextError"},
+            {TextId::mnuAnalysisPrevError, "mnuAnalysisPrevError"},
+            {TextId::mnuAnalysisNextHighlighted, "mnuAnalysisNextHighlighted"},
+            {TextId::mnuAnalysisPrevHighlighted, "mnuAnalysisPrevHighlighted"},
+            {TextId::mnuAnalysisNextCommented, "mnuAnalysisNextCommented"},
+            {TextId::mnuAnalysisPrevCommented, "mnuAnalysisPrevCommented"},
+            {TextId::mnuAnalysisFitColumns, "mnuAnalysisFitColumns"},
+            {TextId::mnuAnalysisKeepBetween, "mnuAnalysisKeepBetween"},
+            {TextId::mnuAnalysisUndo, "mnuAnalysisUndo"},
+            {TextId::mnuAnalysisRedo, "mnuAnalysisRedo"},
             {TextId::mnuFileOpen, "mnuFileOpen"},
             {TextId::mnuFileZipLogbook, "mnuFileZipLogbook"},
             {TextId::mnuFileExit, "mnuFileExit"},

@@ -6,6 +6,7 @@
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmFilterSettings.h"
 #include "dialogs/frmFilterString.h"
+#include "dialogs/frmGoToTime.h"
 #include "dialogs/frmLanguageDialog.h"
 #include "dialogs/frmLogbookIdent.h"
 #include "dialogs/frmLogbookSettings.h"
@@ -149,6 +150,12 @@ class SmallScreensTest : public QObject {
             },
             [=](QWidget* owner) {
                 return new frmFilterString(language, {"a|b", "comment"}, owner);
+            },
+            [=](QWidget* owner) {
+                auto* const dialog =
+                    new frmGoToTime(language, std::vector<LogbookDay>(300, LogbookDay{}), {}, owner);
+                dialog->findChild<QLineEdit*>("tbTime")->setText("yesterday");
+                return dialog;
             },
             [=](QWidget* owner) { return new frmLanguageDialog(language, owner); },
             [=](QWidget* owner) {

@@ -92,18 +92,20 @@ bool MustBeExplained(const TextRow& row) {
     static constexpr auto NamesOfControls = {lvLogbook,   pbTagViewer, txContent,
                                              ProgressBar, HelpHits,    HelpPage};
     static constexpr auto TitlesAndKindsOfFiles = {
-        OpenTitle,           OpenFilter,          SaveArchiveFilter,  LogbookSettingsTitle,
-        ExportFiltersTitle,  ExportFiltersFilter, ImportFiltersTitle, ImportFiltersFilter,
-        FilterSettingsTitle, StringSettingsTitle, FilterStringTitle,  EventEntryTitle,
-        SearchTitle,         HelpTitle,           AboutTitle,         LanguageTitle};
+        GoToTimeTitle,        OpenTitle,           OpenFilter,          SaveArchiveFilter,
+        LogbookSettingsTitle, ExportFiltersTitle,  ExportFiltersFilter, ImportFiltersTitle,
+        ImportFiltersFilter,  FilterSettingsTitle, StringSettingsTitle, FilterStringTitle,
+        EventEntryTitle,      SearchTitle,         HelpTitle,           AboutTitle,
+        LanguageTitle};
     static constexpr auto Labels = {
-        lvFilter,         lvFilterStrings,  StringColumnString, lbEvent,         lbIdent,
-        lbTime,           lbIndex,          ButtonFind,         HelpSearchLabel, HelpSearchButton,
-        HelpPagesFound,   AboutDesignation, AboutVersion,       AboutLicence,    AboutLibraries,
-        AboutLicenceText, LanguageLabel,    LanguageNote,       LanguageEnglish, LanguageGerman,
-        HistoryCode,      HistoryEnglish,   HistoryGerman,      HistoryFrom,     HistoryIn,
-        HistoryOf,        HistoryStarts,    LanguageItalian,    LanguageSpanish, LanguageFrench,
-        LanguageSwedish,  LanguageFinnish,  LanguageCzech,      LanguagePolish,  LanguageDanish};
+        GoToTimeField,      GoToTimeDays,    GoToTimeDay,      lvFilter,         lvFilterStrings,
+        StringColumnString, lbEvent,         lbIdent,          lbTime,           lbIndex,
+        ButtonFind,         HelpSearchLabel, HelpSearchButton, HelpPagesFound,   AboutDesignation,
+        AboutVersion,       AboutLicence,    AboutLibraries,   AboutLicenceText, LanguageLabel,
+        LanguageNote,       LanguageEnglish, LanguageGerman,   SortAscending,    SortDescending,
+        HistoryCode,        HistoryEnglish,  HistoryGerman,    HistoryFrom,      HistoryIn,
+        HistoryOf,          HistoryStarts,   LanguageItalian,  LanguageSpanish,  LanguageFrench,
+        LanguageSwedish,    LanguageFinnish, LanguageCzech,    LanguagePolish,   LanguageDanish};
     static constexpr auto NoWords = {CountSeparator, FilterFileUnreadableAfter};
     static constexpr auto NotShown = {PageSetup};
     const auto isOneOf = [&](const auto& list) {

@@ -84,8 +84,11 @@ class Session : public MainWindowTest {
     void ClickBeside();
     void MoveByKey();
     void Sort();
+    void SortByMenu();
     void Remove();
     void Toggle();
+    void KeepBetween();
+    void UndoOrRedo();
     void Copy();
     void EditComments();
     void ClickOn(int row, Qt::KeyboardModifiers modifiers = {});
@@ -100,6 +103,7 @@ class Session : public MainWindowTest {
     void FindByDialog();
     void FindAgain();
     void FindAll();
+    void StepToMark();
     void ChangeLanguage();
 
     // SessionFilterDialogs.cpp

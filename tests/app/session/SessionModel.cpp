@@ -45,6 +45,10 @@ void SessionModel::Read(const SessionEntries& entries, const QString& name) {
     Noted.clear();
     Changed.clear();
     Content.clear();
+    if (!name.isEmpty()) {
+        Steps.clear();
+        Done = 0;
+    }
     Fill();
 }
 
@@ -73,8 +77,10 @@ void SessionModel::Filter() {
             return SelectAlone(row);
 }
 
-void SessionModel::Sort(int column) {
-    Descending = Descending != (column == SortColumn);
+void SessionModel::Sort(int column) { Sort(column, Descending != (column == SortColumn)); }
+
+void SessionModel::Sort(int column, bool descending) {
+    Descending = descending;
     SortColumn = column;
     Sorted = true;
     if (column == 4 || column == 5)
@@ -104,11 +110,54 @@ void SessionModel::Sort(int column) {
     }
 }
 
+bool SessionModel::Undo() {
+    if (Steps[Done - 1].second != StoredFilters)
+        return false;
+    StoredFilters = Steps[--Done].first;
+    Filter();
+    return true;
+}
+
+bool SessionModel::Redo() {
+    if (Steps[Done].first != StoredFilters)
+        return false;
+    StoredFilters = Steps[Done++].second;
+    Filter();
+    return true;
+}
+
+void SessionModel::NoteStep(const QStringList& before) {
+    if (before == StoredFilters)
+        return;
+    Steps.resize(Done++);
+    // The default filter is stored with the first one that is made of entries.
+    Steps << std::pair(before.isEmpty() ? QStringList("I|0||||1") : before, StoredFilters);
+}
+
+void SessionModel::KeepBetween() {
+    const QStringList before = StoredFilters;
+    int first = Rows[*Selected.begin()].Entry;
+    int last = first;
+    for (const int row : Selected) {
+        first = std::min(first, Rows[row].Entry);
+        last = std::max(last, Rows[row].Entry);
+    }
+    QString numbers = first == 0 ? "" : first == 1 ? "0," : QString("0-%1,").arg(first - 1);
+    numbers += QString("%1-2147483647").arg(last + 1);
+    SessionFilters filters = Filters();
+    filters << SessionFilter{'X', 8, numbers, "", "", true};
+    Store(filters);
+    NoteStep(before);
+    Filter();
+}
+
 void SessionModel::RemoveSelected() {
     if (Selected.empty())
         return;
+    const QStringList before = StoredFilters;
     for (const int row : Selected)
         Add(Rows[row].Entry, 'X');
+    NoteStep(before);
     const int next = *Selected.rbegin() + 1 - static_cast<int>(Selected.size());
     for (auto row = Selected.rbegin(); row != Selected.rend(); ++row)
         Rows.erase(Rows.begin() + *row);
@@ -121,6 +170,7 @@ void SessionModel::RemoveSelected() {
 }
 
 void SessionModel::ToggleSelected() {
+    const QStringList before = StoredFilters;
     for (const int row : Selected) {
         SessionRow& toggled = Rows[row];
         if (!toggled.Highlighted)
@@ -129,6 +179,7 @@ void SessionModel::ToggleSelected() {
             continue;
         toggled.Highlighted = !toggled.Highlighted;
     }
+    NoteStep(before);
 }
 
 void SessionModel::Add(int entry, char action) {
@@ -159,10 +210,28 @@ void SessionModel::Store(const SessionFilters& filters) {
 }
 
 bool SessionModel::Find(bool up) {
+    return Step(up, [this](int row) { return IsHit(row); });
+}
+
+bool SessionModel::GoToNext(SessionMark mark, bool up) {
+    return Step(up, [this, mark](int row) {
+        switch (mark) {
+        case SessionMark::Error:
+            return EntryOf(row).Type == 3 || EntryOf(row).Type == 4;
+        case SessionMark::Highlighted:
+            return Rows[row].Highlighted;
+        case SessionMark::Commented:
+            return !EntryOf(row).Comment.isEmpty();
+        }
+        return false;
+    });
+}
+
+bool SessionModel::Step(bool up, const std::function<bool(int)>& isWanted) {
     const int step = up ? -1 : 1;
     const int start = SelectedRow() < 0 ? (up ? RowCount() - 1 : 0) : SelectedRow() + step;
     for (int row = start; row >= 0 && row < RowCount(); row += step)
-        if (IsHit(row)) {
+        if (isWanted(row)) {
             SelectAlone(row);
             ShowContent();
             return true;
@@ -230,6 +299,8 @@ void SessionModel::SetLanguage(int language) {
 }
 
 void SessionModel::Restart() {
+    Steps.clear();
+    Done = 0;
     SortColumn = 0;
     Descending = false;
     Search = {};

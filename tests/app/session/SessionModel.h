@@ -6,6 +6,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <map>
 #include <set>
 
@@ -14,6 +15,9 @@ struct SessionRow {
     int Entry = 0;
     bool Highlighted = false;
 };
+
+// What rows a person steps to.
+enum class SessionMark { Error, Highlighted, Commented };
 
 // What is searched for.
 struct SessionSearch {
@@ -35,16 +39,29 @@ class SessionModel {
     // A filter run. The entry that was selected is selected again, or the next one that is shown.
     void Filter();
 
+    // By a click on the header, or in a direction.
     void Sort(int column);
+    void Sort(int column, bool descending);
 
     // The selected entries, into or out of the number filter of their action, in list order. The row behind
     // removed ones is selected and shown.
     void RemoveSelected();
     void ToggleSelected();
 
+    // Takes the last change of the filters back, or makes it again. False, and nothing changes, when the
+    // filters are no longer as it left them. There must be one.
+    bool Undo();
+    bool Redo();
+
+    // All entries outside the selected ones go, by one filter at the end. There must be selected ones.
+    void KeepBetween();
+
     // A hit is selected alone; false when there is none.
     bool Find(bool up);
     bool IsHit(int row) const;
+
+    // Selects the next row of this kind; false when there is none.
+    bool GoToNext(SessionMark mark, bool up);
 
     // The comment as the entry dialog returns it, lines separated by line feeds.
     void Comment(int row, const QString& comment);
@@ -71,7 +88,9 @@ class SessionModel {
     void Restart();
 
     SessionEntries Entries;
-    QStringList StoredFilters; // in their text form
+    QStringList StoredFilters;                        // in their text form
+    QList<std::pair<QStringList, QStringList>> Steps; // before and after the changes made in the list
+    int Done = 0;                                     // so many of them are in force
     QStringList StoredStrings;
     QList<SessionRow> Rows;
     std::set<int> Selected;
@@ -93,6 +112,8 @@ class SessionModel {
     QString Content;
 
   private:
+    void NoteStep(const QStringList& before);
+    bool Step(bool up, const std::function<bool(int)>& isWanted);
     void Fill();
     void ShowContentOf(int row);
     void Add(int entry, char action);

@@ -116,6 +116,14 @@ void Session::Sort() {
     Model.Sort(column);
 }
 
+void Session::SortByMenu() {
+    const int column = Below(7);
+    const bool descending = Chance(2);
+    Say(QString("sorts by column %1 %2 by the menu").arg(column).arg(descending ? "down" : "up"));
+    Find<QMenu>("mnuAnalysisSort")->actions().at(column * 2 + (descending ? 1 : 0))->trigger();
+    Model.Sort(column, descending);
+}
+
 // Opens the popup menu over a row. A selection that the row belongs to stays.
 void Session::OpenPopup(int row) {
     Say(QString("by the menu of row %1").arg(row));
@@ -158,6 +166,27 @@ void Session::Toggle() {
     PressInList(Qt::Key_Space);
     Model.ToggleSelected();
     Model.ShowContent();
+}
+
+void Session::KeepBetween() {
+    Say("keeps from the first to the last selected entry");
+    if (!Model.Selected.empty())
+        Model.KeepBetween();
+    Item("mnuAnalysisKeepBetween")->trigger();
+}
+
+void Session::UndoOrRedo() {
+    const bool undo = !Chance(3);
+    Say(undo ? "undoes" : "redoes");
+    const bool isOffered = undo ? Model.Done > 0 : Model.Done < Model.Steps.size();
+    if (isOffered && !(undo ? Model.Undo() : Model.Redo()))
+        Answers.ExpectMessage(Localised("The filters have been changed elsewhere since then.",
+                                        "Die Filter wurden seitdem anderswo geändert."),
+                              QMessageBox::Ok);
+    if (Chance(3))
+        Item(undo ? "mnuAnalysisUndo" : "mnuAnalysisRedo")->trigger();
+    else
+        Press(undo ? Qt::Key_Z : Qt::Key_Y, Qt::ControlModifier);
 }
 
 void Session::Copy() {

@@ -59,6 +59,31 @@ void Session::FindAgain() {
     Press(Qt::Key_F3, next ? Qt::NoModifier : Qt::ShiftModifier);
 }
 
+void Session::StepToMark() {
+    struct Step {
+        SessionMark Mark;
+        Qt::Key Key;
+        const char* Item;
+        const char* ItemBack;
+    };
+    static constexpr Step Steps[] = {
+        {SessionMark::Error, Qt::Key_F4, "mnuAnalysisNextError", "mnuAnalysisPrevError"},
+        {SessionMark::Highlighted, Qt::Key_F7, "mnuAnalysisNextHighlighted", "mnuAnalysisPrevHighlighted"},
+        {SessionMark::Commented, Qt::Key_F8, "mnuAnalysisNextCommented", "mnuAnalysisPrevCommented"},
+    };
+    const Step& step = dice_.Pick(Steps);
+    const bool up = Chance(3);
+    Say(QString("goes to %1").arg(up ? step.ItemBack : step.Item));
+    if (!Model.GoToNext(step.Mark, up))
+        Answers.ExpectMessage(up ? Localised("Begin reached", "Anfang erreicht")
+                                 : Localised("End reached", "Ende erreicht"),
+                              QMessageBox::Ok);
+    if (Chance(3))
+        Item(up ? step.ItemBack : step.Item)->trigger();
+    else
+        Press(step.Key, up ? Qt::ShiftModifier : Qt::NoModifier);
+}
+
 // From the first row on, until there is no further one: as many as the rules say.
 void Session::FindAll() {
     if (!Model.CanFindAgain || Model.RowCount() == 0)

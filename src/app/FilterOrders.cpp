@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+#include "app/FilterOrders.h"
+
+#include "app/MainMenus.h"
+#include "app/WaitPointer.h"
+#include "list/LogbookModel.h"
+#include "list/LogbookView.h"
+#include "rows/EntryActions.h"
+#include "settings/Texts.h"
+#include "settings/UserInterface.h"
+
+#include <utility>
+
+namespace {
+
+std::optional<TextId> NameOf(std::optional<FilterHistory::Act> act) {
+    if (!act)
+        return std::nullopt;
+    switch (*act) {
+    case FilterHistory::Act::Remove:
+        return TextId::mnuPopupRemove;
+    case FilterHistory::Act::ToggleHighlighting:
+        return TextId::mnuPopupToggle;
+    case FilterHistory::Act::KeepBetween:
+        return TextId::mnuAnalysisKeepBetween;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+FilterOrders::FilterOrders(LogbookView& list, Registry& registry, MainMenus& menus, UserInterface& user,
+                           Events events)
+    : list_(list),
+      registry_(registry),
+      menus_(menus),
+      user_(user),
+      events_(std::move(events)),
+      history_(registry) {}
+
+void FilterOrders::SetLanguage(Language language) {
+    language_ = language;
+    OfferUndo();
+}
+
+void FilterOrders::Clear() {
+    history_.Clear();
+    OfferUndo();
+}
+
+bool FilterOrders::Run(Command command) {
+    switch (command) {
+    case Command::RemoveFromList:
+        Remove();
+        break;
+    case Command::ToggleHighlighting:
+        ToggleHighlighting();
+        break;
+    case Command::KeepBetween:
+        KeepBetween();
+        break;
+    case Command::Undo:
+        TellOutcome(history_.Undo());
+        break;
+    case Command::Redo:
+        TellOutcome(history_.Redo());
+        break;
+    default:
+        return false;
+    }
+    OfferUndo();
+    return true;
+}
+
+void FilterOrders::Remove() {
+    const WaitPointer wait;
+    RowRanges removed;
+    history_.Record(FilterHistory::Act::Remove, [&] {
+        removed = ::RemoveFromList(registry_, list_.Logbook()->Rows(), list_.SelectedRanges());
+    });
+    list_.RemoveFromList(removed);
+    events_.RowsRemoved();
+}
+
+void FilterOrders::ToggleHighlighting() {
+    const WaitPointer wait;
+    RowRanges toggled;
+    history_.Record(FilterHistory::Act::ToggleHighlighting, [&] {
+        toggled = ::ToggleHighlighting(registry_, list_.Logbook()->Rows(), list_.SelectedRanges());
+    });
+    list_.Logbook()->ToggleHighlighting(toggled);
+}
+
+void FilterOrders::KeepBetween() {
+    bool isKept = false;
+    history_.Record(FilterHistory::Act::KeepBetween, [&] {
+        isKept = ::KeepBetween(registry_, list_.Logbook()->Rows(), list_.SelectedRanges());
+    });
+    if (isKept)
+        events_.FiltersChanged();
+}
+
+void FilterOrders::TellOutcome(FilterHistory::Outcome outcome) {
+    if (outcome == FilterHistory::Outcome::Done)
+        events_.FiltersChanged();
+    if (outcome == FilterHistory::Outcome::ChangedElsewhere)
+        user_.ShowMessage(Text(TextId::FiltersChangedElsewhere, language_),
+                          UserInterface::MessageIcon::Exclamation);
+}
+
+void FilterOrders::OfferUndo() {
+    menus_.Offer(Command::Undo, NameOf(history_.ToUndo()), language_);
+    menus_.Offer(Command::Redo, NameOf(history_.ToRedo()), language_);
+}
