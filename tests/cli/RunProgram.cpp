@@ -19,13 +19,19 @@ std::string Quoted(const std::string& argument) {
     return quoted + "'";
 }
 
+// The user's state, which the runs of a test share, as copies of the program do.
+std::string SharedState() {
+    static const TemporaryFolder folder;
+    return folder / "state";
+}
+
 } // namespace
 
 ProgramResult RunCommandLineTool(const std::vector<std::string>& arguments, const std::string& configFolder) {
     const TemporaryFolder folder;
     std::string command =
         "LC_ALL=C.UTF-8 XDG_CONFIG_HOME=" + Quoted(configFolder.empty() ? folder / "config" : configFolder) +
-        " " + Quoted(QORVIX_PROGRAM_FOLDER "/qorvix-cli");
+        " XDG_STATE_HOME=" + Quoted(SharedState()) + " " + Quoted(QORVIX_PROGRAM_FOLDER "/qorvix-cli");
     for (const std::string& argument : arguments)
         command += " " + Quoted(argument);
     command += " >" + Quoted(folder / "output") + " 2>" + Quoted(folder / "errors");
@@ -49,6 +55,7 @@ ProgramResult RunOnTerminal(const std::vector<std::string>& arguments) {
     const pid_t process = ::fork();
     if (process == 0) {
         ::setenv("XDG_CONFIG_HOME", (folder / "config").c_str(), 1);
+        ::setenv("XDG_STATE_HOME", (folder / "state").c_str(), 1);
         ::setenv("LC_ALL", "C.UTF-8", 1);
         ::dup2(end, STDOUT_FILENO);
         ::dup2(::open((folder / "errors").c_str(), O_WRONLY | O_CREAT, 0600), STDERR_FILENO);

@@ -93,7 +93,7 @@ QString WithNumber(const QString& list, int number) {
         Part widest{number, number};
         for (qsizetype i = 0; i < parts.size(); ++i) {
             const Part part = PartOf(parts[i]);
-            if (!part.IsReadable() || (below ? part.Last + 1 : part.First - 1) != number)
+            if (!part.IsReadable() || (below ? part.Last != number - 1 : part.First - 1 != number))
                 continue;
             touching << i;
             widest = {std::min(part.First, widest.First), std::max(part.Last, widest.Last)};
