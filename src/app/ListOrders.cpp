@@ -11,7 +11,31 @@
 #include <QApplication>
 #include <QClipboard>
 
+namespace {
+
+// The orders that go from row to row.
+struct Step {
+    Command Order;
+    RowMark Mark;
+    SearchDirection Direction;
+};
+constexpr Step Steps[] = {
+    {Command::NextError, RowMark::Error, SearchDirection::Down},
+    {Command::PreviousError, RowMark::Error, SearchDirection::Up},
+    {Command::NextHighlighted, RowMark::Highlighted, SearchDirection::Down},
+    {Command::PreviousHighlighted, RowMark::Highlighted, SearchDirection::Up},
+    {Command::NextCommented, RowMark::Commented, SearchDirection::Down},
+    {Command::PreviousCommented, RowMark::Commented, SearchDirection::Up},
+};
+
+} // namespace
+
 bool ListOrders::Run(Command command, const OrderSubject& subject) {
+    for (const Step& step : Steps)
+        if (step.Order == command) {
+            search_.GoToNext(step.Mark, step.Direction);
+            return true;
+        }
     switch (command) {
     case Command::Find:
         search_.Find();
@@ -24,24 +48,6 @@ bool ListOrders::Run(Command command, const OrderSubject& subject) {
         return true;
     case Command::GoToTime:
         search_.GoToTime();
-        return true;
-    case Command::NextError:
-        search_.GoToNext(RowMark::Error, SearchDirection::Down);
-        return true;
-    case Command::PreviousError:
-        search_.GoToNext(RowMark::Error, SearchDirection::Up);
-        return true;
-    case Command::NextHighlighted:
-        search_.GoToNext(RowMark::Highlighted, SearchDirection::Down);
-        return true;
-    case Command::PreviousHighlighted:
-        search_.GoToNext(RowMark::Highlighted, SearchDirection::Up);
-        return true;
-    case Command::NextCommented:
-        search_.GoToNext(RowMark::Commented, SearchDirection::Down);
-        return true;
-    case Command::PreviousCommented:
-        search_.GoToNext(RowMark::Commented, SearchDirection::Up);
         return true;
     case Command::SortByColumn:
         Sort(std::get<int>(subject), {});

@@ -22,8 +22,6 @@ using ColumnSide = PlainTable::Side;
 
 constexpr std::size_t ErrorsWidth = 100; // of the text forms, in characters
 
-Record TextOrNull(const std::optional<std::string>& text) { return text ? Record(*text) : Record(); }
-
 // A rate per hour says nothing about a shorter time.
 constexpr std::chrono::minutes LeastRecordedTime{15};
 
@@ -135,80 +133,7 @@ class ErrorList {
     std::size_t printed_ = 0;
 };
 
-std::vector<bool> EntriesOf(const LogbookRows& rows, EntryNumber count) {
-    std::vector<bool> entries(count);
-    for (const LogbookRow& row : rows)
-        entries[row.Entry] = true;
-    return entries;
-}
-
-const Record CodeNames = {{"key", 0}, {"entries", 0}, {"text_en", 0}, {"text_de", 0}, {"missing", 0}};
-
-// The codes of a document in the order of their names, with the control's whole texts.
-class CodeList {
-  public:
-    CodeList(const TerminalDocument& document, const HistoryOptions& options)
-        : language_(options.MessageLanguage) {
-        const EntryTable& entries = document.Entries();
-        const std::string folder = LanguageFolder(options.LanguageFolder);
-        for (ErrorRecord& error : ErrorsOf(entries, SessionsOf(entries, document.Book().Starts),
-                                           ReadErrorKeys(options), {.Warnings = true}))
-            if (error.Form == ErrorKeys::Form::Code) {
-                ErrorTexts texts = TextsOf(error, entries, folder);
-                codes_.push_back({std::move(error), std::move(texts)});
-            }
-        std::sort(codes_.begin(), codes_.end(),
-                  [](const Code& a, const Code& b) { return a.Error.Key < b.Error.Key; });
-    }
-
-    void Write(const RowForm& form, std::ostream& stream) const {
-        if (form.Format == "text")
-            return WriteText(stream);
-        const auto record = [this](std::size_t place) -> Record {
-            const Code& code = codes_[place];
-            return {{"key", code.Error.Key},
-                    {"entries", code.Error.Entries},
-                    {"text_en", TextOrNull(code.Texts.English)},
-                    {"text_de", TextOrNull(code.Texts.German)},
-                    {"missing", Missing(code.Texts)}};
-        };
-        WriteRecords(codes_.size(), record, CodeNames, form, stream);
-    }
-
-  private:
-    struct Code {
-        ErrorRecord Error;
-        ErrorTexts Texts;
-    };
-
-    static std::string Missing(const ErrorTexts& texts) {
-        std::string missing = texts.English ? "" : "en";
-        if (!texts.German)
-            missing += missing.empty() ? "de" : " de";
-        return missing;
-    }
-
-    void WriteText(std::ostream& stream) const {
-        const auto say = [&](TextId id) { return std::string(Text(id, language_)); };
-        PlainTable table({{say(TextId::HistoryCode), 9, 17},
-                          {say(TextId::HistoryEntries), 7, 9, ColumnSide::Right},
-                          {say(TextId::HistoryMissing), 5, 5},
-                          {say(TextId::HistoryEnglish), 12, 32},
-                          {say(TextId::HistoryGerman), 0, ErrorsWidth}});
-        for (const Code& code : codes_)
-            table.AddLine({code.Error.Key, std::to_string(code.Error.Entries), Missing(code.Texts),
-                           FirstLine(code.Texts.English).value_or("-"),
-                           FirstLine(code.Texts.German).value_or("-")});
-        table.Write(stream, ErrorsWidth);
-    }
-
-    Language language_;
-    std::vector<Code> codes_;
-};
-
-} // namespace
-
-static CLI::Validator AtLeastOne() {
+CLI::Validator AtLeastOne() {
     return CLI::Validator(
         [](const std::string& text) {
             const bool isNumber = !text.empty() &&
@@ -218,6 +143,8 @@ static CLI::Validator AtLeastOne() {
         },
         "", "");
 }
+
+} // namespace
 
 CLI::App* AddErrorsCommand(CLI::App& app, ErrorsOptions& options) {
     CLI::App* command =
@@ -237,12 +164,7 @@ int RunErrors(const ErrorsOptions& options) {
     return PrintHistory(options, options.Filters, [&](const TerminalDocument& document) {
         ErrorChoice choice{.Errors = options.Type != "warning", .Warnings = options.Type != "error"};
         if (!options.Filters.empty())
-            choice.Entries = EntriesOf(document.Rows(), document.Entries().Count());
+            choice.Entries = ShownEntries(document.Rows(), document.Entries().Count());
         return ErrorList(document, choice, options);
     });
-}
-
-int RunLookupAll(const HistoryOptions& options) {
-    return PrintHistory(options, {},
-                        [&](const TerminalDocument& document) { return CodeList(document, options); });
 }

@@ -18,7 +18,3 @@ CLI::App* AddErrorsCommand(CLI::App& app, ErrorsOptions& options);
 // Prints which errors a logbook records, the most frequent first. Returns the exit status; failures are
 // reported on standard error, and an output file then stays as it was.
 int RunErrors(const ErrorsOptions& options);
-
-// Prints the codes of a logbook's errors and warnings, with the control's texts in both languages and what is
-// missing.
-int RunLookupAll(const HistoryOptions& options);

@@ -10,6 +10,8 @@
 
 Record IsoOrNull(const std::optional<Stamp>& stamp) { return stamp ? Record(IsoText(*stamp)) : Record(); }
 
+Record TextOrNull(const std::optional<std::string>& text) { return text ? Record(*text) : Record(); }
+
 Record SecondsOrNull(const std::optional<std::chrono::milliseconds>& time) {
     return time ? Seconds(*time) : Record();
 }

@@ -13,6 +13,7 @@
 // Values of the machine's history as records and texts have them.
 
 Record IsoOrNull(const std::optional<Stamp>& stamp);
+Record TextOrNull(const std::optional<std::string>& text);
 Record SecondsOrNull(const std::optional<std::chrono::milliseconds>& time);
 
 // "2010-01-04 12:45:02", with milliseconds where the stamp has some.

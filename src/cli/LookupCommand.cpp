@@ -3,8 +3,8 @@
 
 #include "base/DeviceStream.h"
 #include "base/VisibleControls.h"
-#include "cli/ErrorsCommand.h"
 #include "cli/ExitStatus.h"
+#include "cli/LookupAll.h"
 #include "cli/Messages.h"
 #include "cli/Options.h"
 #include "eventinfo/iZEKEventInfo.h"

@@ -16,6 +16,14 @@ static_assert(sizeof(LogbookRow) == 4);
 
 using LogbookRows = std::vector<LogbookRow>;
 
+// Which entries have a row, by their numbers; `count` is that of all entries.
+inline std::vector<bool> ShownEntries(const LogbookRows& rows, EntryNumber count) {
+    std::vector<bool> shown(count);
+    for (const LogbookRow& row : rows)
+        shown[row.Entry] = true;
+    return shown;
+}
+
 // The highlighted form of each icon stands this many places after the plain one.
 inline constexpr int HighlightedImageOffset = 14;
 

@@ -103,9 +103,7 @@ TimeFound FindTime(const EntryTable& entries, const LogbookRows& rows, const Sta
     }
     if (rows.size() == entries.Count())
         return found;
-    std::vector<bool> isShown(entries.Count());
-    for (const LogbookRow& row : rows)
-        isShown[row.Entry] = true;
+    const std::vector<bool> isShown = ShownEntries(rows, entries.Count());
     for (EntryNumber entry = 0; entry < entries.Count(); ++entry) {
         if (isShown[entry])
             continue;
