@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ErrorsCommand.h"
 
-#include "cli/ErrorTexts.h"
+#include "history/ErrorTexts.h"
 #include "cli/HistoryTexts.h"
 #include "cli/Options.h"
 #include "cli/PlainTable.h"

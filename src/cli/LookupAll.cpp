@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/LookupAll.h"
 
-#include "cli/ErrorTexts.h"
+#include "history/ErrorTexts.h"
 #include "cli/HistoryTexts.h"
 #include "cli/PlainTable.h"
 #include "cli/PrintedHistory.h"

@@ -51,7 +51,9 @@ struct Counted {
     bool ClearedSince = false; // a message has followed its last entry, in the same session
 };
 
-class Counting {
+} // namespace
+
+class ErrorsRun::Counting {
   public:
     Counting(const EntryTable& entries, const ErrorKeys& keys, const ErrorChoice& choice)
         : entries_(entries), stamps_(entries), keys_(keys), choice_(choice) {
@@ -59,8 +61,9 @@ class Counting {
             roles_.push_back(RoleOf(entries.Kinds()[kind]));
     }
 
-    void TakeSession(std::size_t number, const Session& session) {
-        for (EntryNumber entry = session.First; entry < session.End; ++entry) {
+    // Takes entries of a session, which has this number.
+    void TakeEntries(std::size_t number, EntryNumber first, EntryNumber end) {
+        for (EntryNumber entry = first; entry < end; ++entry) {
             const Role role = roles_[entries_.KindNumber(entry)];
             if (role == Role::Error && (choice_.Entries.empty() || choice_.Entries[entry]))
                 TakeError(entry, number);
@@ -187,12 +190,34 @@ class Counting {
     std::unordered_set<std::string> cleared_; // the codes that such messages name
 };
 
-} // namespace
+ErrorsRun::ErrorsRun(const EntryTable& entries, std::span<const Session> sessions, const ErrorKeys& keys,
+                     const ErrorChoice& choice)
+    : sessions_(sessions), counting_(std::make_unique<Counting>(entries, keys, choice)) {}
+
+ErrorsRun::~ErrorsRun() = default;
+
+bool ErrorsRun::Go(std::size_t most) {
+    while (place_ < sessions_.size() && most > 0) {
+        const Session& session = sessions_[place_];
+        next_ = std::max(next_, session.First);
+        const EntryNumber end =
+            next_ + static_cast<EntryNumber>(std::min<std::size_t>(session.End - next_, most));
+        counting_->TakeEntries(place_, next_, end);
+        most -= std::max<std::size_t>(end - next_, 1);
+        next_ = end;
+        if (next_ < session.End)
+            break;
+        ++place_;
+    }
+    return place_ < sessions_.size();
+}
+
+std::vector<ErrorRecord> ErrorsRun::Take() { return counting_->Take(); }
 
 std::vector<ErrorRecord> ErrorsOf(const EntryTable& entries, std::span<const Session> sessions,
                                   const ErrorKeys& keys, const ErrorChoice& choice) {
-    Counting counting(entries, keys, choice);
-    for (std::size_t number = 0; number < sessions.size(); ++number)
-        counting.TakeSession(number, sessions[number]);
-    return counting.Take();
+    ErrorsRun run(entries, sessions, keys, choice);
+    while (run.Go(entries.Count() + sessions.size() + 1)) {
+    }
+    return run.Take();
 }

@@ -5,7 +5,7 @@
 #include "history/Sessions.h"
 
 #include <cstdint>
-#include <functional>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -32,6 +32,8 @@ struct ErrorRecord {
     // The episodes that were followed in their session by a message that the error was cleared, before the
     // error came again. Nothing when no such message names this error: then its end is unknown.
     std::optional<std::uint32_t> Cleared;
+
+    bool operator==(const ErrorRecord&) const = default;
 };
 
 // Which entries count: a set of event types, and a choice among the entries (empty = all).
@@ -47,3 +49,29 @@ struct ErrorChoice {
 // One pass over the entries. Memory for the errors, not for their entries, but for those of a minute.
 std::vector<ErrorRecord> ErrorsOf(const EntryTable& entries, std::span<const Session> sessions,
                                   const ErrorKeys& keys, const ErrorChoice& choice = {});
+
+// The same in parts, for a window that stays alive meanwhile.
+class ErrorsRun {
+  public:
+    // All must outlive this.
+    ErrorsRun(const EntryTable& entries, std::span<const Session> sessions, const ErrorKeys& keys,
+              const ErrorChoice& choice);
+    ~ErrorsRun();
+    ErrorsRun(const ErrorsRun&) = delete;
+    ErrorsRun& operator=(const ErrorsRun&) = delete;
+
+    // Takes at most so many further entries; a session without entries counts as one. False when none is
+    // left.
+    bool Go(std::size_t most);
+
+    // The errors, once none is left.
+    std::vector<ErrorRecord> Take();
+
+  private:
+    class Counting;
+
+    std::span<const Session> sessions_;
+    std::unique_ptr<Counting> counting_;
+    std::size_t place_ = 0; // of the session whose entries are being taken
+    EntryNumber next_ = 0;
+};

@@ -2,93 +2,101 @@
 #include "history/Sessions.h"
 
 #include "history/SummerTime.h"
-#include "logbook/EntryStamps.h"
 
 #include <algorithm>
 #include <numeric>
 
-namespace {
+SessionsRun::SessionsRun(const EntryTable& entries, std::span<const LogbookStart> starts)
+    : entries_(entries), stamps_(entries) {
+    const EntryNumber count = entries.HasEvents() ? entries.Count() : 0;
+    const EntryNumber firstStart = starts.empty() ? count : std::min(starts.front().Entry, count);
+    if (firstStart > 0)
+        sessions_.push_back({.First = 0, .End = firstStart});
+    for (std::size_t i = 0; i < starts.size(); ++i)
+        sessions_.push_back({.StartRecorded = true,
+                             .Start = starts[i].Time,
+                             .First = std::min(starts[i].Entry, count),
+                             .End = i + 1 < starts.size() ? std::min(starts[i + 1].Entry, count) : count});
+    for (std::uint32_t kind = 0; kind < entries.Kinds().Count(); ++kind)
+        types_.push_back(entries.Kinds()[kind].EventType);
+    if (!sessions_.empty())
+        Begin();
+}
 
-// Takes the stamps of a logbook in its order, and keeps what they say of each session.
-class SessionStamps {
-  public:
-    void Begin() { first_.reset(); }
-
-    void Take(const std::optional<Stamp>& stamp, Session& session) {
-        if (!stamp)
-            return;
-        if (before_ && TimeBetween(*before_, *stamp) < Session::Duration(0)) {
-            ++session.ClockSteps;
-            session.SummerTimeSteps += MayEndSummerTime(*before_, *stamp) ? 1U : 0U;
-        }
-        before_ = stamp;
-        if (first_)
-            session.Recorded = std::max(TimeBetween(*first_, *stamp), Session::Duration(0));
-        else
-            first_ = stamp;
+bool SessionsRun::Go(std::size_t most) {
+    while (place_ < sessions_.size() && most > 0) {
+        Session& session = sessions_[place_];
+        const auto taken = static_cast<EntryNumber>(std::min<std::size_t>(session.End - next_, most));
+        TakeEntries(session, next_ + taken);
+        most -= std::max<std::size_t>(taken, 1);
+        if (next_ < session.End)
+            break;
+        End();
+        if (++place_ < sessions_.size())
+            Begin();
     }
+    return place_ < sessions_.size();
+}
 
-  private:
-    std::optional<Stamp> first_;  // of the session
-    std::optional<Stamp> before_; // of the logbook
-};
+void SessionsRun::Begin() {
+    Session& session = sessions_[place_];
+    next_ = session.First;
+    first_.reset();
+    errorStamp_.reset();
+    TakeStamp(session.Start, session);
+}
 
-// Counts the entries of a session and takes their stamps. An entry that stands for the session's start has
-// the stamp that was taken with it.
-void TakeEntries(const EntryTable& entries, std::span<const std::int16_t> types, const EntryStamps& stamps,
-                 bool startIsEntry, SessionStamps& taken, Session& session) {
-    std::optional<Stamp> errorStamp;
-    for (EntryNumber number = session.First; number < session.End; ++number) {
-        const std::optional<Stamp> stamp = stamps[number];
-        if (!startIsEntry || number != session.First)
-            taken.Take(stamp, session);
+void SessionsRun::TakeStamp(const std::optional<Stamp>& stamp, Session& session) {
+    if (!stamp)
+        return;
+    if (before_ && TimeBetween(*before_, *stamp) < Session::Duration(0)) {
+        ++session.ClockSteps;
+        session.SummerTimeSteps += MayEndSummerTime(*before_, *stamp) ? 1U : 0U;
+    }
+    before_ = stamp;
+    if (first_)
+        session.Recorded = std::max(TimeBetween(*first_, *stamp), Session::Duration(0));
+    else
+        first_ = stamp;
+}
+
+// Counts entries of a session, from the next one to before `end`, and takes their stamps. An entry that
+// stands for the session's start has the stamp that was taken with it.
+void SessionsRun::TakeEntries(Session& session, EntryNumber end) {
+    const bool startIsEntry = session.StartRecorded && next_ == session.First && next_ < session.End &&
+                              types_[entries_.KindNumber(next_)] == EventTypes::Restart;
+    for (bool isStart = startIsEntry; next_ < end; ++next_, isStart = false) {
+        const std::optional<Stamp> stamp = stamps_[next_];
+        if (!isStart)
+            TakeStamp(stamp, session);
         if (stamp)
             session.LastEntry = stamp;
-        const std::int16_t type = types[entries.KindNumber(number)];
+        const std::int16_t type = types_[entries_.KindNumber(next_)];
         if (type == EventTypes::Warning)
             ++session.Warnings;
         if (!EventTypes::IsError(type))
             continue;
         ++session.Errors;
-        session.LastError = number;
-        errorStamp = stamp;
+        session.LastError = next_;
+        errorStamp_ = stamp;
     }
-    if (errorStamp && session.LastEntry)
-        session.LastErrorBeforeEnd =
-            std::max(TimeBetween(*errorStamp, *session.LastEntry), Session::Duration(0));
 }
 
-} // namespace
+void SessionsRun::End() {
+    Session& session = sessions_[place_];
+    if (errorStamp_ && session.LastEntry)
+        session.LastErrorBeforeEnd =
+            std::max(TimeBetween(*errorStamp_, *session.LastEntry), Session::Duration(0));
+    if (place_ + 1 < sessions_.size() && session.Start && sessions_[place_ + 1].Start)
+        session.ToNext =
+            std::max(TimeBetween(*session.Start, *sessions_[place_ + 1].Start), Session::Duration(0));
+}
 
 std::vector<Session> SessionsOf(const EntryTable& entries, std::span<const LogbookStart> starts) {
-    const EntryNumber count = entries.HasEvents() ? entries.Count() : 0;
-    const EntryStamps stamps(entries);
-    std::vector<Session> sessions;
-    const EntryNumber firstStart = starts.empty() ? count : std::min(starts.front().Entry, count);
-    if (firstStart > 0)
-        sessions.push_back({.First = 0, .End = firstStart});
-    for (std::size_t i = 0; i < starts.size(); ++i)
-        sessions.push_back({.StartRecorded = true,
-                            .Start = starts[i].Time,
-                            .First = std::min(starts[i].Entry, count),
-                            .End = i + 1 < starts.size() ? std::min(starts[i + 1].Entry, count) : count});
-
-    std::vector<std::int16_t> types; // by number of kind
-    for (std::uint32_t kind = 0; kind < entries.Kinds().Count(); ++kind)
-        types.push_back(entries.Kinds()[kind].EventType);
-    SessionStamps taken;
-    for (std::size_t i = 0; i < sessions.size(); ++i) {
-        Session& session = sessions[i];
-        taken.Begin();
-        taken.Take(session.Start, session);
-        const bool startIsEntry = session.StartRecorded && session.EntryCount() > 0 &&
-                                  entries.Kind(session.First).EventType == EventTypes::Restart;
-        TakeEntries(entries, types, stamps, startIsEntry, taken, session);
-        if (i + 1 < sessions.size() && session.Start && sessions[i + 1].Start)
-            session.ToNext =
-                std::max(TimeBetween(*session.Start, *sessions[i + 1].Start), Session::Duration(0));
+    SessionsRun run(entries, starts);
+    while (run.Go(entries.Count() + starts.size() + 1)) {
     }
-    return sessions;
+    return run.Take();
 }
 
 Session::Duration RecordedTime(std::span<const Session> sessions) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/EntryStamps.h"
 #include "logbook/EntryTable.h"
 #include "logbook/LogbookStart.h"
 
@@ -9,6 +10,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 // What a logbook records from one start of the control up to the next. It does not record when the control
@@ -38,6 +40,8 @@ struct Session {
     std::optional<Duration> LastErrorBeforeEnd = {}; // from its stamp to LastEntry; at least 0
 
     std::size_t EntryCount() const { return End - First; }
+
+    bool operator==(const Session&) const = default;
 };
 
 // The sessions of a logbook in its order. Entries before the first start are a session of their own. An entry
@@ -46,6 +50,36 @@ struct Session {
 //
 // One pass over the entries; memory for the sessions only.
 std::vector<Session> SessionsOf(const EntryTable& entries, std::span<const LogbookStart> starts);
+
+// The same in parts, for a window that stays alive meanwhile.
+class SessionsRun {
+  public:
+    // The table must outlive this, and may not be filled again.
+    SessionsRun(const EntryTable& entries, std::span<const LogbookStart> starts);
+
+    // Takes at most so many further entries; a session without entries counts as one. False when none is
+    // left.
+    bool Go(std::size_t most);
+
+    // The sessions, once none is left.
+    std::vector<Session> Take() { return std::move(sessions_); }
+
+  private:
+    void Begin();
+    void End();
+    void TakeStamp(const std::optional<Stamp>& stamp, Session& session);
+    void TakeEntries(Session& session, EntryNumber end);
+
+    const EntryTable& entries_;
+    EntryStamps stamps_;
+    std::vector<std::int16_t> types_; // by number of kind
+    std::vector<Session> sessions_;
+    std::size_t place_ = 0;           // of the session that is being counted
+    EntryNumber next_ = 0;            // its next entry
+    std::optional<Stamp> first_;      // of that session
+    std::optional<Stamp> before_;     // the last one, also of earlier sessions
+    std::optional<Stamp> errorStamp_; // of its last error
+};
 
 // The sum of what the sessions record.
 Session::Duration RecordedTime(std::span<const Session> sessions);

@@ -5,22 +5,6 @@
 
 namespace {
 
-// The nearest row that `has` accepts.
-template <typename Has>
-std::optional<std::size_t> Nearest(const LogbookRows& rows, std::optional<std::size_t> start,
-                                   SearchDirection direction, Has has) {
-    if (direction == SearchDirection::Down) {
-        for (std::size_t row = start ? *start + 1 : 0; row < rows.size(); ++row)
-            if (has(rows[row]))
-                return row;
-        return std::nullopt;
-    }
-    for (std::size_t row = start ? *start : rows.size(); row-- > 0;)
-        if (has(rows[row]))
-            return row;
-    return std::nullopt;
-}
-
 // Which kinds of entry are errors, by their numbers.
 std::vector<bool> ErrorKinds(const EntryTable& entries) {
     std::vector<bool> errors(entries.Kinds().Count());
@@ -43,15 +27,16 @@ std::optional<std::size_t> NextRow(const EntryTable& entries, const LogbookRows&
                                    SearchDirection direction) {
     switch (mark) {
     case RowMark::Error:
-        return Nearest(rows, start, direction, [&, errors = ErrorKinds(entries)](const LogbookRow& row) {
+        return NextRowThat(rows, start, direction, [&, errors = ErrorKinds(entries)](const LogbookRow& row) {
             return errors[entries.KindNumber(row.Entry)];
         });
     case RowMark::Highlighted:
-        return Nearest(rows, start, direction, [](const LogbookRow& row) { return row.Highlighted != 0; });
+        return NextRowThat(rows, start, direction,
+                           [](const LogbookRow& row) { return row.Highlighted != 0; });
     case RowMark::Commented:
         if (entries.Comments().empty())
             return std::nullopt;
-        return Nearest(
+        return NextRowThat(
             rows, start, direction,
             [commented = CommentedEntries(entries)](const LogbookRow& row) { return commented[row.Entry]; });
     }

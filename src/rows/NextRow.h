@@ -20,3 +20,19 @@ enum class RowMark : std::uint8_t {
 // or from the last up. Costs at most one step a row.
 std::optional<std::size_t> NextRow(const EntryTable& entries, const LogbookRows& rows,
                                    std::optional<std::size_t> start, RowMark mark, SearchDirection direction);
+
+// As NextRow, for the rows that `has` accepts.
+template <typename Has>
+std::optional<std::size_t> NextRowThat(const LogbookRows& rows, std::optional<std::size_t> start,
+                                       SearchDirection direction, Has has) {
+    if (direction == SearchDirection::Down) {
+        for (std::size_t row = start ? *start + 1 : 0; row < rows.size(); ++row)
+            if (has(rows[row]))
+                return row;
+        return std::nullopt;
+    }
+    for (std::size_t row = start ? *start : rows.size(); row-- > 0;)
+        if (has(rows[row]))
+            return row;
+    return std::nullopt;
+}

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/ErrorTexts.h"
+#include "history/ErrorTexts.h"
 
 #include "eventinfo/iZEKEventInfo.h"
 #include "rows/ContentText.h"

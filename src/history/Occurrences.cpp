@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "history/Occurrences.h"
+
+#include "rows/NextRow.h"
+
+bool Occurrences::Is(EntryNumber entry) const {
+    const EntryKind& kind = entries_.Kind(entry);
+    if (!EventTypes::IsError(kind.EventType) && kind.EventType != EventTypes::Warning)
+        return false;
+    keys_.MakeKey(entries_.Data(entry), kind.Sender, kind.Name, made_);
+    return made_ == key_;
+}
+
+std::optional<std::size_t> Occurrences::Next(const LogbookRows& rows, std::optional<std::size_t> start,
+                                             SearchDirection direction) const {
+    return NextRowThat(rows, start, direction, [this](const LogbookRow& row) { return Is(row.Entry); });
+}
+
+RowRanges Occurrences::RangesIn(const LogbookRows& rows) const {
+    RowRanges ranges;
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        if (!Is(rows[row].Entry))
+            continue;
+        if (!ranges.empty() && ranges.back().Last + 1 == row)
+            ranges.back().Last = row;
+        else
+            ranges.push_back({row, row});
+    }
+    return ranges;
+}
