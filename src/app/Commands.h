@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/EntryTable.h"
 #include "rows/SortDirection.h"
 
 #include <string>
@@ -41,6 +42,13 @@ enum class Command {
     PreviousCommented,
     SortInOrder, // a ColumnOrder
     FitColumnWidths,
+    Overview,
+    GoToEntry,      // an EntrySpan of one entry
+    SelectSpan,     // an EntrySpan
+    NextOccurrence, // the key of an error, as the next three
+    PreviousOccurrence,
+    HighlightAll,
+    RemoveAll,
 };
 
 // A column of the list, counted from 0, and the direction of its sort.
@@ -49,9 +57,15 @@ struct ColumnOrder {
     SortDirection Direction = SortDirection::Ascending;
 };
 
-// What an order is about besides the selected rows: a column, an order of it, or for Open the name of a
-// source.
-using OrderSubject = std::variant<std::monostate, int, std::string, ColumnOrder>;
+// Entries of the logbook from one to before another.
+struct EntrySpan {
+    EntryNumber First = 0;
+    EntryNumber End = 0;
+};
+
+// What an order is about besides the selected rows: a column, an order of it, entries, the key of an error,
+// or for Open the name of a source.
+using OrderSubject = std::variant<std::monostate, int, std::string, ColumnOrder, EntrySpan>;
 
 // True for the commands that read, filter, sort, open or archive, or that change what such a step works with.
 // They do nothing while a logbook is being read.
@@ -64,6 +78,7 @@ constexpr bool NeedsIdleLogbook(Command command) {
     case Command::HelpContents:
     case Command::HelpSearch:
     case Command::About:
+    case Command::Overview:
         return false;
     default:
         return true;

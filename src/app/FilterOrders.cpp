@@ -51,10 +51,10 @@ void FilterOrders::Clear() {
 bool FilterOrders::Run(Command command) {
     switch (command) {
     case Command::RemoveFromList:
-        Remove();
+        Remove(list_.SelectedRanges());
         break;
     case Command::ToggleHighlighting:
-        ToggleHighlighting();
+        ToggleHighlighting(list_.SelectedRanges());
         break;
     case Command::KeepBetween:
         KeepBetween();
@@ -72,23 +72,23 @@ bool FilterOrders::Run(Command command) {
     return true;
 }
 
-void FilterOrders::Remove() {
+void FilterOrders::Remove(const RowRanges& rows) {
     const WaitPointer wait;
     RowRanges removed;
-    history_.Record(FilterHistory::Act::Remove, [&] {
-        removed = ::RemoveFromList(registry_, list_.Logbook()->Rows(), list_.SelectedRanges());
-    });
+    history_.Record(FilterHistory::Act::Remove,
+                    [&] { removed = ::RemoveFromList(registry_, list_.Logbook()->Rows(), rows); });
     list_.RemoveFromList(removed);
     events_.RowsRemoved();
+    OfferUndo();
 }
 
-void FilterOrders::ToggleHighlighting() {
+void FilterOrders::ToggleHighlighting(const RowRanges& rows) {
     const WaitPointer wait;
     RowRanges toggled;
-    history_.Record(FilterHistory::Act::ToggleHighlighting, [&] {
-        toggled = ::ToggleHighlighting(registry_, list_.Logbook()->Rows(), list_.SelectedRanges());
-    });
+    history_.Record(FilterHistory::Act::ToggleHighlighting,
+                    [&] { toggled = ::ToggleHighlighting(registry_, list_.Logbook()->Rows(), rows); });
     list_.Logbook()->ToggleHighlighting(toggled);
+    OfferUndo();
 }
 
 void FilterOrders::KeepBetween() {

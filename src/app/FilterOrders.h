@@ -3,6 +3,7 @@
 
 #include "app/Commands.h"
 #include "filter/FilterHistory.h"
+#include "rows/RowRanges.h"
 #include "settings/Language.h"
 
 #include <functional>
@@ -32,9 +33,11 @@ class FilterOrders {
     // Carries out a command; false when it is none of these.
     bool Run(Command command);
 
+    // Remove these rows; make plain ones of them highlighted and highlighted ones plain.
+    void Remove(const RowRanges& rows);
+    void ToggleHighlighting(const RowRanges& rows);
+
   private:
-    void Remove();
-    void ToggleHighlighting();
     void KeepBetween();
     void TellOutcome(FilterHistory::Outcome outcome);
     void OfferUndo();

@@ -53,6 +53,7 @@ const MenuRow Rows[] = {
     {"mnnuExtrasSep2", {}, {}},
     {"mnuExtrasDialogLanguage", TextId::mnuExtrasDialogLanguage, Command::DialogLanguage},
     {"mnuAnalysis", TextId::mnuAnalysis, {}},
+    {"mnuAnalysisOverview", TextId::mnuAnalysisOverview, Command::Overview, Qt::Key_F9},
     {"mnuAnalysisGoToTime", TextId::mnuAnalysisGoToTime, Command::GoToTime, Qt::CTRL | Qt::Key_G},
     {"mnuAnalysisNextError", TextId::mnuAnalysisNextError, Command::NextError, Qt::Key_F4},
     {"mnuAnalysisPrevError", TextId::mnuAnalysisPrevError, Command::PreviousError, Qt::SHIFT | Qt::Key_F4},

@@ -22,6 +22,7 @@ UserInterface& WindowDocument::User() { return parts_.User; }
 ReadingProgress& WindowDocument::Progress() { return parts_.Progress; }
 
 void WindowDocument::ReadingBegins() {
+    events_.ReadingBegins();
     parts_.Content.clear();
     parts_.StatusBar.ClearCounts();
     FilteringBegins();

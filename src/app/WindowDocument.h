@@ -28,6 +28,7 @@ class WindowDocument : public DocumentView {
         WindowUser& User;
     };
     struct Events {
+        std::function<void()> ReadingBegins; // what was shown is no more
         std::function<void(std::string_view name)> LogbookIsOpen;
         std::function<void(std::error_code)> CommentsAreSafe;
         std::function<void()> SelectedContentChanged;

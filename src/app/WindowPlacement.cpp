@@ -16,14 +16,7 @@
 
 namespace {
 
-struct Length {
-    std::string_view Name;
-    int Default; // twips
-};
-
-constexpr std::array<Length, 4> Lengths{
-    {{"Main.Left", 100}, {"Main.Top", 100}, {"Main.Width", 14000}, {"Main.Height", 12000}}};
-constexpr QPoint DefaultPlace(PixelsOf(Lengths[0].Default), PixelsOf(Lengths[1].Default));
+constexpr std::array<std::string_view, 4> LengthNames{".Left", ".Top", ".Width", ".Height"};
 
 std::array<int, 4> LengthsOf(const QWidget& window) {
     return {window.x(), window.y(), window.width(), window.height()};
@@ -50,19 +43,23 @@ bool CanBeReached(QPoint place, QSize size) {
 
 } // namespace
 
+std::string WindowPlacement::SettingOf(std::size_t length) const {
+    return name_ + std::string(LengthNames[length]);
+}
+
 void WindowPlacement::Load(const Registry& registry, QWidget& window) {
-    for (std::size_t i = 0; i < Lengths.size(); ++i)
-        loaded_[i] = registry.ReadLogbookSettingLong(Lengths[i].Name, Lengths[i].Default);
+    for (std::size_t i = 0; i < loaded_.size(); ++i)
+        loaded_[i] = registry.ReadLogbookSettingLong(SettingOf(i), defaults_[i]);
     QPoint place(PixelsOf(loaded_[0]), PixelsOf(loaded_[1]));
     const QSize size =
         QSize(PixelsOf(loaded_[2]), PixelsOf(loaded_[3])).expandedTo(LeastSize(window)).expandedTo({1, 1});
     if (!CanBeReached(place, size))
-        place = DefaultPlace;
+        place = QPoint(PixelsOf(defaults_[0]), PixelsOf(defaults_[1]));
     const QRect shown = PlaceOnScreens(QRect(place, size));
     window.move(shown.topLeft());
     window.resize(shown.size());
     shown_ = LengthsOf(window);
-    if (registry.ReadLogbookSettingLong("MainIsMaximized", 0) == 1)
+    if (registry.ReadLogbookSettingLong(name_ + "IsMaximized", 0) == 1)
         window.setWindowState(Qt::WindowMaximized);
 }
 
@@ -70,8 +67,8 @@ void WindowPlacement::Save(Registry& registry, const QWidget& window) const {
     if (window.isMinimized() || window.isMaximized())
         return;
     const std::array<int, 4> now = LengthsOf(window);
-    for (std::size_t i = 0; i < Lengths.size(); ++i)
-        registry.WriteLogbookSetting(Lengths[i].Name,
+    for (std::size_t i = 0; i < now.size(); ++i)
+        registry.WriteLogbookSetting(SettingOf(i),
                                      now[i] == shown_[i] ? loaded_[i] : TwipsToStore(now[i], loaded_[i]),
                                      SettingType::Integer);
 }

@@ -40,13 +40,13 @@ void WindowSearch::FindPrevious() {
 
 void WindowSearch::FindFromSelection(SearchDirection direction) {
     const std::optional<int> selected = list_.SelectedRow();
-    std::int32_t found = -1;
+    std::int32_t found = -1; // counted from 1
     {
         const WaitPointer wait;
         found =
             FindInList(entries_, list_.Logbook()->Rows(), selected ? *selected + 1 : 0, search_, direction);
     }
-    Show(found, direction);
+    ShowFound(found < 1 ? std::nullopt : std::optional(static_cast<std::size_t>(found - 1)), direction);
 }
 
 void WindowSearch::GoToNext(RowMark mark, SearchDirection direction) {
@@ -58,7 +58,7 @@ void WindowSearch::GoToNext(RowMark mark, SearchDirection direction) {
         const WaitPointer wait;
         found = NextRow(entries_, list_.Logbook()->Rows(), start, mark, direction);
     }
-    Show(found ? static_cast<std::int32_t>(*found) + 1 : -1, direction);
+    ShowFound(found, direction);
 }
 
 void WindowSearch::GoToTime() {
@@ -83,24 +83,26 @@ void WindowSearch::GoToTime() {
         const WaitPointer wait;
         found = FindTime(entries_, rows, *wanted, list_.Logbook()->LiesInTime());
     }
-    Show(found.Row ? static_cast<std::int32_t>(*found.Row) + 1 : -1, SearchDirection::Down);
+    ShowFound(found.Row, SearchDirection::Down);
     if (found.HiddenEntry)
-        user_.ShowMessage(std::string(Text(TextId::GoToTimeHidden, language_)) +
-                              entries_.Time(*found.HiddenEntry),
-                          UserInterface::MessageIcon::None);
+        TellHidden(*found.HiddenEntry);
 }
 
-// A row counted from 1; below 1 for none.
-void WindowSearch::Show(std::int32_t found, SearchDirection direction) {
-    if (found < 1) {
+void WindowSearch::TellHidden(EntryNumber entry) {
+    user_.ShowMessage(std::string(Text(TextId::GoToTimeHidden, language_)) + entries_.Time(entry),
+                      UserInterface::MessageIcon::None);
+}
+
+void WindowSearch::ShowFound(std::optional<std::size_t> found, SearchDirection direction) {
+    if (!found) {
         user_.ShowMessage(
             Text(direction == SearchDirection::Up ? TextId::BeginReached : TextId::EndReached, language_),
             UserInterface::MessageIcon::None);
         return;
     }
-    const int row = found - 1;
-    list_.SelectRanges({{static_cast<std::size_t>(row), static_cast<std::size_t>(row)}}, row);
-    EnsureVisible(found, direction);
+    const int row = static_cast<int>(*found);
+    list_.SelectRanges({{*found, *found}}, row);
+    EnsureVisible(row + 1, direction);
     emit RowFound(row);
 }
 

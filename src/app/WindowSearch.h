@@ -7,7 +7,9 @@
 
 #include <QObject>
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 
 class LogbookView;
 class QWidget;
@@ -48,13 +50,21 @@ class WindowSearch : public QObject {
     // row itself.
     void EnsureVisible(std::int32_t row, SearchDirection direction);
 
+    // Shows a row as a hit; counted from 0.
+    void ShowRow(std::size_t row) { ShowFound(row, SearchDirection::Down); }
+
+    // Shows a row as a hit, or says that the end in this direction was reached.
+    void ShowFound(std::optional<std::size_t> row, SearchDirection direction);
+
+    // Says that filters hide this entry.
+    void TellHidden(EntryNumber entry);
+
   signals:
     // A hit has been selected and is in view. Counted from 0.
     void RowFound(int row);
 
   private:
     void FindFromSelection(SearchDirection direction);
-    void Show(std::int32_t found, SearchDirection direction);
 
     LogbookView& list_;
     const EntryTable& entries_;

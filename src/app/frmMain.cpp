@@ -9,6 +9,7 @@
 #include "app/MainStatusBar.h"
 #include "app/MainToolBar.h"
 #include "app/WaitPointer.h"
+#include "app/WindowOverview.h"
 #include "app/WindowSearch.h"
 #include "base/ProgramFolder.h"
 #include "dialogs/frmAbout.h"
@@ -37,6 +38,7 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
     : document_(document),
       registry_(registry),
       BaseCaption("Qorvix"),
+      placement_("Main", MainWindowPlace),
       ViewContents(registry.ReadLogbookSettingLong("MainViewContents", 0) == 1),
       model_(new LogbookModel(document.Entries(), document.Rows(), this)),
       lvLogbook(new LogbookView(this)),
@@ -55,7 +57,8 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
               .StatusBar = *sbStatusBar,
               .Progress = progress_,
               .User = user_},
-             {.LogbookIsOpen =
+             {.ReadingBegins = [this] { overview_->ReadingBegins(); },
+              .LogbookIsOpen =
                   [this](std::string_view name) {
                       setWindowTitle(ToQString(name) + " - " + BaseCaption);
                       filterOrders_.Clear();
@@ -73,6 +76,7 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
                              if (sbStatusBar->HasCounts())
                                  shown_.ShowCounts();
                          }}),
+      overview_(nullptr),
       help_(this, HelpReader(ProgramFolder())) {
     setObjectName("frmMain");
     setWindowTitle(BaseCaption);
@@ -107,6 +111,13 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
 
 void frmMain::MakeList() {
     lvLogbook->SetLogbook(model_);
+    overview_ = new WindowOverview(
+        {.List = *lvLogbook,
+         .Document = document_,
+         .Settings = registry_,
+         .Search = *search_,
+         .Filters = filterOrders_},
+        [this](Command command, const OrderSubject& subject) { Run(command, subject); }, *this);
     connect(lvLogbook->horizontalHeader(), &QHeaderView::sectionClicked, this,
             [this](int column) { Run(Command::SortByColumn, column); });
     connect(lvLogbook, &LogbookView::PopupWanted, this,
@@ -155,6 +166,7 @@ void frmMain::LoadLanguage() {
     help_.CloseAll();
     menus_.LoadLanguage(language_);
     filterOrders_.SetLanguage(language_);
+    overview_->SetLanguage(language_);
     tbToolBar->LoadLanguage(language_);
     sbStatusBar->LoadLanguage(language_);
     model_->SetLanguage(language_);
@@ -212,7 +224,7 @@ void frmMain::Run(Command command, const OrderSubject& subject) {
         ShowEntryProperties();
         break;
     default:
-        if (!filterOrders_.Run(command))
+        if (!filterOrders_.Run(command) && !overview_->Run(command, subject))
             listOrders_.Run(command, subject);
         for (const Command again : {Command::FindNext, Command::FindPrevious})
             menus_.Item(again).setEnabled(search_->HasText());

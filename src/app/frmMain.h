@@ -30,6 +30,7 @@ class MainToolBar;
 class QPlainTextEdit;
 class QTimer;
 class TagViewer;
+class WindowOverview;
 class WindowSearch;
 
 // The program's only top-level window: every order of the person enters here. It shows one logbook as a list.
@@ -106,6 +107,7 @@ class frmMain : public QMainWindow {
     WindowSearch* search_;
     ListOrders listOrders_;
     FilterOrders filterOrders_;
+    WindowOverview* overview_;
     HtmlHelp help_;
     bool ItemClicked = false; // a row was clicked, and the mouse button is not up yet
 };

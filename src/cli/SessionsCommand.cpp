@@ -5,6 +5,7 @@
 #include "cli/PlainTable.h"
 #include "cli/PrintedHistory.h"
 #include "cli/RecordWriter.h"
+#include "history/SessionRemarks.h"
 #include "history/Sessions.h"
 #include "settings/Texts.h"
 
@@ -35,13 +36,6 @@ class SessionList {
   private:
     std::string Say(TextId id) const { return std::string(Text(id, language_)); }
 
-    std::string KeyOf(EntryNumber number) const {
-        const EntryKind& kind = entries_.Kind(number);
-        std::string key;
-        keys_.MakeKey(entries_.Data(number), kind.Sender, kind.Name, key);
-        return key;
-    }
-
     Record RecordOf(std::size_t place) const {
         const Session& session = sessions_[place];
         const bool hasEntries = session.EntryCount() > 0;
@@ -61,7 +55,7 @@ class SessionList {
         record["last_error"] = Record();
         if (session.LastError)
             record["last_error"] = {{"index", *session.LastError},
-                                    {"key", KeyOf(*session.LastError)},
+                                    {"key", KeyOf(entries_, keys_, *session.LastError)},
                                     {"seconds_before_end", SecondsOrNull(session.LastErrorBeforeEnd)}};
         return record;
     }
@@ -117,33 +111,14 @@ class SessionList {
 
     std::vector<std::string> TextLine(std::size_t place) const {
         const Session& session = sessions_[place];
-        const std::string start = session.Start           ? ReadableText(*session.Start)
-                                  : session.StartRecorded ? Say(TextId::HistoryUnreadable)
-                                                          : Say(TextId::HistoryNotRecorded);
         return {std::to_string(place + 1),
-                start,
+                StartText(session, language_),
                 ClockText(session.Recorded),
                 ClockText(session.ToNext),
                 std::to_string(session.EntryCount()),
                 std::to_string(session.Errors),
                 std::to_string(session.Warnings),
-                Remarks(session)};
-    }
-
-    // Steps of the clock, then the last error.
-    std::string Remarks(const Session& session) const {
-        std::string text;
-        if (session.ClockSteps > 0) {
-            text = Say(TextId::HistoryClockSteps) + ' ' + std::to_string(session.ClockSteps);
-            if (session.SummerTimeSteps > 0)
-                text += " (" + Say(TextId::HistorySummerTime) + ')';
-        }
-        if (session.LastError) {
-            text += (text.empty() ? "" : "; ") + KeyOf(*session.LastError);
-            if (session.LastErrorBeforeEnd)
-                text += ", " + ClockText(session.LastErrorBeforeEnd) + ' ' + Say(TextId::HistoryBeforeEnd);
-        }
-        return text;
+                SessionRemarks(session, entries_, keys_, language_)};
     }
 
     static const Record Names;

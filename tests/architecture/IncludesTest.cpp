@@ -14,10 +14,10 @@
 namespace {
 
 // In order of dependency: a folder includes files of its own and of folders before it.
-constexpr std::array<std::string_view, 15> Folders{"base",     "logbook", "settings",  "filter",  "rows",
-                                                   "comments", "sources", "eventinfo", "history", "document",
-                                                   "helpbook", "list",    "dialogs",   "app",     "cli"};
-constexpr std::array<std::string_view, 3> FoldersWithQt{"list", "dialogs", "app"};
+constexpr std::array<std::string_view, 16> Folders{
+    "base",    "logbook",  "settings", "filter", "rows",    "comments", "sources", "eventinfo",
+    "history", "document", "helpbook", "list",   "dialogs", "overview", "app",     "cli"};
+constexpr std::array<std::string_view, 4> FoldersWithQt{"list", "dialogs", "overview", "app"};
 
 template <typename Table>
 bool Contains(const Table& table, std::string_view name) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "history/Occurrences.h"
+#include "overview/Occurrences.h"
 
 #include "rows/NextRow.h"
 
