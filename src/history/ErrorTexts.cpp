@@ -2,7 +2,7 @@
 #include "history/ErrorTexts.h"
 
 #include "eventinfo/iZEKEventInfo.h"
-#include "rows/ContentText.h"
+#include "logbook/JoinedLines.h"
 
 ErrorTexts TextsOf(const ErrorRecord& record, const EntryTable& entries, const std::string& languageFolder) {
     if (record.Form != ErrorKeys::Form::Code)

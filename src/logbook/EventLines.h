@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/JoinedLines.h"
 #include "logbook/KnownHeaders.h"
 #include "logbook/ParsedEntry.h"
 #include "logbook/clsFile.h"
@@ -11,9 +12,6 @@
 // The column rules that the generations of the logbook share: an event's first line begins with a keyword and
 // ends with the time stamp, and message lines may follow it. Columns count from 1. These functions throw
 // RunTimeError for a line that is too short for its rules.
-
-// Stands between the joined lines of an event.
-inline constexpr std::string_view LineSeparator = " | ";
 
 // The sender and name of an event stand in columns 10 to 32; the first blank separates them. Either may be
 // "".

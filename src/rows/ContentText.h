@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "logbook/JoinedLines.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
-
-// The lines of a cell, separated by CR LF. In the list they stand on one line, separated by " | ".
-std::string WithLineBreaks(std::string_view cell);
 
 // The most bytes of one text to show at once: laying out more would take as long as reading a logbook.
 inline constexpr std::size_t MostShownText = 500'000;

@@ -289,7 +289,6 @@ enum class TextId : std::uint16_t {
     OverviewWorking,
     OverviewClockSetBack,
     OverviewFirstMarks,
-    SelectionLine,
     SelectionNone,
     SelectionRow,
     SelectionRows,

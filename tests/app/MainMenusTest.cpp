@@ -46,6 +46,7 @@ class MainMenusTest : public MainWindowTest {
                                      "mnnuExtrasSep2",
                                      "mnuExtrasDialogLanguage",
                                      "mnuAnalysis",
+                                     "mnuAnalysisOverview",
                                      "mnuAnalysisGoToTime",
                                      "mnuAnalysisNextError",
                                      "mnuAnalysisPrevError",

@@ -89,14 +89,14 @@ const std::set<std::string> QuestionButtons{"Yes", "No", "Ja", "Nein"};
 // A text that is new is looked for on the pages until it stands here.
 bool MustBeExplained(const TextRow& row) {
     using enum TextId;
-    static constexpr auto NamesOfControls = {lvLogbook,   pbTagViewer, txContent,
-                                             ProgressBar, HelpHits,    HelpPage};
+    static constexpr auto NamesOfControls = {lvLogbook, pbTagViewer, txContent,        ProgressBar,
+                                             HelpHits,  HelpPage,    OverviewErrorText};
     static constexpr auto TitlesAndKindsOfFiles = {
-        GoToTimeTitle,        OpenTitle,           OpenFilter,          SaveArchiveFilter,
-        LogbookSettingsTitle, ExportFiltersTitle,  ExportFiltersFilter, ImportFiltersTitle,
-        ImportFiltersFilter,  FilterSettingsTitle, StringSettingsTitle, FilterStringTitle,
-        EventEntryTitle,      SearchTitle,         HelpTitle,           AboutTitle,
-        LanguageTitle};
+        GoToTimeTitle,      OverviewTitle,        OpenTitle,           OpenFilter,
+        SaveArchiveFilter,  LogbookSettingsTitle, ExportFiltersTitle,  ExportFiltersFilter,
+        ImportFiltersTitle, ImportFiltersFilter,  FilterSettingsTitle, StringSettingsTitle,
+        FilterStringTitle,  EventEntryTitle,      SearchTitle,         HelpTitle,
+        AboutTitle,         LanguageTitle};
     static constexpr auto Labels = {
         GoToTimeField,      GoToTimeDays,    GoToTimeDay,      lvFilter,         lvFilterStrings,
         StringColumnString, lbEvent,         lbIdent,          lbTime,           lbIndex,
