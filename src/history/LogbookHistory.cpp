@@ -56,9 +56,7 @@ void LogbookHistory::GoOn() {
         taken_ += EntriesAtOnce;
         if (errorsRun_->Go(EntriesAtOnce))
             return;
-        for (ErrorRecord& record : errorsRun_->Take())
-            errors_.push_back({.Record = std::move(record), .English = {}, .German = {}});
-        errorsRun_.reset();
+        TakeErrors();
         return goTo(Phase::Texts);
     case Phase::Texts:
         if (taken_ < errors_.size()) {
@@ -72,6 +70,14 @@ void LogbookHistory::GoOn() {
     case Phase::Done:
         return;
     }
+}
+
+void LogbookHistory::TakeErrors() {
+    std::vector<ErrorRecord> records = errorsRun_->Take();
+    errorsRun_.reset();
+    errors_.reserve(records.size());
+    for (ErrorRecord& record : records)
+        errors_.push_back({.Record = std::move(record), .English = {}, .German = {}});
 }
 
 double LogbookHistory::Percent() const {

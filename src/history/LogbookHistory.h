@@ -50,6 +50,7 @@ class LogbookHistory {
     enum class Phase { Sessions, Strip, Errors, Texts, Done };
 
     void GoOn();
+    void TakeErrors();
 
     const Logbook& logbook_;
     std::string languageFolder_;

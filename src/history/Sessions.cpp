@@ -10,6 +10,7 @@ SessionsRun::SessionsRun(const EntryTable& entries, std::span<const LogbookStart
     : entries_(entries), stamps_(entries) {
     const EntryNumber count = entries.HasEvents() ? entries.Count() : 0;
     const EntryNumber firstStart = starts.empty() ? count : std::min(starts.front().Entry, count);
+    sessions_.reserve(starts.size() + 1);
     if (firstStart > 0)
         sessions_.push_back({.First = 0, .End = firstStart});
     for (std::size_t i = 0; i < starts.size(); ++i)

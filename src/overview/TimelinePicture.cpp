@@ -48,10 +48,8 @@ class Picture {
           palette_(palette),
           isDark_(palette.color(QPalette::Base).lightness() < 128) {}
 
-    void Paint() {
-        painter_.save();
+    void PaintStrip() {
         painter_.setClipRect(QRect(lanes_.StripLeft, 0, lanes_.StripWidth, lanes_.Height()));
-        PaintSpan(content_.Selected, QPalette::Highlight, 90);
         PaintSessions();
         PaintBars(TimelineLane::Errors, history_.Strip().Errors(), ErrorColour);
         PaintBars(TimelineLane::Warnings, history_.Strip().Warnings(), WarningColour);
@@ -59,9 +57,13 @@ class Picture {
         PaintMarks(TimelineLane::Highlighted, content_.Highlighted, HighlightColour);
         PaintClock();
         PaintBreaks();
+    }
+
+    void PaintOnStrip() {
+        painter_.setClipRect(QRect(lanes_.StripLeft, 0, lanes_.StripWidth, lanes_.Height()));
+        PaintSpan(content_.Selected, QPalette::Highlight, 90);
         PaintFrame();
         PaintCursor();
-        painter_.restore();
     }
 
   private:
@@ -219,6 +221,10 @@ class Picture {
     bool isDark_;
 };
 
+bool HasStrip(const TimelineContent& content) {
+    return content.History != nullptr && content.History->Strip().Errors().End() > 0;
+}
+
 } // namespace
 
 TimelineLanes LanesOf(const QFontMetrics& letters, int width, Language language) {
@@ -244,6 +250,15 @@ void PaintTimeline(QPainter& painter, const TimelineContent& content, const Time
         painter.drawText(
             QRect(Gap, lanes.Rects[lane].top(), lanes.StripLeft - 2 * Gap, lanes.Rects[lane].height()),
             Qt::AlignLeft | Qt::AlignVCenter, QtText(Lanes[lane].Name, language));
-    if (content.History != nullptr && content.History->Strip().Errors().End() > 0)
-        Picture(painter, content, scale, lanes, palette).Paint();
+    if (HasStrip(content))
+        Picture(painter, content, scale, lanes, palette).PaintStrip();
+}
+
+void PaintOnTimeline(QPainter& painter, const TimelineContent& content, const TimelineScale& scale,
+                     const TimelineLanes& lanes, const QPalette& palette) {
+    if (!HasStrip(content))
+        return;
+    painter.save();
+    Picture(painter, content, scale, lanes, palette).PaintOnStrip();
+    painter.restore();
 }

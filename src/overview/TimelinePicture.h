@@ -53,7 +53,11 @@ TimelineLanes LanesOf(const QFontMetrics& letters, int width, Language language)
 // Each bar of errors, warnings and marks is so wide.
 inline constexpr int TimelineBar = 3; // pixels
 
-// Paints the piece that the scale shows. Every lane has its own place and name, so nothing is told by colour
-// alone. Costs some looks at entries a bar, whatever the length of the logbook.
+// Paints the piece that the scale shows, without what follows. Every lane has its own place and name, so
+// nothing is told by colour alone. Costs some looks at entries a bar, whatever the length of the logbook.
 void PaintTimeline(QPainter& painter, const TimelineContent& content, const TimelineScale& scale,
                    const TimelineLanes& lanes, const QPalette& palette, Language language);
+
+// Paints on it what the list shows, the selected span and the cursor, which change often.
+void PaintOnTimeline(QPainter& painter, const TimelineContent& content, const TimelineScale& scale,
+                     const TimelineLanes& lanes, const QPalette& palette);

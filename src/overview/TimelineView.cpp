@@ -36,7 +36,6 @@ TimelineView::TimelineView(QWidget* parent) : QWidget(parent) {
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setAttribute(Qt::WA_OpaquePaintEvent, false);
 }
 
 bool TimelineView::HasStrip() const {
@@ -59,7 +58,7 @@ void TimelineView::ShowHistory(const LogbookHistory* history, EntrySet commented
 void TimelineView::ShowMarks(EntrySet commented, EntrySet highlighted) {
     content_.Commented = std::move(commented);
     content_.Highlighted = std::move(highlighted);
-    update();
+    PaintAnew();
 }
 
 void TimelineView::ShowList(const std::optional<TimelineSpan>& rows,
@@ -81,6 +80,11 @@ void TimelineView::MakeLanes() {
     lanes_ = LanesOf(fontMetrics(), width(), language_);
     scale_.SetWidth(lanes_.StripWidth);
     updateGeometry();
+    PaintAnew();
+}
+
+void TimelineView::PaintAnew() {
+    picture_ = QPixmap();
     update();
 }
 
@@ -88,7 +92,7 @@ void TimelineView::MakeLanes() {
 void TimelineView::Seen() {
     setAccessibleDescription(SeenText());
     emit SeenChanged();
-    update();
+    PaintAnew();
 }
 
 QString TimelineView::SeenText() const {
@@ -147,8 +151,17 @@ QString TimelineView::TextAt(const QPoint& position) const {
 }
 
 void TimelineView::paintEvent(QPaintEvent*) {
+    if (picture_.isNull()) {
+        picture_ = QPixmap(size() * devicePixelRatioF());
+        picture_.setDevicePixelRatio(devicePixelRatioF());
+        picture_.fill(palette().color(QPalette::Base));
+        QPainter painter(&picture_);
+        painter.setFont(font());
+        PaintTimeline(painter, content_, scale_, lanes_, palette(), language_);
+    }
     QPainter painter(this);
-    PaintTimeline(painter, content_, scale_, lanes_, palette(), language_);
+    painter.drawPixmap(0, 0, picture_);
+    PaintOnTimeline(painter, content_, scale_, lanes_, palette());
     if (!hasFocus())
         return;
     QStyleOptionFocusRect focus;
@@ -164,7 +177,8 @@ void TimelineView::resizeEvent(QResizeEvent* event) {
 
 void TimelineView::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange ||
+        event->type() == QEvent::PaletteChange)
         MakeLanes();
 }
 

@@ -3,6 +3,7 @@
 
 #include "overview/TimelinePicture.h"
 
+#include <QPixmap>
 #include <QWidget>
 
 #include <optional>
@@ -64,6 +65,7 @@ class TimelineView : public QWidget {
 
   private:
     bool HasStrip() const;
+    void PaintAnew();
     void MakeLanes();
     void Seen();
     int PixelOn(const QPointF& position) const;
@@ -81,6 +83,7 @@ class TimelineView : public QWidget {
     TimelineContent content_;
     TimelineScale scale_;
     TimelineLanes lanes_;
+    QPixmap picture_;                              // of what does not follow the list; null = to be painted
     std::optional<int> dragged_;                   // the pixel that a drag has reached
     std::optional<Timeline::Place> selectedSince_; // where the selecting of a span began
 };

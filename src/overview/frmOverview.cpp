@@ -10,6 +10,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -38,7 +39,7 @@ frmOverview::frmOverview(QWidget* parent)
       cmdZoomIn(MakeButton("cmdZoomIn")),
       cmdZoomOut(MakeButton("cmdZoomOut")),
       cmdWhole(MakeButton("cmdWhole")),
-      lblSelection(new QLabel(this)),
+      tbSelection(new QLineEdit(this)),
       lblState(new QLabel(this)),
       pbHistory(new QProgressBar(this)),
       tabTables(new QTabWidget(this)),
@@ -77,7 +78,7 @@ frmOverview::frmOverview(QWidget* parent)
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(pbTimeline);
     layout->addLayout(seen);
-    layout->addWidget(lblSelection);
+    layout->addWidget(tbSelection);
     layout->addLayout(state);
     layout->addWidget(tabTables, 1);
     layout->addLayout(orders);
@@ -93,11 +94,13 @@ QPushButton* frmOverview::MakeButton(const char* name) {
 
 void frmOverview::MakeTimeline() {
     lblSeen->setObjectName("lblSeen");
-    lblSelection->setObjectName("lblSelection");
-    // Reached by keys, so that it can be read and copied.
-    lblSelection->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    lblSelection->setFocusPolicy(Qt::StrongFocus);
-    lblSelection->setWordWrap(true);
+    // A field, which can be reached by keys, read and copied, and needs no more room for a longer text.
+    tbSelection->setObjectName("tbSelection");
+    tbSelection->setReadOnly(true);
+    tbSelection->setFrame(false);
+    QPalette plain = tbSelection->palette();
+    plain.setBrush(QPalette::Base, Qt::transparent);
+    tbSelection->setPalette(plain);
     lblState->setObjectName("lblState");
     pbHistory->setObjectName("pbHistory");
     connect(pbTimeline, &TimelineView::EntryWanted, this, &frmOverview::EntryWanted);
@@ -175,6 +178,7 @@ void frmOverview::SetLanguage(Language language) {
     lvErrors->setAccessibleName(text(TextId::OverviewErrors));
     lvMarks->setAccessibleName(text(TextId::OverviewMarks));
     txErrorText->setAccessibleName(text(TextId::OverviewErrorText));
+    tbSelection->setAccessibleName(text(TextId::SelectionLine));
     pbHistory->setAccessibleName(text(TextId::ProgressBar));
     cmdZoomIn->setText(text(TextId::OverviewZoomIn));
     cmdZoomOut->setText(text(TextId::OverviewZoomOut));
@@ -203,7 +207,7 @@ void frmOverview::ShowNothing() {
     sessions_->ShowHistory(nullptr, nullptr);
     errors_->ShowHistory(nullptr);
     marks_->ShowMarks(nullptr, EntrySet(), EntrySet());
-    lblSelection->clear();
+    tbSelection->clear();
     lblMissing->clear();
     lblMarks->clear();
     lblState->setText(QtText(TextId::OverviewNoLogbook, language_));
@@ -250,7 +254,11 @@ void frmOverview::ShowList(const std::optional<TimelineSpan>& rows,
     pbTimeline->ShowList(rows, selected);
 }
 
-void frmOverview::ShowSelection(const std::string& text) { lblSelection->setText(ToQString(text)); }
+void frmOverview::ShowSelection(const std::string& text) {
+    tbSelection->setText(ToQString(text));
+    tbSelection->setCursorPosition(0);
+    tbSelection->setToolTip(tbSelection->text());
+}
 
 HistoryTable* frmOverview::ShownTable() const {
     HistoryTable* const tables[] = {lvSessions, lvErrors, lvMarks};

@@ -14,6 +14,7 @@ class ErrorModel;
 class HistoryTable;
 class MarkModel;
 class QLabel;
+class QLineEdit;
 class QMenu;
 class QPlainTextEdit;
 class QProgressBar;
@@ -93,7 +94,7 @@ class frmOverview : public QWidget {
     QPushButton* cmdZoomIn;
     QPushButton* cmdZoomOut;
     QPushButton* cmdWhole;
-    QLabel* lblSelection;
+    QLineEdit* tbSelection;
     QLabel* lblState;
     QProgressBar* pbHistory;
     QTabWidget* tabTables;

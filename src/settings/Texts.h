@@ -289,6 +289,7 @@ enum class TextId : std::uint16_t {
     OverviewWorking,
     OverviewClockSetBack,
     OverviewFirstMarks,
+    SelectionLine,
     SelectionNone,
     SelectionRow,
     SelectionRows,

@@ -289,7 +289,7 @@ class MainWindowOverviewTest : public MainWindowTest {
     }
     HistoryTable* Table(const char* name) const { return Part<HistoryTable>(name); }
     TimelineView* Timeline() const { return Part<TimelineView>("pbTimeline"); }
-    QString SelectionText() const { return Part<QLabel>("lblSelection")->text(); }
+    QString SelectionText() const { return Part<QLineEdit>("tbSelection")->text(); }
     void ShowErrors() const { Part<QTabWidget>("tabTables")->setCurrentIndex(1); }
 
     static QStringList RowOf(const HistoryTable* table, int row) {

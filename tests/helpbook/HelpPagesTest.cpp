@@ -89,8 +89,8 @@ const std::set<std::string> QuestionButtons{"Yes", "No", "Ja", "Nein"};
 // A text that is new is looked for on the pages until it stands here.
 bool MustBeExplained(const TextRow& row) {
     using enum TextId;
-    static constexpr auto NamesOfControls = {lvLogbook, pbTagViewer, txContent,        ProgressBar,
-                                             HelpHits,  HelpPage,    OverviewErrorText};
+    static constexpr auto NamesOfControls = {lvLogbook, pbTagViewer, txContent,         ProgressBar,
+                                             HelpHits,  HelpPage,    OverviewErrorText, SelectionLine};
     static constexpr auto TitlesAndKindsOfFiles = {
         GoToTimeTitle,      OverviewTitle,        OpenTitle,           OpenFilter,
         SaveArchiveFilter,  LogbookSettingsTitle, ExportFiltersTitle,  ExportFiltersFilter,
