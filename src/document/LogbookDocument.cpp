@@ -145,9 +145,10 @@ bool LogbookDocument::ExecuteLogbook(std::string& name, const FilesInstead& inst
         return false;
     state_.CurrentArchive = IsArchive(name) ? name : "";
     state_.CurrentArchiveStamp = stamp;
-    filtersCameAlong_ = !instead.Filters.empty()      ? ReplaceFilters(instead.Filters, instead.Filters)
-                        : !source->FilterFile.empty() ? ReplaceFilters(source->FilterFile, source->FilterName)
-                                                      : false;
+    const bool filtersCameAlong = !instead.Filters.empty() ? ReplaceFilters(instead.Filters, instead.Filters)
+                                  : !source->FilterFile.empty()
+                                      ? ReplaceFilters(source->FilterFile, source->FilterName)
+                                      : false;
     name = source->Name;
     state_.CurrentLogbookName = source->LogbookName;
     const bool read =
@@ -155,7 +156,8 @@ bool LogbookDocument::ExecuteLogbook(std::string& name, const FilesInstead& inst
             ? ReadAndShowLogbook(source->LogbookFile, source->CommentsFile, source->CommentsName)
             : ReadAndShowLogbook(source->LogbookFile, instead.Comments, instead.Comments);
     state_.CurrentLogbookFile = read ? source->LogbookFile : "";
-    if (filtersCameAlong_)
+    // They belong to it.
+    if (filtersCameAlong)
         filters_.NumbersAreMadeFor(read ? Identity() : "");
     return read;
 }
@@ -167,7 +169,7 @@ const std::string& LogbookDocument::Identity() {
 }
 
 void LogbookDocument::TellNumbersOfOthers() {
-    if (filtersCameAlong_ || logbook_.LoadState != LoadStates::Done || view_->Progress().StopWanted() ||
+    if (logbook_.LoadState != LoadStates::Done || view_->Progress().StopWanted() ||
         !HideByNumber(filtersInForce_))
         return;
     const std::optional<std::string> madeFor = filters_.NumbersMadeFor();

@@ -130,5 +130,4 @@ class LogbookDocument {
     std::vector<FilterDefinition> filtersInForce_;
     std::optional<std::vector<FilterDefinition>> filtersOfRun_; // that made the rows
     mutable std::optional<HiddenEntries> hiddenByRun_;
-    bool filtersCameAlong_ = false; // with the logbook that is open
 };
