@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 // filter-bench FILE [ROUNDS]: filter runs over a logbook, beside reading it with the bare reader and counting
-// the same text in the file with ripgrep (rg, which must be installed). Median times, all measured in turn.
+// the same text in the file with ripgrep (rg, which must be installed), and beside counting what each run
+// hides. Median times, all measured in turn.
 #include "bench/BareReader.h"
 #include "bench/BenchTools.h"
 #include "filter/Filter.h"
+#include "filter/HiddenEntries.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -18,6 +20,7 @@ struct Measured {
     const char* Name;
     Filters List;
     std::vector<double> Times;
+    std::vector<double> Counting = {}; // what is hidden
     std::size_t Rows = 0;
 };
 
@@ -81,6 +84,10 @@ int main(int argc, char** argv) {
         for (Measured& run : runs) {
             run.Times.push_back(Seconds([&] { ApplyFilters(logbook.Entries, run.List, rows); }));
             run.Rows = rows.size();
+            HiddenEntries hidden;
+            run.Counting.push_back(Seconds([&] { hidden = CountHidden(logbook.Entries, run.List); }));
+            if (hidden.Sum() + rows.size() != logbook.Entries.Count())
+                std::fprintf(stderr, "the counts do not add up\n");
         }
         ripgrep.push_back(CountWithRipgrep(text, path));
         bare.push_back(Seconds([&] {
@@ -91,8 +98,10 @@ int main(int argc, char** argv) {
     std::printf("%lld entries; bare reader %.3f s, rg of one text %.3f s\n", static_cast<long long>(entries),
                 Median(bare), Median(ripgrep));
     for (const Measured& run : runs)
-        std::printf("%-30s %.3f s, %zu rows; to bare %.2f, to rg %.2f, to default %.2f, to one text %.2f\n",
+        std::printf("%-30s %.3f s, %zu rows; to bare %.2f, to rg %.2f, to default %.2f, to one text %.2f; "
+                    "counting %.3f s, to the run %.2f\n",
                     run.Name, Median(run.Times), run.Rows, Median(run.Times) / Median(bare),
                     Median(run.Times) / Median(ripgrep), Median(run.Times) / Median(runs[0].Times),
-                    Median(run.Times) / Median(runs[1].Times));
+                    Median(run.Times) / Median(runs[1].Times), Median(run.Counting),
+                    Median(run.Counting) / Median(run.Times));
 }

@@ -36,7 +36,7 @@ FilterOrders::FilterOrders(LogbookView& list, Registry& registry, MainMenus& men
       menus_(menus),
       user_(user),
       events_(std::move(events)),
-      history_(registry) {}
+      history_(registry, events_.StoredFiltersChanged) {}
 
 void FilterOrders::SetLanguage(Language language) {
     language_ = language;

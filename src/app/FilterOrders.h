@@ -18,8 +18,9 @@ class UserInterface;
 class FilterOrders {
   public:
     struct Events {
-        std::function<void()> FiltersChanged; // the list must be filtered anew
-        std::function<void()> RowsRemoved;    // the list shows it already
+        std::function<void()> FiltersChanged;        // the list must be filtered anew
+        std::function<void()> RowsRemoved;           // the list shows it already
+        FilterHistory::Changed StoredFiltersChanged; // before the two others
     };
 
     // All must outlive this object.

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainStatusBar.h"
 
-#include "dialogs/ElidedLabel.h"
+#include "app/CountsLabel.h"
 #include "list/QtText.h"
 #include "list/Twips.h"
 
 #include <QLabel>
 #include <QLayout>
 #include <QProgressBar>
+
+#include <utility>
 
 namespace {
 constexpr int LeastTextWidth = 1500; // twips
@@ -19,7 +21,7 @@ constexpr int ProgressTop = 25;      // twips below the top of the status bar
 MainStatusBar::MainStatusBar(QWidget* window)
     : QStatusBar(window),
       statusText_(new ElidedLabel(1, this)),
-      statusCounts_(new ElidedLabel(1, this)),
+      statusCounts_(new CountsLabel(this)),
       statusProgress_(new QLabel(this)),
       ProgressBar(new QProgressBar(window)) {
     setObjectName("sbStatusBar");
@@ -66,8 +68,13 @@ void MainStatusBar::ShowLogbookStatus(std::int64_t shown, std::int64_t total, La
                                .arg(QtText(TextId::CountSeparator, language))
                                .arg(total)
                                .arg(QtText(TextId::CountUnit, language)));
+    statusCounts_->ExplanationChanged();
 }
 
 void MainStatusBar::ClearCounts() { statusCounts_->clear(); }
+
+void MainStatusBar::ExplainCounts(std::function<QString()> explanation) {
+    statusCounts_->SetExplanation(std::move(explanation));
+}
 
 bool MainStatusBar::HasCounts() const { return !statusCounts_->text().isEmpty(); }

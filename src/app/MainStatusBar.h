@@ -6,7 +6,9 @@
 #include <QStatusBar>
 
 #include <cstdint>
+#include <functional>
 
+class CountsLabel;
 class QLabel;
 class QProgressBar;
 
@@ -33,11 +35,14 @@ class MainStatusBar : public QStatusBar {
     // "shown / total Items" in the second panel; ClearCounts empties it.
     void ShowLogbookStatus(std::int64_t shown, std::int64_t total, Language language);
     void ClearCounts();
+
+    // Says on demand why entries are not shown: the tool tip of the counts.
+    void ExplainCounts(std::function<QString()> explanation);
     bool HasCounts() const;
 
   private:
     QLabel* statusText_;
-    QLabel* statusCounts_;
+    CountsLabel* statusCounts_;
     QLabel* statusProgress_;
     QProgressBar* ProgressBar;
 };

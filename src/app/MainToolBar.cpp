@@ -18,10 +18,12 @@ struct ButtonRow {
     AppIcon Icon;
 };
 
+constexpr const char* FilterKey = "Filter";
+
 constexpr std::array<ButtonRow, 4> Buttons{{
     {"Öffnen", TextId::mnuFileOpen, Command::Open, AppIcon::Open},
     {"ZipLogbook", TextId::mnuFileZipLogbook, Command::ZipLogbook, AppIcon::SaveArchive},
-    {"Filter", TextId::mnuExtrasFilters, Command::Filters, AppIcon::Filter},
+    {FilterKey, TextId::mnuExtrasFilters, Command::Filters, AppIcon::Filter},
     {"Refresh", TextId::ToolBarRefresh, Command::Refresh, AppIcon::Refresh},
 }};
 
@@ -49,6 +51,17 @@ void MainToolBar::LoadLanguage(Language language) {
         button->setToolTip(button->text());
         widgetForAction(button)->setAccessibleName(button->text());
     }
+    language_ = language;
+    ShowOtherFilters(otherFilters_);
+}
+
+void MainToolBar::ShowOtherFilters(bool areInForce) {
+    QAction* const button = findChild<QAction*>(FilterKey);
+    if (areInForce != otherFilters_)
+        button->setIcon(MakeAppIcon(areInForce ? AppIcon::FilterInForce : AppIcon::Filter));
+    otherFilters_ = areInForce;
+    widgetForAction(button)->setAccessibleDescription(areInForce ? QtText(TextId::OtherFilters, language_)
+                                                                 : QString());
 }
 
 void MainToolBar::SetEnabled(Command command, bool enabled) {

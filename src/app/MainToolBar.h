@@ -21,9 +21,17 @@ class MainToolBar : public QToolBar {
     // A button stands for a command of the menus and is enabled with it.
     void SetEnabled(Command command, bool enabled);
 
+    // Whether filters other than "All entries" are in force: the filter button then looks filled, and a
+    // screen reader says so.
+    void ShowOtherFilters(bool areInForce);
+
     // The command of the button with this key; nothing for any other text.
     static std::optional<Command> CommandOf(const QString& key);
 
   signals:
     void ButtonClick(const QString& key);
+
+  private:
+    Language language_;
+    bool otherFilters_ = false;
 };

@@ -32,6 +32,8 @@ class WindowDocument : public DocumentView {
         std::function<void(std::string_view name)> LogbookIsOpen;
         std::function<void(std::error_code)> CommentsAreSafe;
         std::function<void()> SelectedContentChanged;
+        std::function<void()> FiltersInForceChanged;
+        std::function<void(const NumbersOfOthers&)> NumbersOfOthersHide;
     };
 
     // Shows the document from now on. Document and parts outlive this.
@@ -53,6 +55,10 @@ class WindowDocument : public DocumentView {
     void CommentsFailed(const std::string& name, const CommentsFileResult& result) override;
     void FilteringFailed() override;
     void ReadingFailed(std::int16_t loadState) override;
+    void FiltersInForceChanged() override { events_.FiltersInForceChanged(); }
+    void NumbersOfOthersHide(const NumbersOfOthers& numbers) override {
+        events_.NumbersOfOthersHide(numbers);
+    }
     void ShowCounts() override;
     void ChangeRows(const std::function<void()>& change) override;
     std::optional<EntryNumber> SelectedEntry() const override;

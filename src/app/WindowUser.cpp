@@ -63,6 +63,8 @@ UserInterface::Answer WindowUser::Ask(TextId question) {
 }
 
 void WindowUser::ShowStatus(TextId status) {
+    if (statusFollows_)
+        statusFollows_();
     savedStatusText_ = statusText_->text().toStdString();
     statusText_->setText(QtText(status, language_));
     statusText_->repaint();

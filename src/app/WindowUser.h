@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <utility>
 
 class QLabel;
@@ -19,6 +20,9 @@ class WindowUser : public UserInterface {
         : window_(window), statusText_(statusText), title_(std::move(title)) {}
 
     void SetLanguage(Language language) { language_ = language; }
+
+    // Is told before each status is shown in place of the text that stands there.
+    void SetStatusFollows(std::function<void()> follows) { statusFollows_ = std::move(follows); }
 
     void ShowMessage(std::string_view text, MessageIcon icon) override;
     void ShowMessage(std::string_view text, const QString& title, MessageIcon icon);
@@ -37,4 +41,5 @@ class WindowUser : public UserInterface {
     QString title_;
     Language language_;
     std::string savedStatusText_;
+    std::function<void()> statusFollows_;
 };

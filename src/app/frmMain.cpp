@@ -15,6 +15,8 @@
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmLanguageDialog.h"
 #include "dialogs/frmLogbookSettings.h"
+#include "filter/FilterStorage.h"
+#include "filter/FiltersInForce.h"
 #include "helpbook/HelpFile.h"
 #include "list/LogbookModel.h"
 #include "list/LogbookView.h"
@@ -64,7 +66,13 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
                       filterOrders_.Clear();
                   },
               .CommentsAreSafe = [this](std::error_code error) { ShowNotNoted(error); },
-              .SelectedContentChanged = [this] { ShowSelectedContent(); }}),
+              .SelectedContentChanged = [this] { ShowSelectedContent(); },
+              .FiltersInForceChanged = [this] { ShowFiltersInForce(); },
+              .NumbersOfOthersHide =
+                  [this](const NumbersOfOthers& numbers) {
+                      numbersOfOthers_ = numbers;
+                      ShowStandingMessage();
+                  }}),
       tmExtrasFilters(new QTimer(this)),
       search_(new WindowSearch(*lvLogbook, document.Entries(), user_, *this)),
       listOrders_(*lvLogbook, document.Entries(), *search_),
@@ -75,6 +83,10 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
                              ShowSelectedContent();
                              if (sbStatusBar->HasCounts())
                                  shown_.ShowCounts();
+                         },
+                     .StoredFiltersChanged =
+                         [this](const auto& before, const auto& after) {
+                             document_.FiltersAreChanged(before, after);
                          }}),
       overview_(nullptr),
       help_(this, HelpReader(ProgramFolder())) {
@@ -88,6 +100,11 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
     setCentralWidget(area_);
     connect(area_, &MainArea::LayoutChanged, sbStatusBar, &MainStatusBar::HideProgressBar);
     setStatusBar(sbStatusBar);
+    sbStatusBar->ExplainCounts([this] { return WhyHidden(); });
+    user_.SetStatusFollows([this] {
+        if (std::exchange(numbersOfOthers_, std::nullopt))
+            ShowStandingMessage();
+    });
     MakeList();
     connect(new HelpBesideDialogs(this), &HelpBesideDialogs::HelpWanted, this,
             [this] { Run(Command::HelpContents); });
@@ -105,6 +122,7 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
     LoadColumnWidths(registry_, *lvLogbook->horizontalHeader());
     LoadLanguage();
     placement_.Load(registry_, *this);
+    ShowFiltersInForce();
     ShowStandingMessage();
     lvLogbook->setFocus();
 }
@@ -325,25 +343,41 @@ void frmMain::ShowNotNoted(std::error_code error) {
     ShowStandingMessage();
 }
 
-// What stands in the status bar while nothing is done: a warning of comments at risk comes first.
+// What stands in the status bar while nothing is done. A warning of comments at risk comes first, then what
+// is told only once.
 void frmMain::ShowStandingMessage() {
     const std::string mistake = FacilityFileMessage(lookupMistake_, language_);
     std::string message(Text(TextId::StatusReady, language_));
     if (notNoted_)
         message = std::string(Text(TextId::CommentNotNoted, language_)) + ReasonText(notNoted_, language_);
+    else if (numbersOfOthers_)
+        message = NumbersOfOthersText(*numbersOfOthers_, language_);
     else if (!mistake.empty())
         message = mistake;
     sbStatusBar->StatusText()->setText(ToQString(message));
 }
 
+void frmMain::ShowFiltersInForce() { tbToolBar->ShowOtherFilters(!IsAllEntries(document_.FiltersInForce())); }
+
+QString frmMain::WhyHidden() const {
+    const std::optional<HiddenEntries> hidden = document_.Hidden();
+    return hidden ? ToQString(HiddenText(*hidden, language_)) : QString();
+}
+
 void frmMain::EditFilters() {
-    frmLogbookSettings dialog(
-        {registry_, document_.FileCodePage(), language_, filterTypeLabels_,
-         NamesInLogbook(document_.Entries().Kinds())},
-        [this] { ApplyFilter(); }, this);
+    std::vector<FilterDefinition> edited = LoadFilterList(registry_).Filters;
+    const auto apply = [&] {
+        std::vector<FilterDefinition> stored = LoadFilterList(registry_).Filters;
+        document_.FiltersAreChanged(edited, stored);
+        edited = std::move(stored);
+        ApplyFilter();
+    };
+    frmLogbookSettings dialog({registry_, document_.FileCodePage(), language_, filterTypeLabels_,
+                               NamesInLogbook(document_.Entries().Kinds())},
+                              apply, this);
     dialog.exec();
     if (dialog.ResultText() == "OK")
-        ApplyFilter();
+        apply();
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

@@ -11,6 +11,7 @@
 #include "app/WindowProgress.h"
 #include "app/WindowUser.h"
 #include "dialogs/HTMLHelp.h"
+#include "document/NumbersOfOthers.h"
 #include "eventinfo/FacilityFile.h"
 #include "filter/FilterDefinition.h"
 #include "settings/Registry.h"
@@ -18,6 +19,7 @@
 
 #include <QMainWindow>
 
+#include <optional>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -77,6 +79,8 @@ class frmMain : public QMainWindow {
     void ShowLookupMistake(const FacilityFileMistake& mistake);
     void ShowNotNoted(std::error_code error);
     void ShowStandingMessage();
+    void ShowFiltersInForce();
+    QString WhyHidden() const;
     void EditFilters();
     void ShowSelectedContent();
     void ShowNoHelp();
@@ -87,8 +91,9 @@ class frmMain : public QMainWindow {
     FilterTypeLabels filterTypeLabels_;
     QtCatalogue qtCatalogue_;
     QString BaseCaption;
-    FacilityFileMistake lookupMistake_; // these two stand in the status bar
+    FacilityFileMistake lookupMistake_; // these stand in the status bar
     std::error_code notNoted_;
+    std::optional<NumbersOfOthers> numbersOfOthers_; // until the next status
     WindowPlacement placement_;
     bool ViewContents;
     bool Activated = false;

@@ -89,10 +89,15 @@ bool ElidedLabel::event(QEvent* event) {
     const QString plain = PlainText();
     const bool whole = mostLines_ == 1 ? ShownLines(width()).join("") == plain
                                        : LinesOf(plain, contentsRect().width()).size() <= mostLines_;
-    if (whole)
+    QStringList said;
+    if (!whole)
+        said << text();
+    if (const QString explanation = Explanation(); !explanation.isEmpty())
+        said << explanation;
+    if (said.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), ToolTipOf(text()), this);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), ToolTipOf(said.join('\n')), this);
     return true;
 }
 

@@ -22,6 +22,9 @@ class ElidedLabel : public QLabel {
     bool hasHeightForWidth() const override { return mostLines_ > 1; }
     int heightForWidth(int width) const override;
 
+    // What the tool tip says besides, below the text if that does not fit.
+    virtual QString Explanation() const { return {}; }
+
   protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

@@ -2,8 +2,13 @@
 #include "document/ActiveFilters.h"
 
 #include "filter/FilterStorage.h"
+#include "settings/Registry.h"
 
 #include <algorithm>
+
+namespace {
+constexpr std::string_view NumbersLogbookSetting = "NumberFiltersLogbook";
+}
 
 std::vector<FilterDefinition> StoredActiveFilters::Load() const { return LoadFilterList(registry_).Filters; }
 
@@ -17,4 +22,13 @@ bool StoredActiveFilters::Replace(std::vector<FilterDefinition> filters, Languag
     lists.Filters = std::move(filters);
     SaveFilters(registry_, lists, "");
     return true;
+}
+
+std::optional<std::string> StoredActiveFilters::NumbersMadeFor() const {
+    return registry_.ReadLogbookSettingString(NumbersLogbookSetting, "");
+}
+
+void StoredActiveFilters::NumbersAreMadeFor(std::string_view identity) {
+    if (NumbersMadeFor() != identity)
+        registry_.WriteLogbookSetting(NumbersLogbookSetting, std::string(identity), SettingType::Text);
 }

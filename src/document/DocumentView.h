@@ -2,6 +2,7 @@
 #pragma once
 
 #include "comments/Comments.h"
+#include "document/NumbersOfOthers.h"
 #include "logbook/EntryTable.h"
 #include "logbook/ReadingProgress.h"
 #include "settings/Language.h"
@@ -53,6 +54,12 @@ class DocumentView {
 
     // Whether a logbook counts as open if it was read but its rows could not be made.
     virtual bool OpensWithoutRows() const { return false; }
+
+    // Other filters may be in force than before (LogbookDocument::FiltersInForce).
+    virtual void FiltersInForceChanged() {}
+
+    // Told once for a logbook that was opened, last of all.
+    virtual void NumbersOfOthersHide(const NumbersOfOthers&) {}
 
     // Shows how many rows there are, after a read or a filter run.
     virtual void ShowCounts() {}

@@ -3,10 +3,12 @@
 
 #include "base/Paths.h"
 #include "base/ProgramFolder.h"
+#include "comments/LogbookIdentity.h"
 #include "document/ArchiveQuestions.h"
 #include "document/ZipLogbook.h"
 #include "filter/Filter.h"
 #include "filter/FilterFile.h"
+#include "filter/FiltersInForce.h"
 #include "logbook/Mod_FileHandling.h"
 #include "settings/Texts.h"
 #include "sources/CommandLine.h"
@@ -30,7 +32,8 @@ LogbookDocument::LogbookDocument(Surroundings surroundings, CodePage codePage,
       registry_(surroundings.Settings),
       tempFolder_(surroundings.Temp),
       codePage_(std::move(codePage)),
-      journal_(std::move(journalFolder)) {
+      journal_(std::move(journalFolder)),
+      filtersInForce_(filters_.Load()) {
     state_.InitZipArchiveDir =
         registry_.ReadLogbookSettingString(ArchiveFolderSetting, ProgramFolderWithSeparator());
 }
@@ -46,8 +49,10 @@ void LogbookDocument::RunCommandLine(const std::vector<std::string>& arguments) 
         }
     }
     // For the logbook that stays.
-    if (opened)
+    if (opened) {
         OfferLostComments();
+        TellNumbersOfOthers();
+    }
     if (commandLine.ShowUsage && !view_->Progress().StopWanted())
         view_->User().ShowMessage(UsageText(DialogLanguage()), UserInterface::MessageIcon::None);
 }
@@ -62,6 +67,7 @@ bool LogbookDocument::OpenLogbook(std::string name, const FilesInstead& instead)
         return false;
     view_->LogbookIsOpen(name);
     OfferLostComments();
+    TellNumbersOfOthers();
     return true;
 }
 
@@ -139,10 +145,10 @@ bool LogbookDocument::ExecuteLogbook(std::string& name, const FilesInstead& inst
         return false;
     state_.CurrentArchive = IsArchive(name) ? name : "";
     state_.CurrentArchiveStamp = stamp;
-    if (!instead.Filters.empty())
-        ReplaceFilters(instead.Filters, instead.Filters);
-    else if (!source->FilterFile.empty())
-        ReplaceFilters(source->FilterFile, source->FilterName);
+    const bool filtersCameAlong = !instead.Filters.empty() ? ReplaceFilters(instead.Filters, instead.Filters)
+                                  : !source->FilterFile.empty()
+                                      ? ReplaceFilters(source->FilterFile, source->FilterName)
+                                      : false;
     name = source->Name;
     state_.CurrentLogbookName = source->LogbookName;
     const bool read =
@@ -150,20 +156,69 @@ bool LogbookDocument::ExecuteLogbook(std::string& name, const FilesInstead& inst
             ? ReadAndShowLogbook(source->LogbookFile, source->CommentsFile, source->CommentsName)
             : ReadAndShowLogbook(source->LogbookFile, instead.Comments, instead.Comments);
     state_.CurrentLogbookFile = read ? source->LogbookFile : "";
+    // They belong to it.
+    if (filtersCameAlong)
+        filters_.NumbersAreMadeFor(read ? Identity() : "");
     return read;
 }
 
+const std::string& LogbookDocument::Identity() {
+    if (identity_.empty())
+        identity_ = LogbookIdentity(logbook_.Entries);
+    return identity_;
+}
+
+void LogbookDocument::TellNumbersOfOthers() {
+    if (logbook_.LoadState != LoadStates::Done || view_->Progress().StopWanted() ||
+        !HideByNumber(filtersInForce_))
+        return;
+    const std::optional<std::string> madeFor = filters_.NumbersMadeFor();
+    const std::optional<HiddenEntries> hidden = Hidden();
+    if (!madeFor || !hidden)
+        return;
+    const EntryNumber count =
+        hidden->Counts[HiddenEntries::ByNumber] + hidden->Counts[HiddenEntries::NotNumber];
+    const Recognised recognised = Recognise(*madeFor, logbook_.Entries);
+    if (count > 0 && recognised != Recognised::Same)
+        view_->NumbersOfOthersHide({.Hidden = count, .Perhaps = recognised == Recognised::Unknown});
+}
+
+void LogbookDocument::FiltersAreChanged(const std::vector<FilterDefinition>& before,
+                                        const std::vector<FilterDefinition>& after) {
+    // Without a logbook nobody knows what the numbers are meant for.
+    if (!HaveSameNumbers(before, after))
+        filters_.NumbersAreMadeFor(Identity());
+    filtersInForce_ = WithChange(filtersInForce_, before, after);
+    view_->FiltersInForceChanged();
+}
+
+std::optional<HiddenEntries> LogbookDocument::Hidden() const {
+    if (logbook_.Busy || !filtersOfRun_)
+        return std::nullopt;
+    if (!hiddenByRun_)
+        hiddenByRun_ = CountHidden(logbook_.Entries, *filtersOfRun_);
+    HiddenEntries hidden = *hiddenByRun_;
+    const auto shown = static_cast<EntryNumber>(rows_.size());
+    hidden.Counts[HiddenEntries::ByNumber] += logbook_.Entries.Count() - hidden.Sum() - shown;
+    return hidden;
+}
+
 // The filters of a file become the active ones. A damaged file, or one with a filter that could not be kept,
-// is reported, and the active ones stay.
-void LogbookDocument::ReplaceFilters(const std::string& filterFile, const std::string& name) {
+// is reported, and the active ones stay: false.
+bool LogbookDocument::ReplaceFilters(const std::string& filterFile, const std::string& name) {
     FilterFileContent content = ImportFilterFile(filterFile, codePage_);
     std::string message;
     if (content.Result != FilterFileContent::Outcome::Read)
         message = FilterFileMessage(name, content, DialogLanguage());
     else if (!filters_.Replace(std::move(content.Filters), DialogLanguage()))
         message = name + ": " + std::string(Text(TextId::FilterTooLong, DialogLanguage()));
-    if (!message.empty())
+    if (!message.empty()) {
         view_->User().ShowMessage(message, UserInterface::MessageIcon::Exclamation);
+        return false;
+    }
+    filtersInForce_ = filters_.Load();
+    view_->FiltersInForceChanged();
+    return true;
 }
 
 bool LogbookDocument::ReadAndShowLogbook(const std::string& file, const std::string& commentsFile,
@@ -178,6 +233,9 @@ bool LogbookDocument::ReadAndShowLogbook(const std::string& file, const std::str
     std::error_code noFile;
     state_.CurrentFileStamp = StampOf(file, noFile);
     view_->ChangeRows([this] { rows_.clear(); });
+    identity_.clear();
+    filtersOfRun_.reset();
+    hiddenByRun_.reset();
     view_->ReadingBegins();
     CommentsFileResult comments;
     bool filled = true;
@@ -238,9 +296,14 @@ bool LogbookDocument::MakeRows() {
     const std::optional<EntryNumber> selected = view_->SelectedEntry();
     logbook_.LoadState = LoadStates::Filtering;
     LogbookRows rows;
-    const bool filled = ApplyFilters(logbook_.Entries, filters_.Load(), rows,
+    std::vector<FilterDefinition> filters = filters_.Load();
+    const bool filled = ApplyFilters(logbook_.Entries, filters, rows,
                                      [this](double percent) { view_->FilterProgress(percent); });
+    filtersOfRun_ = filters;
+    hiddenByRun_.reset();
+    filtersInForce_ = std::move(filters);
     view_->ChangeRows([&] { rows_ = std::move(rows); });
+    view_->FiltersInForceChanged();
     if (filled) {
         logbook_.LoadState = LoadStates::Done;
         if (selected)

@@ -10,11 +10,13 @@
 #include "document/DocumentView.h"
 #include "document/LogbookState.h"
 #include "document/OpenLogbook.h"
+#include "filter/HiddenEntries.h"
 #include "filter/LogbookRow.h"
 #include "logbook/Logbook.h"
 #include "settings/Registry.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -74,6 +76,21 @@ class LogbookDocument {
     // selected or, if that is gone, the next one.
     void ApplyFilter();
 
+    // The filters that decide what is shown and highlighted: those of the last filter run, and changes that
+    // were made here since. What others change in the stored ones counts only from the next run on. Before
+    // the first run, those that were stored when the document was made.
+    const std::vector<FilterDefinition>& FiltersInForce() const { return filtersInForce_; }
+
+    // Must be told when the person has changed the stored filters here; Replace and a filter run are known.
+    void FiltersAreChanged(const std::vector<FilterDefinition>& before,
+                           const std::vector<FilterDefinition>& after);
+
+    // Why entries are not among the rows; the counts add up to all entries less the rows. Rows that were
+    // taken out since the filter run count as removed by number. Nothing while a logbook is read, or before
+    // its filter run. The first call after a run passes through all entries, which takes less time than the
+    // run.
+    std::optional<HiddenEntries> Hidden() const;
+
     // Sets the comment (UTF-8) of an entry, "" removes it, and notes it.
     void ChangeComment(EntryNumber entry, std::string_view comment);
 
@@ -91,7 +108,9 @@ class LogbookDocument {
 
   private:
     bool ExecuteLogbook(std::string& name, const FilesInstead& instead = {});
-    void ReplaceFilters(const std::string& filterFile, const std::string& name);
+    bool ReplaceFilters(const std::string& filterFile, const std::string& name);
+    const std::string& Identity();
+    void TellNumbersOfOthers();
     CommentsFileResult ReadComments(const std::string& commentsFile);
     bool MakeRows();
     CommentsOutcome AskToSaveComments();
@@ -107,4 +126,8 @@ class LogbookDocument {
     Logbook logbook_;
     LogbookRows rows_;
     LogbookState state_;
+    std::string identity_; // of the logbook that is open; "" = not computed yet
+    std::vector<FilterDefinition> filtersInForce_;
+    std::optional<std::vector<FilterDefinition>> filtersOfRun_; // that made the rows
+    mutable std::optional<HiddenEntries> hiddenByRun_;
 };

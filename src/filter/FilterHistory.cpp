@@ -27,6 +27,8 @@ void FilterHistory::Remember(Act act, std::vector<FilterDefinition> before,
                              std::vector<FilterDefinition> after) {
     if (before == after)
         return;
+    if (changed_)
+        changed_(before, after);
     const bool lostTheOneBefore = done_ < steps_.size() && !steps_[done_].FollowsTheOneBefore;
     steps_.resize(done_);
     const auto [firstBefore, firstAfter] =
@@ -81,6 +83,8 @@ FilterHistory::Outcome FilterHistory::Replace(std::size_t begin, const std::vect
             WriteFilter(registry_, i, filters[i]);
         WriteFilterCount(registry_, filters.size());
     }
+    if (changed_)
+        changed_(now_, filters);
     now_ = std::move(filters);
     return Outcome::Done;
 }

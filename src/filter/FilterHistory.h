@@ -5,7 +5,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 class Registry;
@@ -19,7 +21,12 @@ class FilterHistory {
     enum class Act : std::uint8_t { Remove, ToggleHighlighting, KeepBetween };
     enum class Outcome : std::uint8_t { Done, Nothing, ChangedElsewhere };
 
-    explicit FilterHistory(Registry& registry) : registry_(registry) {}
+    // Is told the stored filters before and after each change that a step made, in either direction.
+    using Changed = std::function<void(const std::vector<FilterDefinition>& before,
+                                       const std::vector<FilterDefinition>& after)>;
+
+    explicit FilterHistory(Registry& registry, Changed changed = {})
+        : registry_(registry), changed_(std::move(changed)) {}
 
     // Forgets all steps.
     void Clear();
@@ -57,6 +64,7 @@ class FilterHistory {
                     const std::vector<FilterDefinition>& replacement);
 
     Registry& registry_;
+    Changed changed_;
     std::vector<Step> steps_;
     std::size_t done_ = 0;              // so many of them are in force
     std::vector<FilterDefinition> now_; // as the last step left it, in either direction

@@ -1,97 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "filter/FilterRun.h"
 
-#include <algorithm>
-
-bool MatchKind(const FilterDefinition& filter, const EntryKind& kind) {
-    if (filter.FilterType < 0 || filter.FilterType >= FilterTypes::Count)
-        return false;
-    if (filter.FilterType == FilterTypes::All || filter.FilterType == FilterTypes::Numbers)
-        return true;
-    if (kind.EventType != filter.FilterType)
-        return false;
-    if (filter.FilterType > FilterTypes::Fatal)
-        return true;
-    return (filter.Name.empty() || filter.Name == kind.Name) &&
-           (filter.Emitter.empty() || filter.Emitter == kind.Sender);
-}
-
-constexpr std::array<FilterRun::Decision, 2 * FilterRun::NoEventType> FilterRun::MakeDecisions() {
-    std::array<Decision, 2 * NoEventType> decisions{};
+constexpr std::array<FilterRun::Decision, FilterRun::Cases> FilterRun::MakeDecisions() {
+    std::array<Decision, Cases> decisions{};
     for (unsigned matched = 0; matched < decisions.size(); ++matched) {
-        const bool shown = (matched >> IncludePlace & 1U) != 0 && (matched >> ExcludePlace & 1U) == 0;
-        const bool highlighted = (matched >> HighlightPlace & 1U) != 0;
-        decisions[matched] = !shown                         ? Decision::Hidden
-                             : (matched & NoEventType) != 0 ? Decision::Invalid
-                             : highlighted                  ? Decision::Highlighted
-                                                            : Decision::Shown;
+        const bool shown = (matched >> Include & 1U) != 0 && (matched >> Exclude & 1U) == 0;
+        const bool highlighted = (matched >> Highlight & 1U) != 0;
+        decisions[matched] = !shown                                                  ? Decision::Hidden
+                             : (matched >> FilterMatches::Groups & NoEventType) != 0 ? Decision::Invalid
+                             : highlighted                                           ? Decision::Highlighted
+                                                                                     : Decision::Shown;
     }
     return decisions;
 }
 
-constexpr std::array<FilterRun::Decision, 2 * FilterRun::NoEventType> FilterRun::Decisions = MakeDecisions();
+constexpr std::array<FilterRun::Decision, FilterRun::Cases> FilterRun::Decisions = MakeDecisions();
 
 FilterRun::FilterRun(const EntryTable& entries, std::span<const FilterDefinition> filters)
-    : entries_(entries) {
+    : matches_(entries) {
     const EntryKinds& kinds = entries.Kinds();
     for (std::uint32_t kind = 0; kind < kinds.Count(); ++kind)
-        kinds_.push_back(IsEventType(kinds[kind].EventType) ? 0 : NoEventType);
+        matches_.Set(kind, IsEventType(kinds[kind].EventType) ? 0 : NoEventType);
 
     for (const FilterDefinition& filter : filters) {
-        const std::size_t action = filter.Action == FilterActions::Include     ? IncludePlace
-                                   : filter.Action == FilterActions::Exclude   ? ExcludePlace
-                                   : filter.Action == FilterActions::Highlight ? HighlightPlace
-                                                                               : Actions;
-        if (!filter.Active || action == Actions)
+        if (!filter.Active)
             continue;
-        if (filter.FilterType == FilterTypes::Numbers) {
-            numbers_.push_back({action, ParseNumberList(filter.StringFilter), 0});
-            continue;
-        }
-        std::vector<bool> fits(kinds.Count());
-        for (std::uint32_t kind = 0; kind < kinds.Count(); ++kind)
-            fits[kind] = MatchKind(filter, kinds[kind]);
-        if (!filter.StringFilter.empty()) {
-            texts_.push_back({action, TextSearcher(filter.StringFilter), std::move(fits)});
-            continue;
-        }
-        for (std::uint32_t kind = 0; kind < kinds.Count(); ++kind)
-            if (fits[kind])
-                kinds_[kind] |= static_cast<std::uint8_t>(1U << action);
-    }
-}
-
-void FilterRun::BeginBatch(EntryNumber first, EntryNumber end) {
-    batchBegin_ = first;
-    matched_ = {};
-    for (const TextCondition& condition : texts_)
-        MarkText(condition, first, end);
-    for (NumberCondition& condition : numbers_)
-        MarkNumbers(condition, first, end);
-}
-
-void FilterRun::MarkText(const TextCondition& condition, EntryNumber first, EntryNumber end) {
-    const std::string_view text = entries_.Text().substr(0, entries_.TextBegin(end));
-    EntryNumber number = first;
-    std::size_t place = entries_.TextBegin(first);
-    while ((place = condition.Text.Find(text, place)) != TextSearcher::NotFound) {
-        number = entries_.EntryAt(place, number);
-        // A found text may lie behind the entry's data, in its stamp, or reach into the stamp or the next
-        // entry.
-        const std::size_t dataEnd = entries_.TextBegin(number) + entries_.Data(number).size();
-        if (place + condition.Text.Text().size() <= dataEnd && condition.Kinds[entries_.KindNumber(number)])
-            Mark(condition.Action, number);
-        place = entries_.TextBegin(number + 1);
-    }
-}
-
-void FilterRun::MarkNumbers(NumberCondition& condition, EntryNumber first, EntryNumber end) {
-    const std::vector<NumberRange>& ranges = condition.Ranges;
-    while (condition.Next < ranges.size() && ranges[condition.Next].Last < first)
-        ++condition.Next;
-    for (std::size_t i = condition.Next; i < ranges.size() && ranges[i].First < end; ++i) {
-        const EntryNumber rangeEnd = std::min(ranges[i].Last, end - 1) + 1;
-        for (EntryNumber number = std::max(ranges[i].First, first); number < rangeEnd; ++number)
-            Mark(condition.Action, number);
+        if (filter.Action == FilterActions::Include)
+            matches_.Add(filter, Include);
+        else if (filter.Action == FilterActions::Exclude)
+            matches_.Add(filter, Exclude);
+        else if (filter.Action == FilterActions::Highlight)
+            matches_.Add(filter, Highlight);
     }
 }

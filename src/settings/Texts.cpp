@@ -60,6 +60,8 @@ constexpr auto Table = std::to_array<TextRow>({
      Group::PopupMenu},
     // The tool bar; its other tips are those of the menu items
     {TextId::ToolBarRefresh, "Refresh", "Aktualisieren"},
+    {TextId::OtherFilters, "Filters other than All entries are active",
+     "Andere Filter als Alle Einträge sind aktiv"},
     // The columns of the logbook list
     {TextId::ColumnEvent, "Event type", "Ereignistyp"},
     {TextId::ColumnData, "Data", "Inhalt"},
@@ -77,6 +79,25 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::StatusZipping, "Zipping...", "Packe ZIP Datei..."},
     {TextId::CountSeparator, "/", "/"},
     {TextId::CountUnit, "Items", "Einträge"},
+    // Why entries are not in the list; the tool tip of the counts, behind a number each
+    {TextId::HiddenByNumber, " removed by number", " nach Nummer entfernt"},
+    {TextId::HiddenByText, " removed by text", " nach Text entfernt"},
+    {TextId::HiddenByName, " removed by name or sender", " nach Name oder Quelle entfernt"},
+    {TextId::HiddenByType, " removed by type", " nach Art entfernt"},
+    {TextId::HiddenNotText, " without the chosen texts", " ohne die gewählten Texte"},
+    {TextId::HiddenNotName, " not of the chosen names or senders",
+     " nicht von den gewählten Namen oder Quellen"},
+    {TextId::HiddenNotType, " not of the chosen types", " nicht von den gewählten Arten"},
+    {TextId::HiddenNotNumber, " not of the chosen numbers", " nicht von den gewählten Nummern"},
+    {TextId::HiddenNotAdded, " not added by any filter", " von keinem Filter aufgenommen"},
+    {TextId::HiddenNotReached, " not reached because of an error", " wegen eines Fehlers nicht erreicht"},
+    // The status after a logbook is opened, around a number
+    {TextId::NumbersOfOtherLogbook, "Filters by number that were made for another logbook hide ",
+     "Filter nach Nummer, die für ein anderes Logbuch gemacht wurden, blenden "},
+    {TextId::NumbersOfUnknownLogbook, "Filters by number that were perhaps made for another logbook hide ",
+     "Filter nach Nummer, die vielleicht für ein anderes Logbuch gemacht wurden, blenden "},
+    {TextId::NumbersHideOne, " entry.", " Eintrag aus."},
+    {TextId::NumbersHideMore, " entries.", " Einträge aus."},
     // Messages of the main window
     {TextId::FilterFailed, "Error applying filters", "Fehler beim Anwenden der Filtereinstellungen"},
     {TextId::OpenFailed, "Error opening logbook file", "Fehler beim Zugriff auf das Logbuch"},

@@ -51,6 +51,7 @@ enum class TextId : std::uint16_t {
     mnuPopupEditFilter,
     // The tool bar; its other tips are those of the menu items
     ToolBarRefresh,
+    OtherFilters, // spoken of the filter button
     // The columns of the logbook list
     ColumnEvent,
     ColumnData,
@@ -68,6 +69,22 @@ enum class TextId : std::uint16_t {
     StatusZipping,
     CountSeparator,
     CountUnit,
+    // Why entries are not in the list; the tool tip of the counts, behind a number each
+    HiddenByNumber,
+    HiddenByText,
+    HiddenByName,
+    HiddenByType,
+    HiddenNotText,
+    HiddenNotName,
+    HiddenNotType,
+    HiddenNotNumber,
+    HiddenNotAdded,
+    HiddenNotReached,
+    // The status after a logbook is opened, around a number
+    NumbersOfOtherLogbook,
+    NumbersOfUnknownLogbook,
+    NumbersHideOne,
+    NumbersHideMore,
     // Messages of the main window
     FilterFailed,
     OpenFailed,

@@ -16,6 +16,7 @@ class AppIconsTest : public QObject {
         QCOMPARE(Path(AppIcon::Open), ":/icons/open.svg");
         QCOMPARE(Path(AppIcon::SaveArchive), ":/icons/save-archive.svg");
         QCOMPARE(Path(AppIcon::Filter), ":/icons/filter.svg");
+        QCOMPARE(Path(AppIcon::FilterInForce), ":/icons/filter-in-force.svg");
         QCOMPARE(Path(AppIcon::Refresh), ":/icons/refresh.svg");
         for (const AppIcon icon : All) {
             QVERIFY(!MakeAppIcon(icon).isNull());
@@ -46,9 +47,9 @@ class AppIconsTest : public QObject {
 
   private:
     static constexpr std::array Toolbar{AppIcon::Open, AppIcon::SaveArchive, AppIcon::Filter,
-                                        AppIcon::Refresh};
-    static constexpr std::array All{AppIcon::Program, AppIcon::Open, AppIcon::SaveArchive, AppIcon::Filter,
-                                    AppIcon::Refresh};
+                                        AppIcon::FilterInForce, AppIcon::Refresh};
+    static constexpr std::array All{AppIcon::Program, AppIcon::Open,          AppIcon::SaveArchive,
+                                    AppIcon::Filter,  AppIcon::FilterInForce, AppIcon::Refresh};
 
     static QString Path(AppIcon icon) { return AppIconPaths.at(static_cast<std::size_t>(icon)); }
 

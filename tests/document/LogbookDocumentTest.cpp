@@ -4,6 +4,9 @@
 
 #include "base/Paths.h"
 #include "filter/FilterStorage.h"
+#include "filter/FilterText.h"
+#include "filter/FiltersInForce.h"
+#include "rows/EntryActions.h"
 #include "support/MemorySettings.h"
 #include "support/ReadText.h"
 #include "support/ScriptedUser.h"
@@ -47,6 +50,7 @@ class RecordingView : public DocumentView {
     void SelectRow(std::size_t row) override { Tell("select " + std::to_string(row)); }
     void CommentsAreChanged() override { Tell("comments"); }
     void CommentsAreSafe(std::error_code error) override { Safe = !error; }
+    void NumbersOfOthersHide(const NumbersOfOthers& numbers) override { OfOthers.push_back(numbers); }
 
     std::vector<std::string> TakeSteps() { return std::exchange(Steps, {}); }
 
@@ -54,6 +58,7 @@ class RecordingView : public DocumentView {
     RecordingProgress Reading;
     std::optional<EntryNumber> Selected;
     std::vector<std::string> Steps;
+    std::vector<NumbersOfOthers> OfOthers;
     bool Safe = true;
 
   private:
@@ -97,6 +102,24 @@ class LogbookDocumentTest : public testing::Test {
         definition.StringFilter = filter;
         lists.Filters.push_back(definition);
         SaveFilters(Settings, lists, "");
+    }
+
+    std::string LogNamed(const std::string& name, int entries) {
+        std::vector<std::string> lines;
+        for (int i = 0; i < entries; ++i)
+            lines.push_back(Header("BERR:    " + name + std::to_string(i)));
+        return Folder.Write(name + ".log", Lines(lines));
+    }
+
+    // The person stores filters, as the filter dialog does.
+    void StoreByDialog(const std::vector<std::string>& texts) {
+        FilterLists lists = LoadFilters(Settings, {});
+        const std::vector<FilterDefinition> before = lists.Filters;
+        lists.Filters.clear();
+        for (const std::string& text : texts)
+            ParseFilter(text, lists.Filters.emplace_back());
+        SaveFilters(Settings, lists, "");
+        Document->FiltersAreChanged(before, lists.Filters);
     }
 
     TemporaryFolder Folder;
@@ -243,6 +266,171 @@ TEST_F(LogbookDocumentTest, FilterRunSelectsTheNextRow) {
     EXPECT_THAT(View.TakeSteps(), ElementsAre("filtering", "rows", "select 2", "filtered", "counts"));
     ASSERT_EQ(Document->Rows().size(), 3U);
     EXPECT_EQ(Document->Rows()[2].Entry, 3U);
+}
+
+TEST_F(LogbookDocumentTest, SaysWhyEntriesAreHidden) {
+    EXPECT_EQ(Document->Hidden(), std::nullopt);
+    StoreByDialog({"I|0||||1", "X|0|E2|||1", "X|8|0|||1"});
+    Document->OpenLogbook(LogOf(6));
+    HiddenEntries hidden;
+    hidden.Counts[HiddenEntries::ByText] = 1;
+    hidden.Counts[HiddenEntries::ByNumber] = 1;
+    EXPECT_EQ(Document->Hidden(), hidden);
+
+    // Rows that are taken out in place.
+    RemoveFromList(Settings, Document->Rows(), {{1, 2}});
+    Document->Rows().erase(Document->Rows().begin() + 1, Document->Rows().begin() + 3);
+    hidden.Counts[HiddenEntries::ByNumber] = 3;
+    EXPECT_EQ(Document->Hidden(), hidden);
+    Document->ApplyFilter();
+    EXPECT_EQ(Document->Hidden(), hidden);
+
+    // What others store counts from the next run on.
+    StoreFilter("E5");
+    EXPECT_EQ(Document->Hidden(), hidden);
+    Document->ApplyFilter();
+    hidden = {};
+    hidden.Counts[HiddenEntries::ByText] = 1;
+    EXPECT_EQ(Document->Hidden(), hidden);
+}
+
+TEST_F(LogbookDocumentTest, NothingIsHiddenByARunThatWasNotMade) {
+    StoreFilter("E0");
+    Document->OpenLogbook(LogOf(3));
+    Document->Book().Busy = true;
+    EXPECT_EQ(Document->Hidden(), std::nullopt);
+    Document->Book().Busy = false;
+    EXPECT_NE(Document->Hidden(), std::nullopt);
+    Document->OpenLogbook((Folder.Path() / "none.log").string());
+    EXPECT_EQ(Document->Hidden(), std::nullopt);
+    // A file that is no logbook ends the run.
+    Document->OpenLogbook(Folder.Write("b.log", "nothing"));
+    ASSERT_NE(Document->Hidden(), std::nullopt);
+    EXPECT_EQ(Document->Hidden()->Counts[HiddenEntries::NotReached], 1U);
+}
+
+TEST_F(LogbookDocumentTest, KnowsTheFiltersInForce) {
+    EXPECT_TRUE(IsAllEntries(Document->FiltersInForce()));
+    StoreFilter("E0");
+    EXPECT_TRUE(IsAllEntries(Document->FiltersInForce()));
+    StartAnew();
+    EXPECT_FALSE(IsAllEntries(Document->FiltersInForce()));
+    StoreByDialog({"I|0||||1"});
+    EXPECT_TRUE(IsAllEntries(Document->FiltersInForce()));
+    StoreFilter("E0");
+    EXPECT_TRUE(IsAllEntries(Document->FiltersInForce()));
+    Document->OpenLogbook(LogOf(3));
+    EXPECT_FALSE(IsAllEntries(Document->FiltersInForce()));
+
+    // Those of an archive are in force even where its logbook cannot be read.
+    const std::string archive = Folder / "own.qorvix";
+    WriteZip(archive,
+             {{"x.log", Lines({"RESET:", std::string(100, ' ')})}, {"x.fil", "[Filters]\r\nI|0||||1\r\n"}});
+    View.Person.Answers = {Answer::Yes};
+    EXPECT_FALSE(Document->OpenLogbook(archive));
+    EXPECT_TRUE(IsAllEntries(Document->FiltersInForce()));
+}
+
+TEST_F(LogbookDocumentTest, NumbersOfAnotherLogbookAreTold) {
+    const std::string one = LogNamed("one", 10);
+    const std::string two = LogNamed("two", 8);
+    Document->OpenLogbook(one);
+    StoreByDialog({"I|0||||1", "X|8|2,5-20|||1", "X|0|two3|||1"});
+    Document->ApplyFilter();
+    EXPECT_THAT(View.OfOthers, IsEmpty());
+    Document->OpenLogbook(one);
+    Document->RunCommandLine({one});
+    EXPECT_THAT(View.OfOthers, IsEmpty());
+
+    Document->OpenLogbook(two);
+    EXPECT_THAT(View.OfOthers, ElementsAre(NumbersOfOthers{.Hidden = 4, .Perhaps = false}));
+    // Once: neither the next run nor a refresh says it again.
+    Document->ApplyFilter();
+    Document->Refresh();
+    EXPECT_EQ(View.OfOthers.size(), 1U);
+    // Another change does not make them this logbook's.
+    StoreByDialog({"I|0||||1", "X|8|2,5-20|||1"});
+    StartAnew();
+    Document->RunCommandLine({one, two});
+    EXPECT_EQ(View.OfOthers.size(), 2U);
+    // A change of numbers does.
+    StoreByDialog({"I|0||||1", "X|8|2,5-21|||1"});
+    Document->OpenLogbook(two);
+    EXPECT_EQ(View.OfOthers.size(), 2U);
+    Document->OpenLogbook(one);
+    EXPECT_EQ(View.OfOthers.size(), 3U);
+}
+
+TEST_F(LogbookDocumentTest, NumbersStayThoseOfALogbookThatGrows) {
+    Document->OpenLogbook(LogNamed("one", 10));
+    StoreByDialog({"I|0||||1", "X|8|2|||1"});
+    LogNamed("one", 12);
+    Document->Refresh();
+    EXPECT_EQ(Document->Rows().size(), 11U);
+    StartAnew();
+    Document->OpenLogbook(LogNamed("one", 14));
+    EXPECT_THAT(View.OfOthers, IsEmpty());
+}
+
+TEST_F(LogbookDocumentTest, NumbersThatHideNothingAreNotTold) {
+    Document->OpenLogbook(LogNamed("one", 10));
+    StoreByDialog({"I|0||||1", "X|8|8-9|||1", "H|8|1|||1"});
+    Document->OpenLogbook(LogNamed("two", 8));
+    EXPECT_THAT(View.OfOthers, IsEmpty());
+}
+
+TEST_F(LogbookDocumentTest, NumbersOfAnUnknownLogbookArePerhapsAnothers) {
+    // Settings as an earlier version left them, or filters that were edited without a logbook.
+    StoreByDialog({"I|8|2-3|||1"});
+    Document->OpenLogbook(LogNamed("one", 10));
+    EXPECT_THAT(View.OfOthers, ElementsAre(NumbersOfOthers{.Hidden = 8, .Perhaps = true}));
+    StoreByDialog({"I|8|2-4|||1"});
+    StartAnew();
+    StoreByDialog({"I|8|2-3|||1"});
+    Document->OpenLogbook(LogNamed("one", 10));
+    EXPECT_EQ(View.OfOthers.size(), 2U);
+}
+
+TEST_F(LogbookDocumentTest, FiltersThatCameWithALogbookBelongToIt) {
+    Document->OpenLogbook(LogNamed("one", 10));
+    StoreByDialog({"I|0||||1", "X|8|2|||1"});
+    const std::string archive = Folder / "own.qorvix";
+    const std::string log = Lines({Header("BERR:    a"), Header("BERR:    b"), Header("BERR:    c")});
+    WriteZip(archive, {{"x.log", log}, {"x.fil", "[Filters]\r\nI|0||||1\r\nX|8|1|||1\r\n"}});
+    View.Person.Answers = {Answer::Yes};
+    EXPECT_TRUE(Document->OpenLogbook(archive));
+    EXPECT_EQ(Document->Rows().size(), 2U);
+    EXPECT_THAT(View.OfOthers, IsEmpty());
+    EXPECT_TRUE(Document->OpenLogbook(Folder.Write("x.log", log)));
+    EXPECT_THAT(View.OfOthers, IsEmpty());
+    EXPECT_TRUE(Document->OpenLogbook(LogNamed("one", 10)));
+    EXPECT_THAT(View.OfOthers, ElementsAre(NumbersOfOthers{.Hidden = 1, .Perhaps = false}));
+}
+
+TEST_F(LogbookDocumentTest, FiltersOfARunAreForTheLogbookAtHand) {
+    ActiveFiltersOfRun filters(DefaultFilters());
+    std::vector<FilterDefinition> numbers = DefaultFilters();
+    ParseFilter("X|8|1|||1", numbers.emplace_back());
+    filters.Replace(numbers, {});
+    Document = std::make_unique<LogbookDocument>(
+        LogbookDocument::Surroundings{.Filters = filters, .Settings = Settings, .Temp = Temp}, CodePage(),
+        Folder.Path() / "state");
+    Document->ShowIn(View);
+    Document->OpenLogbook(LogOf(3));
+    EXPECT_EQ(Document->Rows().size(), 2U);
+    EXPECT_THAT(View.OfOthers, IsEmpty());
+}
+
+TEST(NumbersOfOthers, AreToldInBothLanguages) {
+    EXPECT_EQ(NumbersOfOthersText({.Hidden = 1200, .Perhaps = false}, {}),
+              "Filters by number that were made for another logbook hide 1,200 entries.");
+    EXPECT_EQ(NumbersOfOthersText({.Hidden = 1, .Perhaps = true}, {}),
+              "Filters by number that were perhaps made for another logbook hide 1 entry.");
+    EXPECT_EQ(NumbersOfOthersText({.Hidden = 12, .Perhaps = false}, {Language::German}),
+              "Filter nach Nummer, die für ein anderes Logbuch gemacht wurden, blenden 12 Einträge aus.");
+    EXPECT_EQ(
+        NumbersOfOthersText({.Hidden = 1, .Perhaps = true}, {Language::German}),
+        "Filter nach Nummer, die vielleicht für ein anderes Logbuch gemacht wurden, blenden 1 Eintrag aus.");
 }
 
 TEST_F(LogbookDocumentTest, CommentsOfACrashAreOffered) {

@@ -62,6 +62,27 @@ TEST_F(FilterHistoryTest, StepsAreTakenBackAndMadeAgain) {
     EXPECT_EQ(History.Redo(), FilterHistory::Outcome::Nothing);
 }
 
+TEST_F(FilterHistoryTest, TellsEveryChangeThatItMakes) {
+    using Lists = std::pair<std::vector<FilterDefinition>, std::vector<FilterDefinition>>;
+    std::vector<Lists> told;
+    FilterHistory history(Settings,
+                          [&](const auto& before, const auto& after) { told.emplace_back(before, after); });
+    const auto atFirst = Stored();
+    history.Record(FilterHistory::Act::Remove, [] {});
+    EXPECT_TRUE(told.empty());
+    history.Record(FilterHistory::Act::Remove, [this] { Edit(); });
+    const auto removed = Stored();
+    EXPECT_EQ(told, std::vector{Lists(atFirst, removed)});
+    history.Undo();
+    history.Undo();
+    history.Redo();
+    EXPECT_EQ(told, (std::vector{Lists(atFirst, removed), Lists(removed, atFirst), Lists(atFirst, removed)}));
+    Edit();
+    Remove({3});
+    EXPECT_EQ(history.Undo(), FilterHistory::Outcome::ChangedElsewhere);
+    EXPECT_EQ(told.size(), 3U);
+}
+
 TEST_F(FilterHistoryTest, NewStepForgetsThoseThatWereTakenBack) {
     Remove({3});
     History.Undo();

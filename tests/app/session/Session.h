@@ -133,6 +133,7 @@ class Session : public MainWindowTest {
     QString RowsDifference() const;
     QString SelectionDifference() const;
     QString TextsDifference() const;
+    bool FilterButtonIsFilled() const;
     QString SettingsDifference() const;
     QString LayoutDifference() const;
 

@@ -2,6 +2,9 @@
 // The window and its settings against the model. Each answers with the first difference, or "".
 #include "app/session/Session.h"
 
+#include "app/AppIcons.h"
+
+#include <QAccessible>
 #include <QFile>
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -111,9 +114,19 @@ QString Session::TextsDifference() const {
                                .arg(Model.RowCount())
                                .arg(Model.Entries.size())
                                .arg(Localised("Items", "Einträge"))),
-                    Unlike("the status", Find<QLabel>("statusText")->text(), Localised("Ready", "Bereit")),
+                    Unlike("the status", Find<QLabel>("statusText")->text(), Model.Status()),
+                    Unlike("why entries are hidden",
+                           QAccessible::queryAccessibleInterface(Find<QLabel>("statusCounts"))
+                               ->text(QAccessible::Description),
+                           Model.WhyHidden()),
+                    Unlike("the filter button", FilterButtonIsFilled(), Model.HasOtherFilters()),
                     Unlike("the content", Find<QPlainTextEdit>("txContent")->toPlainText(), Model.Content),
                     Unlike("finding again", findsAgain, Model.CanFindAgain)});
+}
+
+bool Session::FilterButtonIsFilled() const {
+    const auto picture = [](const QIcon& icon) { return icon.pixmap(QSize(24, 24)).toImage(); };
+    return picture(Item("Filter")->icon()) == picture(MakeAppIcon(AppIcon::FilterInForce));
 }
 
 // The settings file is read anew, by other means than the program's.

@@ -4,6 +4,7 @@
 #include "app/session/SessionDialogs.h"
 
 #include <numeric>
+#include <utility>
 
 namespace {
 
@@ -177,9 +178,10 @@ void Session::PlanClosing(SessionFilters& rows, const SessionStrings& strings) {
 
 // The filters are stored and the list is filtered anew.
 void Session::Save(const SessionFilters& rows, const SessionStrings& strings) {
-    Model.StoredFilters.clear();
+    const QStringList before = std::exchange(Model.StoredFilters, {});
     for (const SessionFilter& filter : rows)
         Model.StoredFilters << TextForm(filter);
+    Model.NoteNumbers(before);
     Model.StoredStrings.clear();
     for (const SessionString& string : strings)
         Model.StoredStrings << TextForm(string);

@@ -53,6 +53,7 @@ void SessionModel::Read(const SessionEntries& entries, const QString& name) {
 }
 
 void SessionModel::Fill() {
+    ShowStatus();
     const SessionFilters filters = Filters();
     const auto anyMatches = [&](char action, int number) {
         return std::any_of(filters.begin(), filters.end(), [&](const SessionFilter& filter) {
@@ -114,6 +115,7 @@ bool SessionModel::Undo() {
     if (Steps[Done - 1].second != StoredFilters)
         return false;
     StoredFilters = Steps[--Done].first;
+    NoteNumbers(Steps[Done].second);
     Filter();
     return true;
 }
@@ -122,6 +124,7 @@ bool SessionModel::Redo() {
     if (Steps[Done].first != StoredFilters)
         return false;
     StoredFilters = Steps[Done++].second;
+    NoteNumbers(Steps[Done - 1].first);
     Filter();
     return true;
 }
@@ -129,6 +132,7 @@ bool SessionModel::Redo() {
 void SessionModel::NoteStep(const QStringList& before) {
     if (before == StoredFilters)
         return;
+    NoteNumbers(before);
     Steps.resize(Done++);
     // The default filter is stored with the first one that is made of entries.
     Steps << std::pair(before.isEmpty() ? QStringList("I|0||||1") : before, StoredFilters);

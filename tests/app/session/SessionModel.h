@@ -81,6 +81,20 @@ class SessionModel {
     // The entries as they were read, without comments.
     SessionEntries BareEntries() const;
 
+    // A logbook was opened, perhaps with filters of its own. Comes behind Read.
+    void LogbookIsOpen(bool withFilters);
+
+    // What was told of the logbook stands no longer.
+    void ShowStatus() { OfOthers = 0; }
+
+    // The filters were these until the person changed them.
+    void NoteNumbers(const QStringList& before);
+
+    // What the status and the tool tip of the counts say, and whether the filter button is filled.
+    QString Status() const;
+    QString WhyHidden() const;
+    bool HasOtherFilters() const;
+
     // Another language; only English and German change the labels of the filter types.
     void SetLanguage(int language);
 
@@ -91,6 +105,9 @@ class SessionModel {
     QStringList StoredFilters;                        // in their text form
     QList<std::pair<QStringList, QStringList>> Steps; // before and after the changes made in the list
     int Done = 0;                                     // so many of them are in force
+    SessionEntries NumbersOf;     // the logbook on which filters by number were changed last; empty = unknown
+    int OfOthers = 0;             // so many entries are told to be hidden by such filters of another logbook
+    bool OfOthersForSure = false; // not only perhaps of another
     QStringList StoredStrings;
     QList<SessionRow> Rows;
     std::set<int> Selected;

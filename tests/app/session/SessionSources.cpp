@@ -132,6 +132,7 @@ bool Session::PlanArchive() {
     archive.IsArchive = true;
     Say("archive " + archive.File);
     Answers.ExpectFileDialog(title, PathOf(archive.File));
+    Model.ShowStatus();
     if (replaces) {
         Answers.Expect("QMessageBox", [](QWidget& box) {
             static_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click();
@@ -173,6 +174,7 @@ void Session::Show(const Source& source, bool withFilters) {
     Model.Read(source.Entries, source.Name);
     shown_ = source;
     PlanRestoring();
+    Model.LogbookIsOpen(withFilters);
 }
 
 // The logbook goes, and with it those comments that were restored and then not saved.
@@ -225,6 +227,7 @@ void Session::PlanRestoring() {
 void Session::PlanReading(const Source& source, QMessageBox::StandardButton replaceFilters) {
     Say(source.File);
     if (source.IsArchive) {
+        Model.ShowStatus();
         Say(replaceFilters == QMessageBox::Yes  ? "with its filters"
             : replaceFilters == QMessageBox::No ? "without its filters"
                                                 : "but cancels");
