@@ -151,7 +151,7 @@ QString TimelineView::TextAt(const QPoint& position) const {
 }
 
 void TimelineView::paintEvent(QPaintEvent*) {
-    if (picture_.isNull()) {
+    if (picture_.isNull() || picture_.devicePixelRatio() != devicePixelRatioF()) {
         picture_ = QPixmap(size() * devicePixelRatioF());
         picture_.setDevicePixelRatio(devicePixelRatioF());
         picture_.fill(palette().color(QPalette::Base));
