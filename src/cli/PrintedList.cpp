@@ -5,9 +5,9 @@
 #include "cli/ExitStatus.h"
 #include "cli/Messages.h"
 #include "cli/Output.h"
-#include "cli/RowWriter.h"
 #include "cli/TerminalDocument.h"
 #include "filter/FilterStorage.h"
+#include "rows/RowWriter.h"
 #include "settings/Registry.h"
 #include "settings/Texts.h"
 

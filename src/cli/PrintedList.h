@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/CsvLine.h"
 #include "filter/LogbookRow.h"
 #include "logbook/EntryTable.h"
+#include "rows/CsvLine.h"
 #include "settings/Language.h"
 
 #include <functional>

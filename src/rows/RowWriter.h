@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/CsvLine.h"
 #include "filter/LogbookRow.h"
+#include "rows/CsvLine.h"
 
 #include <memory>
 #include <ostream>

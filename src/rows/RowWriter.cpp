@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "cli/RowWriter.h"
+#include "rows/RowWriter.h"
 
 #include "base/VisibleControls.h"
-#include "cli/CsvLine.h"
+#include "rows/CsvLine.h"
 
 #include <nlohmann/json.hpp>
 
