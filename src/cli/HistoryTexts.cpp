@@ -43,7 +43,7 @@ std::string DecimalText(double number, int decimals, Language language) {
 
 ErrorKeys ReadErrorKeys(const HistoryOptions& options) {
     FacilityFileMistake mistake;
-    ErrorKeys keys(FacilitiesIn(LanguageFolder(options.LanguageFolder), mistake));
+    ErrorKeys keys(FacilitiesIn(LanguageFolders(options.LanguageFolder), mistake));
     if (const std::string message = FacilityFileMessage(mistake, options.MessageLanguage); !message.empty())
         TellMessage(message);
     return keys;
