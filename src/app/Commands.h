@@ -41,6 +41,8 @@ enum class Command {
     PreviousCommented,
     SortInOrder, // a ColumnOrder
     FitColumnWidths,
+    ExportList,
+    TakeOverErrorTexts,
 };
 
 // A column of the list, counted from 0, and the direction of its sort.

@@ -59,6 +59,7 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
                   [this](std::string_view name) {
                       setWindowTitle(ToQString(name) + " - " + BaseCaption);
                       filterOrders_.Clear();
+                      menus_.Item(Command::ExportList).setEnabled(true);
                   },
               .CommentsAreSafe = [this](std::error_code error) { ShowNotNoted(error); },
               .SelectedContentChanged = [this] { ShowSelectedContent(); }}),
@@ -73,6 +74,11 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
                              if (sbStatusBar->HasCounts())
                                  shown_.ShowCounts();
                          }}),
+      fileOrders_({.Document = document,
+                   .Settings = registry,
+                   .User = user_,
+                   .Progress = progress_,
+                   .Window = *this}),
       help_(this, HelpReader(ProgramFolder())) {
     setObjectName("frmMain");
     setWindowTitle(BaseCaption);
@@ -155,6 +161,7 @@ void frmMain::LoadLanguage() {
     help_.CloseAll();
     menus_.LoadLanguage(language_);
     filterOrders_.SetLanguage(language_);
+    fileOrders_.SetLanguage(language_);
     tbToolBar->LoadLanguage(language_);
     sbStatusBar->LoadLanguage(language_);
     model_->SetLanguage(language_);
@@ -211,6 +218,11 @@ void frmMain::Run(Command command, const OrderSubject& subject) {
     case Command::Properties:
         ShowEntryProperties();
         break;
+    case Command::ExportList:
+    case Command::TakeOverErrorTexts:
+        fileOrders_.Run(command);
+        CloseIfWanted();
+        break;
     default:
         if (!filterOrders_.Run(command))
             listOrders_.Run(command, subject);
@@ -241,7 +253,7 @@ void frmMain::Refresh() {
     CloseIfWanted();
 }
 
-// The window was closed while it was reading.
+// The window was closed while it was reading or writing.
 void frmMain::CloseIfWanted() {
     if (progress_.StopWanted() && !document_.Book().Busy)
         close();

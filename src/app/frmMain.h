@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/Commands.h"
+#include "app/FileOrders.h"
 #include "app/FilterOrders.h"
 #include "app/ListOrders.h"
 #include "app/MainMenus.h"
@@ -106,6 +107,7 @@ class frmMain : public QMainWindow {
     WindowSearch* search_;
     ListOrders listOrders_;
     FilterOrders filterOrders_;
+    FileOrders fileOrders_;
     HtmlHelp help_;
     bool ItemClicked = false; // a row was clicked, and the mouse button is not up yet
 };
