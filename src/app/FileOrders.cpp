@@ -12,7 +12,7 @@
 #include <memory>
 
 namespace {
-constexpr std::string_view FolderSetting = "InitErrorTextsDir";
+constexpr std::string_view ErrorTextsFolderSetting = "InitErrorTextsDir";
 } // namespace
 
 bool FileOrders::Run(Command command) {
@@ -40,7 +40,7 @@ void FileOrders::TakeOverErrorTexts() {
     frmErrorTexts dialog(
         language_, ownFolder,
         parts_.Settings.ReadLogbookSettingString(
-            FolderSetting, parts_.Settings.ReadLogbookSettingString("InitLogbookDir", "")),
+            ErrorTextsFolderSetting, parts_.Settings.ReadLogbookSettingString("InitLogbookDir", "")),
         [&](const std::string& place) {
             source = FindErrorTexts(place, parts_.Document.Temp(), language_);
             return PlanTakeOver(*source, ownFolder);
@@ -48,7 +48,7 @@ void FileOrders::TakeOverErrorTexts() {
         &parts_.Window);
     if (dialog.exec() != QDialog::Accepted || !source)
         return;
-    parts_.Settings.WriteLogbookSetting(FolderSetting, dialog.Folder(), SettingType::Text);
+    parts_.Settings.WriteLogbookSetting(ErrorTextsFolderSetting, dialog.Folder(), SettingType::Text);
     TakeOverResult result;
     {
         // No other order runs beside this one.

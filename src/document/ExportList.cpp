@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::string_view FolderSetting = "InitExportDir";
+constexpr std::string_view ExportFolderSetting = "InitExportDir";
 
 // The types of the question, in the order of its text; each is the form's name, too.
 constexpr std::array<std::string_view, 3> Types{"csv", "jsonl", "html"};
@@ -57,7 +57,7 @@ ExportOutcome ExportList(const ListToExport& list, UserInterface& user, Language
         {.Title = TextId::ExportListTitle,
          .Filters = TextId::ExportListFilter,
          .DefaultExtension = "",
-         .Folder = list.Settings.ReadLogbookSettingString(FolderSetting, FolderOfLogbook(state)),
+         .Folder = list.Settings.ReadLogbookSettingString(ExportFolderSetting, FolderOfLogbook(state)),
          .Name = NameOfLogbook(state).append(".").append(Types.front())},
         Types);
     if (!file)
@@ -90,6 +90,6 @@ ExportOutcome ExportList(const ListToExport& list, UserInterface& user, Language
     std::string folder;
     std::string fileName;
     SplitPath(file->Path, folder, fileName);
-    list.Settings.WriteLogbookSetting(FolderSetting, folder, SettingType::Text);
+    list.Settings.WriteLogbookSetting(ExportFolderSetting, folder, SettingType::Text);
     return ExportOutcome::Exported;
 }
