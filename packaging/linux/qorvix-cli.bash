@@ -16,7 +16,7 @@ _qorvix_cli() {
         case $command in
         sessions | errors | lookup) words="text jsonl csv" ;;
         stitch) words="text jsonl" ;;
-        *) words="jsonl csv" ;;
+        *) words="jsonl csv html" ;;
         esac
         ;;
     --type) words="error warning all" ;;

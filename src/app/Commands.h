@@ -49,6 +49,8 @@ enum class Command {
     PreviousOccurrence,
     HighlightAll,
     RemoveAll,
+    ExportList,
+    TakeOverErrorTexts,
 };
 
 // A column of the list, counted from 0, and the direction of its sort.

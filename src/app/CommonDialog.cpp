@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/CommonDialog.h"
 
+#include "base/AsciiCase.h"
 #include "list/QtText.h"
+
+#include <algorithm>
 
 QStringList NameFilters(const QString& filters) {
     const QStringList parts = filters.split('|');
@@ -11,9 +14,10 @@ QStringList NameFilters(const QString& filters) {
     return nameFilters;
 }
 
-std::optional<std::string> RunCommonDialog(const FileQuestion& question, QFileDialog::AcceptMode mode,
-                                           Language language, QWidget* parent) {
-    QFileDialog dialog(parent, QtText(question.Title, language), ToQString(question.Folder));
+namespace {
+
+void SetUp(QFileDialog& dialog, const FileQuestion& question, QFileDialog::AcceptMode mode,
+           Language language) {
     dialog.setObjectName("dlgCommonDialog");
     dialog.setWindowModality(Qt::WindowModal); // also where it is the desktop's own; the help stays usable
     dialog.setAcceptMode(mode);
@@ -24,7 +28,45 @@ std::optional<std::string> RunCommonDialog(const FileQuestion& question, QFileDi
     dialog.setDefaultSuffix(ToQString(question.DefaultExtension));
     if (!question.Name.empty())
         dialog.selectFile(ToQString(question.Name));
+}
+
+std::optional<std::string> ChosenFile(QFileDialog& dialog) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return dialog.selectedFiles().constFirst().toStdString();
+}
+
+} // namespace
+
+std::optional<std::string> RunCommonDialog(const FileQuestion& question, QFileDialog::AcceptMode mode,
+                                           Language language, QWidget* parent) {
+    QFileDialog dialog(parent, QtText(question.Title, language), ToQString(question.Folder));
+    SetUp(dialog, question, mode, language);
+    return ChosenFile(dialog);
+}
+
+std::optional<UserInterface::TypedFile> RunTypedDialog(const FileQuestion& question,
+                                                       std::span<const std::string_view> extensions,
+                                                       Language language, QWidget* parent) {
+    QFileDialog dialog(parent, QtText(question.Title, language), ToQString(question.Folder));
+    SetUp(dialog, question, QFileDialog::AcceptSave, language);
+    const auto chosenType = [&] {
+        // A dialog that hides the patterns gives only the label.
+        const QStringList types = dialog.nameFilters();
+        const auto chosen = std::find_if(types.begin(), types.end(), [&](const QString& type) {
+            return type.startsWith(dialog.selectedNameFilter());
+        });
+        return chosen == types.end() ? 0 : static_cast<std::size_t>(chosen - types.begin());
+    };
+    const auto takeSuffix = [&] { dialog.setDefaultSuffix(ToQString(extensions[chosenType()])); };
+    takeSuffix();
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, takeSuffix);
+    const std::optional<std::string> path = ChosenFile(dialog);
+    if (!path)
+        return std::nullopt;
+    const std::string name = LowerCase(*path);
+    for (std::size_t type = 0; type < extensions.size(); ++type)
+        if (name.ends_with(std::string(".").append(extensions[type])))
+            return UserInterface::TypedFile{*path, type};
+    return UserInterface::TypedFile{*path, chosenType()};
 }

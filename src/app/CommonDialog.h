@@ -13,3 +13,8 @@ QStringList NameFilters(const QString& filters);
 // does, the dialog asks whether to replace it. Nothing when it was cancelled.
 std::optional<std::string> RunCommonDialog(const FileQuestion& question, QFileDialog::AcceptMode mode,
                                            Language language, QWidget* parent);
+
+// The same for a file to save in one of several forms, see UserInterface::AskTypedFileToSave.
+std::optional<UserInterface::TypedFile> RunTypedDialog(const FileQuestion& question,
+                                                       std::span<const std::string_view> extensions,
+                                                       Language language, QWidget* parent);

@@ -28,8 +28,7 @@ void ShowEntryDialogs(const RowRanges& rows, LogbookDocument& document, LogbookM
     frmLogbookIdent dialog(
         language,
         [&](const QString& data) {
-            const ProposedComment proposed =
-                AutoFillComment(data.toStdString(), language, GetErrorInfoPath());
+            const ProposedComment proposed = AutoFillComment(data.toStdString(), language, LanguageFolders());
             events.LookedUp(proposed.Mistake);
             return ToQString(proposed.Text.value_or(""));
         },

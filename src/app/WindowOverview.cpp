@@ -94,7 +94,7 @@ void WindowOverview::SetLanguage(Language language) {
     FollowSoon();
 }
 
-void WindowOverview::ReadingBegins() {
+void WindowOverview::Forget() {
     if (overview_ == nullptr)
         return;
     overview_->ShowNothing();
@@ -180,7 +180,7 @@ bool WindowOverview::DetermineHistory() {
     if (!book.Entries.HasEvents())
         return false;
     if (!history_)
-        history_ = std::make_unique<LogbookHistory>(book, GetErrorInfoPath());
+        history_ = std::make_unique<LogbookHistory>(book, LanguageFolders());
     if (overview_->HasHistory())
         return true;
     if (history_->Go()) {

@@ -44,8 +44,9 @@ class WindowOverview : public QObject {
 
     void SetLanguage(Language language);
 
-    // The logbook will be read again or another one instead: forgets all that is known of it.
-    void ReadingBegins();
+    // Forgets all that is known of the logbook: it will be read again or another one instead, or its error
+    // texts have changed.
+    void Forget();
 
     // Carries out a command; false when it is none of these.
     bool Run(Command command, const OrderSubject& subject);

@@ -55,6 +55,11 @@ std::optional<std::string> WindowUser::AskFileToSave(const FileQuestion& questio
     return RunCommonDialog(question, QFileDialog::AcceptSave, language_, window_);
 }
 
+std::optional<UserInterface::TypedFile>
+WindowUser::AskTypedFileToSave(const FileQuestion& question, std::span<const std::string_view> extensions) {
+    return RunTypedDialog(question, extensions, language_, window_);
+}
+
 UserInterface::Answer WindowUser::Ask(TextId question) {
     MessageBox box(QMessageBox::Question, title_, QtText(question, language_),
                    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, window_, QMessageBox::Yes);

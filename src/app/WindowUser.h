@@ -32,6 +32,8 @@ class WindowUser : public UserInterface {
     bool Confirm(std::string_view question) override;
     std::optional<std::string> AskFileToOpen(const FileQuestion& question) override;
     std::optional<std::string> AskFileToSave(const FileQuestion& question) override;
+    std::optional<TypedFile> AskTypedFileToSave(const FileQuestion& question,
+                                                std::span<const std::string_view> extensions) override;
     void ShowStatus(TextId status) override;
     void RestoreStatus() override;
 

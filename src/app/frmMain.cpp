@@ -59,11 +59,12 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
               .StatusBar = *sbStatusBar,
               .Progress = progress_,
               .User = user_},
-             {.ReadingBegins = [this] { overview_->ReadingBegins(); },
+             {.ReadingBegins = [this] { overview_->Forget(); },
               .LogbookIsOpen =
                   [this](std::string_view name) {
                       setWindowTitle(ToQString(name) + " - " + BaseCaption);
                       filterOrders_.Clear();
+                      menus_.Item(Command::ExportList).setEnabled(true);
                   },
               .CommentsAreSafe = [this](std::error_code error) { ShowNotNoted(error); },
               .SelectedContentChanged = [this] { ShowSelectedContent(); },
@@ -89,6 +90,11 @@ frmMain::frmMain(LogbookDocument& document, Registry& registry)
                              document_.FiltersAreChanged(before, after);
                          }}),
       overview_(nullptr),
+      fileOrders_({.Document = document,
+                   .Settings = registry,
+                   .User = user_,
+                   .Progress = progress_,
+                   .Window = *this}),
       help_(this, HelpReader(ProgramFolder())) {
     setObjectName("frmMain");
     setWindowTitle(BaseCaption);
@@ -185,6 +191,7 @@ void frmMain::LoadLanguage() {
     menus_.LoadLanguage(language_);
     filterOrders_.SetLanguage(language_);
     overview_->SetLanguage(language_);
+    fileOrders_.SetLanguage(language_);
     tbToolBar->LoadLanguage(language_);
     sbStatusBar->LoadLanguage(language_);
     model_->SetLanguage(language_);
@@ -241,6 +248,13 @@ void frmMain::Run(Command command, const OrderSubject& subject) {
     case Command::Properties:
         ShowEntryProperties();
         break;
+    case Command::ExportList:
+    case Command::TakeOverErrorTexts:
+        fileOrders_.Run(command);
+        if (command == Command::TakeOverErrorTexts)
+            overview_->Forget();
+        CloseIfWanted();
+        break;
     default:
         if (!filterOrders_.Run(command) && !overview_->Run(command, subject))
             listOrders_.Run(command, subject);
@@ -271,7 +285,7 @@ void frmMain::Refresh() {
     CloseIfWanted();
 }
 
-// The window was closed while it was reading.
+// The window was closed while it was reading or writing.
 void frmMain::CloseIfWanted() {
     if (progress_.StopWanted() && !document_.Book().Busy)
         close();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/Commands.h"
+#include "app/FileOrders.h"
 #include "app/FilterOrders.h"
 #include "app/ListOrders.h"
 #include "app/MainMenus.h"
@@ -113,6 +114,7 @@ class frmMain : public QMainWindow {
     ListOrders listOrders_;
     FilterOrders filterOrders_;
     WindowOverview* overview_;
+    FileOrders fileOrders_;
     HtmlHelp help_;
     bool ItemClicked = false; // a row was clicked, and the mouse button is not up yet
 };

@@ -25,6 +25,10 @@ std::filesystem::path FolderOf(const char* variable, const char* belowHome) {
 
 std::filesystem::path ConfigurationFolder() { return FolderOf("XDG_CONFIG_HOME", ".config") / "VELTRANDOR"; }
 
+std::filesystem::path DataFolder() {
+    return FolderOf("XDG_DATA_HOME", ".local/share") / "VELTRANDOR" / "Qorvix";
+}
+
 std::filesystem::path StateFolder() {
     return FolderOf("XDG_STATE_HOME", ".local/state") / "VELTRANDOR" / "Qorvix";
 }

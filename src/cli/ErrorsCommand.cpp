@@ -48,9 +48,9 @@ class ErrorList {
         printed_ = options.Top == 0 ? errors_.size() : std::min(options.Top, errors_.size());
         // The text form counts the errors without a text.
         const std::size_t looked = options.Form.Format == "text" ? errors_.size() : printed_;
-        const std::string folder = LanguageFolder(options.LanguageFolder);
+        const std::vector<std::string> folders = LanguageFolders(options.LanguageFolder);
         for (const ErrorRecord& error : std::span(errors_).first(looked))
-            texts_.push_back(TextsOf(error, entries_, folder));
+            texts_.push_back(TextsOf(error, entries_, folders));
     }
 
     void Write(const RowForm& form, std::ostream& stream) const {

@@ -14,12 +14,16 @@ void AddHistoryOptions(CLI::App& command, HistoryOptions& options) {
     AddLanguageOption(command, options.MessageLanguage, "Of messages and of the text form");
 }
 
-std::string LanguageFolder(const std::string& given) { return given.empty() ? GetErrorInfoPath() : given; }
+std::vector<std::string> LanguageFolders(const std::string& given) {
+    return given.empty() ? LanguageFolders() : std::vector{given};
+}
 
 void AddLanguageFolderOption(CLI::App& command, std::string& folder) {
     command
-        .add_option("--language-folder", folder,
-                    "The folder of the control's language files instead of \"language\" beside the program")
+        .add_option(
+            "--language-folder", folder,
+            "The folder of the control's language files instead of the user's own and \"language\" beside "
+            "the program")
         ->check(NameIsGiven());
 }
 

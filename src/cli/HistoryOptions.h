@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/CsvLine.h"
+#include "rows/CsvLine.h"
 #include "settings/Language.h"
 
 #include <string>
+#include <vector>
 
 namespace CLI {
 class App;
@@ -16,7 +17,7 @@ struct HistoryOptions {
     std::string File;
     RowForm Form{.Format = "text"}; // or "jsonl", "csv"
     std::string Output;             // "" = standard output
-    std::string LanguageFolder;     // of the control's language files; "" = the one beside the program
+    std::string LanguageFolder;     // of the control's language files; "" = the usual ones
     bool Partial = false;           // what could be read of a logbook with an error in it
     Language MessageLanguage;       // of the text form, too
 };
@@ -24,8 +25,8 @@ struct HistoryOptions {
 // Adds them to a command. The file is its argument of that name, and is required.
 void AddHistoryOptions(CLI::App& command, HistoryOptions& options);
 
-// The folder of the control's language files that is meant.
-std::string LanguageFolder(const std::string& given);
+// The folders of the control's language files that are meant, in the order in which they are searched.
+std::vector<std::string> LanguageFolders(const std::string& given);
 
 // The option --language-folder.
 void AddLanguageFolderOption(CLI::App& command, std::string& folder);

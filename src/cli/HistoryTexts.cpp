@@ -14,7 +14,7 @@ Record SecondsOrNull(const std::optional<std::chrono::milliseconds>& time) {
 
 ErrorKeys ReadErrorKeys(const HistoryOptions& options) {
     FacilityFileMistake mistake;
-    ErrorKeys keys(FacilitiesIn(LanguageFolder(options.LanguageFolder), mistake));
+    ErrorKeys keys(FacilitiesIn(LanguageFolders(options.LanguageFolder), mistake));
     if (const std::string message = FacilityFileMessage(mistake, options.MessageLanguage); !message.empty())
         TellMessage(message);
     return keys;

@@ -23,11 +23,11 @@ class CodeList {
     CodeList(const TerminalDocument& document, const HistoryOptions& options)
         : language_(options.MessageLanguage) {
         const EntryTable& entries = document.Entries();
-        const std::string folder = LanguageFolder(options.LanguageFolder);
+        const std::vector<std::string> folders = LanguageFolders(options.LanguageFolder);
         for (ErrorRecord& error : ErrorsOf(entries, SessionsOf(entries, document.Book().Starts),
                                            ReadErrorKeys(options), {.Warnings = true}))
             if (error.Form == ErrorKeys::Form::Code) {
-                ErrorTexts texts = TextsOf(error, entries, folder);
+                ErrorTexts texts = TextsOf(error, entries, folders);
                 codes_.push_back({std::move(error), std::move(texts)});
             }
         std::sort(codes_.begin(), codes_.end(),

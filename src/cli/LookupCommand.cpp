@@ -40,9 +40,9 @@ int RunLookup(const LookupOptions& options) {
         listing.MessageLanguage = options.TextLanguage;
         return RunLookupAll(listing);
     }
-    const std::string folder = LanguageFolder(options.Folder);
     // As the entry's dialog has it: the lines below each other.
-    ProposedComment proposed = AutoFillComment(WithLineBreaks(options.Data), options.TextLanguage, folder);
+    ProposedComment proposed =
+        AutoFillComment(WithLineBreaks(options.Data), options.TextLanguage, LanguageFolders(options.Folder));
     if (const std::string mistake = FacilityFileMessage(proposed.Mistake, options.TextLanguage);
         !mistake.empty())
         TellMessage(mistake);

@@ -13,7 +13,7 @@ class App;
 struct LookupOptions {
     std::string Data;
     std::string All;        // a logbook, whose codes are looked up instead
-    std::string Folder;     // of the language files; "" = the one beside the program
+    std::string Folder;     // of the language files; "" = the usual ones
     HistoryOptions Listing; // with All: how to print; its File and LanguageFolder come from here
     Language TextLanguage;
 };

@@ -30,12 +30,13 @@ std::vector<CLI::Option*> AddFormOptions(CLI::App& command, RowForm& form) {
     CLI::Option* format =
         command
             .add_option("--format", form.Format,
-                        std::string(hasText ? "text, " : "") + "jsonl (JSON Lines) or csv (RFC 4180)")
+                        hasText ? "text, jsonl (JSON Lines) or csv (RFC 4180)"
+                                : "jsonl (JSON Lines), csv (RFC 4180) or html (a table to read)")
             ->capture_default_str();
     if (hasText)
         format->check(CLI::IsMember({"text", "jsonl", "csv"}));
     else
-        format->check(CLI::IsMember({"jsonl", "csv"}));
+        format->check(CLI::IsMember({"jsonl", "csv", "html"}));
     CLI::Option* separator =
         command
             .add_option_function<std::string>(

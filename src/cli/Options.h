@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/CsvLine.h"
+#include "rows/CsvLine.h"
 #include "settings/Language.h"
 
 #include <string>
@@ -25,7 +25,7 @@ void AddSourceAndOutput(CLI::App& command, std::string& file, std::string& outpu
 CLI::Option* AddOutputOption(CLI::App& command, std::string& output);
 
 // The options --format and, for CSV, --separator, --bom and --raw. A form that is "text" at first can be
-// that, "jsonl" or "csv"; any other only the last two.
+// that, "jsonl" or "csv"; any other is of rows, and can be "jsonl", "csv" or "html".
 std::vector<CLI::Option*> AddFormOptions(CLI::App& command, RowForm& form);
 
 // Refuses a name that is empty.

@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Output.h"
 
-#include "base/AsciiCase.h"
 #include "base/AtomicFile.h"
 #include "base/DeviceStream.h"
 #include "base/FileProblem.h"
 #include "base/FollowLinks.h"
-#include "base/PartFiles.h"
 #include "base/Paths.h"
 #include "base/StopRequest.h"
 #include "cli/ExitStatus.h"
 #include "cli/Messages.h"
+#include "rows/ListPlace.h"
 #include "settings/ReasonText.h"
 #include "settings/Texts.h"
 
-#include <algorithm>
 #include <filesystem>
 
 namespace {
@@ -31,20 +29,10 @@ bool IsDevice(const std::string& path) {
 bool RefusesOutput(const OutputPlace& place, const std::vector<std::string>& sources) {
     if (place.File.empty() || IsDevice(place.File))
         return false;
-    const auto refuse = [&](TextId reason) {
-        Fail(place.File + ": " + std::string(Text(reason, place.MessageLanguage)));
-        return true;
-    };
-    if (std::any_of(sources.begin(), sources.end(), [&](const std::string& source) {
-            return WritingTouches(ToPath(place.File), ToPath(source));
-        }))
-        return refuse(TextId::ListInPlaceOfSource);
-    const std::string name = LowerCase(place.File);
-    std::error_code ignored;
-    if ((name.ends_with(".qorvix") || name.ends_with(".cmt") || name.ends_with(".fil")) &&
-        std::filesystem::exists(ToPath(place.File), ignored))
-        return refuse(TextId::ListInPlaceOfOther);
-    return false;
+    const std::optional<TextId> refusal = RefusalOfListPlace(place.File, sources);
+    if (refusal)
+        Fail(place.File + ": " + std::string(Text(*refusal, place.MessageLanguage)));
+    return refusal.has_value();
 }
 
 int WriteOutput(const OutputPlace& place,

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/CsvLine.h"
 #include "cli/ExitStatus.h"
 #include "cli/HistoryOptions.h"
 #include "cli/Messages.h"
 #include "cli/Output.h"
 #include "cli/TerminalDocument.h"
+#include "rows/CsvLine.h"
 #include "settings/Texts.h"
 
 #include <string>

@@ -1,31 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PrintedList.h"
 
+#include "base/Paths.h"
 #include "base/StopRequest.h"
 #include "cli/ExitStatus.h"
 #include "cli/Messages.h"
 #include "cli/Output.h"
-#include "cli/RowWriter.h"
 #include "cli/TerminalDocument.h"
 #include "filter/FilterStorage.h"
+#include "rows/RowWriter.h"
 #include "settings/Registry.h"
 #include "settings/Texts.h"
 
 namespace {
-
-void WriteRows(const EntryTable& entries, const LogbookRows& rows, const ListOptions& options,
-               std::ostream& stream, bool isTerminal) {
-    RowForm form = options.Form;
-    form.ControlsAreVisible = isTerminal;
-    const auto writer = MakeRowWriter(form);
-    writer->WriteHeader(stream);
-    for (const LogbookRow& row : rows) {
-        writer->WriteRow(entries, row, stream);
-        if (!stream || StopRequest::IsMade())
-            return;
-    }
-    stream.flush();
-}
 
 // The filters that are active where neither a file nor an archive brings others.
 std::vector<FilterDefinition> FiltersAtFirst(const ListOptions& options) {
@@ -59,7 +46,11 @@ int PrintList(const ListOptions& options,
     // Memory does not grow with the rows printed.
     const auto print = [&](const LogbookRows& rows) {
         return WriteOutput(place, [&](std::ostream& stream, bool isTerminal) {
-            WriteRows(document.Entries(), rows, options, stream, isTerminal);
+            RowForm form = options.Form;
+            form.ControlsAreVisible = isTerminal;
+            form.Words = options.MessageLanguage;
+            form.Title = ToPath(options.File).filename().string();
+            WriteRows(document.Entries(), rows, form, stream, [](double) { return !StopRequest::IsMade(); });
         });
     };
     if (!choose)

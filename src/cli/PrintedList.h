@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/CsvLine.h"
 #include "filter/LogbookRow.h"
 #include "logbook/EntryTable.h"
+#include "rows/CsvLine.h"
 #include "settings/Language.h"
 
 #include <functional>
@@ -12,13 +12,13 @@
 // Which list a command prints, and how: what all commands that print rows have in common.
 struct ListOptions {
     std::string File;
-    RowForm Form;                // "jsonl" or "csv"
+    RowForm Form;                // "jsonl", "csv" or "html"
     std::string Output;          // "" = standard output
     std::string Filters;         // a filter file; "" = none
     bool StoredFilters = false;  // the filters of the user's settings
     bool ArchiveFilters = false; // the filters that the program's own archive carries, if it does
     bool Partial = false;        // what could be read of a logbook with an error in it
-    Language MessageLanguage;    // of messages on standard error
+    Language MessageLanguage;    // of messages on standard error, and of HTML
 };
 
 // Opens the logbook, makes the rows that its filters let through, and prints them, a row a line. With

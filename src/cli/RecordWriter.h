@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/CsvLine.h"
+#include "rows/CsvLine.h"
 
 #include <nlohmann/json.hpp>
 

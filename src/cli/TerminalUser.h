@@ -25,6 +25,10 @@ class TerminalUser : public UserInterface {
     bool Confirm(std::string_view) override { return false; }
     std::optional<std::string> AskFileToOpen(const FileQuestion&) override { return std::nullopt; }
     std::optional<std::string> AskFileToSave(const FileQuestion&) override { return std::nullopt; }
+    std::optional<TypedFile> AskTypedFileToSave(const FileQuestion&,
+                                                std::span<const std::string_view>) override {
+        return std::nullopt;
+    }
     void ShowStatus(TextId) override {}
     void RestoreStatus() override {}
 

@@ -40,7 +40,7 @@ void AddListOptions(CLI::App& command, ListOptions& options) {
                   "Only what the filters in the program's own archive let through, if it has some")
         ->excludes(filters)
         ->excludes(storedFilters);
-    AddLanguageOption(command, options.MessageLanguage, "Of messages");
+    AddLanguageOption(command, options.MessageLanguage, "Of messages and of HTML");
 }
 
 void AddSearchOptions(CLI::App& command, SearchState& search) {

@@ -126,6 +126,14 @@ bool LogbookDocument::ZipLogbook(ArchiveDecisions& decisions) {
     return true;
 }
 
+ExportOutcome LogbookDocument::ExportList(const std::function<bool(double percent)>& goesOn) {
+    if (logbook_.Busy)
+        return ExportOutcome::Cancelled;
+    const BusyLogbook busy(logbook_);
+    return ::ExportList({logbook_.Entries, rows_, state_, registry_}, view_->User(), DialogLanguage(),
+                        goesOn);
+}
+
 void LogbookDocument::ChangeComment(EntryNumber entry, std::string_view comment) {
     const bool differs = logbook_.Entries.Comment(entry) != comment;
     logbook_.Entries.SetComment(entry, comment);

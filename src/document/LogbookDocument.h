@@ -8,6 +8,7 @@
 #include "document/ActiveFilters.h"
 #include "document/ArchiveDecisions.h"
 #include "document/DocumentView.h"
+#include "document/ExportList.h"
 #include "document/LogbookState.h"
 #include "document/OpenLogbook.h"
 #include "filter/HiddenEntries.h"
@@ -16,6 +17,7 @@
 #include "settings/Registry.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -53,6 +55,7 @@ class LogbookDocument {
     LogbookRows& Rows() { return rows_; }
     const LogbookRows& Rows() const { return rows_; }
     const CodePage& FileCodePage() const { return codePage_; }
+    const TempFolder& Temp() const { return tempFolder_; }
 
     // Opens the logbooks that a command line names one after the other; each replaces the one before. Shows
     // the usage if the command line asks for it.
@@ -98,6 +101,10 @@ class LogbookDocument {
     // one asks the person for the decisions. See ZipLogbook.h.
     bool ZipLogbook();
     bool ZipLogbook(ArchiveDecisions& decisions);
+
+    // Writes the rows as they stand to a file that it asks for. Book().Busy is set meanwhile, so nothing
+    // changes the rows while `goesOn` lets events run. See ExportList.h.
+    ExportOutcome ExportList(const std::function<bool(double percent)>& goesOn);
 
     // Asks about edited comments before the document is closed; false when the person wants to stay. If
     // saving them failed, the document may be closed all the same: they stay in the journal.

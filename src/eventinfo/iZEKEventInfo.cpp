@@ -3,6 +3,7 @@
 
 #include "base/Blanks.h"
 #include "base/ProgramFolder.h"
+#include "base/UserFolders.h"
 #include "eventinfo/ClassicNcErrorText.h"
 #include "eventinfo/ClassicPlcErrorText.h"
 #include "eventinfo/CsvErrorText.h"
@@ -40,6 +41,44 @@ std::optional<EventTextRecord> ReadCodedText(const EventCode& code, const Facili
                             code.Number);
 }
 
+// The event that a data text names by its code, and the facilities that the code is of.
+struct CodedEvent {
+    EventCode Code;
+    FacilityTable Facilities;
+};
+
+// Nothing when the data text names none.
+std::optional<CodedEvent> CodedEventIn(std::string_view data, std::span<const std::string> folders,
+                                       FacilityFileMistake& mistake) {
+    const std::size_t mark = data.find(EventMark);
+    if (mark == std::string_view::npos)
+        return std::nullopt;
+    CodedEvent event{{}, FacilitiesIn(folders, mistake)};
+    const std::optional<EventCode> code =
+        ParseEventCode(data.substr(mark + EventMark.size()), event.Facilities);
+    if (!code)
+        return std::nullopt;
+    event.Code = *code;
+    return event;
+}
+
+std::optional<std::string> CommentOnCode(const CodedEvent& event, Language language,
+                                         const std::string& folder) {
+    const std::optional<EventTextRecord> record =
+        ReadCodedText(event.Code, event.Facilities, language, folder);
+    if (!record)
+        return std::nullopt;
+    std::string comment = CommentOn(*record, language);
+    AppendLine(comment, Text(TextId::FixLabel, language));
+    comment.append(record->Fix);
+    if (!record->Reaction.empty()) {
+        comment.append(EventTextBreak);
+        AppendLine(comment, Text(TextId::ReactionLabel, language));
+        comment.append(record->Reaction);
+    }
+    return comment;
+}
+
 } // namespace
 
 std::string GetErrorInfoPath() {
@@ -47,14 +86,23 @@ std::string GetErrorInfoPath() {
     return folder.empty() ? folder : folder + "/language/";
 }
 
-FacilityTable FacilitiesIn(const std::string& folder, FacilityFileMistake& mistake) {
-    const std::string facilityFile = FindInFolder(folder, "facilities.csv");
-    const FacilityFileContent facilities = ReadFacilityFile(facilityFile);
+std::string UserLanguageFolder() { return (DataFolder() / "language" / "").string(); }
+
+std::vector<std::string> LanguageFolders() { return {UserLanguageFolder(), GetErrorInfoPath()}; }
+
+FacilityTable FacilitiesIn(std::span<const std::string> folders, FacilityFileMistake& mistake) {
     using Outcome = FacilityFileContent::Outcome;
-    const bool own = facilities.Result == Outcome::Read;
-    if (!own && facilities.Result != Outcome::NotThere)
-        mistake = {facilityFile, facilities.Result, facilities.Line};
-    return own ? facilities.Table : InitFacilityTable();
+    for (const std::string& folder : folders) {
+        const std::string facilityFile = FindInFolder(folder, "facilities.csv");
+        const FacilityFileContent facilities = ReadFacilityFile(facilityFile);
+        if (facilities.Result == Outcome::Read)
+            return facilities.Table;
+        if (facilities.Result != Outcome::NotThere) {
+            mistake = {facilityFile, facilities.Result, facilities.Line};
+            break;
+        }
+    }
+    return InitFacilityTable();
 }
 
 std::optional<EventCode> ParseEventCode(std::string_view code, const FacilityTable& table) {
@@ -70,27 +118,10 @@ std::optional<EventCode> ParseEventCode(std::string_view code, const FacilityTab
 }
 
 ProposedComment AutoFillCommentNCK(std::string_view data, Language language, const std::string& folder) {
+    const std::span<const std::string> folders(&folder, 1);
     ProposedComment proposed;
-    const std::size_t mark = data.find(EventMark);
-    if (mark == std::string_view::npos)
-        return proposed;
-
-    const FacilityTable table = FacilitiesIn(folder, proposed.Mistake);
-    const std::optional<EventCode> code = ParseEventCode(data.substr(mark + EventMark.size()), table);
-    if (!code)
-        return proposed;
-    const std::optional<EventTextRecord> record = ReadCodedText(*code, table, language, folder);
-    if (!record)
-        return proposed;
-    std::string comment = CommentOn(*record, language);
-    AppendLine(comment, Text(TextId::FixLabel, language));
-    comment.append(record->Fix);
-    if (!record->Reaction.empty()) {
-        comment.append(EventTextBreak);
-        AppendLine(comment, Text(TextId::ReactionLabel, language));
-        comment.append(record->Reaction);
-    }
-    proposed.Text = std::move(comment);
+    if (const std::optional<CodedEvent> event = CodedEventIn(data, folders, proposed.Mistake))
+        proposed.Text = CommentOnCode(*event, language, folder);
     return proposed;
 }
 
@@ -115,9 +146,20 @@ std::optional<std::string> AutoFillCommentiZEK(std::string_view data, Language l
     return comment;
 }
 
-ProposedComment AutoFillComment(std::string_view data, Language language, const std::string& folder) {
-    ProposedComment proposed = AutoFillCommentNCK(data, language, folder);
-    if (std::optional<std::string> classic = AutoFillCommentiZEK(data, language, folder))
-        proposed.Text = std::move(classic);
+ProposedComment AutoFillComment(std::string_view data, Language language,
+                                std::span<const std::string> folders) {
+    ProposedComment proposed;
+    const std::optional<CodedEvent> event = CodedEventIn(data, folders, proposed.Mistake);
+    for (const std::string& folder : folders) {
+        proposed.Text = AutoFillCommentiZEK(data, language, folder);
+        if (!proposed.Text && event)
+            proposed.Text = CommentOnCode(*event, language, folder);
+        if (proposed.Text)
+            break;
+    }
     return proposed;
+}
+
+ProposedComment AutoFillComment(std::string_view data, Language language, const std::string& folder) {
+    return AutoFillComment(data, language, std::span(&folder, 1));
 }

@@ -8,8 +8,10 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // The control's own text for an event or error, proposed as a comment. The texts lie in language files:
 //
@@ -26,12 +28,18 @@
 // The folder of the language files beside the program, with a separator at its end; "" when it is unknown.
 std::string GetErrorInfoPath();
 
+// The folder of language files of the user's own, with a separator at its end. It need not exist.
+std::string UserLanguageFolder();
+
+// The folders in which texts are looked for, in this order: the user's own, the one beside the program.
+std::vector<std::string> LanguageFolders();
+
 // Stands before the code in the data of a coded event.
 inline constexpr std::string_view EventMark = "Event: ";
 
-// The facilities of a folder of language files: those of its facilities.csv or, where that is not there or
-// has a mistake, the built-in ones. A mistake is set, none is left as it was.
-FacilityTable FacilitiesIn(const std::string& folder, FacilityFileMistake& mistake);
+// The facilities of folders of language files: those of the first facilities.csv that is there or, where none
+// is or that one has a mistake, the built-in ones. A mistake is set, none is left as it was.
+FacilityTable FacilitiesIn(std::span<const std::string> folders, FacilityFileMistake& mistake);
 
 // The code of an event: "<facility>-<number>" or "<number>", hexadecimal.
 struct EventCode {
@@ -63,5 +71,8 @@ ProposedComment AutoFillCommentNCK(std::string_view data, Language language, con
 std::optional<std::string> AutoFillCommentiZEK(std::string_view data, Language language,
                                                const std::string& folder);
 
-// Does both lookups; when both give a comment, takes that of AutoFillCommentiZEK.
+// Does both lookups; when both give a comment, takes that of AutoFillCommentiZEK. The first folder that gives
+// one in this language counts. The facilities are the same for all folders.
+ProposedComment AutoFillComment(std::string_view data, Language language,
+                                std::span<const std::string> folders);
 ProposedComment AutoFillComment(std::string_view data, Language language, const std::string& folder);

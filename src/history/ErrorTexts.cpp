@@ -4,12 +4,13 @@
 #include "eventinfo/iZEKEventInfo.h"
 #include "logbook/JoinedLines.h"
 
-ErrorTexts TextsOf(const ErrorRecord& record, const EntryTable& entries, const std::string& languageFolder) {
+ErrorTexts TextsOf(const ErrorRecord& record, const EntryTable& entries,
+                   std::span<const std::string> languageFolders) {
     if (record.Form != ErrorKeys::Form::Code)
         return {};
     const std::string data = WithLineBreaks(entries.Data(record.First));
     const auto text = [&](std::int32_t language) {
-        std::optional<std::string> found = AutoFillComment(data, {language}, languageFolder).Text;
+        std::optional<std::string> found = AutoFillComment(data, {language}, languageFolders).Text;
         if (found)
             std::erase(*found, '\r');
         return found;

@@ -4,6 +4,7 @@
 #include "history/ErrorStatistics.h"
 
 #include <optional>
+#include <span>
 #include <string>
 
 // The control's own texts for an error, in both languages, with LF line ends; nothing where there is none.
@@ -13,7 +14,8 @@ struct ErrorTexts {
 };
 
 // Looks the texts up for the data of the error's first entry. An error without a code has none.
-ErrorTexts TextsOf(const ErrorRecord& record, const EntryTable& entries, const std::string& languageFolder);
+ErrorTexts TextsOf(const ErrorRecord& record, const EntryTable& entries,
+                   std::span<const std::string> languageFolders);
 
 // The first line of a text; nothing without a text, or where that line is empty.
 std::optional<std::string> FirstLine(const std::optional<std::string>& text);

@@ -12,17 +12,17 @@ namespace {
 constexpr std::size_t EntriesAtOnce = 16384;
 constexpr std::chrono::milliseconds TimeAtOnce{12};
 
-ErrorKeys KeysOf(const std::string& languageFolder) {
+ErrorKeys KeysOf(std::span<const std::string> languageFolders) {
     FacilityFileMistake ignored;
-    return ErrorKeys(FacilitiesIn(languageFolder, ignored));
+    return ErrorKeys(FacilitiesIn(languageFolders, ignored));
 }
 
 } // namespace
 
-LogbookHistory::LogbookHistory(const Logbook& logbook, std::string languageFolder)
+LogbookHistory::LogbookHistory(const Logbook& logbook, std::vector<std::string> languageFolders)
     : logbook_(logbook),
-      languageFolder_(std::move(languageFolder)),
-      keys_(KeysOf(languageFolder_)),
+      languageFolders_(std::move(languageFolders)),
+      keys_(KeysOf(languageFolders_)),
       sessionsRun_(logbook.Entries, logbook.Starts),
       strip_(logbook.Entries) {}
 
@@ -87,5 +87,5 @@ double LogbookHistory::Percent() const {
 }
 
 ErrorTexts LogbookHistory::FullTexts(const ErrorRecord& error) const {
-    return TextsOf(error, logbook_.Entries, languageFolder_);
+    return TextsOf(error, logbook_.Entries, languageFolders_);
 }

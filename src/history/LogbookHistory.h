@@ -25,8 +25,9 @@ struct ExplainedError {
 // control's texts. It is made in parts, so that a window stays alive meanwhile and can end it.
 class LogbookHistory {
   public:
-    // The logbook must outlive this, and may not be read again. Looks error texts up in `languageFolder`.
-    LogbookHistory(const Logbook& logbook, std::string languageFolder);
+    // The logbook must outlive this, and may not be read again. Looks error texts up in these
+    // folders, in their order.
+    LogbookHistory(const Logbook& logbook, std::vector<std::string> languageFolders);
 
     // Goes on for some milliseconds. False when nothing is left to do.
     bool Go();
@@ -53,7 +54,7 @@ class LogbookHistory {
     void TakeErrors();
 
     const Logbook& logbook_;
-    std::string languageFolder_;
+    std::vector<std::string> languageFolders_;
     ErrorKeys keys_;
     Phase phase_ = Phase::Sessions;
     std::size_t taken_ = 0; // entries or errors of the phase

@@ -23,5 +23,17 @@ struct Logbook {
     std::vector<LogbookStart> Starts; // all that were read, in the order of the file
     std::int64_t EntryCount = 0;      // from the last read that could open its file
     std::int16_t LoadState = LoadStates::Done;
-    bool Busy = false; // a logbook is being read and shown
+    bool Busy = false; // a logbook is being read and shown, or an order runs that needs its rows as they are
+};
+
+// Sets Busy for as long as this lives.
+class BusyLogbook {
+  public:
+    explicit BusyLogbook(Logbook& logbook) : logbook_(logbook) { logbook_.Busy = true; }
+    ~BusyLogbook() { logbook_.Busy = false; }
+    BusyLogbook(const BusyLogbook&) = delete;
+    BusyLogbook& operator=(const BusyLogbook&) = delete;
+
+  private:
+    Logbook& logbook_;
 };

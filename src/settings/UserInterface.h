@@ -49,6 +49,18 @@ class UserInterface {
     virtual std::optional<std::string> AskFileToOpen(const FileQuestion& question) = 0;
     virtual std::optional<std::string> AskFileToSave(const FileQuestion& question) = 0;
 
+    // A file to save in one of several forms.
+    struct TypedFile {
+        std::string Path;
+        std::size_t Type = 0; // the place of its form in the question's filters, from 0
+    };
+
+    // The same as AskFileToSave for a file whose form the person chooses by the question's filters, which
+    // have these extensions (without "."). A name with one of these has that form, whatever was chosen; a
+    // name without extension gets that of the chosen form.
+    virtual std::optional<TypedFile> AskTypedFileToSave(const FileQuestion& question,
+                                                        std::span<const std::string_view> extensions) = 0;
+
     // Shows a status text during a longer step; RestoreStatus shows the text before it again.
     virtual void ShowStatus(TextId status) = 0;
     virtual void RestoreStatus() = 0;

@@ -40,6 +40,19 @@ std::string ReasonOf(zip_error_t& error, Language language) {
     }
 }
 
+// An archive that was made on Unix has the kinds of its members.
+bool IsPlainFile(zip_t& archive, zip_uint64_t member) {
+    constexpr zip_uint32_t KindBits = 0170000;
+    constexpr zip_uint32_t Regular = 0100000;
+    zip_uint8_t system = 0;
+    zip_uint32_t attributes = 0;
+    if (zip_file_get_external_attributes(&archive, member, 0, &system, &attributes) != 0 ||
+        system != ZIP_OPSYS_UNIX)
+        return true;
+    const zip_uint32_t kind = (attributes >> 16U) & KindBits;
+    return kind == 0 || kind == Regular;
+}
+
 } // namespace
 
 std::string_view ZipMember::FileName() const {
@@ -83,6 +96,7 @@ ZipArchive::ZipArchive(const std::filesystem::path& file, Language language, std
             std::replace(member.Name.begin(), member.Name.end(), '/', '\\');
             member.Size = status.size;
             member.PackedSize = status.comp_size;
+            member.IsFile = IsPlainFile(*archive_, static_cast<zip_uint64_t>(i));
         }
         members_.push_back(std::move(member));
     }

@@ -29,6 +29,7 @@ struct ZipMember {
     std::string Name;
     std::uint64_t Size = 0;       // unpacked, as the archive claims
     std::uint64_t PackedSize = 0; // in bytes
+    bool IsFile = true;           // false for a link, or whatever else no file is
 
     // The part of the name behind its last "\".
     std::string_view FileName() const;

@@ -61,6 +61,9 @@ class MainMenusTest : public MainWindowTest {
                                      "mnuAnalysisSep2",
                                      "mnuAnalysisSort",
                                      "mnuAnalysisFitColumns",
+                                     "mnuAnalysisSep3",
+                                     "mnuAnalysisExport",
+                                     "mnuAnalysisErrorTexts",
                                      "mnuHelp",
                                      "mnuHelpContents",
                                      "mnuHelpSearch",
@@ -88,7 +91,7 @@ class MainMenusTest : public MainWindowTest {
                 QCOMPARE(item != nullptr ? item->text() : menu->title(), QtText(row.Id, {number}));
                 ++seen;
             }
-            QCOMPARE(seen, 35);
+            QCOMPARE(seen, 37);
         }
     }
 
@@ -175,7 +178,7 @@ class MainMenusTest : public MainWindowTest {
             if (item->objectName().startsWith("mnu") && !item->isEnabled())
                 disabled << item->objectName();
         QCOMPARE(disabled, QStringList({"mnuExtrasFindNext", "mnuExtrasFindPrev", "mnuAnalysisUndo",
-                                        "mnuAnalysisRedo"}));
+                                        "mnuAnalysisRedo", "mnuAnalysisExport"}));
         for (const QAction* button : Find<MainToolBar>("tbToolBar")->actions())
             QVERIFY(button->isEnabled());
     }
@@ -286,6 +289,8 @@ class MainMenusTest : public MainWindowTest {
             {TextId::mnuAnalysisNextCommented, "mnuAnalysisNextCommented"},
             {TextId::mnuAnalysisPrevCommented, "mnuAnalysisPrevCommented"},
             {TextId::mnuAnalysisFitColumns, "mnuAnalysisFitColumns"},
+            {TextId::mnuAnalysisExport, "mnuAnalysisExport"},
+            {TextId::mnuAnalysisErrorTexts, "mnuAnalysisErrorTexts"},
             {TextId::mnuAnalysisKeepBetween, "mnuAnalysisKeepBetween"},
             {TextId::mnuAnalysisUndo, "mnuAnalysisUndo"},
             {TextId::mnuAnalysisRedo, "mnuAnalysisRedo"},

@@ -53,6 +53,7 @@ TEST(Completion, ValuesOfOptionsInBothForms) {
     EXPECT_EQ(CompletionsOf({"export", "--language", "=", "d"}), "de\n");
     EXPECT_EQ(CompletionsOf({"find", "--format", "c"}), "csv\n");
     EXPECT_EQ(CompletionsOf({"find", "--format", "=", "j"}), "jsonl\n");
+    EXPECT_EQ(CompletionsOf({"find", "--format", "h"}), "html\n");
     EXPECT_EQ(CompletionsOf({"sessions", "--format", ""}), "text\njsonl\ncsv\n");
     EXPECT_EQ(CompletionsOf({"errors", "--type", "w"}), "warning\n");
     EXPECT_EQ(CompletionsOf({"stitch", "--format", ""}), "text\njsonl\n");

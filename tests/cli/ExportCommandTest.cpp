@@ -101,6 +101,27 @@ TEST_F(ExportCommand, OutputFileIsReplacedWhole) {
                                    "1,4,Fatal,a,,,04.01.2010 12:34:56.789,4,false,\r\n");
 }
 
+TEST_F(ExportCommand, HtmlIsAWholePageInTheLanguage) {
+    const std::string file = File({Header("BERR:    a<b"), Header("RESET:")});
+    const ProgramResult page = RunCommandLineTool({"export", file, "--format", "html"});
+    EXPECT_EQ(page.ExitStatus, 0);
+    EXPECT_THAT(page.Output, testing::StartsWith("<!DOCTYPE html>\n<html lang=\"en\">"));
+    EXPECT_THAT(page.Output,
+                HasSubstr("<title>" + std::filesystem::path(file).filename().string() + "</title>"));
+    EXPECT_THAT(page.Output, HasSubstr("<td>a&lt;b</td>"));
+    EXPECT_THAT(page.Output, testing::EndsWith("</html>\n"));
+    const std::string output = Folder / "list.html";
+    EXPECT_EQ(
+        RunCommandLineTool({"find", file, "a<b", "--format", "html", "--language", "de", "--output", output})
+            .ExitStatus,
+        0);
+    EXPECT_THAT(FileContent(output), HasSubstr("<th scope=\"col\">Ereignistyp</th>"));
+    EXPECT_THAT(FileContent(output), testing::Not(HasSubstr("<td>Restart")));
+    // The machine's history has other forms, and the options of CSV are for CSV alone.
+    EXPECT_EQ(RunCommandLineTool({"sessions", file, "--format", "html"}).ExitStatus, 2);
+    EXPECT_EQ(RunCommandLineTool({"export", file, "--format", "html", "--bom"}).ExitStatus, 2);
+}
+
 TEST_F(ExportCommand, OutputFileStaysWhenTheLogbookCannotBeRead) {
     const std::string output = Folder.Write("list.csv", "old");
     EXPECT_EQ(RunCommandLineTool({"export", Folder / "missing.log", "--output", output}).ExitStatus, 1);

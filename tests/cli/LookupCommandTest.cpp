@@ -53,6 +53,28 @@ TEST_F(LookupCommand, FolderMayBeGiven) {
     EXPECT_EQ(LookUp({"N938 x", "--language", "de"}).ExitStatus, 1);
 }
 
+TEST_F(LookupCommand, UsersOwnFolderComesFirstLanguageByLanguage) {
+    const std::string own = "config-data/VELTRANDOR/Qorvix/language/";
+    std::filesystem::create_directories(Folder / own);
+    Folder.Write(own + "operation_en.xmt", "<string id=\"a\" value=\"5\">\n<text>Own</text>\n</string>\n");
+    const auto lookUp = [&](std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(), "lookup");
+        return RunCommandLineTool(arguments, Folder / "config");
+    };
+    EXPECT_EQ(lookUp({"Event: 232-0005"}).Output, "Own\nReason:\n\nFix:\n\n");
+    EXPECT_THAT(lookUp({"Event: 232-0005", "--language", "de"}).Output, testing::StartsWith("Taste"));
+    EXPECT_THAT(lookUp({"--all", QORVIX_SOURCE_FOLDER "/samples/events.log"}).Output, HasSubstr(" Own "));
+    EXPECT_THAT(RunCommandLineTool({"errors", QORVIX_SOURCE_FOLDER "/samples/events.log", "--type", "all"},
+                                   Folder / "config")
+                    .Output,
+                HasSubstr(" Own"));
+    // A folder that is named takes the place of both.
+    EXPECT_EQ(lookUp({"Event: 232-0005", "--language-folder", Folder / "none"}).ExitStatus, 1);
+    // A mistake in the user's own table is told.
+    const std::string file = Folder.Write(own + "facilities.csv", "wrong\n");
+    EXPECT_EQ(lookUp({"Event: 232-0005"}).Errors, "qorvix-cli: " + file + ": invalid facility in line 1\n");
+}
+
 TEST_F(LookupCommand, LinesOfTheDataAreThoseOfTheDialog) {
     std::filesystem::create_directory(Folder / "ENGLISH");
     Folder.Write("ENGLISH/qx_error_help.txt", "104\nM\n\nCorrective action:\nF\n");

@@ -31,6 +31,7 @@ ProgramResult RunCommandLineTool(const std::vector<std::string>& arguments, cons
     const TemporaryFolder folder;
     std::string command =
         "LC_ALL=C.UTF-8 XDG_CONFIG_HOME=" + Quoted(configFolder.empty() ? folder / "config" : configFolder) +
+        " XDG_DATA_HOME=" + Quoted(configFolder.empty() ? folder / "data" : configFolder + "-data") +
         " XDG_STATE_HOME=" + Quoted(SharedState()) + " " + Quoted(QORVIX_PROGRAM_FOLDER "/qorvix-cli");
     for (const std::string& argument : arguments)
         command += " " + Quoted(argument);
@@ -55,6 +56,7 @@ ProgramResult RunOnTerminal(const std::vector<std::string>& arguments) {
     const pid_t process = ::fork();
     if (process == 0) {
         ::setenv("XDG_CONFIG_HOME", (folder / "config").c_str(), 1);
+        ::setenv("XDG_DATA_HOME", (folder / "data").c_str(), 1);
         ::setenv("XDG_STATE_HOME", (folder / "state").c_str(), 1);
         ::setenv("LC_ALL", "C.UTF-8", 1);
         ::dup2(end, STDOUT_FILENO);

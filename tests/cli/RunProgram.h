@@ -10,8 +10,8 @@ struct ProgramResult {
     std::string Errors;
 };
 
-// Runs qorvix-cli as the shell would, with the locale "C.UTF-8" and the settings below `configFolder`, or
-// none.
+// Runs qorvix-cli as the shell would, with the locale "C.UTF-8", the settings below `configFolder`, and the
+// user's own data below a folder of that name with "-data" behind it; or with none of both.
 ProgramResult RunCommandLineTool(const std::vector<std::string>& arguments,
                                  const std::string& configFolder = "");
 

@@ -69,6 +69,7 @@ class Signals : public testing::Test {
             return;
         ::setenv("TMPDIR", Temp.c_str(), 1);
         ::setenv("XDG_CONFIG_HOME", (Folder / "config").c_str(), 1);
+        ::setenv("XDG_DATA_HOME", (Folder / "data").c_str(), 1);
         ::setenv("XDG_STATE_HOME", (Folder / "state").c_str(), 1);
         ::dup2(output_[1], STDOUT_FILENO);
         ::dup2(::open((Folder / "errors").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), STDERR_FILENO);

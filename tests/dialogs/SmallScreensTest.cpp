@@ -4,12 +4,14 @@
 #include "dialogs/FilterDialogContext.h"
 #include "dialogs/FilterFileDialog.h"
 #include "dialogs/frmAbout.h"
+#include "dialogs/frmErrorTexts.h"
 #include "dialogs/frmFilterSettings.h"
 #include "dialogs/frmFilterString.h"
 #include "dialogs/frmGoToTime.h"
 #include "dialogs/frmLanguageDialog.h"
 #include "dialogs/frmLogbookIdent.h"
 #include "dialogs/frmLogbookSettings.h"
+#include "dialogs/frmProgress.h"
 #include "dialogs/frmSearchForString.h"
 #include "dialogs/frmStringSettings.h"
 #include "filter/FilterStorage.h"
@@ -148,6 +150,18 @@ class SmallScreensTest : public QObject {
                 dialog->Preset(noted);
                 return dialog;
             },
+            [=](QWidget* owner) {
+                ErrorTextPlan plan;
+                plan.Kinds.fill({220, 220, 40});
+                plan.Replaced.assign(40, "GERMAN/qx_error_help.txt");
+                plan.TooLarge = {"NCKERNEL_DE.XMT"};
+                auto* const dialog = new frmErrorTexts(
+                    language, "/home/" + std::string(200, 'u') + "/language/", "/",
+                    [](const std::string&) { return ErrorTextPlan(); }, owner);
+                dialog->ShowFound("/media/" + std::string(200, 'm'), plan);
+                return dialog;
+            },
+            [=](QWidget* owner) { return new frmProgress(TextId::TakingOverErrorTexts, language, owner); },
             [=](QWidget* owner) {
                 return new frmFilterString(language, {"a|b", "comment"}, owner);
             },

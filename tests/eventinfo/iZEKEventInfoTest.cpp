@@ -306,3 +306,38 @@ TEST_F(AutoFill, NulInTheDataIsNoDigit) {
     EXPECT_EQ(AutoFillComment("\0N938 x"sv, English, Path()), ProposedComment());
     EXPECT_EQ(AutoFillComment("Event: \0"sv, English, Path()), ProposedComment());
 }
+
+TEST_F(AutoFill, FirstFolderWithATextCountsLanguageByLanguage) {
+    Write("own/OPERATION_EN.XMT", XmlEntry(5, "own"));
+    Write("beside/OPERATION_EN.XMT", XmlEntry(5, "beside") + XmlEntry(6, "six"));
+    Write("beside/OPERATION_DE.XMT", XmlEntry(5, "neben"));
+    Write("own/ENGLISH/qx_error_help.txt", NcBlock(1, "one"));
+    Write("beside/ENGLISH/qx_error_help.txt", NcBlock(1, "other") + NcBlock(2, "two"));
+    const std::vector<std::string> folders{Path() + "own", Path() + "missing", Path() + "beside"};
+    const auto text = [&](std::string_view data, Language language = English) {
+        return AutoFillComment(data, language, folders).Text.value_or("");
+    };
+    EXPECT_EQ(text("Event: 232-0005"), Comment("own"));
+    EXPECT_EQ(text("Event: 232-0006"), Comment("six"));
+    EXPECT_EQ(text("Event: 232-0005", German).substr(0, 7), "neben\r\n");
+    EXPECT_EQ(text("N1 x"), Comment("one"));
+    EXPECT_EQ(text("N2 x"), Comment("two"));
+    EXPECT_EQ(text("N3 x"), "");
+}
+
+TEST_F(AutoFill, FirstTableOfFacilitiesCountsForAllFolders) {
+    Write("beside/facilities.csv", "1;??;A\n0x999;BESIDE;B\n");
+    Write("beside/BESIDE_EN.XMT", XmlEntry(5, "beside"));
+    Write("own/BESIDE_EN.XMT", XmlEntry(5, "own"));
+    Write("own/OWN_EN.XMT", XmlEntry(5, "mine"));
+    const std::vector<std::string> folders{Path() + "own", Path() + "beside"};
+    EXPECT_EQ(AutoFillComment("Event: 999-5", English, folders).Text, Comment("own"));
+    Write("own/facilities.csv", "1;??;A\n0x999;OWN;B\n");
+    EXPECT_EQ(AutoFillComment("Event: 999-5", English, folders).Text, Comment("mine"));
+    // A mistake is told, and the built-in table counts then, as for one folder.
+    Write("own/facilities.csv", "wrong\n");
+    const ProposedComment proposed = AutoFillComment("Event: 999-5", English, folders);
+    EXPECT_EQ(proposed.Text, std::nullopt);
+    EXPECT_EQ(proposed.Mistake.Path, Path() + "own/facilities.csv");
+    EXPECT_EQ(proposed.Mistake.Line, 1U);
+}

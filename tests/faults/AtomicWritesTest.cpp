@@ -141,6 +141,41 @@ TEST_F(AtomicWrites, SettingsArchiveAndJournalOfTheWindow) {
     ExpectFlushes(calls, SettingsFile());
 }
 
+TEST_F(AtomicWrites, ListAndErrorTextsOfTheWindow) {
+    const std::string list = Work + "/list.html";
+    const std::string own = Folder / "data/VELTRANDOR/Qorvix/language";
+    fs::create_directories(own);
+    fs::create_directories(Work + "/control");
+    std::ofstream(own + "/A_EN.XMT") << "old";
+    std::ofstream(Work + "/control/A_EN.XMT") << "new";
+    ProgramWindow window({LogFile}, Variables(Recording()));
+    window.UntilShown();
+    window.Trigger("mnuAnalysisExport");
+    window.ChooseFile(list);
+    window.UntilIdle();
+    window.Trigger("mnuAnalysisErrorTexts");
+    window.Until([](const Sight& sight) { return sight.Front == "frmErrorTexts"; }, "the dialog");
+    window.Press("cmdFolder");
+    window.ChooseFile(Work + "/control");
+    window.Until([](const Sight& sight) { return sight.Front == "frmErrorTexts"; }, "the dialog");
+    window.Press("cmdOK");
+    window.Message();
+    window.Press("OK");
+    window.UntilIdle();
+    window.Close();
+    EXPECT_EQ(window.Program().WaitForEnd(), GoodEnd);
+    const std::vector<DiskCall> calls = ReadRecord(Record);
+    for (const std::string& file : {list, own + "/A_EN.XMT", own + "/A_EN.XMT.bak"})
+        ExpectFlushes(calls, file);
+    // What the person had is kept before the new one takes its place.
+    const auto renamed = [&](const std::string& file) {
+        return std::find_if(calls.begin(), calls.end(), [&](const DiskCall& call) {
+            return call.Kind == 'r' && !call.From.empty() && call.Path == file;
+        });
+    };
+    EXPECT_LT(renamed(own + "/A_EN.XMT.bak"), renamed(own + "/A_EN.XMT"));
+}
+
 TEST_F(AtomicWrites, PartFileIsNeverWiderThanWhatItReplaces) {
     for (const unsigned mode : {0600U, 0640U, 0644U}) {
         const std::string archive = Folder.Write("work/a.qorvix", "old");

@@ -60,6 +60,7 @@ Environment FaultTest::Variables(const Fault& fault) const {
     variables.insert({{"LC_ALL", "C.UTF-8"},
                       {"HOME", Folder.Path().string()},
                       {"XDG_CONFIG_HOME", Config},
+                      {"XDG_DATA_HOME", Folder / "data"},
                       {"XDG_STATE_HOME", State},
                       {"XDG_RUNTIME_DIR", Runtime},
                       {"TMPDIR", Temp}});

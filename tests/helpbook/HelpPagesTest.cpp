@@ -106,13 +106,15 @@ bool MustBeExplained(const TextRow& row) {
         HistoryCode,        HistoryEnglish,  HistoryGerman,    HistoryFrom,      HistoryIn,
         HistoryOf,          HistoryStarts,   LanguageItalian,  LanguageSpanish,  LanguageFrench,
         LanguageSwedish,    LanguageFinnish, LanguageCzech,    LanguagePolish,   LanguageDanish};
+    static constexpr auto OfTakingAlong = {ExportListTitle, ExportListFilter, ErrorTextsTitle,
+                                           ErrorTextsArchiveFilter, ErrorTextsFiles};
     static constexpr auto NoWords = {CountSeparator, FilterFileUnreadableAfter};
     static constexpr auto NotShown = {PageSetup};
     const auto isOneOf = [&](const auto& list) {
         return std::find(list.begin(), list.end(), row.Id) != list.end();
     };
     return !isOneOf(NamesOfControls) && !isOneOf(TitlesAndKindsOfFiles) && !isOneOf(Labels) &&
-           !isOneOf(NoWords) && !isOneOf(NotShown);
+           !isOneOf(OfTakingAlong) && !isOneOf(NoWords) && !isOneOf(NotShown);
 }
 
 std::set<std::string> ListedPictures() {

@@ -45,7 +45,7 @@ TEST(LogbookHistory, HasSessionsErrorsAndTheirTexts) {
     ReadText(Lines({Header("RESET:", ClockAt("08:00:00")), Header("BERR:    P1 door", ClockAt("08:00:10")),
                     Header("WARNING: PLC COOLANT", ClockAt("08:00:20")), "  low"}),
              result);
-    LogbookHistory history(result.Book, folder.Path().string());
+    LogbookHistory history(result.Book, {folder.Path().string()});
     EXPECT_FALSE(history.IsDone());
     double percent = history.Percent();
     EXPECT_EQ(percent, 0);
@@ -66,7 +66,7 @@ TEST(LogbookHistory, HasSessionsErrorsAndTheirTexts) {
 TEST(LogbookHistory, LooksTextsUpInBothLanguages) {
     ReadResult result;
     ReadText(Lines({Header("BERR:    N155 tool", ClockAt("08:00:10"))}), result);
-    LogbookHistory history(result.Book, QORVIX_SOURCE_FOLDER "/samples/language/");
+    LogbookHistory history(result.Book, {QORVIX_SOURCE_FOLDER "/samples/language/"});
     while (history.Go()) {
     }
     ASSERT_EQ(history.Errors().size(), 1U);
@@ -82,7 +82,7 @@ TEST(LogbookHistory, LooksTextsUpInBothLanguages) {
 TEST(LogbookHistory, OfAnEmptyLogbookIsEmpty) {
     ReadResult result;
     ReadText("", result);
-    LogbookHistory history(result.Book, "");
+    LogbookHistory history(result.Book, {});
     while (history.Go()) {
     }
     EXPECT_TRUE(history.Sessions().empty());

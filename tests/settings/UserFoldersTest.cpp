@@ -15,7 +15,7 @@ namespace {
 class UserFoldersTest : public testing::Test {
   protected:
     UserFoldersTest() {
-        for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"}) {
+        for (const char* name : Names) {
             if (const char* const value = std::getenv(name); value != nullptr)
                 Saved[name] = value;
             ::unsetenv(name);
@@ -23,24 +23,28 @@ class UserFoldersTest : public testing::Test {
         ::setenv("HOME", "/home/user", 1);
     }
     ~UserFoldersTest() override {
-        for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"})
+        for (const char* name : Names)
             ::unsetenv(name);
         for (const auto& [name, value] : Saved)
             ::setenv(name.c_str(), value.c_str(), 1);
     }
 
+    static constexpr auto Names = {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"};
     std::map<std::string, std::string> Saved;
 };
 
 TEST_F(UserFoldersTest, LieInTheHome) {
     EXPECT_EQ(ConfigurationFolder(), "/home/user/.config/VELTRANDOR");
+    EXPECT_EQ(DataFolder(), "/home/user/.local/share/VELTRANDOR/Qorvix");
     EXPECT_EQ(StateFolder(), "/home/user/.local/state/VELTRANDOR/Qorvix");
     EXPECT_EQ(JsonSettings::UserFile(), "/home/user/.config/VELTRANDOR/Qorvix.json");
 }
 
 TEST_F(UserFoldersTest, FollowTheEnvironment) {
     ::setenv("XDG_CONFIG_HOME", "/somewhere/config", 1);
+    ::setenv("XDG_DATA_HOME", "/somewhere/data", 1);
     ::setenv("XDG_STATE_HOME", "/somewhere/state", 1);
+    EXPECT_EQ(DataFolder(), "/somewhere/data/VELTRANDOR/Qorvix");
     EXPECT_EQ(JsonSettings::UserFile(), "/somewhere/config/VELTRANDOR/Qorvix.json");
     EXPECT_EQ(StateFolder(), "/somewhere/state/VELTRANDOR/Qorvix");
 }

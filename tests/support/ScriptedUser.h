@@ -48,6 +48,11 @@ class ScriptedUser : public UserInterface {
         FilesToSave.push_back(question);
         return File;
     }
+    std::optional<TypedFile> AskTypedFileToSave(const FileQuestion& question,
+                                                std::span<const std::string_view>) override {
+        FilesToSave.push_back(question);
+        return File ? std::optional(TypedFile{*File, FileType}) : std::nullopt;
+    }
     void ShowStatus(TextId status) override {
         Statuses.push_back(status);
         ++StatusDepth;
@@ -60,6 +65,7 @@ class ScriptedUser : public UserInterface {
     std::function<void()> WhileChoosing; // runs during the question
     bool Agrees = false;
     std::optional<std::string> File;
+    std::size_t FileType = 0; // of a file to save
 
     std::vector<std::string> Messages;
     std::vector<MessageIcon> Icons;

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "cli/RowWriter.h"
+#include "rows/RowWriter.h"
 
 #include "base/VisibleControls.h"
-#include "cli/CsvLine.h"
+#include "rows/CsvLine.h"
+#include "rows/HtmlTable.h"
 
 #include <nlohmann/json.hpp>
 
@@ -10,10 +11,11 @@
 
 namespace {
 
+// One row may take half a millisecond: some logbooks have data of megabytes.
+constexpr std::size_t RowsPerCall = 16;
+
 class JsonLinesWriter : public RowWriter {
   public:
-    void WriteHeader(std::ostream&) override {}
-
     void WriteRow(const EntryTable& entries, const LogbookRow& row, std::ostream& stream) override {
         const LogbookEntry entry = entries[row.Entry];
         const nlohmann::ordered_json object{
@@ -67,5 +69,22 @@ class CsvWriter : public RowWriter {
 std::unique_ptr<RowWriter> MakeRowWriter(const RowForm& form) {
     if (form.Format == "csv")
         return std::make_unique<CsvWriter>(form);
+    if (form.Format == "html")
+        return std::make_unique<HtmlTable>(form);
     return std::make_unique<JsonLinesWriter>();
+}
+
+bool WriteRows(const EntryTable& entries, const LogbookRows& rows, const RowForm& form, std::ostream& stream,
+               const std::function<bool(double percent)>& goesOn) {
+    const std::unique_ptr<RowWriter> writer = MakeRowWriter(form);
+    writer->WriteHeader(stream);
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        if (!stream || (row % RowsPerCall == 0 &&
+                        !goesOn(100.0 * static_cast<double>(row) / static_cast<double>(rows.size()))))
+            return false;
+        writer->WriteRow(entries, rows[row], stream);
+    }
+    writer->WriteEnd(stream);
+    stream.flush();
+    return static_cast<bool>(stream) && goesOn(100.0);
 }

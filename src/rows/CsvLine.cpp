@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/CsvLine.h"
+#include "rows/CsvLine.h"
 
 #include "base/VisibleControls.h"
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "settings/Language.h"
+
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -8,11 +10,15 @@
 // The form that lines are printed in.
 struct RowForm {
     std::string Format =
-        "jsonl";                // or "csv", or "text" where the command has one; what follows is of CSV only
-    char Separator = ',';       // of fields; or ";" or a TAB
-    bool ByteOrderMark = false; // at the beginning; some spreadsheets need it to recognise UTF-8
-    bool Raw = false;           // no guard against text that a spreadsheet would run
+        "jsonl"; // or "csv", "html", or "text" where the command has one; what follows is of CSV only
+    char Separator = ',';            // of fields; or ";" or a TAB
+    bool ByteOrderMark = false;      // at the beginning; some spreadsheets need it to recognise UTF-8
+    bool Raw = false;                // no guard against text that a spreadsheet would run
     bool ControlsAreVisible = false; // for a terminal, see base/VisibleControls.h; a TAB stays
+
+    // Of HTML only.
+    Language Words = {};    // of headers and of what the list shows by icons alone
+    std::string Title = {}; // of the page (UTF-8)
 };
 
 inline constexpr std::string_view ByteOrderMark = "\uFEFF";
