@@ -2,10 +2,9 @@
 #include "dialogs/FittedDialog.h"
 
 #include "dialogs/ScreenRoom.h"
+#include "dialogs/ScrolledContent.h"
 
-#include <QApplication>
 #include <QLayout>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace {
@@ -13,28 +12,6 @@ namespace {
 // At a scale such as 150 %, a window of an uneven size comes out this much lower, which would bring a scroll
 // bar.
 constexpr int LostByScaling = 1;
-
-// Shows the whole content when there is room.
-class ScrolledContent : public QScrollArea {
-  public:
-    explicit ScrolledContent(QWidget* parent) : QScrollArea(parent) {
-        setFrameShape(NoFrame);
-        setFocusPolicy(Qt::NoFocus);
-        setWidgetResizable(true);
-        setWidget(new QWidget(this));
-        // Qt does this for Tab alone, not for access keys.
-        connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, QWidget* focused) {
-            if (focused != nullptr && isAncestorOf(focused))
-                ensureWidgetVisible(focused);
-        });
-    }
-
-    QSize sizeHint() const override { return widget()->sizeHint(); }
-    QSize minimumSizeHint() const override {
-        const int line = fontMetrics().lineSpacing();
-        return widget()->minimumSizeHint().boundedTo({12 * line, 3 * line});
-    }
-};
 
 } // namespace
 

@@ -2,6 +2,7 @@
 #include "overview/MarkModel.h"
 
 #include "list/QtText.h"
+#include "overview/SortNumbers.h"
 #include "rows/LogbookColumns.h"
 
 namespace {
@@ -24,9 +25,11 @@ MarkModel::MarkModel(QObject* parent) : HistoryModel(MarkColumns, parent) {}
 void MarkModel::ShowMarks(const EntryTable* entries, const EntrySet& commented, const EntrySet& highlighted) {
     entries_ = entries;
     highlighted_ = highlighted;
+    stamps_.reset();
     marked_.clear();
     count_ = 0;
     if (entries != nullptr) {
+        stamps_.emplace(*entries);
         EntrySet both = commented;
         both.AddAll(highlighted);
         count_ = both.Count(0, both.End());
@@ -40,8 +43,8 @@ void MarkModel::ShowMarks(const EntryTable* entries, const EntrySet& commented, 
 QString MarkModel::Remark() const {
     if (count_ <= marked_.size())
         return {};
-    return QtText(TextId::OverviewFirstMarks, DialogLanguage()) + QString::number(count_) + ": " +
-           QString::number(marked_.size());
+    return QtText(TextId::OverviewFirstMarks, DialogLanguage()) + QString::number(marked_.size()) +
+           QtText(TextId::HistoryOf, DialogLanguage()) + QString::number(count_);
 }
 
 QString MarkModel::CellOf(std::size_t record, int column) const {
@@ -72,7 +75,12 @@ QString MarkModel::CellOf(std::size_t record, int column) const {
 }
 
 std::optional<double> MarkModel::NumberOf(std::size_t record, int column) const {
-    if (static_cast<MarkColumn>(column) == MarkColumn::Index)
+    switch (static_cast<MarkColumn>(column)) {
+    case MarkColumn::Index:
         return marked_[record];
-    return std::nullopt;
+    case MarkColumn::Time:
+        return SortNumber((*stamps_)[marked_[record]]);
+    default:
+        return std::nullopt;
+    }
 }

@@ -4,6 +4,7 @@
 #include "overview/HistoryModel.h"
 
 #include "logbook/EntrySet.h"
+#include "logbook/EntryStamps.h"
 
 // The entries of a logbook that have a comment or are highlighted, in the order of the logbook.
 class MarkModel : public HistoryModel {
@@ -30,6 +31,7 @@ class MarkModel : public HistoryModel {
 
   private:
     const EntryTable* entries_ = nullptr;
+    std::optional<EntryStamps> stamps_;
     std::vector<EntryNumber> marked_;
     EntrySet highlighted_;
     std::size_t count_ = 0; // also those that are not shown

@@ -2,6 +2,7 @@
 #include "overview/frmOverview.h"
 
 #include "dialogs/ElidedLabel.h"
+#include "dialogs/ScrolledContent.h"
 #include "list/QtText.h"
 #include "overview/ErrorModel.h"
 #include "overview/HistoryTable.h"
@@ -75,12 +76,16 @@ frmOverview::frmOverview(QWidget* parent)
     for (QPushButton* const button : {cmdGoTo, cmdPrevious, cmdNext, cmdHighlightAll, cmdRemoveAll})
         orders->addWidget(button);
     orders->addStretch(1);
+    auto* const content = new ScrolledContent(this);
+    auto* const parts = new QVBoxLayout(content->widget());
+    parts->setContentsMargins(0, 0, 0, 0);
+    parts->addWidget(pbTimeline);
+    parts->addLayout(seen);
+    parts->addWidget(tbSelection);
+    parts->addLayout(state);
+    parts->addWidget(tabTables, 1);
     auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(pbTimeline);
-    layout->addLayout(seen);
-    layout->addWidget(tbSelection);
-    layout->addLayout(state);
-    layout->addWidget(tabTables, 1);
+    layout->addWidget(content, 1);
     layout->addLayout(orders);
     ShowNothing();
 }
@@ -171,6 +176,7 @@ void frmOverview::SetLanguage(Language language) {
     language_ = language;
     const auto text = [&](TextId id) { return QtText(id, language); };
     setWindowTitle(text(TextId::OverviewTitle));
+    tabTables->setAccessibleName(text(TextId::OverviewTitle));
     tabTables->setTabText(0, text(TextId::OverviewSessions));
     tabTables->setTabText(1, text(TextId::OverviewErrors));
     tabTables->setTabText(2, text(TextId::OverviewMarks));

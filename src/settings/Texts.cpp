@@ -394,7 +394,7 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::OverviewWorking, "The history of the logbook is being determined",
      "Die Geschichte des Logbuchs wird ermittelt"},
     {TextId::OverviewClockSetBack, "the clock was set back", "die Uhr wurde zurückgestellt"},
-    {TextId::OverviewFirstMarks, "The first of ", "Die ersten von "},
+    {TextId::OverviewFirstMarks, "The first ", "Die ersten "},
     {TextId::SelectionLine, "Selection", "Auswahl"},
     {TextId::SelectionNone, "No row selected", "Keine Zeile gewählt"},
     {TextId::SelectionRow, "1 row selected", "1 Zeile gewählt"},

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/session/Session.h"
+#include "app/session/RandomSession.h"
 
 #include "support/WindowTest.h"
 
@@ -20,7 +20,7 @@ class RandomSessionTest : public QObject {
         const qulonglong seed = Number("QORVIX_SESSION_SEED", 1);
         const qulonglong steps = Number("QORVIX_SESSION_STEPS", 2000);
         qInfo("session of seed %llu, %llu steps", seed, steps);
-        Session session(seed);
+        RandomSession session(seed);
         for (qulonglong step = 1; step <= steps; ++step) {
             const QString difference = session.Step();
             if (!difference.isEmpty())
@@ -49,7 +49,7 @@ class RandomSessionTest : public QObject {
         return isNumber ? number : usual;
     }
 
-    static qsizetype LastOrders(const Session& session) {
+    static qsizetype LastOrders(const RandomSession& session) {
         return std::min<qsizetype>(20, session.Orders().size());
     }
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The window and its settings against the model. Each answers with the first difference, or "".
-#include "app/session/Session.h"
+#include "app/session/RandomSession.h"
 
 #include "app/AppIcons.h"
 
@@ -51,16 +51,16 @@ QString RowsAsText(const std::set<int>& rows) {
 
 } // namespace
 
-QString Session::Difference() const {
+QString RandomSession::Difference() const {
     if (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr)
         return "a dialog or a menu is left open";
     if (Book->Busy || QApplication::overrideCursor() != nullptr)
         return "the window is left busy";
     return FirstOf({RowsDifference(), SelectionDifference(), TextsDifference(), SettingsDifference(),
-                    LayoutDifference()});
+                    LayoutDifference(), OverviewDifference()});
 }
 
-QString Session::RowsDifference() const {
+QString RandomSession::RowsDifference() const {
     const QAbstractItemModel* const list = List()->model();
     for (int row = 0; row < std::min(list->rowCount(), Model.RowCount()); ++row) {
         QStringList shown;
@@ -87,7 +87,7 @@ QString Session::RowsDifference() const {
     return {};
 }
 
-QString Session::SelectionDifference() const {
+QString RandomSession::SelectionDifference() const {
     std::set<int> selected;
     for (const RowRange& range : List()->SelectedRanges())
         for (std::size_t row = range.First; row <= range.Last; ++row)
@@ -100,7 +100,7 @@ QString Session::SelectionDifference() const {
     return Unlike("the selected row", List()->SelectedRow().value_or(-1), Model.SelectedRow());
 }
 
-QString Session::TextsDifference() const {
+QString RandomSession::TextsDifference() const {
     for (const ItemText& item : ItemTexts)
         if (Item(item.Name)->text() != Localised(item.English, item.German))
             return Unlike(item.Name, Item(item.Name)->text(), Localised(item.English, item.German));
@@ -124,13 +124,13 @@ QString Session::TextsDifference() const {
                     Unlike("finding again", findsAgain, Model.CanFindAgain)});
 }
 
-bool Session::FilterButtonIsFilled() const {
+bool RandomSession::FilterButtonIsFilled() const {
     const auto picture = [](const QIcon& icon) { return icon.pixmap(QSize(24, 24)).toImage(); };
     return picture(Item("Filter")->icon()) == picture(MakeAppIcon(AppIcon::FilterInForce));
 }
 
 // The settings file is read anew, by other means than the program's.
-QString Session::SettingsDifference() const {
+QString RandomSession::SettingsDifference() const {
     QFile file(settingsFile_);
     const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("{}");
     const auto root = nlohmann::json::parse(content.toStdString(), nullptr, false);
@@ -152,7 +152,7 @@ QString Session::SettingsDifference() const {
          Unlike("the stored language", root.value("DialogLanguage", 0), Model.Language)});
 }
 
-QString Session::LayoutDifference() const {
+QString RandomSession::LayoutDifference() const {
     const QWidget* const content = Find<QPlainTextEdit>("txContent");
     const QWidget* const viewer = Find<QWidget>("pbTagViewer");
     const QWidget* const area = List()->parentWidget();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The filter definition dialog and the predefined strings behind it.
-#include "app/session/Session.h"
+#include "app/session/RandomSession.h"
 #include "app/session/SessionDialogs.h"
 #include "app/session/SessionWords.h"
 
@@ -15,7 +15,7 @@ constexpr const char* NumberTexts[] = {"",    "5",    "3-40",  "1,4,9-20", " 7 -
 
 } // namespace
 
-SessionFilter Session::AnyFilter() {
+SessionFilter RandomSession::AnyFilter() {
     static constexpr char Actions[] = {'I', 'I', 'I', 'X', 'H', 'H'};
     SessionFilter filter;
     filter.Action = dice_.Pick(Actions);
@@ -32,7 +32,7 @@ SessionFilter Session::AnyFilter() {
 
 // The definition dialog gives a filter; false when it is cancelled. Only the types 1 to 3 have a name and a
 // sender there.
-bool Session::PlanDefinition(SessionFilter& filter, SessionStrings& strings) {
+bool RandomSession::PlanDefinition(SessionFilter& filter, SessionStrings& strings) {
     SessionFilter typed = AnyFilter();
     const int way = typed.Type == 8 ? 0 : Below(4);
     Answers.Expect("frmFilterSettings", [typed, way](QWidget& dialog) {
@@ -69,7 +69,7 @@ bool Session::PlanDefinition(SessionFilter& filter, SessionStrings& strings) {
 }
 
 // The list of predefined strings; a row that is selected at OK gives the text.
-void Session::PlanStrings(SessionStrings& strings, QString& text) {
+void RandomSession::PlanStrings(SessionStrings& strings, QString& text) {
     SessionStrings rows;
     for (const SessionString& string : strings)
         if (!string.Text.isEmpty())

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The filter list dialog.
-#include "app/session/Session.h"
+#include "app/session/RandomSession.h"
 #include "app/session/SessionDialogs.h"
 
 #include <numeric>
@@ -26,7 +26,7 @@ constexpr const char* TypeLabels[][2] = {
 
 } // namespace
 
-void Session::EditFilters() {
+void RandomSession::EditFilters() {
     PlanFilterDialog();
     if (Chance(2))
         Item("mnuExtrasFilters")->trigger();
@@ -34,7 +34,7 @@ void Session::EditFilters() {
         Window->ToolBarButtonClick("Filter");
 }
 
-void Session::EditFiltersByPopup() {
+void RandomSession::EditFiltersByPopup() {
     if (Model.RowCount() == 0)
         return EditFilters();
     OpenPopup(AnyRow());
@@ -42,7 +42,7 @@ void Session::EditFiltersByPopup() {
     PlanFilterDialog();
 }
 
-void Session::PlanFilterDialog() {
+void RandomSession::PlanFilterDialog() {
     Say("edits the filters");
     SessionFilters rows = Model.Filters();
     SessionStrings strings = StringsOf(Model.StoredStrings, Model.Language);
@@ -79,7 +79,7 @@ void Session::PlanFilterDialog() {
 }
 
 // A new filter that is like one in the list, but for being active, is not added.
-void Session::PlanAdding(SessionFilters& rows, SessionStrings& strings) {
+void RandomSession::PlanAdding(SessionFilters& rows, SessionStrings& strings) {
     Answers.Expect("frmLogbookSettings",
                    [](QWidget& dialog) { dialog.findChild<QAction*>("mnuFilterAdd")->trigger(); });
     Say("adds");
@@ -94,7 +94,7 @@ void Session::PlanAdding(SessionFilters& rows, SessionStrings& strings) {
         rows.push_back(filter);
 }
 
-void Session::PlanEditing(SessionFilters& rows, SessionStrings& strings) {
+void RandomSession::PlanEditing(SessionFilters& rows, SessionStrings& strings) {
     const int row = Below(static_cast<int>(rows.size()));
     Say(QString("edits filter %1").arg(row));
     Answers.Expect("frmLogbookSettings", [row](QWidget& dialog) {
@@ -108,7 +108,7 @@ void Session::PlanEditing(SessionFilters& rows, SessionStrings& strings) {
     edited.Active = active;
 }
 
-void Session::PlanRemoving(SessionFilters& rows, const QList<int>& removed) {
+void RandomSession::PlanRemoving(SessionFilters& rows, const QList<int>& removed) {
     Say(removed.size() == 1 ? QString("removes filter %1").arg(removed.front())
                             : QString("removes all filters"));
     Answers.Expect("frmLogbookSettings", [removed](QWidget& dialog) {
@@ -123,7 +123,7 @@ void Session::PlanRemoving(SessionFilters& rows, const QList<int>& removed) {
 }
 
 // The dialog shows these filters.
-void Session::PlanLook(const SessionFilters& rows) {
+void RandomSession::PlanLook(const SessionFilters& rows) {
     const int language = Model.LabelLanguage;
     Answers.Expect("frmLogbookSettings", [=, this](QWidget& dialog) {
         const auto* const list = dialog.findChild<QTreeWidget*>("lvFilter");
@@ -144,7 +144,7 @@ void Session::PlanLook(const SessionFilters& rows) {
     });
 }
 
-void Session::PlanClosing(SessionFilters& rows, const SessionStrings& strings) {
+void RandomSession::PlanClosing(SessionFilters& rows, const SessionStrings& strings) {
     PlanLook(rows);
     const bool applies = Chance(4);
     const bool confirmed = !Chance(5);
@@ -177,7 +177,7 @@ void Session::PlanClosing(SessionFilters& rows, const SessionStrings& strings) {
 }
 
 // The filters are stored and the list is filtered anew.
-void Session::Save(const SessionFilters& rows, const SessionStrings& strings) {
+void RandomSession::Save(const SessionFilters& rows, const SessionStrings& strings) {
     const QStringList before = std::exchange(Model.StoredFilters, {});
     for (const SessionFilter& filter : rows)
         Model.StoredFilters << TextForm(filter);

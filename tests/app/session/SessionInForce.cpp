@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the model knows of the filters in force: why entries are hidden, and whose numbers the filters hold.
-#include "app/session/SessionModel.h"
+#include "app/session/RandomSessionModel.h"
 
 #include <array>
 
@@ -88,12 +88,12 @@ bool GoesOn(const SessionEntries& logbook, const SessionEntries& later) {
 
 } // namespace
 
-void SessionModel::NoteNumbers(const QStringList& before) {
+void RandomSessionModel::NoteNumbers(const QStringList& before) {
     if (NumberFiltersIn(before) != NumberFiltersIn(StoredFilters))
         NumbersOf = BareEntries();
 }
 
-void SessionModel::LogbookIsOpen(bool withFilters) {
+void RandomSessionModel::LogbookIsOpen(bool withFilters) {
     if (withFilters) {
         NumbersOf = BareEntries();
         return;
@@ -106,7 +106,7 @@ void SessionModel::LogbookIsOpen(bool withFilters) {
     OfOthersForSure = isKnown;
 }
 
-QString SessionModel::Status() const {
+QString RandomSessionModel::Status() const {
     const bool german = Language == 1;
     if (OfOthers == 0)
         return german ? "Bereit" : "Ready";
@@ -124,7 +124,7 @@ QString SessionModel::Status() const {
     return words.arg(OfOthers);
 }
 
-QString SessionModel::WhyHidden() const {
+QString RandomSessionModel::WhyHidden() const {
     const auto counts = CausesOf(Filters(), Entries);
     QStringList words;
     for (std::size_t cause = 0; cause < Shown; ++cause)
@@ -133,7 +133,7 @@ QString SessionModel::WhyHidden() const {
     return words.join(", ");
 }
 
-bool SessionModel::HasOtherFilters() const {
+bool RandomSessionModel::HasOtherFilters() const {
     bool hasAll = false;
     for (const SessionFilter& filter : Filters()) {
         const bool isAll = filter.Action == 'I' && filter.Type == 0 && filter.Text.isEmpty();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What a person does with the window around the list.
-#include "app/session/Session.h"
+#include "app/session/RandomSession.h"
 
-void Session::Resize() {
+void RandomSession::Resize() {
     if (Window->isMaximized() || Chance(6)) {
         const bool maximise = !Window->isMaximized();
         Say(maximise ? "maximises the window" : "makes the window normal");
@@ -14,13 +14,13 @@ void Session::Resize() {
     Window->resize(size);
 }
 
-void Session::ToggleContent() {
+void RandomSession::ToggleContent() {
     Say("shows or hides the content pane");
     Item("mnuVContent")->trigger();
     Model.ContentShown = !Model.ContentShown;
 }
 
-void Session::ToggleBars() {
+void RandomSession::ToggleBars() {
     const bool tools = Chance(2);
     Say(tools ? "shows or hides the tool bar" : "shows or hides the status bar");
     Item(tools ? "mnuViewToolbar" : "mnuViewStatusBar")->trigger();
@@ -28,7 +28,7 @@ void Session::ToggleBars() {
     shown = !shown;
 }
 
-void Session::WidenColumn() {
+void RandomSession::WidenColumn() {
     const int column = Below(7);
     columnWidths_[column] = 40 + Below(200);
     Say(QString("makes column %1 %2 wide").arg(column).arg(columnWidths_[column]));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What a person does with the rows of the list.
-#include "app/session/Session.h"
+#include "app/session/RandomSession.h"
 #include "app/session/SessionWords.h"
 
 #include <QClipboard>
@@ -17,31 +17,31 @@ QString InWords(const QString& text) { return '"' + QString(text).replace("\n", 
 
 } // namespace
 
-void Session::ClickOn(int row, Qt::KeyboardModifiers modifiers) {
+void RandomSession::ClickOn(int row, Qt::KeyboardModifiers modifiers) {
     List()->scrollTo(List()->model()->index(row, 0));
     QTest::mouseClick(List()->viewport(), Qt::LeftButton, modifiers, RowPoint(row));
 }
 
-void Session::PressInList(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+void RandomSession::PressInList(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QApplication::setActiveWindow(Window.get());
     List()->setFocus();
     QTest::keyClick(List(), key, modifiers);
 }
 
-void Session::ClickRow() {
+void RandomSession::ClickRow() {
     if (Model.RowCount() == 0)
         return Say("no row to click");
     ClickAlone(AnyRow());
 }
 
-void Session::ClickAlone(int row) {
+void RandomSession::ClickAlone(int row) {
     Say(QString("clicks row %1").arg(row));
     ClickOn(row);
     Model.SelectAlone(row);
     Model.ShowContent();
 }
 
-void Session::AddRowByClick() {
+void RandomSession::AddRowByClick() {
     if (Model.RowCount() == 0)
         return Say("no row to add");
     const int row = AnyRow();
@@ -53,7 +53,7 @@ void Session::AddRowByClick() {
     Model.ShowContent();
 }
 
-void Session::SelectRange() {
+void RandomSession::SelectRange() {
     if (Model.RowCount() == 0)
         return Say("no rows to select");
     const int from = AnyRow();
@@ -67,7 +67,7 @@ void Session::SelectRange() {
     Model.ShowContent();
 }
 
-void Session::SelectAll() {
+void RandomSession::SelectAll() {
     ClickRow();
     Say("selects all");
     PressInList(Qt::Key_A, Qt::ControlModifier);
@@ -76,7 +76,7 @@ void Session::SelectAll() {
     Model.ShowContent();
 }
 
-void Session::ClickBeside() {
+void RandomSession::ClickBeside() {
     List()->scrollToBottom();
     const QPoint place(5, List()->viewport()->height() - 1);
     if (List()->indexAt(place).isValid())
@@ -86,7 +86,7 @@ void Session::ClickBeside() {
     Model.Selected.clear();
 }
 
-void Session::MoveByKey() {
+void RandomSession::MoveByKey() {
     if (Model.Current < 0)
         return ClickRow();
     struct Move {
@@ -109,14 +109,14 @@ void Session::MoveByKey() {
     Model.ShowContent();
 }
 
-void Session::Sort() {
+void RandomSession::Sort() {
     const int column = Below(7);
     Say(QString("sorts by column %1").arg(column));
     ClickHeader(column);
     Model.Sort(column);
 }
 
-void Session::SortByMenu() {
+void RandomSession::SortByMenu() {
     const int column = Below(7);
     const bool descending = Chance(2);
     Say(QString("sorts by column %1 %2 by the menu").arg(column).arg(descending ? "down" : "up"));
@@ -125,7 +125,7 @@ void Session::SortByMenu() {
 }
 
 // Opens the popup menu over a row. A selection that the row belongs to stays.
-void Session::OpenPopup(int row) {
+void RandomSession::OpenPopup(int row) {
     Say(QString("by the menu of row %1").arg(row));
     List()->scrollTo(List()->model()->index(row, 0));
     QTest::mouseClick(List()->viewport(), Qt::RightButton, {}, RowPoint(row));
@@ -135,14 +135,14 @@ void Session::OpenPopup(int row) {
     Model.ShowContent();
 }
 
-void Session::ChooseInPopup(const char* item) {
+void RandomSession::ChooseInPopup(const char* item) {
     auto* const popup = Find<QMenu>("mnuPopup");
     if (!popup->isVisible())
         return Answers.Blame("no popup menu");
     QTest::mouseClick(popup, Qt::LeftButton, {}, popup->actionGeometry(Item(item)).center());
 }
 
-void Session::Remove() {
+void RandomSession::Remove() {
     if (Model.Selected.size() > 20)
         SelectRange();
     Say("removes");
@@ -156,7 +156,7 @@ void Session::Remove() {
     Model.ShowContent();
 }
 
-void Session::Toggle() {
+void RandomSession::Toggle() {
     Say("toggles the highlighting");
     if (Model.RowCount() > 0 && Chance(2)) {
         OpenPopup(AnyRow());
@@ -168,14 +168,14 @@ void Session::Toggle() {
     Model.ShowContent();
 }
 
-void Session::KeepBetween() {
+void RandomSession::KeepBetween() {
     Say("keeps from the first to the last selected entry");
     if (!Model.Selected.empty())
         Model.KeepBetween();
     Item("mnuAnalysisKeepBetween")->trigger();
 }
 
-void Session::UndoOrRedo() {
+void RandomSession::UndoOrRedo() {
     const bool undo = !Chance(3);
     Say(undo ? "undoes" : "redoes");
     const bool isOffered = undo ? Model.Done > 0 : Model.Done < Model.Steps.size();
@@ -189,7 +189,7 @@ void Session::UndoOrRedo() {
         Press(undo ? Qt::Key_Z : Qt::Key_Y, Qt::ControlModifier);
 }
 
-void Session::Copy() {
+void RandomSession::Copy() {
     Say("copies");
     QApplication::clipboard()->setText("before");
     PressInList(Qt::Key_C, Qt::ControlModifier);
@@ -205,7 +205,7 @@ void Session::Copy() {
     Model.ShowContent();
 }
 
-void Session::EditComments() {
+void RandomSession::EditComments() {
     Say("edits comments");
     const int way = Model.RowCount() == 0 ? 0 : Below(3);
     const int row = way == 0 ? -1 : AnyRow();
@@ -229,7 +229,7 @@ void Session::EditComments() {
 }
 
 // The dialog of the row shows its cells. The last one is closed by its title bar, which ends the dialogs.
-void Session::PlanComment(int row, bool isLast) {
+void RandomSession::PlanComment(int row, bool isLast) {
     const auto lines = [](QString cell) { return cell.replace(" | ", "\n"); };
     QStringList shown;
     for (int column = 0; column < 7; ++column)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Searching, and the language.
-#include "app/session/Session.h"
+#include "app/session/RandomSession.h"
 #include "app/session/SessionWords.h"
 
 #include <QCheckBox>
@@ -13,7 +13,7 @@ constexpr const char* Searches[] = {"n938", "KEY", "läuft",  "LÄUFT", "straße
                                     "->",   "öl",  "Öffnen", "1",     "a",      "no hit", "PLC",     ""};
 }
 
-void Session::FindByDialog() {
+void RandomSession::FindByDialog() {
     const SessionSearch before = Model.Search;
     SessionSearch search{AnyOf(dice_, Searches), Chance(2), Chance(3), Chance(3)};
     const bool confirmed = !Chance(6);
@@ -48,7 +48,7 @@ void Session::FindByDialog() {
         Press(Qt::Key_F, Qt::ControlModifier);
 }
 
-void Session::FindAgain() {
+void RandomSession::FindAgain() {
     const bool next = !Chance(3);
     const bool up = Model.Search.Up == next;
     Say(next ? "finds the next" : "finds the previous");
@@ -59,7 +59,7 @@ void Session::FindAgain() {
     Press(Qt::Key_F3, next ? Qt::NoModifier : Qt::ShiftModifier);
 }
 
-void Session::StepToMark() {
+void RandomSession::StepToMark() {
     struct Step {
         SessionMark Mark;
         Qt::Key Key;
@@ -85,7 +85,7 @@ void Session::StepToMark() {
 }
 
 // From the first row on, until there is no further one: as many as the rules say.
-void Session::FindAll() {
+void RandomSession::FindAll() {
     if (!Model.CanFindAgain || Model.RowCount() == 0)
         return Say("nothing to find");
     const int first = Model.Search.Up ? Model.RowCount() - 1 : 0;
@@ -105,7 +105,7 @@ void Session::FindAll() {
     }
 }
 
-void Session::ChangeLanguage() {
+void RandomSession::ChangeLanguage() {
     static constexpr int Languages[] = {0, 0, 1, 1, 5, 10};
     const int language = dice_.Pick(Languages);
     const bool confirmed = !Chance(4);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Opening, saving and reading again.
-#include "app/session/Session.h"
+#include "app/session/RandomSession.h"
 
 #include <QDropEvent>
 #include <QMimeData>
@@ -19,13 +19,13 @@ constexpr const char* AskFilters[] = {"Replace active filter list?", "Aktuelle F
 
 } // namespace
 
-Session::Source& Session::AnySource() {
+RandomSession::Source& RandomSession::AnySource() {
     QList<Source>& sources = !archives_.empty() && Chance(2) ? archives_ : logbooks_;
     return sources[Below(static_cast<int>(sources.size()))];
 }
 
 // What comes when a logbook with edited comments is left.
-Session::Leave Session::PlanLeaving(bool closing) {
+RandomSession::Leave RandomSession::PlanLeaving(bool closing) {
     if (!Model.CommentsEdited)
         return Leave::Go;
     static constexpr QMessageBox::StandardButton Buttons[] = {QMessageBox::Yes, QMessageBox::No,
@@ -46,7 +46,7 @@ Session::Leave Session::PlanLeaving(bool closing) {
 }
 
 // What was noted stays, and what was held is free again.
-void Session::LoseComments() {
+void RandomSession::LoseComments() {
     for (Lost& lost : lost_)
         lost.Held = lost.Restored = false;
     if (!Model.Noted.empty())
@@ -54,7 +54,7 @@ void Session::LoseComments() {
 }
 
 // What comes when comments would be lost with the archive that is replaced; false when it stays.
-bool Session::PlanReplacing(const Source& old) {
+bool RandomSession::PlanReplacing(const Source& old) {
     SessionEntries oldEntries = old.Entries;
     for (SessionEntry& entry : oldEntries)
         entry.Comment.clear();
@@ -115,7 +115,7 @@ bool Session::PlanReplacing(const Source& old) {
 }
 
 // What comes when an archive is saved; false when it is not saved after all.
-bool Session::PlanArchive() {
+bool RandomSession::PlanArchive() {
     const QString title = Localised("Save Archive", "Archiv speichern");
     if (Chance(4)) {
         Say("cancels the archive");
@@ -152,7 +152,7 @@ bool Session::PlanArchive() {
     return true;
 }
 
-void Session::Archive() {
+void RandomSession::Archive() {
     Say("saves an archive");
     PlanArchive();
     if (Chance(2))
@@ -162,7 +162,7 @@ void Session::Archive() {
 }
 
 // A source has been read. The filters of an archive take the place of the stored ones.
-void Session::Show(const Source& source, bool withFilters) {
+void RandomSession::Show(const Source& source, bool withFilters) {
     if (withFilters) {
         QStringList strings;
         for (const SessionString& string : StringsOf(Model.StoredStrings, Model.Language))
@@ -178,7 +178,7 @@ void Session::Show(const Source& source, bool withFilters) {
 }
 
 // The logbook goes, and with it those comments that were restored and then not saved.
-void Session::LetLostGo() {
+void RandomSession::LetLostGo() {
     lost_.removeIf([](const Lost& lost) { return lost.Restored; });
     for (Lost& lost : lost_)
         lost.Held = false;
@@ -186,7 +186,7 @@ void Session::LetLostGo() {
 
 // Comments of this logbook that were not saved when the window closed are offered, the later of an entry
 // last. Nobody is asked about those that the logbook has.
-void Session::PlanRestoring() {
+void RandomSession::PlanRestoring() {
     static constexpr QMessageBox::StandardButton Buttons[] = {QMessageBox::Yes, QMessageBox::No,
                                                               QMessageBox::Cancel};
     const SessionEntries bare = Model.BareEntries();
@@ -224,7 +224,7 @@ void Session::PlanRestoring() {
 }
 
 // Opens what was planned, and asks about the filters of an archive.
-void Session::PlanReading(const Source& source, QMessageBox::StandardButton replaceFilters) {
+void RandomSession::PlanReading(const Source& source, QMessageBox::StandardButton replaceFilters) {
     Say(source.File);
     if (source.IsArchive) {
         Model.ShowStatus();
@@ -237,7 +237,7 @@ void Session::PlanReading(const Source& source, QMessageBox::StandardButton repl
         Show(Source(source), source.IsArchive && replaceFilters == QMessageBox::Yes);
 }
 
-void Session::Open() {
+void RandomSession::Open() {
     Say("opens");
     const bool goes = PlanLeaving() == Leave::Go;
     if (goes && Chance(4)) {
@@ -254,7 +254,7 @@ void Session::Open() {
         Press(Qt::Key_O, Qt::ControlModifier);
 }
 
-void Session::OpenDropped() {
+void RandomSession::OpenDropped() {
     static constexpr QMessageBox::StandardButton Buttons[] = {QMessageBox::Yes, QMessageBox::No,
                                                               QMessageBox::Cancel};
     Say("drops");
@@ -265,7 +265,7 @@ void Session::OpenDropped() {
     Drop(PathOf(source.File));
 }
 
-void Session::Drop(const QString& path) {
+void RandomSession::Drop(const QString& path) {
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(path)});
     const QPoint place(20, 20);
@@ -276,7 +276,7 @@ void Session::Drop(const QString& path) {
 }
 
 // The logbook file is read again, without comments.
-void Session::Refresh() {
+void RandomSession::Refresh() {
     Say("refreshes");
     if (PlanLeaving() == Leave::Go) {
         const QString title = Model.Title;
@@ -295,7 +295,7 @@ void Session::Refresh() {
 }
 
 // The control writes the file anew.
-void Session::RewriteAndRefresh() {
+void RandomSession::RewriteAndRefresh() {
     const auto source = std::find_if(logbooks_.begin(), logbooks_.end(),
                                      [&](const Source& logbook) { return logbook.File == shown_.File; });
     if (source != logbooks_.end() && !Model.CommentsEdited) {
@@ -307,7 +307,7 @@ void Session::RewriteAndRefresh() {
 }
 
 // Closes the window and starts the program again. Without the answer Cancel it closes in any case.
-void Session::Restart() {
+void RandomSession::Restart() {
     Say("closes");
     const bool goes = PlanLeaving(true) == Leave::Go;
     const QSize size = Window->size();
@@ -334,7 +334,7 @@ void Session::Restart() {
 
 // The program ends without having been closed, and is started again. The window is as it was stored the last
 // time.
-void Session::Crash() {
+void RandomSession::Crash() {
     Say("crashes");
     LoseComments();
     Model.ContentShown = contentStored_;

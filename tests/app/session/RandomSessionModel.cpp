@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/session/SessionModel.h"
+#include "app/session/RandomSessionModel.h"
 
 #include <QDateTime>
 
@@ -38,7 +38,7 @@ auto IsCollecting(char action) {
 
 } // namespace
 
-void SessionModel::Read(const SessionEntries& entries, const QString& name) {
+void RandomSessionModel::Read(const SessionEntries& entries, const QString& name) {
     Entries = entries;
     Title = name + " - Qorvix";
     CommentsEdited = false;
@@ -52,7 +52,7 @@ void SessionModel::Read(const SessionEntries& entries, const QString& name) {
     Fill();
 }
 
-void SessionModel::Fill() {
+void RandomSessionModel::Fill() {
     ShowStatus();
     const SessionFilters filters = Filters();
     const auto anyMatches = [&](char action, int number) {
@@ -70,7 +70,7 @@ void SessionModel::Fill() {
     TagColumn = -1;
 }
 
-void SessionModel::Filter() {
+void RandomSessionModel::Filter() {
     const int before = SelectedRow() < 0 ? -1 : Rows[SelectedRow()].Entry;
     Fill();
     for (int row = 0; before >= 0 && row < RowCount(); ++row)
@@ -78,9 +78,9 @@ void SessionModel::Filter() {
             return SelectAlone(row);
 }
 
-void SessionModel::Sort(int column) { Sort(column, Descending != (column == SortColumn)); }
+void RandomSessionModel::Sort(int column) { Sort(column, Descending != (column == SortColumn)); }
 
-void SessionModel::Sort(int column, bool descending) {
+void RandomSessionModel::Sort(int column, bool descending) {
     Descending = descending;
     SortColumn = column;
     Sorted = true;
@@ -111,7 +111,7 @@ void SessionModel::Sort(int column, bool descending) {
     }
 }
 
-bool SessionModel::Undo() {
+bool RandomSessionModel::Undo() {
     if (Steps[Done - 1].second != StoredFilters)
         return false;
     StoredFilters = Steps[--Done].first;
@@ -120,7 +120,7 @@ bool SessionModel::Undo() {
     return true;
 }
 
-bool SessionModel::Redo() {
+bool RandomSessionModel::Redo() {
     if (Steps[Done].first != StoredFilters)
         return false;
     StoredFilters = Steps[Done++].second;
@@ -129,7 +129,7 @@ bool SessionModel::Redo() {
     return true;
 }
 
-void SessionModel::NoteStep(const QStringList& before) {
+void RandomSessionModel::NoteStep(const QStringList& before) {
     if (before == StoredFilters)
         return;
     NoteNumbers(before);
@@ -138,7 +138,7 @@ void SessionModel::NoteStep(const QStringList& before) {
     Steps << std::pair(before.isEmpty() ? QStringList("I|0||||1") : before, StoredFilters);
 }
 
-void SessionModel::KeepBetween() {
+void RandomSessionModel::KeepBetween() {
     const QStringList before = StoredFilters;
     int first = Rows[*Selected.begin()].Entry;
     int last = first;
@@ -155,7 +155,7 @@ void SessionModel::KeepBetween() {
     Filter();
 }
 
-void SessionModel::RemoveSelected() {
+void RandomSessionModel::RemoveSelected() {
     if (Selected.empty())
         return;
     const QStringList before = StoredFilters;
@@ -173,7 +173,7 @@ void SessionModel::RemoveSelected() {
     ShowContent();
 }
 
-void SessionModel::ToggleSelected() {
+void RandomSessionModel::ToggleSelected() {
     const QStringList before = StoredFilters;
     for (const int row : Selected) {
         SessionRow& toggled = Rows[row];
@@ -186,7 +186,7 @@ void SessionModel::ToggleSelected() {
     NoteStep(before);
 }
 
-void SessionModel::Add(int entry, char action) {
+void RandomSessionModel::Add(int entry, char action) {
     SessionFilters filters = Filters();
     auto filter = std::find_if(filters.begin(), filters.end(), IsCollecting(action));
     if (filter == filters.end())
@@ -196,7 +196,7 @@ void SessionModel::Add(int entry, char action) {
 }
 
 // Of the first one only: any other is a list of its own, unless the first is longer than lists get here.
-bool SessionModel::TakeOut(int entry, char action) {
+bool RandomSessionModel::TakeOut(int entry, char action) {
     SessionFilters filters = Filters();
     const auto filter = std::find_if(filters.begin(), filters.end(), IsCollecting(action));
     if (filter == filters.end())
@@ -207,17 +207,17 @@ bool SessionModel::TakeOut(int entry, char action) {
     return true;
 }
 
-void SessionModel::Store(const SessionFilters& filters) {
+void RandomSessionModel::Store(const SessionFilters& filters) {
     StoredFilters.clear();
     for (const SessionFilter& filter : filters)
         StoredFilters << TextForm(filter);
 }
 
-bool SessionModel::Find(bool up) {
+bool RandomSessionModel::Find(bool up) {
     return Step(up, [this](int row) { return IsHit(row); });
 }
 
-bool SessionModel::GoToNext(SessionMark mark, bool up) {
+bool RandomSessionModel::GoToNext(SessionMark mark, bool up) {
     return Step(up, [this, mark](int row) {
         switch (mark) {
         case SessionMark::Error:
@@ -231,7 +231,7 @@ bool SessionModel::GoToNext(SessionMark mark, bool up) {
     });
 }
 
-bool SessionModel::Step(bool up, const std::function<bool(int)>& isWanted) {
+bool RandomSessionModel::Step(bool up, const std::function<bool(int)>& isWanted) {
     const int step = up ? -1 : 1;
     const int start = SelectedRow() < 0 ? (up ? RowCount() - 1 : 0) : SelectedRow() + step;
     for (int row = start; row >= 0 && row < RowCount(); row += step)
@@ -243,12 +243,12 @@ bool SessionModel::Step(bool up, const std::function<bool(int)>& isWanted) {
     return false;
 }
 
-bool SessionModel::IsHit(int row) const {
+bool RandomSessionModel::IsHit(int row) const {
     return CellMatches(Cell(row, 0), Search) || CellMatches(Cell(row, 1), Search) ||
            CellMatches(Cell(row, 6), Search);
 }
 
-void SessionModel::Comment(int row, const QString& comment) {
+void RandomSessionModel::Comment(int row, const QString& comment) {
     const QString text = comment == "!!Clear!!" ? QString() : QString(comment).replace("\n", " | ");
     if (Entries[Rows[row].Entry].Comment != text)
         Changed.insert(Rows[row].Entry);
@@ -258,33 +258,33 @@ void SessionModel::Comment(int row, const QString& comment) {
     ShowContentOf(row);
 }
 
-SessionEntries SessionModel::BareEntries() const {
+SessionEntries RandomSessionModel::BareEntries() const {
     SessionEntries bare = Entries;
     for (SessionEntry& entry : bare)
         entry.Comment.clear();
     return bare;
 }
 
-void SessionModel::SelectAlone(int row) {
+void RandomSessionModel::SelectAlone(int row) {
     Selected = {row};
     Current = row;
 }
 
-int SessionModel::SelectedRow() const {
+int RandomSessionModel::SelectedRow() const {
     return Selected.empty() ? -1 : Selected.contains(Current) ? Current : *Selected.begin();
 }
 
-void SessionModel::ShowContent() {
+void RandomSessionModel::ShowContent() {
     if (SelectedRow() >= 0)
         ShowContentOf(SelectedRow());
 }
 
-void SessionModel::ShowContentOf(int row) {
+void RandomSessionModel::ShowContentOf(int row) {
     const SessionEntry& entry = EntryOf(row);
     Content = QString(entry.Data).replace(" | ", "\n") + '\n' + QString(entry.Comment).replace(" | ", "\n");
 }
 
-QString SessionModel::Cell(int row, int column) const {
+QString RandomSessionModel::Cell(int row, int column) const {
     const SessionEntry& entry = EntryOf(row);
     const QString cells[] = {
         SessionTypeName(entry.Type),      entry.Data,   entry.Sender, entry.Name, entry.Time,
@@ -292,17 +292,17 @@ QString SessionModel::Cell(int row, int column) const {
     return cells[column];
 }
 
-QString SessionModel::Tag(int row) const {
+QString RandomSessionModel::Tag(int row) const {
     return TagColumn < 0 ? QString::number(EntryOf(row).Type) : Cell(row, TagColumn);
 }
 
-void SessionModel::SetLanguage(int language) {
+void RandomSessionModel::SetLanguage(int language) {
     Language = language;
     if (language == 0 || language == 1)
         LabelLanguage = language;
 }
 
-void SessionModel::Restart() {
+void RandomSessionModel::Restart() {
     Steps.clear();
     Done = 0;
     SortColumn = 0;

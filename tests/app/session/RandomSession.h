@@ -2,20 +2,22 @@
 #pragma once
 
 #include "app/MainWindowTest.h"
+#include "app/session/RandomSessionModel.h"
 #include "app/session/SessionLogbook.h"
-#include "app/session/SessionModel.h"
 #include "app/session/SessionPerson.h"
 #include "settings/JsonSettings.h"
 #include "tools/Dice.h"
 
 #include <optional>
 
+class frmOverview;
+
 // A person at the main window, who gives one order after the other as the dice fall, and the model beside it
 // that is told the same. The settings are those of a real file.
-class Session : public MainWindowTest {
+class RandomSession : public MainWindowTest {
   public:
     // The same seed gives the same session.
-    explicit Session(std::uint64_t seed);
+    explicit RandomSession(std::uint64_t seed);
 
     // Gives one order. "", or what the window shows or stores that the model does not.
     QString Step();
@@ -26,7 +28,7 @@ class Session : public MainWindowTest {
   private:
     struct Order {
         int Weight;
-        void (Session::*Give)();
+        void (RandomSession::*Give)();
     };
     static const Order OrderTable[];
 
@@ -106,6 +108,13 @@ class Session : public MainWindowTest {
     void StepToMark();
     void ChangeLanguage();
 
+    // SessionOverview.cpp
+    void ToggleOverview();
+    void UseOverview();
+    void GoToFirst(const QString& key);
+    frmOverview* Overview() const; // nullptr while it is closed
+    QString OverviewDifference() const;
+
     // SessionFilterDialogs.cpp
     void EditFilters();
     void EditFiltersByPopup();
@@ -140,7 +149,7 @@ class Session : public MainWindowTest {
     Dice dice_;
     QString settingsFile_;
     std::unique_ptr<JsonSettings> jsonSettings_;
-    SessionModel Model;
+    RandomSessionModel Model;
     SessionPerson Answers;
     QList<Source> logbooks_;
     QList<Source> archives_;

@@ -1,46 +1,48 @@
 // SPDX-License-Identifier: MIT
-#include "app/session/Session.h"
+#include "app/session/RandomSession.h"
 
 #include <cstdio>
 #include <numeric>
 
 // Rare orders are those that take long, or after which little is left of the list.
-const Session::Order Session::OrderTable[] = {
-    {12, &Session::ClickRow},
-    {10, &Session::AddRowByClick},
-    {10, &Session::SelectRange},
-    {1, &Session::SelectAll},
-    {2, &Session::ClickBeside},
-    {8, &Session::MoveByKey},
-    {10, &Session::Sort},
-    {4, &Session::SortByMenu},
-    {8, &Session::Remove},
-    {1, &Session::KeepBetween},
-    {8, &Session::UndoOrRedo},
-    {12, &Session::Toggle},
-    {3, &Session::Copy},
-    {7, &Session::EditComments},
-    {7, &Session::FindByDialog},
-    {10, &Session::FindAgain},
-    {1, &Session::FindAll},
-    {8, &Session::StepToMark},
-    {3, &Session::ChangeLanguage},
-    {8, &Session::EditFilters},
-    {3, &Session::Resize},
-    {2, &Session::ToggleContent},
-    {2, &Session::ToggleBars},
-    {2, &Session::WidenColumn},
-    {3, &Session::OpenDropped},
-    {1, &Session::Open},
-    {1, &Session::Archive},
-    {3, &Session::Refresh},
-    {1, &Session::RewriteAndRefresh},
-    {1, &Session::Restart},
-    {1, &Session::Crash},
-    {1, &Session::EditFiltersByPopup},
+const RandomSession::Order RandomSession::OrderTable[] = {
+    {12, &RandomSession::ClickRow},
+    {10, &RandomSession::AddRowByClick},
+    {10, &RandomSession::SelectRange},
+    {1, &RandomSession::SelectAll},
+    {2, &RandomSession::ClickBeside},
+    {8, &RandomSession::MoveByKey},
+    {10, &RandomSession::Sort},
+    {4, &RandomSession::SortByMenu},
+    {8, &RandomSession::Remove},
+    {1, &RandomSession::KeepBetween},
+    {8, &RandomSession::UndoOrRedo},
+    {12, &RandomSession::Toggle},
+    {3, &RandomSession::Copy},
+    {7, &RandomSession::EditComments},
+    {7, &RandomSession::FindByDialog},
+    {10, &RandomSession::FindAgain},
+    {1, &RandomSession::FindAll},
+    {8, &RandomSession::StepToMark},
+    {3, &RandomSession::ToggleOverview},
+    {12, &RandomSession::UseOverview},
+    {3, &RandomSession::ChangeLanguage},
+    {8, &RandomSession::EditFilters},
+    {3, &RandomSession::Resize},
+    {2, &RandomSession::ToggleContent},
+    {2, &RandomSession::ToggleBars},
+    {2, &RandomSession::WidenColumn},
+    {3, &RandomSession::OpenDropped},
+    {1, &RandomSession::Open},
+    {1, &RandomSession::Archive},
+    {3, &RandomSession::Refresh},
+    {1, &RandomSession::RewriteAndRefresh},
+    {1, &RandomSession::Restart},
+    {1, &RandomSession::Crash},
+    {1, &RandomSession::EditFiltersByPopup},
 };
 
-Session::Session(std::uint64_t seed) : dice_(seed), settingsFile_(PathOf("settings.json")) {
+RandomSession::RandomSession(std::uint64_t seed) : dice_(seed), settingsFile_(PathOf("settings.json")) {
     jsonSettings_ = std::make_unique<JsonSettings>(settingsFile_.toStdString());
     Settings = std::make_unique<Registry>(*jsonSettings_);
     for (const char* file : {"classic.log", "separated.log", "operation.log", "Prüf.act.log"}) {
@@ -53,14 +55,14 @@ Session::Session(std::uint64_t seed) : dice_(seed), settingsFile_(PathOf("settin
     StartProgram();
 }
 
-void Session::WriteLogbook(Source& source, Generation generation) {
+void RandomSession::WriteLogbook(Source& source, Generation generation) {
     SessionLogbook logbook = MakeSessionLogbook(dice_, generation);
     Folder.Write(source.File.toStdString(), logbook.File.toStdString());
     source.Entries = std::move(logbook.Entries);
 }
 
 // A new window with a logbook on its command line.
-void Session::StartProgram() {
+void RandomSession::StartProgram() {
     OpenWindow();
     const Source source = logbooks_[Below(static_cast<int>(logbooks_.size()))];
     Say("starts with " + source.File);
@@ -72,7 +74,7 @@ void Session::StartProgram() {
         columnWidths_ << List()->columnWidth(column);
 }
 
-QString Session::Step() {
+QString RandomSession::Step() {
     const int all = std::accumulate(std::begin(OrderTable), std::end(OrderTable), 0,
                                     [](int sum, const Order& order) { return sum + order.Weight; });
     int place = Below(all);
@@ -86,7 +88,7 @@ QString Session::Step() {
     return Answers.Fault().isEmpty() ? Difference() : Answers.Fault();
 }
 
-void Session::Say(const QString& words) {
+void RandomSession::Say(const QString& words) {
     if (orders_.isEmpty())
         orders_ << QString();
     orders_.last() += orders_.last().isEmpty() ? words : ", " + words;
@@ -94,6 +96,6 @@ void Session::Say(const QString& words) {
         std::fprintf(stderr, "%lld: %s\n", static_cast<long long>(orders_.size() - 1), qPrintable(words));
 }
 
-QString Session::Localised(const char* english, const char* german) const {
+QString RandomSession::Localised(const char* english, const char* german) const {
     return Model.Language == 1 ? german : english;
 }

@@ -31,7 +31,7 @@ struct SessionSearch {
 
 // What the main window must show and store, from the rules alone: lists of plain values, and no line of the
 // program's own. Rows count from 0, a row of -1 is none.
-class SessionModel {
+class RandomSessionModel {
   public:
     // The logbook is read: a new list, without a selected row.
     void Read(const SessionEntries& entries, const QString& name);
@@ -62,6 +62,7 @@ class SessionModel {
 
     // Selects the next row of this kind; false when there is none.
     bool GoToNext(SessionMark mark, bool up);
+    bool GoToNext(const std::function<bool(int row)>& isWanted, bool up) { return Step(up, isWanted); }
 
     // The comment as the entry dialog returns it, lines separated by line feeds.
     void Comment(int row, const QString& comment);
