@@ -55,6 +55,7 @@ void WindowOverview::ConnectList() {
     connect(model, &LogbookModel::modelReset, this, noteRows);
     connect(model, &LogbookModel::layoutChanged, this, noteRows);
     connect(model, &LogbookModel::dataChanged, this, noteRows);
+    connect(model, &LogbookModel::CommentsChanged, this, noteRows);
     connect(parts_.List.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             note(&Changes::Selection));
     connect(parts_.List.verticalScrollBar(), &QScrollBar::valueChanged, this, note(&Changes::View));

@@ -74,6 +74,7 @@ void LogbookModel::ShowComments() {
     const int column = static_cast<int>(LogbookColumn::Comment);
     if (rowCount() > 0)
         emit dataChanged(index(0, column), index(rowCount() - 1, column));
+    emit CommentsChanged();
 }
 
 void LogbookModel::RemoveFromList(const RowRanges& ranges) {

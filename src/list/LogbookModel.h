@@ -62,6 +62,9 @@ class LogbookModel : public QAbstractTableModel {
     // A screen reader's words for these rows have changed.
     void SpokenTextChanged(const RowRanges& rows);
 
+    // Of entries with a row or without one.
+    void CommentsChanged();
+
   private:
     const EntryTable& entries_;
     LogbookRows& rows_;
