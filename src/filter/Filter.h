@@ -29,6 +29,6 @@ using FilterProgress = std::function<void(double percent)>;
 bool ApplyFilters(const EntryTable& entries, std::span<const FilterDefinition> filters, LogbookRows& rows,
                   const FilterProgress& progress = {});
 
-// The row to select after a run when entry `number` was selected before it: the first row whose entry has
-// that number or a higher one.
+// The row to select after a run, in whose order the rows still are, when entry `number` was selected before
+// it: the first row whose entry has that number or a higher one.
 std::optional<std::size_t> RowForEntry(const LogbookRows& rows, EntryNumber number);

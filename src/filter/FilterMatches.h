@@ -36,10 +36,24 @@ class FilterMatches {
     // entry 0 on.
     void BeginBatch(EntryNumber first, EntryNumber end);
 
+    // The entries of a batch in blocks of so many, from its first one on.
+    static constexpr EntryNumber BlockSize = 64;
+
+    // Whether the kinds alone decide on the entries of the block that begins with `number`. Then OfKind has
+    // what Of has.
+    bool KindsDecide(EntryNumber number) const {
+        const std::size_t block = (number - batchBegin_) / BlockSize;
+        std::uint64_t matched = 0;
+        for (std::size_t group = 0; group < Groups; ++group)
+            matched |= matched_[group][block];
+        return matched == 0;
+    }
+    unsigned OfKind(EntryNumber number) const { return kinds_[entries_.KindNumber(number)]; }
+
     // One bit for each group that matches an entry of the batch, and what was set for its kind.
     unsigned Of(EntryNumber number) const {
         const std::size_t place = number - batchBegin_;
-        unsigned matched = kinds_[entries_.KindNumber(number)];
+        unsigned matched = OfKind(number);
         for (std::size_t group = 0; group < Groups; ++group)
             matched |= static_cast<unsigned>(matched_[group][place / 64] >> (place % 64) & 1U) << group;
         return matched;
