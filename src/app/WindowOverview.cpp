@@ -211,7 +211,12 @@ void WindowOverview::FollowRows() {
 }
 
 void WindowOverview::FollowSelection() {
-    overview_->ShowSelection(SelectionText(counter_->FactsOf(parts_.List.SelectedRanges()), language_));
+    const RowRanges selected = parts_.List.SelectedRanges();
+    std::optional<std::size_t> error;
+    const SelectionFacts facts = counter_->FactsOf(selected);
+    if (facts.Rows == 1)
+        error = history_->ErrorOf(parts_.List.Logbook()->Rows()[selected.front().First].Entry);
+    overview_->ShowSelection(SelectionText(facts, language_), error);
     changes_.View = true;
 }
 

@@ -86,6 +86,19 @@ double LogbookHistory::Percent() const {
     return phase_ == Phase::Done ? 100 : (static_cast<double>(phase_) + share) * 25;
 }
 
+std::optional<std::size_t> LogbookHistory::ErrorOf(EntryNumber entry) const {
+    if (!strip_.Errors().Contains(entry) && !strip_.Warnings().Contains(entry))
+        return std::nullopt;
+    const EntryKind& kind = logbook_.Entries.Kind(entry);
+    std::string key;
+    keys_.MakeKey(logbook_.Entries.Data(entry), kind.Sender, kind.Name, key);
+    const auto error = std::find_if(errors_.begin(), errors_.end(),
+                                    [&](const ExplainedError& e) { return e.Record.Key == key; });
+    if (error == errors_.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(error - errors_.begin());
+}
+
 ErrorTexts LogbookHistory::FullTexts(const ErrorRecord& error) const {
     return TextsOf(error, logbook_.Entries, languageFolders_);
 }

@@ -44,6 +44,10 @@ class LogbookHistory {
     const std::vector<ExplainedError>& Errors() const { return errors_; }
     const ErrorKeys& Keys() const { return keys_; }
 
+    // The place in Errors() of what an entry is an occurrence of; nothing when it is no error or warning.
+    // Costs a look at each error.
+    std::optional<std::size_t> ErrorOf(EntryNumber entry) const;
+
     // All lines of the control's texts for an error.
     ErrorTexts FullTexts(const ErrorRecord& error) const;
 

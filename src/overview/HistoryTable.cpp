@@ -43,6 +43,16 @@ std::optional<std::size_t> HistoryTable::SelectedRecord() const {
     return row ? std::optional(model_->RecordOf(*row)) : std::nullopt;
 }
 
+void HistoryTable::SelectRecord(std::size_t record) {
+    for (int row = 0; row < model_->rowCount(); ++row) {
+        if (model_->RecordOf(row) != record)
+            continue;
+        if (SelectedRow() != row)
+            selectRow(row);
+        return scrollTo(model_->index(row, 0));
+    }
+}
+
 void HistoryTable::FitColumnWidths(int widest) {
     for (int column = 0; column < model_->columnCount(); ++column) {
         resizeColumnToContents(column);

@@ -20,6 +20,9 @@ class HistoryTable : public ListOfRows<QTableView> {
     // The record of SelectedRow.
     std::optional<std::size_t> SelectedRecord() const;
 
+    // Selects the record's row alone and shows it.
+    void SelectRecord(std::size_t record);
+
     // Makes each column as wide as the header and the first rows need, and none wider than `widest` pixels.
     void FitColumnWidths(int widest);
 

@@ -21,6 +21,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 QWidget* PageOf(std::initializer_list<QWidget*> parts) {
@@ -149,7 +151,10 @@ void frmOverview::MakeTables() {
     connect(lvErrors, &HistoryTable::SelectionChanged, this, &frmOverview::ShowErrorText);
     connect(lvErrors, &HistoryTable::RemovalWanted, this,
             [this] { OrderAll(&frmOverview::RemoveAllWanted); });
-    connect(tabTables, &QTabWidget::currentChanged, this, &frmOverview::EnableOrders);
+    connect(tabTables, &QTabWidget::currentChanged, this, [this] {
+        SelectWantedError();
+        EnableOrders();
+    });
     connect(cmdGoTo, &QPushButton::clicked, this, &frmOverview::GoToSelected);
     connect(cmdPrevious, &QPushButton::clicked, this, [this] { OrderOccurrence(SearchDirection::Up); });
     connect(cmdNext, &QPushButton::clicked, this, [this] { OrderOccurrence(SearchDirection::Down); });
@@ -168,6 +173,8 @@ void frmOverview::MakeKeys() {
     key(Qt::CTRL | Qt::Key_Z, [this] { emit UndoWanted(); });
     key(Qt::CTRL | Qt::Key_Y, [this] { emit RedoWanted(); });
     key(Qt::Key_F1, [this] { emit HelpWanted(); });
+    key(Qt::CTRL | Qt::Key_Tab, [this] { TurnTab(1); });
+    key(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { TurnTab(-1); });
     key(Qt::Key_Escape, [this] { close(); });
     key(Qt::Key_F9, [this] { close(); });
 }
@@ -209,6 +216,7 @@ void frmOverview::SetLanguage(Language language) {
 void frmOverview::ShowNothing() {
     history_ = nullptr;
     entries_ = nullptr;
+    wantedError_.reset();
     pbTimeline->ShowHistory(nullptr, EntrySet(), EntrySet());
     sessions_->ShowHistory(nullptr, nullptr);
     errors_->ShowHistory(nullptr);
@@ -260,10 +268,24 @@ void frmOverview::ShowList(const std::optional<TimelineSpan>& rows,
     pbTimeline->ShowList(rows, selected);
 }
 
-void frmOverview::ShowSelection(const std::string& text) {
+void frmOverview::ShowSelection(const std::string& text, std::optional<std::size_t> error) {
     tbSelection->setText(ToQString(text));
     tbSelection->setCursorPosition(0);
     tbSelection->setToolTip(tbSelection->text());
+    const bool isJustShown = std::exchange(isJustShown_, false);
+    if (error && (isJustShown || !isActiveWindow()))
+        wantedError_ = error;
+    SelectWantedError();
+}
+
+void frmOverview::SelectWantedError() {
+    if (wantedError_ && history_ != nullptr && ShownTable() == lvErrors)
+        lvErrors->SelectRecord(*std::exchange(wantedError_, std::nullopt));
+}
+
+void frmOverview::TurnTab(int tabs) {
+    tabTables->setCurrentIndex((tabTables->currentIndex() + tabs + tabTables->count()) % tabTables->count());
+    ShownTable()->setFocus(Qt::TabFocusReason);
 }
 
 HistoryTable* frmOverview::ShownTable() const {
@@ -352,6 +374,7 @@ void frmOverview::ShowPopup(HistoryTable& table, const QPoint& position) {
 
 void frmOverview::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
+    isJustShown_ = true;
     emit Shown();
 }
 

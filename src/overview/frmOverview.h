@@ -7,6 +7,8 @@
 
 #include <QWidget>
 
+#include <cstddef>
+#include <optional>
 #include <string>
 
 class ElidedLabel;
@@ -45,9 +47,11 @@ class frmOverview : public QWidget {
 
     void ShowMarks(const EntrySet& commented, const EntrySet& highlighted);
 
-    // The rows on the screen and the selected entry, on the timeline; and the line about the selection.
+    // The rows on the screen and the selected entry, on the timeline; the line about the selection, and the
+    // error (a place in the history's errors) that a single selected row is. The table of errors selects it
+    // when the person is at work in the list; not when that would change what the next order here means.
     void ShowList(const std::optional<TimelineSpan>& rows, const std::optional<Timeline::Place>& selected);
-    void ShowSelection(const std::string& text);
+    void ShowSelection(const std::string& text, std::optional<std::size_t> error);
 
     bool HasHistory() const { return history_ != nullptr; }
 
@@ -84,11 +88,15 @@ class frmOverview : public QWidget {
     void OrderAll(void (frmOverview::*order)(const std::string& key));
     const ErrorRecord* SelectedError() const;
     void ShowErrorText();
+    void SelectWantedError();
+    void TurnTab(int tabs);
     void ShowPopup(HistoryTable& table, const QPoint& position);
 
     Language language_;
     const LogbookHistory* history_ = nullptr;
     const EntryTable* entries_ = nullptr;
+    bool isJustShown_ = false;
+    std::optional<std::size_t> wantedError_; // to be selected when the table of errors is seen
     TimelineView* pbTimeline;
     ElidedLabel* lblSeen;
     QPushButton* cmdZoomIn;

@@ -209,6 +209,21 @@ class MainWindowOverviewTest : public MainWindowTest {
         QCOMPARE(List()->SelectedRow(), 1);
     }
 
+    void TheSelectedErrorIsFoundAmongTheErrors() {
+        OpenStory();
+        List()->SelectAndShow(6);
+        OpenOverview();
+        PressThere(Qt::Key_Tab, Qt::ControlModifier);
+        QTRY_COMPARE(SelectedKey(), QString("P9"));
+        PressThere(Qt::Key_Up);
+        QApplication::setActiveWindow(Window.get());
+        List()->SelectAndShow(7);
+        QTRY_COMPARE(SelectedKey(), QString("P7"));
+        List()->SelectAndShow(3); // no error
+        QTest::qWait(20);
+        QCOMPARE(SelectedKey(), QString("P7"));
+    }
+
     void SpeaksBothLanguages() {
         OpenStory();
         OpenOverview();
@@ -304,6 +319,11 @@ class MainWindowOverviewTest : public MainWindowTest {
             if (errors->model()->index(row, 1).data().toString() == key)
                 return errors->selectRow(row);
         QFAIL("no such error");
+    }
+    QString SelectedKey() const {
+        const HistoryTable* const errors = Table("lvErrors");
+        const std::optional<int> row = errors->SelectedRow();
+        return row ? errors->model()->index(*row, 1).data().toString() : QString();
     }
     // A key in the overview, which a message or the main window may have left inactive.
     void PressThere(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {

@@ -61,6 +61,9 @@ TEST(LogbookHistory, HasSessionsErrorsAndTheirTexts) {
     ASSERT_EQ(history.Errors().size(), 2U); // warnings are among them
     EXPECT_EQ(history.Errors()[0].Record.Key, "P1");
     EXPECT_EQ(history.Errors()[0].English, std::nullopt);
+    EXPECT_EQ(history.ErrorOf(0), std::nullopt);
+    EXPECT_EQ(history.ErrorOf(1), 0U);
+    EXPECT_EQ(history.ErrorOf(2), 1U);
 }
 
 TEST(LogbookHistory, LooksTextsUpInBothLanguages) {

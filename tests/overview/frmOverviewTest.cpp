@@ -206,8 +206,38 @@ class frmOverviewTest : public QObject {
         QCOMPARE(hidden.size(), 1);
     }
 
+    void KeysTurnTheTabs() {
+        auto* const tabs = Part<QTabWidget>("tabTables");
+        Press(Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(tabs->currentIndex(), 1);
+        QVERIFY(Table("lvErrors")->hasFocus());
+        Press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(tabs->currentIndex(), 0);
+        Press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(tabs->currentIndex(), 2);
+        Press(Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(tabs->currentIndex(), 0);
+    }
+
+    void TheErrorOfTheListIsSelectedUnlessAPersonIsAtWorkHere() {
+        QApplication::setActiveWindow(Overview.get());
+        Overview->ShowSelection("1 row", 1); // it was just opened
+        QVERIFY(!Table("lvErrors")->SelectedRecord().has_value());
+        Press(Qt::Key_Tab, Qt::ControlModifier); // seen only now
+        QCOMPARE(Table("lvErrors")->SelectedRecord(), std::optional<std::size_t>(1));
+        Table("lvErrors")->selectRow(0);
+        Overview->ShowSelection("1 row", 2);
+        QCOMPARE(Table("lvErrors")->SelectedRecord(), std::optional<std::size_t>(0));
+        QWidget list;
+        list.show();
+        QApplication::setActiveWindow(&list);
+        Overview->ShowSelection("1 row", 2);
+        QCOMPARE(Table("lvErrors")->SelectedRecord(), std::optional<std::size_t>(2));
+        Overview->ShowSelection("no error", {});
+        QCOMPARE(Table("lvErrors")->SelectedRecord(), std::optional<std::size_t>(2));
+    }
+
     void TextsOfTheErrorAreInBothLanguages() {
-        const HistoryOfStory explained({QORVIX_SOURCE_FOLDER "/samples/language/"});
         Errors()->selectRow(0);
         QCOMPARE(Part<QPlainTextEdit>("txErrorText")->toPlainText(),
                  QString("English: no text\n\nGerman: no text"));
