@@ -27,6 +27,10 @@ std::optional<TextId> NameOf(std::optional<FilterHistory::Act> act) {
     return std::nullopt;
 }
 
+RowRanges AllOf(const LogbookRows& rows) {
+    return rows.empty() ? RowRanges() : RowRanges{{0, rows.size() - 1}};
+}
+
 } // namespace
 
 FilterOrders::FilterOrders(LogbookView& list, Registry& registry, MainMenus& menus, UserInterface& user,
@@ -88,6 +92,24 @@ void FilterOrders::ToggleHighlighting(const RowRanges& rows) {
     history_.Record(FilterHistory::Act::ToggleHighlighting,
                     [&] { toggled = ::ToggleHighlighting(registry_, list_.Logbook()->Rows(), rows); });
     list_.Logbook()->ToggleHighlighting(toggled);
+    OfferUndo();
+}
+
+void FilterOrders::RemoveEntries(const LogbookRows& entries, const RowRanges& shown) {
+    const WaitPointer wait;
+    history_.Record(FilterHistory::Act::Remove,
+                    [&] { ::RemoveFromList(registry_, entries, AllOf(entries)); });
+    if (!shown.empty())
+        list_.RemoveBeside(shown);
+    events_.RowsRemoved();
+    OfferUndo();
+}
+
+void FilterOrders::HighlightEntries(const LogbookRows& entries, const RowRanges& shown) {
+    const WaitPointer wait;
+    history_.Record(FilterHistory::Act::ToggleHighlighting,
+                    [&] { ::ToggleHighlighting(registry_, entries, AllOf(entries)); });
+    list_.Logbook()->ToggleHighlighting(shown);
     OfferUndo();
 }
 

@@ -38,6 +38,12 @@ class FilterOrders {
     void Remove(const RowRanges& rows);
     void ToggleHighlighting(const RowRanges& rows);
 
+    // Remove or highlight entries, also those that filters hide, as one step. `entries` are rows for each of
+    // them, plain ones for ToggleHighlighting; `shown` are the rows of the list that are among them. The
+    // selection stays on its row.
+    void RemoveEntries(const LogbookRows& entries, const RowRanges& shown);
+    void HighlightEntries(const LogbookRows& entries, const RowRanges& shown);
+
   private:
     void KeepBetween();
     void TellOutcome(FilterHistory::Outcome outcome);

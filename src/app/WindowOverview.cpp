@@ -126,7 +126,7 @@ bool WindowOverview::Run(Command command, const OrderSubject& subject) {
         HighlightAll(std::get<std::string>(subject));
         return true;
     case Command::RemoveAll:
-        parts_.Filters.Remove(RowsOf(std::get<std::string>(subject)));
+        RemoveAll(std::get<std::string>(subject));
         return true;
     default:
         return false;
@@ -273,7 +273,10 @@ void WindowOverview::SelectSpan(EntrySpan span) {
         else
             ranges.push_back({row, row});
     }
-    if (ranges.empty() || ranges.size() > LogbookView::MostSelectedRanges)
+    // What was selected before does not lie in the span.
+    if (ranges.empty())
+        return parts_.List.clearSelection();
+    if (ranges.size() > LogbookView::MostSelectedRanges)
         return;
     const int first = static_cast<int>(ranges.front().First);
     parts_.List.SelectRanges(ranges, first);
@@ -295,21 +298,37 @@ void WindowOverview::GoToOccurrence(const std::string& key, SearchDirection dire
     parts_.Search.ShowFound(found, direction);
 }
 
-RowRanges WindowOverview::RowsOf(const std::string& key) const {
+// Also those that filters hide, whose highlight is not known.
+WindowOverview::AllOccurrences WindowOverview::OccurrencesOf(const std::string& key) const {
     if (!history_)
         return {};
     const WaitPointer wait;
-    return Occurrences(parts_.Document.Entries(), history_->Keys(), key)
-        .RangesIn(parts_.List.Logbook()->Rows());
+    const EntryTable& entries = parts_.Document.Entries();
+    const Occurrences occurrences(entries, history_->Keys(), key);
+    AllOccurrences all{.Entries = {}, .Shown = occurrences.RangesIn(parts_.List.Logbook()->Rows())};
+    for (EntryNumber entry = 0; entry < entries.Count(); ++entry)
+        if (occurrences.Is(entry))
+            all.Entries.push_back({.Entry = entry & MostEntries, .Highlighted = 0});
+    return all;
+}
+
+void WindowOverview::RemoveAll(const std::string& key) {
+    const AllOccurrences all = OccurrencesOf(key);
+    parts_.Filters.RemoveEntries(all.Entries, all.Shown);
 }
 
 // Those that are highlighted stay so.
 void WindowOverview::HighlightAll(const std::string& key) {
     const LogbookRows& rows = parts_.List.Logbook()->Rows();
+    AllOccurrences all = OccurrencesOf(key);
+    EntrySet highlighted(parts_.Document.Entries().Count());
     RowRanges plain;
-    for (const RowRange& range : RowsOf(key))
+    for (const RowRange& range : all.Shown)
         for (std::size_t row = range.First; row <= range.Last; ++row)
             if (rows[row].Highlighted == 0)
                 plain.push_back({row, row});
-    parts_.Filters.ToggleHighlighting(Joined(std::move(plain)));
+            else
+                highlighted.Add(rows[row].Entry);
+    std::erase_if(all.Entries, [&](const LogbookRow& row) { return highlighted.Contains(row.Entry); });
+    parts_.Filters.HighlightEntries(all.Entries, Joined(std::move(plain)));
 }

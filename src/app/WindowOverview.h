@@ -73,7 +73,14 @@ class WindowOverview : public QObject {
     void GoToEntry(EntryNumber entry);
     void SelectSpan(EntrySpan span);
     void GoToOccurrence(const std::string& key, SearchDirection direction);
-    RowRanges RowsOf(const std::string& key) const;
+
+    // Each entry with a row of its own, in the order of the logbook, and the rows of the list among them.
+    struct AllOccurrences {
+        LogbookRows Entries;
+        RowRanges Shown;
+    };
+    AllOccurrences OccurrencesOf(const std::string& key) const;
+    void RemoveAll(const std::string& key);
     void HighlightAll(const std::string& key);
 
     Parts parts_;

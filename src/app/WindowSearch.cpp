@@ -83,7 +83,8 @@ void WindowSearch::GoToTime() {
         const WaitPointer wait;
         found = FindTime(entries_, rows, *wanted, list_.Logbook()->LiesInTime());
     }
-    ShowFound(found.Row, SearchDirection::Down);
+    if (found.Row || !found.HiddenEntry)
+        ShowFound(found.Row, SearchDirection::Down);
     if (found.HiddenEntry)
         TellHidden(*found.HiddenEntry);
 }

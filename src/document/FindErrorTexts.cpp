@@ -26,7 +26,7 @@ class ErrorTextArchive : public ErrorTextSource {
         if (system)
             FindInSystem(*system, tempFolder, found);
         if (problem_.empty())
-            Choose(std::move(found));
+            Choose(std::move(found), language);
     }
 
     std::optional<std::string> Content(std::size_t file, std::string& reason) override {

@@ -145,6 +145,7 @@ void LogbookDocument::ChangeComment(EntryNumber entry, std::string_view comment)
 
 // Opens one source; the name becomes that of the logbook.
 bool LogbookDocument::ExecuteLogbook(std::string& name, const FilesInstead& instead) {
+    numbersBefore_.reset();
     std::error_code noFile;
     const std::optional<FileStamp> stamp = StampOf(name, noFile);
     const std::optional<LogbookSource> source =
@@ -193,11 +194,23 @@ void LogbookDocument::TellNumbersOfOthers() {
 
 void LogbookDocument::FiltersAreChanged(const std::vector<FilterDefinition>& before,
                                         const std::vector<FilterDefinition>& after) {
-    // Without a logbook nobody knows what the numbers are meant for.
-    if (!HaveSameNumbers(before, after))
-        filters_.NumbersAreMadeFor(Identity());
+    NoteNumbers(before, after);
     filtersInForce_ = WithChange(filtersInForce_, before, after);
     view_->FiltersInForceChanged();
+}
+
+// The numbers are made for this logbook from now on. Where the person takes that back, they are again for the
+// logbook for which they were before.
+void LogbookDocument::NoteNumbers(const std::vector<FilterDefinition>& before,
+                                  const std::vector<FilterDefinition>& after) {
+    if (HaveSameNumbers(before, after))
+        return;
+    const std::optional<std::string> madeFor = filters_.NumbersMadeFor();
+    // Without a logbook nobody knows what the numbers are meant for.
+    if (madeFor && *madeFor != Identity())
+        numbersBefore_ = {before, *madeFor};
+    const bool isAsBefore = numbersBefore_ && HaveSameNumbers(after, numbersBefore_->Filters);
+    filters_.NumbersAreMadeFor(isAsBefore ? numbersBefore_->MadeFor : Identity());
 }
 
 std::optional<HiddenEntries> LogbookDocument::Hidden() const {

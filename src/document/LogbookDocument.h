@@ -118,6 +118,7 @@ class LogbookDocument {
     bool ReplaceFilters(const std::string& filterFile, const std::string& name);
     const std::string& Identity();
     void TellNumbersOfOthers();
+    void NoteNumbers(const std::vector<FilterDefinition>& before, const std::vector<FilterDefinition>& after);
     CommentsFileResult ReadComments(const std::string& commentsFile);
     bool MakeRows();
     CommentsOutcome AskToSaveComments();
@@ -134,6 +135,12 @@ class LogbookDocument {
     LogbookRows rows_;
     LogbookState state_;
     std::string identity_; // of the logbook that is open; "" = not computed yet
+    // The stored filters before this logbook's first change of their numbers, if these were for another one.
+    struct NumbersBefore {
+        std::vector<FilterDefinition> Filters;
+        std::string MadeFor; // its identity
+    };
+    std::optional<NumbersBefore> numbersBefore_;
     std::vector<FilterDefinition> filtersInForce_;
     std::optional<std::vector<FilterDefinition>> filtersOfRun_; // that made the rows
     mutable std::optional<HiddenEntries> hiddenByRun_;

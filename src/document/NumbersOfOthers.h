@@ -14,5 +14,5 @@ struct NumbersOfOthers {
     bool operator==(const NumbersOfOthers&) const = default;
 };
 
-// "Filters by number that were made for another logbook hide 12 entries."
+// "Number filters of another logbook hide 12 entries."
 std::string NumbersOfOthersText(const NumbersOfOthers& numbers, Language language);

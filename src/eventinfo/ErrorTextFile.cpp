@@ -3,6 +3,8 @@
 
 #include "base/AsciiCase.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr Language InEnglish{Language::English};
@@ -39,6 +41,13 @@ std::string_view TakeName(std::string_view& path) {
     return name;
 }
 
+// No control writes such names; the files would be hard to handle, or taken for unfinished ones.
+bool IsOdd(std::string_view name) {
+    constexpr std::size_t LongestName = 200;
+    return name.size() > LongestName || name.find(".qorvix-part-") != std::string_view::npos ||
+           std::any_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; });
+}
+
 } // namespace
 
 std::string ErrorTextFile::PlaceName() const {
@@ -47,6 +56,8 @@ std::string ErrorTextFile::PlaceName() const {
 
 std::optional<ErrorTextFile> ErrorTextFileOf(std::string_view path) {
     const std::string_view name = TakeName(path);
+    if (IsOdd(name))
+        return std::nullopt;
     const std::string_view folderName = TakeName(path);
     const std::string lower = LowerCase(name);
     for (const EndRow& row : CodedEnds)

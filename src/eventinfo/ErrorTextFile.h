@@ -30,7 +30,8 @@ struct ErrorTextFile {
 };
 
 // Recognises a language file by its path, in which "/" and "\" both part names. The case of the letters makes
-// no difference. Nothing for any other file: "error.a" and the like count only in a folder of a language.
+// no difference. Nothing for any other file: "error.a" and the like count only in a folder of a language, and
+// names of more than 200 bytes or with control characters do not count.
 //
 //     export\GERMAN\error.a  ->  Plc, German, "GERMAN", "error.a"
 std::optional<ErrorTextFile> ErrorTextFileOf(std::string_view path);

@@ -44,7 +44,7 @@ ErrorTextFolder::ErrorTextFolder(const std::filesystem::path& folder, Language l
         }
         level = std::move(below);
     }
-    Choose(std::move(found));
+    Choose(std::move(found), language);
 }
 
 std::optional<std::string> ErrorTextFolder::Content(std::size_t file, std::string& reason) {

@@ -23,6 +23,11 @@ class ErrorTextSource {
     // Files.
     const std::vector<std::string>& TooLarge() const { return tooLarge_; }
 
+    // A control has some hundred files of some megabytes. Where more than these are found, there is a
+    // Problem.
+    static constexpr std::size_t MostFiles = 5000;
+    static constexpr std::uint64_t MostBytes = std::uint64_t{256} << 20U; // in Files together
+
     // Why the place could not be searched to its end, in the user's words; "" when it was. Then Files is
     // empty.
     const std::string& Problem() const { return problem_; }
@@ -40,7 +45,7 @@ class ErrorTextSource {
         std::uint64_t Size = 0;
         std::size_t Place = 0; // where its content is, in the terms of the kind of source
     };
-    void Choose(std::vector<Found> found);
+    void Choose(std::vector<Found> found, Language language);
 
     // The Place of one of the files.
     std::size_t PlaceOf(std::size_t file) const { return places_[file]; }

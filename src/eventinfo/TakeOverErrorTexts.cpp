@@ -24,16 +24,19 @@ std::string TargetOf(const ErrorTextFile& file, const std::string& folder) {
     return FindInFolder(FolderFor(file, folder), file.Name);
 }
 
-bool IsThere(const std::string& path) {
+// Links are not followed: what is written belongs into the folder.
+std::filesystem::file_type TypeOf(const std::string& path) {
     std::error_code ignored;
-    return std::filesystem::exists(ToPath(path), ignored);
+    return std::filesystem::symlink_status(ToPath(path), ignored).type();
 }
+
+bool IsThere(const std::string& path) { return TypeOf(path) != std::filesystem::file_type::not_found; }
 
 // The whole of a regular file, piece by piece, as long as `take` returns true. False when `take` stopped, or
 // when the file cannot be read to its end.
 bool ReadWhole(const std::string& path, const std::function<bool(std::string_view piece)>& take) {
     std::error_code error;
-    if (!FileExists(path))
+    if (TypeOf(path) != std::filesystem::file_type::regular || !FileExists(path))
         return false;
     std::uintmax_t rest = std::filesystem::file_size(ToPath(path), error);
     std::ifstream stream(ToPath(path), std::ios::binary);
@@ -72,8 +75,8 @@ bool IsSameFile(const std::string& a, const std::string& b) {
 
 // Keeps a file beside itself, unless the same content is kept there already.
 std::error_code Keep(const std::string& path) {
-    if (const std::error_code error = CheckRegularFile(ToPath(path)))
-        return error;
+    if (TypeOf(path) != std::filesystem::file_type::regular)
+        return FileProblem::NoRegularFile;
     std::string kept = path + std::string(KeptExtension);
     for (int number = 2; IsThere(kept); ++number) {
         if (IsSameFile(kept, path))
@@ -139,7 +142,7 @@ ErrorTextPlan PlanTakeOver(ErrorTextSource& source, const std::string& folder) {
         if (isForBoth || file.TextLanguage->IsGerman())
             ++row.German;
         const std::string target = TargetOf(file, folder);
-        if (!IsThere(target))
+        if (TypeOf(target) != std::filesystem::file_type::regular)
             continue;
         std::string ignored;
         const std::optional<std::string> content = source.Content(i, ignored);
@@ -168,10 +171,8 @@ TakeOverResult TakeOver(ErrorTextSource& source, const std::string& folder, Lang
             TakeFile(file, *content, folder, result, error);
         if (error)
             reason = ReasonText(error, language);
-        if (!content || error) {
+        if ((!content || error) && result.Failure.empty())
             result.Failure = file.PlaceName() + ": " + reason;
-            break;
-        }
     }
     return result;
 }

@@ -33,7 +33,7 @@ struct TakeOverResult {
     std::size_t Taken = 0; // files that are there now
     std::size_t Kept = 0;  // files that they replaced
     std::size_t Same = 0;  // files that were there already
-    std::string Failure;   // the file that could not be taken, and why; "" = none
+    std::string Failure;   // the first file that could not be taken, and why; "" = none
     bool IsEnded = false;  // by the caller
 };
 
@@ -42,7 +42,7 @@ struct TakeOverResult {
 // another such file that is kept there already stays, and the new one has a number behind ".bak". All else in
 // the folder stays as it is.
 //
-// Ends at the first failure, or when `goesOn`, which is told the percentage done, returns false; files taken
-// until then stay.
+// A file that cannot be taken, also because something other than a file has its name, is left out. Ends when
+// `goesOn`, which is told the percentage done, returns false; files taken until then stay.
 TakeOverResult TakeOver(ErrorTextSource& source, const std::string& folder, Language language,
                         const std::function<bool(double percent)>& goesOn);

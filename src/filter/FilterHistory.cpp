@@ -21,14 +21,17 @@ std::optional<FilterHistory::Act> FilterHistory::ToRedo() const {
     return done_ == steps_.size() ? std::nullopt : std::optional(steps_[done_].What);
 }
 
-std::vector<FilterDefinition> FilterHistory::Stored() const { return LoadFilterList(registry_).Filters; }
+FilterHistory::Texts FilterHistory::Stored() const { return StoredFilterTexts(registry_); }
 
-void FilterHistory::Remember(Act act, std::vector<FilterDefinition> before,
-                             std::vector<FilterDefinition> after) {
+void FilterHistory::Tell(const Texts& before, const Texts& after) const {
+    if (changed_)
+        changed_(FiltersOf(before).Filters, FiltersOf(after).Filters);
+}
+
+void FilterHistory::Remember(Act act, Texts before, Texts after) {
     if (before == after)
         return;
-    if (changed_)
-        changed_(before, after);
+    Tell(before, after);
     const bool lostTheOneBefore = done_ < steps_.size() && !steps_[done_].FollowsTheOneBefore;
     steps_.resize(done_);
     const auto [firstBefore, firstAfter] =
@@ -67,9 +70,8 @@ FilterHistory::Outcome FilterHistory::Redo() {
     return outcome;
 }
 
-FilterHistory::Outcome FilterHistory::Replace(std::size_t begin, const std::vector<FilterDefinition>& old,
-                                              const std::vector<FilterDefinition>& replacement) {
-    std::vector<FilterDefinition> filters = Stored();
+FilterHistory::Outcome FilterHistory::Replace(std::size_t begin, const Texts& old, const Texts& replacement) {
+    Texts filters = Stored();
     if (filters != now_)
         return Outcome::ChangedElsewhere;
     const auto place = filters.begin() + static_cast<std::ptrdiff_t>(begin);
@@ -80,11 +82,10 @@ FilterHistory::Outcome FilterHistory::Replace(std::size_t begin, const std::vect
         // Those behind move, unless as many come as go.
         const std::size_t end = old.size() == replacement.size() ? begin + old.size() : filters.size();
         for (std::size_t i = begin; i < end; ++i)
-            WriteFilter(registry_, i, filters[i]);
+            WriteFilterText(registry_, i, filters[i]);
         WriteFilterCount(registry_, filters.size());
     }
-    if (changed_)
-        changed_(now_, filters);
+    Tell(now_, filters);
     now_ = std::move(filters);
     return Outcome::Done;
 }

@@ -7,15 +7,17 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
 class Registry;
 
 // The person's changes of the stored filters, so that they can be taken back one by one, the last one first,
-// and made again. A step restores the list of filters exactly as it stood. It keeps only the filters that
-// changed. Where the stored list is another one than the last step left, because the person edited it or
-// another copy of the program changed it, nothing can be taken back behind that.
+// and made again. A step restores the list of filters exactly as it stood, also one that was missing, or that
+// could not be read and was replaced by the default list. It keeps only the texts of filters that changed.
+// Where the stored list is another one than the last step left, because the person edited it or another copy
+// of the program changed it, nothing can be taken back behind that.
 class FilterHistory {
   public:
     enum class Act : std::uint8_t { Remove, ToggleHighlighting, KeepBetween };
@@ -35,7 +37,7 @@ class FilterHistory {
     // were taken back are then forgotten. Reads the stored filters twice.
     template <typename Change>
     void Record(Act act, Change change) {
-        std::vector<FilterDefinition> before = Stored();
+        Texts before = Stored();
         change();
         Remember(act, std::move(before), Stored());
     }
@@ -49,23 +51,25 @@ class FilterHistory {
     Outcome Redo();
 
   private:
+    using Texts = std::vector<std::string>; // of stored filters
+
     // The filters from place Begin on that were replaced by others.
     struct Step {
         Act What = Act::Remove;
         std::size_t Begin = 0;
-        std::vector<FilterDefinition> Before;
-        std::vector<FilterDefinition> After;
+        Texts Before;
+        Texts After;
         bool FollowsTheOneBefore = true; // nothing else changed the list in between
     };
 
-    std::vector<FilterDefinition> Stored() const;
-    void Remember(Act act, std::vector<FilterDefinition> before, std::vector<FilterDefinition> after);
-    Outcome Replace(std::size_t begin, const std::vector<FilterDefinition>& old,
-                    const std::vector<FilterDefinition>& replacement);
+    Texts Stored() const;
+    void Tell(const Texts& before, const Texts& after) const;
+    void Remember(Act act, Texts before, Texts after);
+    Outcome Replace(std::size_t begin, const Texts& old, const Texts& replacement);
 
     Registry& registry_;
     Changed changed_;
     std::vector<Step> steps_;
-    std::size_t done_ = 0;              // so many of them are in force
-    std::vector<FilterDefinition> now_; // as the last step left it, in either direction
+    std::size_t done_ = 0; // so many of them are in force
+    Texts now_;            // as the last step left it, in either direction
 };

@@ -95,20 +95,37 @@ StorageObstacle ObstacleOf(std::initializer_list<std::string_view> texts, std::s
 
 } // namespace
 
-StoredFilters LoadFilterList(const Registry& registry) {
+std::vector<std::string> StoredFilterTexts(const Registry& registry) {
     const std::int32_t count = registry.ReadFilterSettingLong(FilterCountName, 0);
-    std::vector<FilterDefinition> filters;
+    std::vector<std::string> texts;
     for (std::int32_t number = 1; number <= count; ++number) {
+        texts.push_back(
+            registry.ReadFilterSettingString(Numbered(FilterName, static_cast<std::size_t>(number)), ""));
+        // An empty text is no filter, and a damaged number of filters may be any.
+        if (texts.back().empty())
+            break;
+    }
+    return texts;
+}
+
+StoredFilters FiltersOf(std::span<const std::string> texts) {
+    std::vector<FilterDefinition> filters;
+    filters.reserve(texts.size());
+    for (const std::string& text : texts) {
         FilterDefinition filter;
-        if (!ParseFilter(
-                registry.ReadFilterSettingString(Numbered(FilterName, static_cast<std::size_t>(number)), ""),
-                filter))
+        if (!ParseFilter(text, filter))
             return {DefaultFilters(), false};
         filters.push_back(std::move(filter));
     }
     if (filters.empty())
         return {DefaultFilters(), false};
     return {std::move(filters), true};
+}
+
+StoredFilters LoadFilterList(const Registry& registry) { return FiltersOf(StoredFilterTexts(registry)); }
+
+void WriteFilterText(Registry& registry, std::size_t place, const std::string& text) {
+    registry.WriteFilterSetting(Numbered(FilterName, place + 1), text, SettingType::Text);
 }
 
 void WriteFilter(Registry& registry, std::size_t place, const FilterDefinition& filter) {

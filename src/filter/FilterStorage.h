@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,6 +44,15 @@ struct StoredFilters {
     bool IsStored = false;
 };
 StoredFilters LoadFilterList(const Registry& registry);
+
+// The stored filters as texts, also those that cannot be parsed; none when no list is stored.
+std::vector<std::string> StoredFilterTexts(const Registry& registry);
+
+// The list that such texts are: the default list when there are none, or one cannot be parsed.
+StoredFilters FiltersOf(std::span<const std::string> texts);
+
+// Stores a text that came from StoredFilterTexts.
+void WriteFilterText(Registry& registry, std::size_t place, const std::string& text);
 
 // Change one stored filter, by its place in the list from 0, or the number of filters; everything else stays.
 // A filter whose text the settings could not give back is not written, because it would spoil the whole list.

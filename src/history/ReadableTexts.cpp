@@ -11,6 +11,11 @@ std::string ReadableText(const Stamp& stamp) {
     return text;
 }
 
+std::string LogbookText(const Stamp& stamp) {
+    const std::string iso = IsoText(stamp); // "2010-01-04T08:00:00"
+    return iso.substr(8, 2) + '.' + iso.substr(5, 2) + '.' + iso.substr(0, 4) + ' ' + iso.substr(11);
+}
+
 std::string ClockText(const std::optional<std::chrono::milliseconds>& time) {
     if (!time)
         return "-";

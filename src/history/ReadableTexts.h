@@ -13,6 +13,9 @@
 // "2010-01-04 12:45:02", with milliseconds where the stamp has some.
 std::string ReadableText(const Stamp& stamp);
 
+// "04.01.2010 08:00:00", as the list of the logbook shows it; with milliseconds where the stamp has them.
+std::string LogbookText(const Stamp& stamp);
+
 // "26:03:07": hours, minutes, seconds; "-" for no time.
 std::string ClockText(const std::optional<std::chrono::milliseconds>& time);
 

@@ -134,6 +134,22 @@ void LogbookView::RemoveFromList(const RowRanges& ranges) {
         SelectAndShow(static_cast<int>(std::min(next, model_->Rows().size() - 1)));
 }
 
+void LogbookView::RemoveBeside(const RowRanges& ranges) {
+    const RowRanges before = SelectedRanges();
+    const SelectedEntries selected(model_->Rows(), before);
+    const auto top = static_cast<std::size_t>(verticalScrollBar()->value());
+    std::size_t removedAbove = 0;
+    for (const RowRange& range : ranges)
+        if (range.First < top)
+            removedAbove += std::min(range.Last, top - 1) - range.First + 1;
+    RemoveFromList(ranges);
+    const RowRanges left = selected.RangesIn(model_->Rows(), MostSelectedRanges);
+    if (left.empty() && !before.empty())
+        return;
+    SelectRanges(left, left.empty() ? std::nullopt : std::optional(static_cast<int>(left.front().First)));
+    verticalScrollBar()->setValue(static_cast<int>(top - removedAbove));
+}
+
 void LogbookView::ShowSortIndicator() {
     const ListOrder& order = model_->Order();
     horizontalHeader()->setSortIndicatorShown(model_->IsSorted());

@@ -41,6 +41,10 @@ class LogbookView : public ListOfRows<QTableView> {
     // row of the list.
     void RemoveFromList(const RowRanges& ranges);
 
+    // Removes these rows. What is selected and on the screen stays so, as far as it is left; if a selection
+    // is gone altogether, as RemoveFromList does.
+    void RemoveBeside(const RowRanges& ranges);
+
     // Shows the column by which the list is sorted, if any.
     void ShowSortIndicator();
 

@@ -68,7 +68,7 @@ QString ErrorModel::MissingTexts() const {
 QString ErrorModel::CellOf(std::size_t record, int column) const {
     const ExplainedError& error = history_->Errors()[record];
     const auto stampText = [&](const std::optional<Stamp>& stamp) {
-        return stamp ? ToQString(ReadableText(*stamp)) : QtText(TextId::HistoryUnreadable, DialogLanguage());
+        return stamp ? ToQString(LogbookText(*stamp)) : QtText(TextId::HistoryUnreadable, DialogLanguage());
     };
     using enum ErrorColumn;
     switch (static_cast<ErrorColumn>(column)) {

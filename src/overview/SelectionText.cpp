@@ -10,7 +10,7 @@
 namespace {
 
 std::string StampText(const std::optional<Stamp>& stamp, Language language) {
-    return stamp ? ReadableText(*stamp) : std::string(Text(TextId::HistoryUnreadable, language));
+    return stamp ? LogbookText(*stamp) : std::string(Text(TextId::HistoryUnreadable, language));
 }
 
 // "0:05:00", with milliseconds where there are some; "-" for no time.

@@ -8,8 +8,8 @@
 
 // What is to say of the selected rows, in one line:
 //
-//     3 rows selected, from 2010-01-04 08:00:00 to 2010-01-04 08:05:00, time between: 0:05:00, errors among
+//     3 rows selected, from 04.01.2010 08:00:00 to 04.01.2010 08:05:00, time between: 0:05:00, errors among
 //     them: 2
-//     1 row selected, at 2010-01-04 08:05:00, since the entry before: 0:00:30, since the error before:
+//     1 row selected, at 04.01.2010 08:05:00, since the entry before: 0:00:30, since the error before:
 //     0:01:30
 std::string SelectionText(const SelectionFacts& facts, Language language);

@@ -37,7 +37,7 @@ QString SessionModel::CellOf(std::size_t record, int column) const {
     using enum SessionColumn;
     switch (static_cast<SessionColumn>(column)) {
     case Start:
-        return ToQString(StartText(session, DialogLanguage()));
+        return ToQString(session.Start ? LogbookText(*session.Start) : StartText(session, DialogLanguage()));
     case Recorded:
         return ToQString(ClockText(session.Recorded));
     case ToNext:

@@ -178,7 +178,8 @@ class Picture {
         const std::span<const Timeline::Part> parts = history_.Strip().Parts();
         std::optional<int> last;
         for (std::size_t i = 1; i < parts.size(); ++i) {
-            const int x = X(parts[i].Offset);
+            // A part without length at the end begins behind the last pixel.
+            const int x = X(parts[i].Offset) - (parts[i].Offset == history_.Strip().Length() ? Jag : 0);
             if ((last && x - *last < 4 * Jag) || x < lanes_.StripLeft ||
                 x >= lanes_.StripLeft + lanes_.StripWidth)
                 continue;

@@ -7,7 +7,6 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QStyleOption>
 #include <QToolTip>
 
 #include <algorithm>
@@ -21,11 +20,18 @@ constexpr double WheelNotch = 120; // as Qt counts
 constexpr int CursorStep = 5;      // pixels
 constexpr QSize UsualSize(640, 0); // as wide; the height is that of the lanes
 
-QString TimeText(const Timeline& strip, Timeline::Place place) {
-    const std::optional<Timeline::Time> time = strip.TimeAt(place);
+QString TimeText(std::optional<Timeline::Time> time) {
     if (!time)
         return {};
-    return ToQString(ReadableText(Stamp{std::chrono::floor<std::chrono::seconds>(*time)}));
+    return ToQString(LogbookText(Stamp{std::chrono::floor<std::chrono::seconds>(*time)}));
+}
+
+// At the end of the strip that of its last entry, also when the clock was set back just before it.
+std::optional<Timeline::Time> EndTime(const Timeline& strip, Timeline::Place place) {
+    if (place < strip.Length() || strip.Parts().empty())
+        return strip.TimeAt(place);
+    const Timeline::Part& last = strip.Parts().back();
+    return last.Begin + (strip.Length() - last.Offset);
 }
 
 } // namespace
@@ -99,8 +105,10 @@ QString TimelineView::SeenText() const {
     if (!HasStrip())
         return {};
     const Timeline& strip = content_.History->Strip();
-    return TimeText(strip, scale_.From()) + QtText(TextId::SelectionTo, language_) +
-           TimeText(strip, std::min(scale_.To(), strip.Length()));
+    if (strip.Parts().empty())
+        return QtText(TextId::OverviewNoTimes, language_);
+    return TimeText(strip.TimeAt(scale_.From())) + QtText(TextId::SelectionTo, language_) +
+           TimeText(EndTime(strip, scale_.To()));
 }
 
 QSize TimelineView::sizeHint() const { return {UsualSize.width(), lanes_.Height()}; }
@@ -146,8 +154,8 @@ QString TimelineView::TextAt(const QPoint& position) const {
     const auto count = [&](TextId name, const EntrySet& set) {
         return ", " + QtText(name, language_) + ": " + QString::number(set.Count(first, end));
     };
-    return TimeText(strip, Bounded(scale_.PlaceAt(bar))) + count(TextId::HistoryErrors, strip.Errors()) +
-           count(TextId::OverviewWarnings, strip.Warnings());
+    return TimeText(strip.TimeAt(Bounded(scale_.PlaceAt(bar)))) +
+           count(TextId::HistoryErrors, strip.Errors()) + count(TextId::OverviewWarnings, strip.Warnings());
 }
 
 void TimelineView::paintEvent(QPaintEvent*) {
@@ -164,10 +172,9 @@ void TimelineView::paintEvent(QPaintEvent*) {
     PaintOnTimeline(painter, content_, scale_, lanes_, palette());
     if (!hasFocus())
         return;
-    QStyleOptionFocusRect focus;
-    focus.initFrom(this);
-    focus.backgroundColor = palette().color(QPalette::Base);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    // The style's own frame is hidden until a key was pressed.
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void TimelineView::resizeEvent(QResizeEvent* event) {
@@ -249,8 +256,7 @@ void TimelineView::OrderSpan() {
     const Timeline& strip = content_.History->Strip();
     const EntryNumber first = strip.FirstAt(content_.Selected->From);
     const EntryNumber end = strip.FirstAt(content_.Selected->To + Timeline::Place(1));
-    if (first < end)
-        emit SpanSelected(first, end);
+    emit SpanSelected(first, std::max(first, end));
 }
 
 void TimelineView::keyPressEvent(QKeyEvent* event) {

@@ -45,7 +45,8 @@ class TimelineView : public QWidget {
 
   signals:
     void EntryWanted(EntryNumber entry);
-    void SpanSelected(EntryNumber first, EntryNumber end); // to before `end`
+    void SpanSelected(EntryNumber first,
+                      EntryNumber end); // to before `end`; none lies there when they are equal
     void SeenChanged();
 
   protected:

@@ -87,6 +87,8 @@ frmOverview::frmOverview(QWidget* parent)
     parts->addLayout(state);
     parts->addWidget(tabTables, 1);
     auto* const layout = new QVBoxLayout(this);
+    // Made last, but what reads the screen reads it before the buttons below.
+    content->lower();
     layout->addWidget(content, 1);
     layout->addLayout(orders);
     ShowNothing();
@@ -137,7 +139,7 @@ void frmOverview::MakeTables() {
     errorsAndText->addWidget(lvErrors);
     errorsAndText->addWidget(txErrorText);
     errorsAndText->setStretchFactor(0, 3);
-    errorsAndText->setStretchFactor(1, 1);
+    errorsAndText->setStretchFactor(1, 2);
     errorsAndText->setChildrenCollapsible(false);
     tabTables->addTab(PageOf({lvSessions}), QString());
     tabTables->addTab(PageOf({errorsAndText, lblMissing}), QString());
@@ -210,6 +212,8 @@ void frmOverview::SetLanguage(Language language) {
     lblMarks->setText(marks_->Remark());
     if (history_ == nullptr)
         lblState->setText(text(pbHistory->isHidden() ? TextId::OverviewNoLogbook : TextId::OverviewWorking));
+    else
+        FitColumnWidths();
     ShowErrorText();
 }
 
@@ -249,10 +253,14 @@ void frmOverview::ShowHistory(const LogbookHistory& history, const EntryTable& e
     marks_->ShowMarks(&entries, commented, highlighted);
     lblMissing->setText(errors_->MissingTexts());
     lblMarks->setText(marks_->Remark());
-    for (HistoryTable* const table : {lvSessions, lvErrors, lvMarks})
-        table->FitColumnWidths(std::max(200, tabTables->width() * 2 / 5));
+    FitColumnWidths();
     ShowErrorText();
     EnableOrders();
+}
+
+void frmOverview::FitColumnWidths() {
+    for (HistoryTable* const table : {lvSessions, lvErrors, lvMarks})
+        table->FitColumnWidths(std::max(200, tabTables->width() * 2 / 5));
 }
 
 void frmOverview::ShowMarks(const EntrySet& commented, const EntrySet& highlighted) {
@@ -336,7 +344,7 @@ void frmOverview::OrderAll(void (frmOverview::*order)(const std::string& key)) {
     }
 }
 
-// The control's whole texts, in the language of the dialogs first.
+// What the logbook says itself, then the control's whole texts, in the language of the dialogs first.
 void frmOverview::ShowErrorText() {
     const ErrorRecord* const error = SelectedError();
     if (error == nullptr)
@@ -348,7 +356,11 @@ void frmOverview::ShowErrorText() {
     };
     const QString english = part(TextId::HistoryEnglish, texts.English);
     const QString german = part(TextId::HistoryGerman, texts.German);
-    txErrorText->setPlainText(language_.IsGerman() ? german + "\n\n" + english : english + "\n\n" + german);
+    constexpr int LongestData = 2000; // characters
+    const QString inLogbook = QtText(TextId::ColumnData, language_) + ": " +
+                              ToQString(entries_->Data(error->First)).left(LongestData) + "\n\n";
+    txErrorText->setPlainText(inLogbook +
+                              (language_.IsGerman() ? german + "\n\n" + english : english + "\n\n" + german));
 }
 
 // The orders, and the columns to sort by, for the keyboard.

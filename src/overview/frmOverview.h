@@ -81,6 +81,7 @@ class frmOverview : public QWidget {
     void MakeTables();
     QPushButton* MakeButton(const char* name);
     void MakeKeys();
+    void FitColumnWidths();
     HistoryTable* ShownTable() const;
     void EnableOrders();
     void GoToSelected();

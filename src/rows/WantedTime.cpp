@@ -22,6 +22,24 @@ std::vector<std::string_view> PartsOf(std::string_view text) {
     return parts;
 }
 
+// "20101120T141207" as "2010-11-20T14:12:07", and a decimal comma as a point. Any other text as it is.
+std::string WithSeparators(std::string_view text) {
+    constexpr std::size_t DayLength = 8;
+    const auto digitsAt = [&](std::size_t place) {
+        return std::min(text.find_first_not_of("0123456789", place), text.size()) - place;
+    };
+    std::string separated(text);
+    std::replace(separated.begin(), separated.end(), ',', '.');
+    if (digitsAt(0) != DayLength || (text.size() > DayLength && text[DayLength] != 'T'))
+        return separated;
+    if (text.size() > DayLength)
+        for (std::size_t digits = digitsAt(DayLength + 1) / 2 * 2; digits > 2; digits -= 2)
+            separated.insert(DayLength + 1 + digits - 2, ":");
+    separated.insert(6, "-");
+    separated.insert(4, "-");
+    return separated;
+}
+
 // "2010-11-20" as a logbook writes it: "20.11.2010". An empty text for anything else.
 std::string DayOfIso(std::string_view text) {
     const std::size_t first = text.find('-');
@@ -63,7 +81,8 @@ std::optional<std::chrono::milliseconds> Distance(const std::optional<Stamp>& st
 std::optional<Stamp> ReadWantedTime(std::string_view text, std::optional<std::chrono::sys_days> day) {
     std::optional<std::chrono::sys_days> wantedDay;
     std::optional<DateAndClock> clock;
-    const std::vector<std::string_view> parts = PartsOf(text);
+    const std::string separated = WithSeparators(text);
+    const std::vector<std::string_view> parts = PartsOf(separated);
     for (const std::string_view part : parts) {
         if (part.find(':') != std::string_view::npos) {
             if (clock)

@@ -11,8 +11,9 @@
 #include <vector>
 
 // Reads the time that a person enters: a clock time ("14:12", "14:12:07", "14:12:07.120"), a day ("20.11.",
-// "20.11.2010", "2010-11-20"), or both, in either order or as ISO 8601. What is left out comes from `day`:
-// the whole day, or the year of "20.11.". A day alone means its beginning. Nothing for another text, or if a
+// "20.11.2010", "2010-11-20"), or both, in either order or as ISO 8601, also its forms without separators
+// ("20101120T141207") and with a comma before fractions. What is left out comes from `day`: the whole day, or
+// the year of "20.11.". A day alone means its beginning. Nothing for another text, or if a
 // day is needed and there is none.
 std::optional<Stamp> ReadWantedTime(std::string_view text, std::optional<std::chrono::sys_days> day);
 

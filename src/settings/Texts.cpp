@@ -95,10 +95,10 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::HiddenNotAdded, " not added by any filter", " von keinem Filter aufgenommen"},
     {TextId::HiddenNotReached, " not reached because of an error", " wegen eines Fehlers nicht erreicht"},
     // The status after a logbook is opened, around a number
-    {TextId::NumbersOfOtherLogbook, "Filters by number that were made for another logbook hide ",
-     "Filter nach Nummer, die für ein anderes Logbuch gemacht wurden, blenden "},
-    {TextId::NumbersOfUnknownLogbook, "Filters by number that were perhaps made for another logbook hide ",
-     "Filter nach Nummer, die vielleicht für ein anderes Logbuch gemacht wurden, blenden "},
+    {TextId::NumbersOfOtherLogbook, "Number filters of another logbook hide ",
+     "Nummernfilter eines anderen Logbuchs blenden "},
+    {TextId::NumbersOfUnknownLogbook, "Number filters, perhaps of another logbook, hide ",
+     "Nummernfilter, vielleicht eines anderen Logbuchs, blenden "},
     {TextId::NumbersHideOne, " entry.", " Eintrag aus."},
     {TextId::NumbersHideMore, " entries.", " Einträge aus."},
     // Messages of the main window
@@ -357,8 +357,9 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::HistoryEnglish, "English", "Englisch"},
     {TextId::HistoryGerman, "German", "Deutsch"},
     // Undo
-    {TextId::FiltersChangedElsewhere, "The filters have been changed elsewhere since then.",
-     "Die Filter wurden seitdem anderswo geändert."},
+    {TextId::FiltersChangedElsewhere,
+     "This cannot be done: the filters have been changed otherwise since then.",
+     "Das ist nicht möglich: Die Filter wurden seitdem anders geändert."},
     // Going to a time
     {TextId::GoToTimeTitle, "Go to time", "Gehe zu Zeit"},
     {TextId::GoToTimeField, "&Time:", "&Zeit:", Group::GoToTimeDialog},
@@ -391,6 +392,7 @@ constexpr auto Table = std::to_array<TextRow>({
     {TextId::OverviewErrorText, "Texts of the error", "Texte des Fehlers"},
     {TextId::OverviewNoText, "no text", "kein Text"},
     {TextId::OverviewNoLogbook, "No logbook is open", "Kein Logbuch ist geöffnet"},
+    {TextId::OverviewNoTimes, "No entry has a time that can be read", "Kein Eintrag hat eine lesbare Zeit"},
     {TextId::OverviewWorking, "The history of the logbook is being determined",
      "Die Geschichte des Logbuchs wird ermittelt"},
     {TextId::OverviewClockSetBack, "the clock was set back", "die Uhr wurde zurückgestellt"},

@@ -305,6 +305,7 @@ enum class TextId : std::uint16_t {
     OverviewErrorText,
     OverviewNoText,
     OverviewNoLogbook,
+    OverviewNoTimes,
     OverviewWorking,
     OverviewClockSetBack,
     OverviewFirstMarks,

@@ -181,6 +181,21 @@ class MainWindowAnalysisTest : public MainWindowTest {
         }
     }
 
+    void GoToTimeSaysThatFiltersHideAllThatIsLater() {
+        OpenTimes();
+        List()->SelectRanges({{1, List()->Logbook()->Rows().size() - 1}}, 1);
+        Window->Run(Command::RemoveFromList);
+        AnswerMessages(1);
+        GoToTime("22.11.2010 10:00");
+        QCOMPARE(MessageTexts, QStringList("End reached"));
+        MessageTexts.clear();
+        AnswerMessages(1);
+        GoToTime("20.11.2010 13:30");
+        QCOMPARE(MessageTexts.size(), 1);
+        QVERIFY2(MessageTexts[0].startsWith("Filters hide an entry that is nearer: "),
+                 qPrintable(MessageTexts[0]));
+    }
+
     void GoToTimeMayBeCancelled() {
         OpenTimes();
         List()->SelectAndShow(1);
@@ -255,9 +270,11 @@ class MainWindowAnalysisTest : public MainWindowTest {
             WriteFilter(*Settings, 1, Filter("X|8|3|||1"));
             AnswerMessages(1);
             Press(Qt::Key_Z, Qt::ControlModifier);
-            QCOMPARE(MessageTexts,
-                     QStringList({number == 0 ? "The filters have been changed elsewhere since then."
-                                              : "Die Filter wurden seitdem anderswo geändert."}));
+            QCOMPARE(
+                MessageTexts,
+                QStringList({number == 0
+                                 ? "This cannot be done: the filters have been changed otherwise since then."
+                                 : "Das ist nicht möglich: Die Filter wurden seitdem anders geändert."}));
             QCOMPARE(LoadFilterList(*Settings).Filters[1], Filter("X|8|3|||1"));
         }
     }

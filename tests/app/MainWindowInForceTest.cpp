@@ -158,12 +158,9 @@ class MainWindowInForceTest : public MainWindowTest {
         QCOMPARE(Status(), QString("Ready"));
 
         Window->OpenLogbook(two);
-        QCOMPARE(Status(), QString("Filters by number that were made for another logbook hide 2 entries."));
+        QCOMPARE(Status(), QString("Number filters of another logbook hide 2 entries."));
         ChooseLanguage(Language::German);
-        QCOMPARE(
-            Status(),
-            QString(
-                "Filter nach Nummer, die für ein anderes Logbuch gemacht wurden, blenden 2 Einträge aus."));
+        QCOMPARE(Status(), QString("Nummernfilter eines anderen Logbuchs blenden 2 Einträge aus."));
         Window->ApplyFilter();
         QCOMPARE(Status(), QString("Bereit"));
         Window->Run(Command::Refresh);
@@ -172,12 +169,40 @@ class MainWindowInForceTest : public MainWindowTest {
         QCOMPARE(Status(), QString("Bereit"));
     }
 
+    void TakenBackTheyAreTheOtherLogbooksAgain() {
+        const std::string one = FileOfErrors(5);
+        const std::string two =
+            File("two.log", {Header("RESET:"), Header("BERR:    x"), Header("BERR:    y")});
+        const QString told = "Number filters of another logbook hide 1 entry.";
+        Window->OpenLogbook(one);
+        List()->selectRow(1);
+        Window->Run(Command::RemoveFromList);
+        Window->OpenLogbook(two);
+        QCOMPARE(Status(), told);
+        List()->selectRow(0);
+        Window->Run(Command::RemoveFromList);
+        Window->Run(Command::Undo);
+        Window->OpenLogbook(two);
+        QCOMPARE(Status(), told);
+        Window->OpenLogbook(one);
+        QCOMPARE(Status(), QString("Ready"));
+        // Made again they are for the logbook on which they were made.
+        Window->OpenLogbook(two);
+        List()->selectRow(0);
+        Window->Run(Command::RemoveFromList);
+        Window->Run(Command::Undo);
+        Window->Run(Command::Redo);
+        Window->OpenLogbook(two);
+        QCOMPARE(Status(), QString("Ready"));
+        Window->OpenLogbook(one);
+        QVERIFY(Status().startsWith("Number filters of another logbook hide"));
+    }
+
     void NumbersOfAnUnknownLogbookAreToldAtTheStart() {
         Store({"I|0||||1", "X|8|1|||1"});
         OpenWindow();
         Window->RunCommandLine({FileOfErrors(3)});
-        QCOMPARE(Status(),
-                 QString("Filters by number that were perhaps made for another logbook hide 1 entry."));
+        QCOMPARE(Status(), QString("Number filters, perhaps of another logbook, hide 1 entry."));
         // Taking numbers out for this logbook makes the filter its own.
         List()->selectRow(0);
         Window->Run(Command::RemoveFromList);
@@ -197,18 +222,18 @@ class MainWindowInForceTest : public MainWindowTest {
         Window->OpenLogbook(one);
         QCOMPARE(Status(), QString("Ready"));
         Window->OpenLogbook(File("two.log", {Header("RESET:"), Header("BERR:    x")}));
-        QCOMPARE(Status(), QString("Filters by number that were made for another logbook hide 1 entry."));
+        QCOMPARE(Status(), QString("Number filters of another logbook hide 1 entry."));
         // Without a change of numbers they stay the other's.
         InFilterDialog([](QWidget& dialog) { Click(dialog, "cmdOK"); });
         Window->OpenLogbook(File("two.log", {Header("RESET:"), Header("BERR:    x")}));
-        QCOMPARE(Status(), QString("Filters by number that were made for another logbook hide 1 entry."));
+        QCOMPARE(Status(), QString("Number filters of another logbook hide 1 entry."));
     }
 
     void CommentsAtRiskComeFirst() {
         Folder.Write("state", "a file");
         Store({"I|0||||1", "X|8|1|||1"});
         Window->OpenLogbook(FileOfErrors(3));
-        QVERIFY(Status().startsWith("Filters by number"));
+        QVERIFY(Status().startsWith("Number filters"));
         EnterComment(0, "a");
         QVERIFY2(Status().startsWith("Comments are not secured"), qPrintable(Status()));
         std::filesystem::remove(Folder.Path() / "state");

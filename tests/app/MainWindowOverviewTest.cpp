@@ -56,12 +56,12 @@ class MainWindowOverviewTest : public MainWindowTest {
         OpenOverview();
         const HistoryTable* const sessions = Table("lvSessions");
         QCOMPARE(sessions->model()->rowCount(), 2);
-        QCOMPARE(RowOf(sessions, 1), QStringList({"2", "2010-11-20 14:00:00", "0:20:00", "-", "5", "3", "0",
+        QCOMPARE(RowOf(sessions, 1), QStringList({"2", "20.11.2010 14:00:00", "0:20:00", "-", "5", "3", "0",
                                                   "P7, 0:08:00 before the last entry"}));
         const HistoryTable* const errors = Table("lvErrors");
         QCOMPARE(errors->model()->rowCount(), 3); // the warning, too
         QCOMPARE(RowOf(errors, 0).mid(0, 5),
-                 QStringList({"3", "P7", "no text", "no text", "2010-11-20 14:12:00"}));
+                 QStringList({"3", "P7", "no text", "no text", "20.11.2010 14:12:00"}));
         QCOMPARE(Part<QLabel>("lblMissing")->text(),
                  QString("3 of 3 keys have no text in English, 3 none in German"));
     }
@@ -125,6 +125,24 @@ class MainWindowOverviewTest : public MainWindowTest {
         QCOMPARE(List()->model()->rowCount(), 6);
     }
 
+    void HighlightAllAndRemoveAllTakeHiddenEntriesToo() {
+        OpenStory();
+        OpenOverview();
+        ShowErrors();
+        SelectError("P7");
+        List()->SelectAndShow(5);
+        Window->Run(Command::RemoveFromList); // one of the three
+        List()->SelectAndShow(2);
+        QTest::mouseClick(Part<QPushButton>("cmdHighlightAll"), Qt::LeftButton);
+        QCOMPARE(Filters->Load().back().StringFilter, std::string("1,5,7"));
+        PressThere(Qt::Key_Z, Qt::ControlModifier);
+        QTest::mouseClick(Part<QPushButton>("cmdRemoveAll"), Qt::LeftButton);
+        QCOMPARE(Filters->Load().back().StringFilter, std::string("1,5,7"));
+        QCOMPARE(List()->model()->rowCount(), 6);
+        QCOMPARE(SelectedData(), QString("P8 oil")); // it stays selected
+        QCOMPARE(List()->SelectedRow(), 1);
+    }
+
     void SelectionLineFollowsTheList() {
         OpenStory();
         OpenOverview();
@@ -132,14 +150,14 @@ class MainWindowOverviewTest : public MainWindowTest {
         QTRY_COMPARE(SelectionText(), QString("No row selected"));
         List()->SelectAndShow(7);
         QTRY_COMPARE(SelectionText(),
-                     QString("1 row selected, at 2010-11-20 14:12:00, since the entry before: 0:02:00, since "
+                     QString("1 row selected, at 20.11.2010 14:12:00, since the entry before: 0:02:00, since "
                              "the error before: 0:02:00"));
         List()->SelectRanges({{4, 7}}, {});
         QTRY_COMPARE(SelectionText(),
-                     QString("4 rows selected, from 2010-11-20 14:00:00 to 2010-11-20 14:12:00, time "
+                     QString("4 rows selected, from 20.11.2010 14:00:00 to 20.11.2010 14:12:00, time "
                              "between: 0:12:00, errors among them: 3"));
         Window->Run(Command::SortInOrder, ColumnOrder{5, SortDirection::Descending});
-        QTRY_VERIFY(SelectionText().startsWith("4 rows selected, from 2010-11-20 14:00:00"));
+        QTRY_VERIFY(SelectionText().startsWith("4 rows selected, from 20.11.2010 14:00:00"));
     }
 
     void FollowsFiltersCommentsAndAnotherLogbook() {
@@ -196,6 +214,14 @@ class MainWindowOverviewTest : public MainWindowTest {
         QCOMPARE(List()->model()->rowCount(), 9 - static_cast<int>(first));
     }
 
+    void ASpanWithoutEntriesSelectsNothing() {
+        OpenStory();
+        OpenOverview();
+        List()->SelectAndShow(1);
+        emit Timeline()->SpanSelected(3, 3);
+        QVERIFY(List()->SelectedRanges().empty());
+    }
+
     void AnEntryThatFiltersHideIsTold() {
         OpenStory();
         OpenOverview();
@@ -236,11 +262,11 @@ class MainWindowOverviewTest : public MainWindowTest {
         QCOMPARE(RowOf(Table("lvErrors"), 0).mid(2, 2), QStringList({"kein Text", "kein Text"}));
         List()->SelectAndShow(7);
         QTRY_COMPARE(SelectionText(),
-                     QString("1 Zeile gewählt, um 2010-11-20 14:12:00, seit dem Eintrag davor: 0:02:00, seit "
+                     QString("1 Zeile gewählt, um 20.11.2010 14:12:00, seit dem Eintrag davor: 0:02:00, seit "
                              "dem Fehler davor: 0:02:00"));
         List()->SelectRanges({{4, 7}}, {});
         QTRY_COMPARE(SelectionText(),
-                     QString("4 Zeilen gewählt, von 2010-11-20 14:00:00 bis 2010-11-20 14:12:00, Zeit "
+                     QString("4 Zeilen gewählt, von 20.11.2010 14:00:00 bis 20.11.2010 14:12:00, Zeit "
                              "dazwischen: 0:12:00, davon Fehler: 3"));
         QCOMPARE(Part<QLabel>("lblMissing")->text(),
                  QString("3 von 3 Schlüsseln haben keinen Text auf Englisch, 3 keinen auf Deutsch"));

@@ -423,14 +423,13 @@ TEST_F(LogbookDocumentTest, FiltersOfARunAreForTheLogbookAtHand) {
 
 TEST(NumbersOfOthers, AreToldInBothLanguages) {
     EXPECT_EQ(NumbersOfOthersText({.Hidden = 1200, .Perhaps = false}, {}),
-              "Filters by number that were made for another logbook hide 1,200 entries.");
+              "Number filters of another logbook hide 1,200 entries.");
     EXPECT_EQ(NumbersOfOthersText({.Hidden = 1, .Perhaps = true}, {}),
-              "Filters by number that were perhaps made for another logbook hide 1 entry.");
+              "Number filters, perhaps of another logbook, hide 1 entry.");
     EXPECT_EQ(NumbersOfOthersText({.Hidden = 12, .Perhaps = false}, {Language::German}),
-              "Filter nach Nummer, die für ein anderes Logbuch gemacht wurden, blenden 12 Einträge aus.");
-    EXPECT_EQ(
-        NumbersOfOthersText({.Hidden = 1, .Perhaps = true}, {Language::German}),
-        "Filter nach Nummer, die vielleicht für ein anderes Logbuch gemacht wurden, blenden 1 Eintrag aus.");
+              "Nummernfilter eines anderen Logbuchs blenden 12 Einträge aus.");
+    EXPECT_EQ(NumbersOfOthersText({.Hidden = 1, .Perhaps = true}, {Language::German}),
+              "Nummernfilter, vielleicht eines anderen Logbuchs, blenden 1 Eintrag aus.");
 }
 
 TEST_F(LogbookDocumentTest, CommentsOfACrashAreOffered) {

@@ -38,3 +38,10 @@ TEST(ErrorTextFile, OthersAreNone) {
           "A_FR.XMT", "ErrorText.csv", "GERMAN", "GERMAN/", "GERMAN/facilities.txt", "x/.."})
         EXPECT_EQ(Told(path), "none") << path;
 }
+
+TEST(ErrorTextFile, NamesThatAreHardToHandleAreNone) {
+    EXPECT_EQ(Told(std::string(193, 'a') + "_DE.XMT"), "0 de " + std::string(193, 'a') + "_DE.XMT");
+    EXPECT_EQ(Told(std::string(194, 'a') + "_DE.XMT"), "none");
+    EXPECT_EQ(Told("a\nb_DE.XMT"), "none");
+    EXPECT_EQ(Told("X.qorvix-part-1234567890abcdef_EN.XMT"), "none");
+}

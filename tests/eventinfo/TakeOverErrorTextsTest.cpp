@@ -197,7 +197,50 @@ TEST_F(TakeOverTest, FolderOfTooMuchIsNotSearchedToItsEnd) {
     EXPECT_TRUE(Plan().IsEmpty());
 }
 
-TEST_F(TakeOverTest, FailureEndsItAndNamesTheFile) {
+TEST_F(TakeOverTest, MoreThanAControlHasIsNotTaken) {
+    Place("A_EN.XMT", "a");
+    Place("many/x", "");
+    for (std::size_t i = 1; i < ErrorTextSource::MostFiles; ++i)
+        Place("many/" + std::to_string(i) + "_EN.XMT", "");
+    EXPECT_EQ(Plan().Problem, "");
+    Place("many/one more_EN.XMT", "");
+    EXPECT_EQ(Plan().Problem, "Too much lies there to search it all. Choose a folder that holds less.");
+    EXPECT_TRUE(Plan().IsEmpty());
+    std::filesystem::remove_all(Folder / "from/many");
+    for (int i = 0; i < 5; ++i) {
+        const std::string name = std::to_string(i) + "_EN.XMT";
+        Place(name, "");
+        std::filesystem::resize_file(Folder / ("from/" + name), ErrorTextSource::MostBytes / 5);
+    }
+    EXPECT_EQ(Plan().Problem, "");
+    Place("5_EN.XMT", std::string(100, 'x'));
+    EXPECT_EQ(Plan().Problem, "Too much lies there to search it all. Choose a folder that holds less.");
+}
+
+// What is written belongs into the folder, and replaces files alone.
+TEST_F(TakeOverTest, LinksAndPipesInTheOwnFolderStayAndTheOthersAreTaken) {
+    Folder.Write("strangers.txt", "precious");
+    Place("A_EN.XMT", "a");
+    Place("B_EN.XMT", "b");
+    Place("C_EN.XMT", "c");
+    Place("D_EN.XMT", "d");
+    Own("C_EN.XMT", "mine");
+    std::filesystem::create_symlink(Folder / "strangers.txt", Folder / "own/A_EN.XMT");
+    MakePipe(Folder, "own/B_EN.XMT");
+    std::filesystem::create_symlink(Folder / "nowhere", Folder / "own/C_EN.XMT.bak");
+    EXPECT_THAT(Plan().Replaced, ElementsAre("C_EN.XMT"));
+    const TakeOverResult result = Take();
+    EXPECT_THAT(result.Failure, StartsWith("A_EN.XMT: "));
+    EXPECT_EQ(result.Taken, 2U);
+    EXPECT_EQ(FileContent(Folder.Path() / "strangers.txt"), "precious");
+    EXPECT_FALSE(std::filesystem::exists(Folder / "nowhere"));
+    EXPECT_EQ(FileContent(Folder.Path() / "own/C_EN.XMT"), "c");
+    EXPECT_EQ(FileContent(Folder.Path() / "own/C_EN.XMT.bak2"), "mine");
+    EXPECT_EQ(FileContent(Folder.Path() / "own/D_EN.XMT"), "d");
+    EXPECT_TRUE(std::filesystem::is_fifo(Folder / "own/B_EN.XMT"));
+}
+
+TEST_F(TakeOverTest, FailureIsLeftOutAndNamed) {
     Place("A_EN.XMT", "a");
     Place("GERMAN/error.a", "b");
     Own("GERMAN", "a file where the folder belongs");

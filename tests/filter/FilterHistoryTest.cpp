@@ -120,6 +120,30 @@ TEST_F(FilterHistoryTest, ChangeElsewhereStaysAsItIs) {
 }
 
 // Against the whole lists, kept as they stood.
+// A list with a filter that cannot be read counts as the default list, and what is made of entries replaces
+// it.
+TEST_F(FilterHistoryTest, ListThatCouldNotBeReadComesBack) {
+    const std::vector<std::string> damaged{"X|2|a|b|c|d|e|1", "H|8|1-5|||1", "I|0||||1"};
+    for (std::size_t i = 0; i < damaged.size(); ++i)
+        WriteFilterText(Settings, i, damaged[i]);
+    WriteFilterCount(Settings, damaged.size());
+    EXPECT_FALSE(LoadFilterList(Settings).IsStored);
+    Remove({3});
+    EXPECT_TRUE(LoadFilterList(Settings).IsStored);
+    EXPECT_EQ(History.Undo(), FilterHistory::Outcome::Done);
+    EXPECT_EQ(StoredFilterTexts(Settings), damaged);
+    EXPECT_EQ(History.Redo(), FilterHistory::Outcome::Done);
+    EXPECT_EQ(Stored().size(), 2U);
+}
+
+TEST_F(FilterHistoryTest, MissingListIsMissingAgain) {
+    Remove({3});
+    EXPECT_EQ(History.Undo(), FilterHistory::Outcome::Done);
+    EXPECT_TRUE(StoredFilterTexts(Settings).empty());
+    EXPECT_EQ(History.Redo(), FilterHistory::Outcome::Done);
+    EXPECT_EQ(Stored().back().StringFilter, "3");
+}
+
 TEST_F(FilterHistoryTest, AnySequenceRestoresTheListsAsTheyStood) {
     for (unsigned seed = 0; seed < 30; ++seed) {
         std::mt19937 random(seed);

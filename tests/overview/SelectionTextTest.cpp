@@ -33,10 +33,10 @@ TEST(SelectionText, OfOneRowSaysTheTimeSinceWhatWasBefore) {
                                .SinceEntry = seconds(30),
                                .SinceError = seconds(90) + milliseconds(7)};
     EXPECT_EQ(SelectionText(facts, English),
-              "1 row selected, at 2010-01-04 08:05:00, since the entry before: 0:00:30, since the error "
+              "1 row selected, at 04.01.2010 08:05:00, since the entry before: 0:00:30, since the error "
               "before: 0:01:30.007");
     EXPECT_EQ(SelectionText(facts, German),
-              "1 Zeile gewählt, um 2010-01-04 08:05:00, seit dem Eintrag davor: 0:00:30, seit dem Fehler "
+              "1 Zeile gewählt, um 04.01.2010 08:05:00, seit dem Eintrag davor: 0:00:30, seit dem Fehler "
               "davor: 0:01:30.007");
 }
 
@@ -49,7 +49,7 @@ TEST(SelectionText, OfTheFirstEntryHasNothingBeforeIt) {
                              .SinceEntry = {},
                              .SinceError = {}},
                             English),
-              "1 row selected, at 2010-01-04 08:05:00, since the entry before: -, since the error before: -");
+              "1 row selected, at 04.01.2010 08:05:00, since the entry before: -, since the error before: -");
 }
 
 TEST(SelectionText, OfManyRowsSaysWhatLiesBetween) {
@@ -61,10 +61,10 @@ TEST(SelectionText, OfManyRowsSaysWhatLiesBetween) {
                                .SinceEntry = {},
                                .SinceError = {}};
     EXPECT_EQ(SelectionText(facts, English),
-              "1204 rows selected, from 2010-01-04 08:00:00 to 2010-01-05 10:05:00, time between: 26:05:00, "
+              "1204 rows selected, from 04.01.2010 08:00:00 to 05.01.2010 10:05:00, time between: 26:05:00, "
               "errors among them: 2");
     EXPECT_EQ(SelectionText(facts, German),
-              "1204 Zeilen gewählt, von 2010-01-04 08:00:00 bis 2010-01-05 10:05:00, Zeit dazwischen: "
+              "1204 Zeilen gewählt, von 04.01.2010 08:00:00 bis 05.01.2010 10:05:00, Zeit dazwischen: "
               "26:05:00, davon Fehler: 2");
 }
 
@@ -77,7 +77,7 @@ TEST(SelectionText, SaysWhenTheClockWasSetBack) {
                                .SinceEntry = {},
                                .SinceError = {}};
     EXPECT_EQ(SelectionText(facts, English),
-              "2 rows selected, from 2010-01-04 08:05:00 to 2010-01-04 08:00:00, time between: -0:05:00 (the "
+              "2 rows selected, from 04.01.2010 08:05:00 to 04.01.2010 08:00:00, time between: -0:05:00 (the "
               "clock was set back), errors among them: 0");
     EXPECT_NE(SelectionText(facts, German).find("-0:05:00 (die Uhr wurde zurückgestellt)"),
               std::string::npos);
@@ -93,5 +93,5 @@ TEST(SelectionText, SaysWhenAStampCannotBeRead) {
                        .SinceEntry = {},
                        .SinceError = {}},
                       English),
-        "2 rows selected, from unreadable to 2010-01-04 08:00:00, time between: -, errors among them: 1");
+        "2 rows selected, from unreadable to 04.01.2010 08:00:00, time between: -, errors among them: 1");
 }

@@ -33,9 +33,43 @@ class TimelineViewTest : public QObject {
 
     void ShowsTheWholeLogbookAtFirst() {
         QVERIFY(View->Scale().ShowsAll());
-        QCOMPARE(View->SeenText(), QString("2010-11-20 08:00:00 to 2010-11-20 12:00:00"));
+        QCOMPARE(View->SeenText(), QString("20.11.2010 08:00:00 to 20.11.2010 12:00:00"));
         View->SetLanguage({Language::German});
-        QCOMPARE(View->SeenText(), QString("2010-11-20 08:00:00 bis 2010-11-20 12:00:00"));
+        QCOMPARE(View->SeenText(), QString("20.11.2010 08:00:00 bis 20.11.2010 12:00:00"));
+    }
+
+    void AtTheEndIsTheTimeOfTheLastEntry() {
+        ReadResult result;
+        ReadText(
+            Lines({Header("STIB:    On", "20.11.2010 08:00:00"), Header("STIB:    On", "20.11.2010 09:00:00"),
+                   Header("STIB:    On", "20.11.2010 08:30:00")}),
+            result);
+        LogbookHistory history(result.Book, {});
+        while (history.Go()) {
+        }
+        View->ShowHistory(&history, EntrySet(3), EntrySet(3));
+        QCOMPARE(View->SeenText(), QString("20.11.2010 08:00:00 to 20.11.2010 08:30:00"));
+        // The break stands before it, at the edge.
+        const QImage picture = View->grab().toImage();
+        const int edge = Left() + View->Scale().Width();
+        int painted = 0;
+        for (int x = edge - 10; x < edge; ++x)
+            painted += picture.pixelColor(x, 60) == View->palette().color(QPalette::Text) ? 1 : 0;
+        QVERIFY(painted > 0);
+        View->ShowHistory(nullptr, EntrySet(), EntrySet());
+    }
+
+    void SaysWhenNoEntryHasAReadableTime() {
+        ReadResult result;
+        ReadText(Lines({Header("STIB:    On", "99.99.2010 08:00:00")}), result);
+        LogbookHistory history(result.Book, {});
+        while (history.Go()) {
+        }
+        View->ShowHistory(&history, EntrySet(1), EntrySet(1));
+        QCOMPARE(View->SeenText(), QString("No entry has a time that can be read"));
+        View->SetLanguage({Language::German});
+        QCOMPARE(View->SeenText(), QString("Kein Eintrag hat eine lesbare Zeit"));
+        View->ShowHistory(nullptr, EntrySet(), EntrySet());
     }
 
     void TheWheelZoomsAroundThePointer() {
@@ -80,14 +114,14 @@ class TimelineViewTest : public QObject {
         QCOMPARE(SpanAt(0), (std::pair<EntryNumber, EntryNumber>{1, 4}));
         QVERIFY(View->Content().Selected.has_value());
         QVERIFY(View->Scale().ShowsAll());
-        // From right to left is the same; a span without entries orders nothing.
+        // From right to left is the same; a span without entries has none.
         Drag(XOf(Minutes(65)), XOf(Minutes(5)), Qt::ShiftModifier);
         QCOMPARE(SpanAt(1), (std::pair<EntryNumber, EntryNumber>{1, 4}));
         Drag(XOf(Minutes(70)), XOf(Minutes(80)), Qt::ShiftModifier);
-        QCOMPARE(Spans->size(), 2);
+        QCOMPARE(SpanAt(2), (std::pair<EntryNumber, EntryNumber>{4, 4}));
         // Beyond the edge is its end.
         Drag(XOf(Minutes(125)), 5000, Qt::ShiftModifier);
-        QCOMPARE(SpanAt(2), (std::pair<EntryNumber, EntryNumber>{5, 9}));
+        QCOMPARE(SpanAt(3), (std::pair<EntryNumber, EntryNumber>{5, 9}));
     }
 
     void KeysDoWhatTheMouseDoes() {
@@ -134,7 +168,7 @@ class TimelineViewTest : public QObject {
         const QAccessibleInterface* const words = QAccessible::queryAccessibleInterface(View.get());
         QCOMPARE(words->text(QAccessible::Name), QString("Timeline"));
         QCOMPARE(words->text(QAccessible::Description),
-                 QString("2010-11-20 08:00:00 to 2010-11-20 12:00:00"));
+                 QString("20.11.2010 08:00:00 to 20.11.2010 12:00:00"));
         QTest::keyClick(View.get(), Qt::Key_Home);
         QTest::keyClick(View.get(), Qt::Key_Right);
         const QString at = words->text(QAccessible::Description);

@@ -132,7 +132,7 @@ class frmOverviewTest : public QObject {
         const QStringList lines = QApplication::clipboard()->text().split('\n');
         QCOMPARE(lines.size(), 5); // the header, three rows, and the end of the last line
         QVERIFY(lines[0].startsWith("Entries\tError\tEnglish\tGerman\t"));
-        QVERIFY(lines[1].startsWith("3\tP7\tno text\tno text\t2010-11-20 10:30:00\t2010-11-20 08:10:00\t"));
+        QVERIFY(lines[1].startsWith("3\tP7\tno text\tno text\t20.11.2010 10:30:00\t20.11.2010 08:10:00\t"));
         for (int line = 0; line < 4; ++line)
             QCOMPARE(lines[line].count('\t'), 10);
     }
@@ -240,10 +240,10 @@ class frmOverviewTest : public QObject {
     void TextsOfTheErrorAreInBothLanguages() {
         Errors()->selectRow(0);
         QCOMPARE(Part<QPlainTextEdit>("txErrorText")->toPlainText(),
-                 QString("English: no text\n\nGerman: no text"));
+                 QString("Data: P7 door\n\nEnglish: no text\n\nGerman: no text"));
         Overview->SetLanguage({Language::German});
         QCOMPARE(Part<QPlainTextEdit>("txErrorText")->toPlainText(),
-                 QString("Deutsch: kein Text\n\nEnglisch: kein Text"));
+                 QString("Inhalt: P7 door\n\nDeutsch: kein Text\n\nEnglisch: kein Text"));
     }
 
     void EveryControlHasAName() {

@@ -18,6 +18,18 @@ TEST(ListPlace, SourcesAreNotReplaced) {
     EXPECT_EQ(RefusalOfListPlace(folder.Write("old.csv", "x"), sources), std::nullopt);
 }
 
+TEST(ListPlace, TheyAreNotReplacedThroughLinksEither) {
+    const TemporaryFolder folder;
+    for (const char* const name : {"a.qorvix", "b.CMT", "c.fil"}) {
+        folder.Write(name, "precious");
+        std::filesystem::create_symlink(name, folder.Path() / "first");
+        std::filesystem::create_symlink("first", folder.Path() / "list.csv");
+        EXPECT_EQ(RefusalOfListPlace(folder / "list.csv", {}), TextId::ListInPlaceOfOther) << name;
+        std::filesystem::remove(folder.Path() / "first");
+        std::filesystem::remove(folder.Path() / "list.csv");
+    }
+}
+
 TEST(ListPlace, ArchivesCommentsAndFiltersAreNotReplaced) {
     const TemporaryFolder folder;
     for (const char* const name : {"a.qorvix", "A.CMT", "a.fil"}) {

@@ -45,6 +45,17 @@ TEST(WantedTime, IsoForms) {
     EXPECT_EQ(Wanted("2011-11-21T14:12", std::nullopt), "2011-11-21T14:12:00");
 }
 
+TEST(WantedTime, IsoFormsWithoutSeparatorsAndWithACommaBeforeFractions) {
+    for (const char* const text : {"20101120T141207", "20101120T14:12:07"})
+        EXPECT_EQ(Wanted(text, std::nullopt), "2010-11-20T14:12:07") << text;
+    EXPECT_EQ(Wanted("20101120T1412", std::nullopt), "2010-11-20T14:12:00");
+    EXPECT_EQ(Wanted("20101120", std::nullopt), "2010-11-20T00:00:00");
+    for (const char* const text : {"2010-11-20T14:12:07,120", "20101120T141207.120", "20101120T141207,120"})
+        EXPECT_EQ(Wanted(text, std::nullopt), "2010-11-20T14:12:07.120") << text;
+    for (const char* const text : {"2010112", "20101320", "20101120T1", "20101120 1412", "1412"})
+        EXPECT_EQ(Wanted(text), "none") << text;
+}
+
 TEST(WantedTime, AnythingElseIsNone) {
     for (const char* text :
          {"", "  ", "14", "14:60", "24:00", "yesterday", "30.02.2010 14:12", "2010-13-01", "14:12 14:13",

@@ -134,8 +134,7 @@ void RandomSessionModel::NoteStep(const QStringList& before) {
         return;
     NoteNumbers(before);
     Steps.resize(Done++);
-    // The default filter is stored with the first one that is made of entries.
-    Steps << std::pair(before.isEmpty() ? QStringList("I|0||||1") : before, StoredFilters);
+    Steps << std::pair(before, StoredFilters);
 }
 
 void RandomSessionModel::KeepBetween() {
@@ -183,6 +182,47 @@ void RandomSessionModel::ToggleSelected() {
             continue;
         toggled.Highlighted = !toggled.Highlighted;
     }
+    NoteStep(before);
+}
+
+void RandomSessionModel::RemoveEntries(const std::set<int>& entries) {
+    const QStringList before = StoredFilters;
+    for (const int entry : entries)
+        Add(entry, 'X');
+    NoteStep(before);
+    const bool hadSelection = !Selected.empty();
+    std::set<int> kept;
+    int removed = 0;
+    int next = 0;
+    QList<SessionRow> rows;
+    for (int row = 0; row < RowCount(); ++row) {
+        if (entries.count(Rows[row].Entry) != 0) {
+            ++removed;
+            next = row + 1 - removed;
+            continue;
+        }
+        if (Selected.count(row) != 0)
+            kept.insert(row - removed);
+        rows.append(Rows[row]);
+    }
+    if (removed == 0)
+        return ShowContent();
+    Rows = rows;
+    Selected = kept;
+    Current = kept.empty() ? -1 : *kept.begin();
+    if (hadSelection && kept.empty() && RowCount() > 0)
+        SelectAlone(std::min(next, RowCount() - 1));
+    ShowContent();
+}
+
+void RandomSessionModel::HighlightEntries(const std::set<int>& entries) {
+    const QStringList before = StoredFilters;
+    std::set<int> plain = entries;
+    for (SessionRow& row : Rows)
+        if (entries.count(row.Entry) != 0 && std::exchange(row.Highlighted, true))
+            plain.erase(row.Entry);
+    for (const int entry : plain)
+        Add(entry, 'H');
     NoteStep(before);
 }
 

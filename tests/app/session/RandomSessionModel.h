@@ -48,6 +48,10 @@ class RandomSessionModel {
     void RemoveSelected();
     void ToggleSelected();
 
+    // Entries by number, also those that no row shows.
+    void RemoveEntries(const std::set<int>& entries);
+    void HighlightEntries(const std::set<int>& entries);
+
     // Takes the last change of the filters back, or makes it again. False, and nothing changes, when the
     // filters are no longer as it left them. There must be one.
     bool Undo();
@@ -106,7 +110,9 @@ class RandomSessionModel {
     QStringList StoredFilters;                        // in their text form
     QList<std::pair<QStringList, QStringList>> Steps; // before and after the changes made in the list
     int Done = 0;                                     // so many of them are in force
-    SessionEntries NumbersOf;     // the logbook on which filters by number were changed last; empty = unknown
+    SessionEntries NumbersOf; // the logbook on which filters by number were changed last; empty = unknown
+    // The stored filters before the first change on this logbook, and which one their numbers were for.
+    std::optional<std::pair<QStringList, SessionEntries>> NumbersBefore;
     int OfOthers = 0;             // so many entries are told to be hidden by such filters of another logbook
     bool OfOthersForSure = false; // not only perhaps of another
     QStringList StoredStrings;

@@ -89,11 +89,17 @@ bool GoesOn(const SessionEntries& logbook, const SessionEntries& later) {
 } // namespace
 
 void RandomSessionModel::NoteNumbers(const QStringList& before) {
-    if (NumberFiltersIn(before) != NumberFiltersIn(StoredFilters))
-        NumbersOf = BareEntries();
+    if (NumberFiltersIn(before) == NumberFiltersIn(StoredFilters))
+        return;
+    if (NumbersOf != BareEntries())
+        NumbersBefore = {before, NumbersOf};
+    const bool isAsBefore =
+        NumbersBefore && NumberFiltersIn(NumbersBefore->first) == NumberFiltersIn(StoredFilters);
+    NumbersOf = isAsBefore ? NumbersBefore->second : BareEntries();
 }
 
 void RandomSessionModel::LogbookIsOpen(bool withFilters) {
+    NumbersBefore.reset();
     if (withFilters) {
         NumbersOf = BareEntries();
         return;
@@ -110,13 +116,10 @@ QString RandomSessionModel::Status() const {
     const bool german = Language == 1;
     if (OfOthers == 0)
         return german ? "Bereit" : "Ready";
-    QString words =
-        german            ? OfOthersForSure
-                                ? "Filter nach Nummer, die für ein anderes Logbuch gemacht wurden, blenden %1"
-                                : "Filter nach Nummer, die vielleicht für ein anderes Logbuch gemacht wurden, "
-                                  "blenden %1"
-        : OfOthersForSure ? "Filters by number that were made for another logbook hide %1"
-                          : "Filters by number that were perhaps made for another logbook hide %1";
+    QString words = german            ? OfOthersForSure ? "Nummernfilter eines anderen Logbuchs blenden %1"
+                                                        : "Nummernfilter, vielleicht eines anderen Logbuchs, blenden %1"
+                    : OfOthersForSure ? "Number filters of another logbook hide %1"
+                                      : "Number filters, perhaps of another logbook, hide %1";
     if (german)
         words += OfOthers == 1 ? " Eintrag aus." : " Einträge aus.";
     else

@@ -57,6 +57,10 @@ void RandomSession::UseOverview() {
     const auto hasKey = [&](int row) {
         return HasKey(Model.EntryOf(row)) && KeyOf(Model.EntryOf(row)) == key;
     };
+    std::set<int> entries;
+    for (int entry = 0; entry < Model.Entries.size(); ++entry)
+        if (HasKey(Model.Entries[entry]) && KeyOf(Model.Entries[entry]) == key)
+            entries.insert(entry);
     QApplication::setActiveWindow(Overview());
     switch (Below(5)) {
     case 0:
@@ -74,26 +78,13 @@ void RandomSession::UseOverview() {
     }
     case 3: {
         Say("highlights all of " + key);
-        const std::set<int> selected = std::exchange(Model.Selected, {});
-        for (int row = 0; row < Model.RowCount(); ++row)
-            if (hasKey(row) && !Model.Rows[row].Highlighted)
-                Model.Selected.insert(row);
-        Model.ToggleSelected();
-        Model.Selected = selected;
+        Model.HighlightEntries(entries);
         QTest::mouseClick(Overview()->findChild<QPushButton*>("cmdHighlightAll"), Qt::LeftButton);
         return;
     }
     default: {
         Say("removes all of " + key);
-        const std::set<int> selected = std::exchange(Model.Selected, {});
-        for (int row = 0; row < Model.RowCount(); ++row)
-            if (hasKey(row))
-                Model.Selected.insert(row);
-        if (Model.Selected.empty())
-            Model.Selected = selected;
-        else
-            Model.RemoveSelected();
-        Model.ShowContent();
+        Model.RemoveEntries(entries);
         QTest::mouseClick(Overview()->findChild<QPushButton*>("cmdRemoveAll"), Qt::LeftButton);
     }
     }

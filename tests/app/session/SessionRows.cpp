@@ -180,9 +180,10 @@ void RandomSession::UndoOrRedo() {
     Say(undo ? "undoes" : "redoes");
     const bool isOffered = undo ? Model.Done > 0 : Model.Done < Model.Steps.size();
     if (isOffered && !(undo ? Model.Undo() : Model.Redo()))
-        Answers.ExpectMessage(Localised("The filters have been changed elsewhere since then.",
-                                        "Die Filter wurden seitdem anderswo geändert."),
-                              QMessageBox::Ok);
+        Answers.ExpectMessage(
+            Localised("This cannot be done: the filters have been changed otherwise since then.",
+                      "Das ist nicht möglich: Die Filter wurden seitdem anders geändert."),
+            QMessageBox::Ok);
     if (Chance(3))
         Item(undo ? "mnuAnalysisUndo" : "mnuAnalysisRedo")->trigger();
     else
