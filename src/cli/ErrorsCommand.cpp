@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ErrorsCommand.h"
 
-#include "history/ErrorTexts.h"
 #include "cli/HistoryTexts.h"
 #include "cli/Options.h"
 #include "cli/PlainTable.h"
 #include "cli/PrintedHistory.h"
 #include "cli/RecordWriter.h"
 #include "history/ErrorStatistics.h"
+#include "history/ErrorTexts.h"
 #include "settings/Texts.h"
 
 #include <CLI/CLI.hpp>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "cli/LookupAll.h"
 
-#include "history/ErrorTexts.h"
 #include "cli/HistoryTexts.h"
 #include "cli/PlainTable.h"
 #include "cli/PrintedHistory.h"
 #include "cli/RecordWriter.h"
 #include "history/ErrorStatistics.h"
+#include "history/ErrorTexts.h"
 #include "settings/Texts.h"
 
 #include <algorithm>

@@ -137,7 +137,7 @@ class MainWindowOverviewTest : public MainWindowTest {
         QCOMPARE(Filters->Load().back().StringFilter, std::string("1,5,7"));
         PressThere(Qt::Key_Z, Qt::ControlModifier);
         QTest::mouseClick(Part<QPushButton>("cmdRemoveAll"), Qt::LeftButton);
-        QCOMPARE(Filters->Load().back().StringFilter, std::string("1,5,7"));
+        QCOMPARE(Filters->Load().back().StringFilter, std::string("5,1,7"));
         QCOMPARE(List()->model()->rowCount(), 6);
         QCOMPARE(SelectedData(), QString("P8 oil")); // it stays selected
         QCOMPARE(List()->SelectedRow(), 1);
