@@ -4,7 +4,6 @@
 #include "base/AsciiCase.h"
 #include "base/OpenForC.h"
 #include "base/StopRequest.h"
-#include "settings/ReasonText.h"
 #include "sources/ZipReason.h"
 
 #include <zip.h>
@@ -102,17 +101,15 @@ ZipArchive::ZipArchive(const std::filesystem::path& file, Language language, std
 
 // The library's own way to open a file takes no names beyond Windows' code page.
 void ZipArchive::Open(const std::filesystem::path& file) {
-    errno = 0;
-    std::FILE* const handle = OpenForC(file);
-    if (handle == nullptr) {
-        error_ = SystemReason(errno, language_);
-        return;
-    }
     zip_error_t error;
     zip_error_init(&error);
+    errno = 0;
+    std::FILE* const handle = OpenForC(file);
     // The source closes the file, the archive the source.
-    zip_source_t* const source = zip_source_filep_create(handle, 0, -1, &error);
-    if (source == nullptr)
+    zip_source_t* source = nullptr;
+    if (handle == nullptr)
+        zip_error_set(&error, errno == ENOENT ? ZIP_ER_NOENT : ZIP_ER_OPEN, errno);
+    else if (source = zip_source_filep_create(handle, 0, -1, &error); source == nullptr)
         std::fclose(handle);
     else
         archive_.reset(zip_open_from_source(source, ZIP_RDONLY, &error));
