@@ -34,7 +34,9 @@ set(often_included_of_qt <QAbstractItemView> <QAction> <QApplication> <QDialog> 
                          <QLayout> <QMainWindow> <QMenu> <QMessageBox> <QPushButton> <QString> <QTableView> <QTimer>
                          <QTreeWidget> <QWidget>)
 qorvix_precompile(core HEADERS ${often_included})
-qorvix_precompile(window HEADERS ${often_included} ${often_included_of_qt} USES Qt6::Widgets)
-if(QORVIX_PRECOMPILED_HEADERS)
+if(QORVIX_WINDOW)
+  qorvix_precompile(window HEADERS ${often_included} ${often_included_of_qt} USES Qt6::Widgets)
+endif()
+if(QORVIX_PRECOMPILED_HEADERS AND QORVIX_WINDOW)
   qorvix_no_optimising_under_sanitizers(precompiled_window)
 endif()

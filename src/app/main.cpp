@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppIcons.h"
 #include "app/frmMain.h"
+#include "base/Arguments.h"
 #include "base/FileSizeLimit.h"
 #include "base/Paths.h"
 #include "base/StandardStreams.h"
@@ -29,9 +30,8 @@ std::vector<std::string> FilesToOpen(const std::vector<std::string>& arguments) 
 int main(int argc, char** argv) {
     OpenMissingStandardStreams();
     FailAtFileSizeLimit();
-    // All words are logbooks or options of this program, as bytes: none is for Qt, and a file's name need not
-    // be UTF-8.
-    const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
+    // All words are logbooks or options of this program: none is for Qt.
+    const std::vector<std::string> arguments = Arguments(argc, argv);
     int noArguments = std::min(argc, 1);
     QApplication application(noArguments, argv);
     QApplication::setApplicationName("Qorvix");

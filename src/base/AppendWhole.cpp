@@ -2,56 +2,39 @@
 #include "base/AppendWhole.h"
 
 #include "base/LastError.h"
+#include "base/Paths.h"
+#include "base/RandomName.h"
 #include "base/SystemFile.h"
 
-#include <cstdlib>
 #include <new>
 #include <string>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-namespace {
-
-bool WriteAll(int handle, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(handle, bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-}
-
-} // namespace
-
 FileHandle MakeFileToAppend(std::filesystem::path& name, std::error_code& error) {
-    std::string chosen = name.string();
-    errno = 0;
-    FileHandle file = SystemFile::Handle(::mkostemp(chosen.data(), O_APPEND | O_CLOEXEC));
-    error = file.IsOpen() ? std::error_code() : LastError();
-    try {
-        name = chosen;
-    } catch (const std::bad_alloc&) {
-        // Nobody would know the file.
+    constexpr std::size_t Random = 6;
+    constexpr int Attempts = 100;
+    const std::string text = PathText(name);
+    for (int i = 0; i < Attempts; ++i) {
+        std::filesystem::path chosen =
+            ToPath(text.substr(0, text.size() - Random) + RandomCharacters(Random));
+        errno = 0;
+        FileHandle file = SystemFile::Open(
+            chosen, {.Access = SystemFile::Access::Append, .Existing = SystemFile::Existing::MustNot});
+        error = file.IsOpen() ? std::error_code() : LastError();
         if (file.IsOpen())
-            ::unlink(chosen.c_str());
-        throw;
+            name.swap(chosen); // needs no memory: nobody else would know the file
+        if (error != std::errc::file_exists)
+            return file;
     }
-    return file;
+    return {};
 }
 
 std::error_code AppendWhole(const FileHandle& file, std::string_view bytes) {
-    const int handle = SystemFile::Number(file);
-    struct stat before {};
     errno = 0;
-    if (::fstat(handle, &before) != 0)
+    const std::int64_t before = SystemFile::Size(file);
+    if (before < 0)
         return LastError();
-    const std::error_code error = WriteAll(handle, bytes) ? Flush(file) : LastError();
+    const std::error_code error = SystemFile::Append(file, bytes) ? Flush(file) : LastError();
     if (error)
-        (void)!::ftruncate(handle, before.st_size);
+        (void)SystemFile::Resize(file, before);
     return error;
 }

@@ -2,21 +2,15 @@
 #include "base/CodePage.h"
 
 #include "base/ShortText.h"
+#include "base/SystemCodePages.h"
 
 #include <algorithm>
 #include <bit>
-#include <cstdlib>
 #include <cstring>
 #include <optional>
 #include <utility>
 
-#if defined(__unix__) || defined(__APPLE__)
-#include <iconv.h>
-#endif
-
 namespace {
-
-using UpperHalf = std::array<char16_t, 128>;
 
 // Bytes 0x80 to 0x9F of Windows-1252; from 0xA0 on a byte is the character with its own number.
 constexpr std::array<char16_t, 32> Windows1252{
@@ -44,32 +38,6 @@ UpperHalf UpperHalfOf1252() {
     for (std::size_t i = 0; i < half.size(); ++i)
         half[i] = i < Windows1252.size() ? Windows1252[i] : static_cast<char16_t>(0x80 + i);
     return half;
-}
-
-// The upper half of a code page by the C library's own table; nothing when it has none.
-std::optional<UpperHalf> UpperHalfFromLibrary([[maybe_unused]] const char* codePageName) {
-#if defined(__unix__) || defined(__APPLE__)
-    const iconv_t converter = iconv_open("UTF-16LE", codePageName);
-    if (converter == reinterpret_cast<iconv_t>(-1))
-        return std::nullopt;
-    UpperHalf half{};
-    for (std::size_t i = 0; i < half.size(); ++i) {
-        char byte = static_cast<char>(0x80 + i);
-        std::array<unsigned char, 8> unit{};
-        char* in = &byte;
-        char* out = reinterpret_cast<char*>(unit.data());
-        std::size_t inLeft = 1;
-        std::size_t outLeft = unit.size();
-        iconv(converter, nullptr, nullptr, nullptr, nullptr);
-        const bool defined =
-            iconv(converter, &in, &inLeft, &out, &outLeft) != static_cast<std::size_t>(-1) && outLeft == 6;
-        half[i] = static_cast<char16_t>(defined ? unit[0] + 256 * unit[1] : 0x80 + static_cast<int>(i));
-    }
-    iconv_close(converter);
-    return half;
-#else
-    return std::nullopt;
-#endif
 }
 
 // Takes the next character from the front of a UTF-8 text; U+FFFD for a byte that belongs to no character.
@@ -118,16 +86,13 @@ CodePage CodePage::ForLocale(std::string_view localeName) {
     const std::string_view language = localeName.substr(0, localeName.find_first_of("_.@"));
     for (const auto& [region, codePageName] : RegionalCodePages)
         if (region == language)
-            if (const auto upperHalf = UpperHalfFromLibrary(codePageName))
-                return CodePage(codePageName, *upperHalf);
+            return OfName(codePageName);
     return {};
 }
 
-CodePage CodePage::OfUser() {
-    for (const char* variable : {"LC_ALL", "LC_CTYPE", "LANG"})
-        if (const char* value = std::getenv(variable); value != nullptr && *value != '\0')
-            return ForLocale(value);
-    return {};
+CodePage CodePage::OfName(const char* name) {
+    const std::optional<UpperHalf> upperHalf = UpperHalfOfSystem(name);
+    return upperHalf ? CodePage(name, *upperHalf) : CodePage();
 }
 
 char* CodePage::EncodeMixed(std::string_view bytes, char* out) const {

@@ -30,7 +30,11 @@ class CodePage {
     // where the C library has no table for the region's code page.
     static CodePage ForLocale(std::string_view localeName);
 
-    // The code page of the user's locale, from LC_ALL, LC_CTYPE and LANG in this order.
+    // The code page with a name such as "CP1250"; 1252 where the system has no table for it.
+    static CodePage OfName(const char* name);
+
+    // The code page of the user's locale, from LC_ALL, LC_CTYPE and LANG in this order; on Windows the
+    // system's own for programs without Unicode.
     static CodePage OfUser();
 
     // For example "CP1252".

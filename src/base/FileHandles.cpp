@@ -1,88 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "base/FileHandles.h"
 
-#include "base/LastError.h"
 #include "base/SystemFile.h"
 
-#if defined(__unix__) || defined(__APPLE__)
+#include <cerrno>
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-void FileHandle::Close() {
-    if (number_ >= 0)
-        ::close(number_);
-    number_ = -1;
-}
-
-FileHandle OpenToLock(const std::filesystem::path& file, int flags, unsigned mode) {
-    FileHandle handle = SystemFile::Handle(::open(file.c_str(), flags | O_RDWR | O_CLOEXEC, mode));
+FileHandle OpenToLock(const std::filesystem::path& file, SystemFile::Existing existing) {
+    FileHandle handle =
+        SystemFile::Open(file, {.Access = SystemFile::Access::ReadWrite, .Existing = existing});
     if (!handle.IsOpen() && (errno == EACCES || errno == EPERM || errno == EROFS))
-        handle = SystemFile::Handle(::open(file.c_str(), flags | O_RDONLY | O_CLOEXEC, mode));
+        handle = SystemFile::Open(file, {.Access = SystemFile::Access::Read, .Existing = existing});
     return handle;
 }
 
 FileHandle OpenToHold(const std::filesystem::path& file) {
-    return OpenToLock(file, O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
-}
-
-LockOutcome TryLock(const FileHandle& file) {
-    constexpr int Attempts = 100; // signals may come in between, but not for ever
-    int locked = -1;
-    for (int i = 0; i < Attempts && locked != 0; ++i) {
-        locked = ::flock(SystemFile::Number(file), LOCK_EX | LOCK_NB);
-        if (locked != 0 && errno != EINTR)
-            break;
-    }
-    if (locked == 0)
-        return LockOutcome::Held;
-    // A network answers EBADF for a handle that is open for reading only, which OpenToLock falls back to.
-    const bool unsupported = errno == ENOLCK || errno == EOPNOTSUPP || errno == ENOTSUP || errno == ENOSYS ||
-                             errno == EINVAL || errno == EBADF;
-    if (unsupported)
-        return LockOutcome::Unsupported;
-    return errno == EWOULDBLOCK ? LockOutcome::InUse : LockOutcome::Failed;
-}
-
-std::error_code Flush(const FileHandle& file) {
-    errno = 0;
-    if (::fsync(SystemFile::Number(file)) == 0 || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP ||
-        errno == ENOTSUP)
-        return {};
-    return LastError();
-}
-
-bool IsNameOf(const std::filesystem::path& name, const FileHandle& file) {
-    struct stat opened {};
-    struct stat named {};
-    return file.IsOpen() && ::fstat(SystemFile::Number(file), &opened) == 0 &&
-           ::lstat(name.c_str(), &named) == 0 && opened.st_dev == named.st_dev &&
-           opened.st_ino == named.st_ino;
-}
-
-bool IsRegular(const FileHandle& file) {
-    struct stat opened {};
-    return file.IsOpen() && ::fstat(SystemFile::Number(file), &opened) == 0 && S_ISREG(opened.st_mode);
+    return OpenToLock(file, SystemFile::Existing::Must);
 }
 
 std::string FirstBytes(const FileHandle& file, std::size_t most) {
     std::string begin(most, '\0');
-    const ssize_t count = ::pread(SystemFile::Number(file), begin.data(), most, 0);
+    const std::int64_t count = SystemFile::ReadAt(file, 0, begin.data(), most);
     begin.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
     return begin;
 }
-
-#else
-
-void FileHandle::Close() {}
-FileHandle OpenToLock(const std::filesystem::path&, int, unsigned) { return {}; }
-FileHandle OpenToHold(const std::filesystem::path&) { return {}; }
-LockOutcome TryLock(const FileHandle&) { return LockOutcome::Unsupported; }
-std::error_code Flush(const FileHandle&) { return {}; }
-bool IsNameOf(const std::filesystem::path&, const FileHandle&) { return false; }
-bool IsRegular(const FileHandle&) { return false; }
-std::string FirstBytes(const FileHandle&, std::size_t) { return {}; }
-
-#endif

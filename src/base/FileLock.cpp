@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "base/FileLock.h"
 
+#include "base/Paths.h"
 #include "base/SystemFile.h"
 
 #include <chrono>
 #include <thread>
-
-#include <fcntl.h>
-#include <sys/stat.h>
 
 namespace {
 
@@ -17,15 +15,13 @@ constexpr std::chrono::milliseconds Pause{2};
 } // namespace
 
 FileLock::FileLock(const std::string& path) {
+    using Existing = SystemFile::Existing;
+    handle_ = OpenToLock(ToPath(path), Existing::MustNot);
     // Readable for all, so that a file made by another user does not shut this one out.
-    constexpr mode_t Mode = S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH;
-    // Does not wait for the other end of a pipe. Follows no link: it may lead to any file.
-    constexpr int Flags = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
-    handle_ = OpenToLock(path, Flags | O_CREAT | O_EXCL, Mode);
     if (handle_.IsOpen())
-        (void)::fchmod(SystemFile::Number(handle_), Mode);
+        SystemFile::ShareForReading(handle_);
     else
-        handle_ = OpenToLock(path, Flags | O_CREAT, Mode);
+        handle_ = OpenToLock(ToPath(path), Existing::May);
     if (!Take())
         handle_.Close();
 }

@@ -2,35 +2,9 @@
 #include "base/FollowLinks.h"
 
 #include "base/FileProblem.h"
+#include "base/SystemFile.h"
 
 #include <vector>
-
-#if defined(__unix__) || defined(__APPLE__)
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
-
-namespace {
-
-#if defined(__unix__) || defined(__APPLE__)
-
-bool MayBePlanted(const std::filesystem::path& link, const std::filesystem::path& folder) {
-    constexpr mode_t ForAll = S_ISVTX | S_IWOTH;
-    struct stat ofLink {};
-    struct stat ofFolder {};
-    if (::lstat(link.c_str(), &ofLink) != 0 || ::stat(folder.empty() ? "." : folder.c_str(), &ofFolder) != 0)
-        return true;
-    return (ofFolder.st_mode & ForAll) == ForAll && ofLink.st_uid != ::geteuid() &&
-           ofLink.st_uid != ofFolder.st_uid;
-}
-
-#else
-
-bool MayBePlanted(const std::filesystem::path&, const std::filesystem::path&) { return false; }
-
-#endif
-
-} // namespace
 
 std::filesystem::path FollowLinks(const std::filesystem::path& path, std::error_code& error) {
     constexpr int MostLinks = 40;
@@ -52,7 +26,7 @@ std::filesystem::path FollowLinks(const std::filesystem::path& path, std::error_
         }
         if (links++ == MostLinks)
             error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
-        else if (MayBePlanted(next, reached))
+        else if (SystemFile::MayBePlanted(next, reached))
             error = FileProblem::ForeignLink;
         if (error)
             return path;

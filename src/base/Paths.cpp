@@ -13,6 +13,16 @@ constexpr std::string_view PathSeparators = "\\/";
 
 std::filesystem::path ToPath(std::string_view path) { return std::u8string(path.begin(), path.end()); }
 
+std::string PathText(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+std::string GenericPathText(const std::filesystem::path& path) {
+    const std::u8string text = path.generic_u8string();
+    return {text.begin(), text.end()};
+}
+
 void SplitPath(std::string_view path, std::string& folder, std::string& fileName) {
     const std::size_t separator = path.find_last_of(PathSeparators);
     const std::size_t cut = separator == std::string_view::npos ? 0 : separator + 1;

@@ -10,6 +10,10 @@
 // The path that a UTF-8 text names.
 std::filesystem::path ToPath(std::string_view path);
 
+// A path as UTF-8 text; with "/" alone between its parts.
+std::string PathText(const std::filesystem::path& path);
+std::string GenericPathText(const std::filesystem::path& path);
+
 // Splits a path behind its last "\" or "/". The folder keeps that separator; it is "" for a bare file name.
 void SplitPath(std::string_view path, std::string& folder, std::string& fileName);
 

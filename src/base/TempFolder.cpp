@@ -3,22 +3,19 @@
 
 #include "base/Paths.h"
 #include "base/ProgramFolder.h"
+#include "base/RandomName.h"
+#include "base/SystemFile.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <new>
-#include <random>
 #include <string>
 #include <string_view>
 #include <system_error>
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 namespace {
 
-constexpr std::string_view Characters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
 constexpr std::size_t CharacterCount = 6;
 constexpr const char* SharedName = "Qorvix";
 constexpr std::string_view OwnPrefix = "Qorvix-temp-";
@@ -26,25 +23,20 @@ constexpr std::string_view OwnPrefix = "Qorvix-temp-";
 // Others may come in between, but not for ever.
 constexpr int Attempts = 20;
 
-std::string RandomName(std::string_view prefix) {
-    std::random_device random;
-    std::uniform_int_distribution<std::size_t> character(0, Characters.size() - 1);
-    std::string name(prefix);
-    for (std::size_t i = 0; i < CharacterCount; ++i)
-        name += Characters[character(random)];
-    return name;
+std::filesystem::path RandomName(std::string_view prefix) {
+    return ToPath(std::string(prefix) + RandomCharacters(CharacterCount));
 }
 
 bool HasOwnName(const std::filesystem::path& folder) {
-    const std::string name = folder.filename().string();
+    const std::string name = PathText(folder.filename());
     return name == SharedName ||
            (name.starts_with(OwnPrefix) && name.size() == OwnPrefix.size() + CharacterCount &&
-            name.find_first_not_of(Characters, OwnPrefix.size()) == std::string::npos);
+            name.find_first_not_of(NameCharacters, OwnPrefix.size()) == std::string::npos);
 }
 
 // The name of something below a folder, as the folder's mark has it.
 std::string NameIn(const std::filesystem::path& folder, const std::filesystem::path& path) {
-    return path.lexically_relative(folder).generic_string();
+    return GenericPathText(path.lexically_relative(folder));
 }
 
 } // namespace
@@ -82,7 +74,7 @@ void TempFolder::RemoveLeft(const std::vector<std::string>& kept) const {
         const auto isIn = [&](const std::string& path) { return LiesIn(ToPath(path), folder); };
         if (!HasOwnName(folder) || isIn(ProgramFolder()) || std::any_of(kept.begin(), kept.end(), isIn))
             continue;
-        if (const std::optional<TempFolderMark> left = TempFolderMark::Take(folder))
+        if (std::optional<TempFolderMark> left = TempFolderMark::Take(folder))
             left->Remove();
     }
 }
@@ -93,7 +85,7 @@ void TempFolder::Make() const {
     if (parent_.empty())
         return;
     for (int i = 0; i < Attempts; ++i) {
-        const bool isMade = ::mkdir((parent_ / SharedName).c_str(), S_IRWXU) == 0;
+        const bool isMade = SystemFile::MakeFolder(parent_ / SharedName);
         if (isMade && Mark(parent_ / SharedName))
             return;
         if (!isMade)
@@ -101,7 +93,7 @@ void TempFolder::Make() const {
     }
     for (int i = 0; i < Attempts; ++i) {
         const std::filesystem::path own = parent_ / RandomName(OwnPrefix);
-        const bool isMade = ::mkdir(own.c_str(), S_IRWXU) == 0;
+        const bool isMade = SystemFile::MakeFolder(own);
         if (isMade && Mark(own))
             return;
         if (!isMade && errno != EEXIST)
@@ -115,7 +107,7 @@ bool TempFolder::Mark(const std::filesystem::path& folder) const {
     if (mark_)
         path_ = folder;
     else
-        ::rmdir(folder.c_str());
+        SystemFile::RemoveFolder(folder);
     return mark_.has_value();
 }
 
@@ -123,12 +115,12 @@ std::filesystem::path TempFolder::MakeSubfolder() const {
     if (!mark_ || !mark_->IsThere())
         Make();
     for (int i = 0; i < Attempts && mark_; ++i) {
-        const std::string name = RandomName("new-");
+        const std::string name = PathText(RandomName("new-"));
         std::error_code ignored;
-        if (std::filesystem::exists(std::filesystem::symlink_status(path_ / name, ignored)))
+        if (std::filesystem::exists(std::filesystem::symlink_status(path_ / ToPath(name), ignored)))
             continue;
-        if (mark_->Note(name + '/') && ::mkdir((path_ / name).c_str(), S_IRWXU) == 0)
-            return path_ / name;
+        if (mark_->Note(name + '/') && SystemFile::MakeFolder(path_ / ToPath(name)))
+            return path_ / ToPath(name);
         break;
     }
     return {};
@@ -158,5 +150,5 @@ bool TempFolder::Note(const std::vector<std::filesystem::path>& files) const {
 
 void TempFolder::RemoveFile(const std::filesystem::path& file) const {
     if (mark_ && mark_->HasNoted(NameIn(path_, file)))
-        ::unlink(file.c_str());
+        SystemFile::RemoveFile(file);
 }

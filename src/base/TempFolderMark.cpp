@@ -10,10 +10,6 @@
 #include <cerrno>
 #include <vector>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 namespace {
 
 // The file begins with this. Each name that follows ends with a NUL, which no name can hold.
@@ -21,34 +17,12 @@ constexpr std::string_view Header =
     "Qorvix made this folder and the files that are named here, and removes them.\n";
 constexpr std::size_t LargestFile = 4U << 20U; // in bytes, of names of about 20
 
-constexpr mode_t ForOwner = S_IRUSR | S_IWUSR;
-constexpr mode_t Permissions = S_IRWXU | S_IRWXG | S_IRWXO;
-
-// True when a file has this type and belongs to this user. A link is a type of its own.
-bool IsOwn(const std::filesystem::path& path, mode_t type) {
-    struct stat status {};
-    return ::lstat(path.c_str(), &status) == 0 && (status.st_mode & S_IFMT) == type &&
-           status.st_uid == ::geteuid();
-}
-
-bool IsOwnFolder(const std::filesystem::path& path) {
-    struct stat status {};
-    return IsOwn(path, S_IFDIR) && ::lstat(path.c_str(), &status) == 0 &&
-           (status.st_mode & Permissions) == S_IRWXU;
-}
-
-bool IsMark(const FileHandle& file) {
-    struct stat status {};
-    return ::fstat(SystemFile::Number(file), &status) == 0 && S_ISREG(status.st_mode) &&
-           status.st_uid == ::geteuid() && (status.st_mode & Permissions) == ForOwner && status.st_nlink == 1;
-}
-
 // The whole file; nothing when it is too large or cannot be read.
 std::optional<std::string> ReadAll(const FileHandle& file) {
     std::string text;
     for (std::array<char, 4096> part; text.size() <= LargestFile;) {
-        const ssize_t count =
-            ::pread(SystemFile::Number(file), part.data(), part.size(), static_cast<off_t>(text.size()));
+        const std::int64_t count =
+            SystemFile::ReadAt(file, static_cast<std::int64_t>(text.size()), part.data(), part.size());
         if (count < 0)
             return std::nullopt;
         if (count == 0)
@@ -60,14 +34,12 @@ std::optional<std::string> ReadAll(const FileHandle& file) {
 
 // Appends all or nothing to a file.
 bool Append(const FileHandle& file, std::string_view bytes) {
-    const int handle = SystemFile::Number(file);
-    struct stat before {};
-    if (::fstat(handle, &before) != 0 ||
-        static_cast<std::size_t>(before.st_size) > LargestFile - bytes.size())
+    const std::int64_t before = SystemFile::Size(file);
+    if (before < 0 || static_cast<std::size_t>(before) > LargestFile - bytes.size())
         return false;
-    if (::write(handle, bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size()))
+    if (SystemFile::Append(file, bytes))
         return true;
-    (void)!::ftruncate(handle, before.st_size);
+    (void)SystemFile::Resize(file, before);
     return false;
 }
 
@@ -76,25 +48,22 @@ std::optional<std::vector<std::string>> NamesIn(const std::filesystem::path& fol
     std::error_code error;
     std::vector<std::string> names;
     for (const std::filesystem::path& item : ItemsIn(folder, error))
-        names.push_back(item.filename().string());
+        names.push_back(PathText(item.filename()));
     return error ? std::nullopt : std::optional(std::move(names));
 }
 
 } // namespace
 
 TempFolderMark::TempFolderMark(std::filesystem::path folder, FileHandle file)
-    : folder_(std::move(folder)),
-      file_(std::move(file)),
-      folderLock_(
-          SystemFile::Handle(::open(folder_.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC))) {
+    : folder_(std::move(folder)), file_(std::move(file)), folderLock_(SystemFile::HoldFolder(folder_)) {
     if (folderLock_.IsOpen())
         TryLock(folderLock_);
 }
 
 std::optional<TempFolderMark> TempFolderMark::Make(const std::filesystem::path& folder) {
     const std::filesystem::path name = folder / FileName;
-    FileHandle file = SystemFile::Handle(
-        ::open(name.c_str(), O_RDWR | O_APPEND | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, ForOwner));
+    FileHandle file = SystemFile::Open(
+        name, {.Access = SystemFile::Access::Append, .Existing = SystemFile::Existing::MustNot});
     if (!file.IsOpen())
         return std::nullopt;
     // Another copy that starts may have taken the file for an abandoned one before this lock.
@@ -104,16 +73,15 @@ std::optional<TempFolderMark> TempFolderMark::Make(const std::filesystem::path& 
         return std::nullopt;
     if (Append(mark.file_, Header))
         return mark;
-    ::unlink(name.c_str());
+    SystemFile::RemoveFile(name);
     return std::nullopt;
 }
 
 std::optional<TempFolderMark> TempFolderMark::Take(const std::filesystem::path& folder) {
-    if (!IsOwnFolder(folder) || !IsOwn(folder / FileName, S_IFREG))
+    if (!SystemFile::IsPrivateFolder(folder) || !SystemFile::IsOwnFile(folder / FileName))
         return std::nullopt;
-    FileHandle file =
-        SystemFile::Handle(::open((folder / FileName).c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    if (!file.IsOpen() || !IsMark(file) || TryLock(file) != LockOutcome::Held)
+    FileHandle file = SystemFile::Open(folder / FileName, {.Access = SystemFile::Access::ReadWrite});
+    if (!file.IsOpen() || !SystemFile::IsPrivate(file) || TryLock(file) != LockOutcome::Held)
         return std::nullopt;
     TempFolderMark mark(folder, std::move(file));
     if (!mark.IsThere() || !mark.Read() || !mark.HasOnlyNoted(""))
@@ -149,19 +117,19 @@ bool TempFolderMark::Note(const std::string& name) {
 
 bool TempFolderMark::IsNotedFile(const std::string& folder, const std::string& name) const {
     return std::any_of(names_.begin(), names_.end(), [&](const std::string& noted) {
-        return noted == folder + name || (noted.starts_with(folder) && !noted.ends_with('/') &&
-                                          noted.find('/', folder.size()) == std::string::npos &&
-                                          IsPartFileOf(name, std::filesystem::path(noted)));
+        return noted == folder + name ||
+               (noted.starts_with(folder) && !noted.ends_with('/') &&
+                noted.find('/', folder.size()) == std::string::npos && IsPartFileOf(name, ToPath(noted)));
     });
 }
 
 bool TempFolderMark::HasOnlyNoted(const std::string& folder) const {
-    const std::optional<std::vector<std::string>> names = NamesIn(folder_ / folder);
+    const std::optional<std::vector<std::string>> names = NamesIn(folder_ / ToPath(folder));
     return names && std::all_of(names->begin(), names->end(), [&](const std::string& name) {
-               const std::filesystem::path path = folder_ / folder / name;
-               if (IsOwn(path, S_IFDIR))
+               const std::filesystem::path path = folder_ / ToPath(folder) / ToPath(name);
+               if (SystemFile::IsOwnFolder(path))
                    return HasNoted(folder + name + '/') && HasOnlyNoted(folder + name + '/');
-               return IsOwn(path, S_IFREG) &&
+               return SystemFile::IsOwnFile(path) &&
                       ((folder.empty() && name == FileName) || IsNotedFile(folder, name));
            });
 }
@@ -170,7 +138,7 @@ void TempFolderMark::RemoveFolder(const std::string& name) {
     if (!HasNoted(name))
         return;
     RemoveNoted(name);
-    if (!IsOwn(folder_ / name.substr(0, name.size() - 1), S_IFDIR))
+    if (!SystemFile::IsOwnFolder(folder_ / ToPath(name.substr(0, name.size() - 1))))
         std::erase_if(names_, [&](const std::string& noted) { return noted.starts_with(name); });
 }
 
@@ -181,17 +149,20 @@ void TempFolderMark::RemoveNoted(std::string_view folder) const {
             continue;
         // In this order the contents of a folder come before the folder.
         if (name->ends_with('/')) {
-            ::rmdir((folder_ / name->substr(0, name->size() - 1)).c_str());
+            SystemFile::RemoveFolder(folder_ / ToPath(name->substr(0, name->size() - 1)));
         } else {
-            RemoveLeftPartFiles(folder_ / *name);
-            ::unlink((folder_ / *name).c_str());
+            RemoveLeftPartFiles(folder_ / ToPath(*name));
+            SystemFile::RemoveFile(folder_ / ToPath(*name));
         }
     }
 }
 
-void TempFolderMark::Remove() const {
+void TempFolderMark::Remove() {
     RemoveNoted("");
     if (IsThere())
-        ::unlink((folder_ / FileName).c_str());
-    ::rmdir(folder_.c_str());
+        SystemFile::RemoveFile(folder_ / FileName);
+    // Windows removes a file, and a folder with it, only when nobody has it open any more.
+    file_.Close();
+    folderLock_.Close();
+    SystemFile::RemoveFolder(folder_);
 }

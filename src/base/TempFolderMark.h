@@ -40,8 +40,8 @@ class TempFolderMark {
     // Removes what is noted below a noted folder, and then the folder if it is empty.
     void RemoveFolder(const std::string& name);
 
-    // Removes what is noted and the mark, and then the folder if it is empty.
-    void Remove() const;
+    // Removes what is noted and the mark, and then the folder if it is empty. Nothing else may be done then.
+    void Remove();
 
   private:
     TempFolderMark(std::filesystem::path folder, FileHandle file);

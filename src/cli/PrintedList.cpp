@@ -49,7 +49,7 @@ int PrintList(const ListOptions& options,
             RowForm form = options.Form;
             form.ControlsAreVisible = isTerminal;
             form.Words = options.MessageLanguage;
-            form.Title = ToPath(options.File).filename().string();
+            form.Title = PathText(ToPath(options.File).filename());
             WriteRows(document.Entries(), rows, form, stream, [](double) { return !StopRequest::IsMade(); });
         });
     };

@@ -49,7 +49,7 @@ bool Write(AtomicFile& file, const std::string& name, const StitchInput& input, 
         return FailFor(name, file.Commit(), input.MessageLanguage);
     if (!input.Sources.AreUnchanged())
         return false;
-    const std::string written = file.Path().string();
+    const std::string written = PathText(file.Path());
     result.Counts = CountEntries(log, written, input.Sources.Exports(), input.Plan);
     if (!input.Comments.empty())
         carried = CarryComments(log, written, input.Sources.Exports(), input.Comments);
@@ -149,7 +149,7 @@ class CommentsBeside {
 std::string PairLock() {
     std::error_code ignored;
     std::filesystem::create_directories(StateFolder(), ignored);
-    return (StateFolder() / "stitch.lock").string();
+    return PathText(StateFolder() / "stitch.lock");
 }
 
 // What is added to the number of an entry of an export; nothing where that is not known.
@@ -241,19 +241,19 @@ bool WriteStitchedArchive(const std::string& path, const StitchInput& input, Sti
     const std::filesystem::path filters = workplace.Path() / "stitched.fil";
     if (workplace.Path().empty() || !input.Temp.Note({log, comments, filters}))
         return FailFor(path, Say(TextId::NoTemporaryFolder, input));
-    AtomicFile file(log.string());
+    AtomicFile file(PathText(log));
     CarriedComments carried;
-    if (!Write(file, log.string(), input, result, carried))
+    if (!Write(file, PathText(log), input, result, carried))
         return false;
     std::error_code error = file.Commit();
     if (error)
-        return FailFor(log.string(), error, input.MessageLanguage);
-    error = SaveComments(comments.string(), carried.Placed, input.FileCodePage);
+        return FailFor(PathText(log), error, input.MessageLanguage);
+    error = SaveComments(PathText(comments), carried.Placed, input.FileCodePage);
     if (error)
-        return FailFor(comments.string(), error, input.MessageLanguage);
-    error = ExportFilterFile(filters.string(), CarriedFilters(input, result), input.FileCodePage);
+        return FailFor(PathText(comments), error, input.MessageLanguage);
+    error = ExportFilterFile(PathText(filters), CarriedFilters(input, result), input.FileCodePage);
     if (error)
-        return FailFor(filters.string(), error, input.MessageLanguage);
+        return FailFor(PathText(filters), error, input.MessageLanguage);
 
     std::vector<std::string> files{path};
     for (std::size_t i = 0; i < input.Sources.Exports().size(); ++i)
@@ -263,7 +263,7 @@ bool WriteStitchedArchive(const std::string& path, const StitchInput& input, Sti
                                .ArchiveFilters = UserInterface::Answer::Yes,
                                .MessageLanguage = input.MessageLanguage,
                                .Partial = true});
-    if (!document.Open(log.string(), {.Comments = comments.string(), .Filters = filters.string()}) ||
+    if (!document.Open(PathText(log), {.Comments = PathText(comments), .Filters = PathText(filters)}) ||
         !document.HasComments())
         return false;
     StitchDecisions decisions(path, input.MessageLanguage);

@@ -76,7 +76,7 @@ bool StitchSources::MoveApart(std::string& file, const char* name) {
         return false;
     std::error_code error;
     std::filesystem::rename(ToPath(file), folder / name, error);
-    file = (folder / name).string();
+    file = PathText(folder / name);
     return !error;
 }
 

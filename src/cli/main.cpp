@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "base/Arguments.h"
 #include "base/FileSizeLimit.h"
 #include "base/Interruption.h"
 #include "base/StandardStreams.h"
@@ -97,6 +98,8 @@ int Run(int argc, char** argv) {
     CLI::App app("Reads the event logbook of a ZEK machine-tool control.", "qorvix-cli");
     app.set_version_flag("--version", "qorvix-cli " QORVIX_VERSION);
     app.require_subcommand(1);
+    // "/" begins a path, also on Windows.
+    app.allow_windows_style_options(false);
 
     ListOptions options;
     CLI::App* const exportCommand = app.add_subcommand("export", "Print the list of a logbook, a row a line");
@@ -119,8 +122,11 @@ int Run(int argc, char** argv) {
     StitchOptions stitchOptions;
     const CLI::App* const stitchCommand = AddStitchCommand(app, stitchOptions);
 
+    // The parser takes them from behind.
+    std::vector<std::string> words = Arguments(argc, argv);
+    std::reverse(words.begin(), words.end());
     try {
-        app.parse(argc, argv);
+        app.parse(std::move(words));
     } catch (const CLI::ParseError& error) {
         return Tell(app, error);
     }

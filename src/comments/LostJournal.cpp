@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "comments/LostJournal.h"
 
+#include "base/Paths.h"
 #include "comments/JournalName.h"
 
 #include <string>
@@ -21,7 +22,7 @@ std::optional<LostJournal> LostJournal::Hold(const std::filesystem::path& file) 
         return std::nullopt;
     const LockOutcome lock = TryLock(journal.handle_);
     const bool isLost = lock == LockOutcome::Held ||
-                        (lock == LockOutcome::Unsupported && !MayBeInUse(file.filename().string()));
+                        (lock == LockOutcome::Unsupported && !MayBeInUse(PathText(file.filename())));
     return isLost ? std::optional(std::move(journal)) : std::nullopt;
 }
 

@@ -24,7 +24,7 @@ std::string FolderOfLogbook(const LogbookState& state) {
     const std::filesystem::path absolute = std::filesystem::absolute(ToPath(source), error);
     std::string folder;
     std::string fileName;
-    SplitPath(error ? source : absolute.string(), folder, fileName);
+    SplitPath(error ? source : PathText(absolute), folder, fileName);
     return folder;
 }
 

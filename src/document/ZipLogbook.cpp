@@ -13,7 +13,7 @@ namespace {
 std::string Absolute(const std::string& path) {
     std::error_code error;
     const std::filesystem::path absolute = std::filesystem::absolute(ToPath(path), error);
-    return error ? path : absolute.string();
+    return error ? path : PathText(absolute);
 }
 
 // Whether the logbook file goes in: it is as it was read, or wanted as it is now, which the content then

@@ -13,10 +13,7 @@ namespace {
 
 constexpr auto LargestText = static_cast<std::uint64_t>(LanguageFile::LargestSize);
 
-std::string NameOf(const std::filesystem::path& path) {
-    const std::u8string name = path.filename().u8string();
-    return {name.begin(), name.end()};
-}
+std::string NameOf(const std::filesystem::path& path) { return PathText(path.filename()); }
 
 } // namespace
 
@@ -78,6 +75,6 @@ void ErrorTextFolder::TakeItem(const std::filesystem::path& item, std::size_t de
     const std::uintmax_t size = file ? std::filesystem::file_size(item, error) : 0;
     if (!file || error)
         return;
-    found.push_back({std::move(*file), depth, item.string(), size, paths_.size()});
+    found.push_back({std::move(*file), depth, PathText(item), size, paths_.size()});
     paths_.push_back(item);
 }

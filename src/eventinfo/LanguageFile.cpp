@@ -9,15 +9,6 @@
 #include <filesystem>
 #include <system_error>
 
-namespace {
-
-std::string PathText(const std::filesystem::path& path) {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
-}
-
-} // namespace
-
 std::string FindInFolder(const std::string& folder, std::string_view name) {
     if (folder.empty())
         return {};

@@ -2,6 +2,7 @@
 #include "eventinfo/iZEKEventInfo.h"
 
 #include "base/Blanks.h"
+#include "base/Paths.h"
 #include "base/ProgramFolder.h"
 #include "base/UserFolders.h"
 #include "eventinfo/ClassicNcErrorText.h"
@@ -86,7 +87,7 @@ std::string GetErrorInfoPath() {
     return folder.empty() ? folder : folder + "/language/";
 }
 
-std::string UserLanguageFolder() { return (DataFolder() / "language" / "").string(); }
+std::string UserLanguageFolder() { return PathText(DataFolder() / "language" / ""); }
 
 std::vector<std::string> LanguageFolders() { return {UserLanguageFolder(), GetErrorInfoPath()}; }
 

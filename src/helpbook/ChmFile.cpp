@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "helpbook/ChmFile.h"
 
+#include "base/Paths.h"
 #include "helpbook/HelpMemberStream.h"
 
 #include <cerrno>
@@ -71,8 +72,8 @@ pid_t Start(const std::filesystem::path& reader, const std::filesystem::path& fi
     posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
     posix_spawn_file_actions_adddup2(&actions, pipe, STDOUT_FILENO);
     posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    std::string name = reader.string();
-    std::string argument = file.string();
+    std::string name = PathText(reader);
+    std::string argument = PathText(file);
     char* const arguments[] = {name.data(), argument.data(), nullptr};
     pid_t process = -1;
     if (posix_spawn(&process, name.c_str(), &actions, nullptr, arguments, environ) != 0)

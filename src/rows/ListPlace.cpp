@@ -26,7 +26,7 @@ std::optional<TextId> RefusalOfListPlace(const std::string& file, std::span<cons
         return std::nullopt;
     // Writing follows links.
     const std::filesystem::path reached = std::filesystem::weakly_canonical(ToPath(file), ignored);
-    if (IsPersonsWork(file) || IsPersonsWork(reached.string()))
+    if (IsPersonsWork(file) || IsPersonsWork(PathText(reached)))
         return TextId::ListInPlaceOfOther;
     return std::nullopt;
 }

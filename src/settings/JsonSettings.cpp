@@ -209,7 +209,7 @@ bool Parse(const std::string& text, Json& root) {
 
 } // namespace
 
-std::string JsonSettings::UserFile() { return (ConfigurationFolder() / "Qorvix.json").string(); }
+std::string JsonSettings::UserFile() { return PathText(ConfigurationFolder() / "Qorvix.json"); }
 
 JsonSettings::~JsonSettings() { Empty(known_); }
 

@@ -67,7 +67,7 @@ class Look {
         if (!archive_.Unpack(member, file))
             return archive_.Error();
         const CommentsFileResult result = ReadCommentsFile(
-            file.string(), successor_.FileCodePage,
+            PathText(file), successor_.FileCodePage,
             [&](std::int64_t number, std::string comment) { comments[number] = std::move(comment); });
         switch (result.Result) {
         case CommentsFileResult::Outcome::Read:

@@ -100,15 +100,15 @@ class Saving {
         const std::filesystem::path comments = workplace_.Path() / "comments";
         if (!tempFolder_.Note({filters, comments}))
             return Say(TextId::ZipNotUnpacked);
-        std::error_code error = ExportFilterFile(filters.string(), content_.Filters, content_.FileCodePage);
+        std::error_code error = ExportFilterFile(PathText(filters), content_.Filters, content_.FileCodePage);
         if (error)
-            return WithFile(filters.string(), error, language_);
-        error = SaveComments(comments.string(), content_.Entries, content_.FileCodePage);
+            return WithFile(PathText(filters), error, language_);
+        error = SaveComments(PathText(comments), content_.Entries, content_.FileCodePage);
         if (error)
-            return WithFile(comments.string(), error, language_);
+            return WithFile(PathText(comments), error, language_);
         const FileToPack files[] = {{base + ".log", ToPath(content_.LogbookFile), LogbookName()},
-                                    {base + ".fil", filters, filters.string()},
-                                    {base + ".cmt", comments, comments.string()}};
+                                    {base + ".fil", filters, PathText(filters)},
+                                    {base + ".cmt", comments, PathText(comments)}};
         std::string reason = BuildZip(archive, files, language_, progress);
         return reason.empty() ? RefusalOf(archive, language_) : reason;
     }

@@ -178,7 +178,7 @@ std::optional<LogbookSource> ResolveArchive(const std::string& path, const TempF
     bool staysApart = false;
     const std::string fileBase = FileBaseOf(parts ? parts->Base : "");
     const auto fileIn = [&](const std::filesystem::path& folder, std::string_view extension) {
-        return (folder / ToPath(std::string(fileBase).append(extension))).string();
+        return PathText(folder / ToPath(std::string(fileBase).append(extension)));
     };
     const auto isUnpacked = [&](std::string_view extension) {
         return FileExists(fileIn(unpacked, extension));

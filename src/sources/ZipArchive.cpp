@@ -2,6 +2,7 @@
 #include "sources/ZipArchive.h"
 
 #include "base/AsciiCase.h"
+#include "base/OpenForC.h"
 #include "base/StopRequest.h"
 #include "sources/ZipReason.h"
 
@@ -9,6 +10,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
+#include <cstdio>
 #include <fstream>
 
 namespace {
@@ -75,15 +78,9 @@ void ZipArchive::Close::operator()(zip* archive) const { zip_discard(archive); }
 
 ZipArchive::ZipArchive(const std::filesystem::path& file, Language language, std::span<const ZipBound> bounds)
     : language_(language), bounds_(bounds) {
-    int code = 0;
-    archive_.reset(zip_open(file.string().c_str(), ZIP_RDONLY, &code));
-    if (!archive_) {
-        zip_error_t error;
-        zip_error_init_with_code(&error, code);
-        error_ = ReasonOf(error, language_);
-        zip_error_fini(&error);
+    Open(file);
+    if (!archive_)
         return;
-    }
     const zip_int64_t count = zip_get_num_entries(archive_.get(), 0);
     for (zip_int64_t i = 0; i < count; ++i) {
         zip_stat_t status;
@@ -100,6 +97,27 @@ ZipArchive::ZipArchive(const std::filesystem::path& file, Language language, std
         }
         members_.push_back(std::move(member));
     }
+}
+
+// The library's own way to open a file takes no names beyond Windows' code page.
+void ZipArchive::Open(const std::filesystem::path& file) {
+    zip_error_t error;
+    zip_error_init(&error);
+    errno = 0;
+    std::FILE* const handle = OpenForC(file);
+    // The source closes the file, the archive the source.
+    zip_source_t* source = nullptr;
+    if (handle == nullptr)
+        zip_error_set(&error, errno == ENOENT ? ZIP_ER_NOENT : ZIP_ER_OPEN, errno);
+    else if (source = zip_source_filep_create(handle, 0, -1, &error); source == nullptr)
+        std::fclose(handle);
+    else
+        archive_.reset(zip_open_from_source(source, ZIP_RDONLY, &error));
+    if (source != nullptr && !archive_)
+        zip_source_free(source);
+    if (!archive_)
+        error_ = ReasonOf(error, language_);
+    zip_error_fini(&error);
 }
 
 bool ZipArchive::Fail(std::string_view reason) {

@@ -71,6 +71,7 @@ class ZipArchive {
         void operator()(zip* archive) const;
     };
 
+    void Open(const std::filesystem::path& file);
     bool Fail(std::string_view reason);
     bool Fail(TextId reason) { return Fail(Text(reason, language_)); }
 

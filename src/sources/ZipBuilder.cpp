@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/ZipBuilder.h"
 
+#include "base/OpenForC.h"
 #include "base/StopRequest.h"
 #include "settings/ReasonText.h"
 #include "sources/ZipReason.h"
@@ -30,7 +31,7 @@ std::string ErrorOf(zip_t* archive, Language language) {
 std::string AddFile(zip_t* archive, const FileToPack& file, Language language) {
     errno = 0;
     // The source keeps the file open and closes it.
-    std::FILE* const handle = std::fopen(file.File.string().c_str(), "rb");
+    std::FILE* const handle = OpenForC(file.File);
     if (handle == nullptr)
         return file.Told + ": " + SystemReason(errno, language);
     zip_source_t* const source = zip_source_filep(archive, handle, 0, -1);

@@ -4,8 +4,6 @@
 #include "base/InterruptionState.h"
 #include "base/StopRequest.h"
 
-#if defined(__unix__) || defined(__APPLE__)
-
 #include <cerrno>
 #include <csignal>
 #include <ctime>
@@ -65,10 +63,3 @@ void Interruption::EndBySignal() {
     std::signal(InterruptionState::Signal, SIG_DFL);
     std::raise(InterruptionState::Signal);
 }
-
-#else
-
-Interruption::Interruption() = default;
-void Interruption::EndBySignal() {}
-
-#endif

@@ -3,8 +3,6 @@
 
 #include "base/Paths.h"
 
-#if defined(__unix__) || defined(__APPLE__)
-
 #include "base/InterruptionState.h"
 #include "base/StopRequest.h"
 
@@ -104,21 +102,5 @@ DeviceStream::DeviceStream(const std::string& device) {
     stream_.rdbuf(buffer_.get());
     isTerminal_ = ::isatty(descriptor) == 1;
 }
-
-#else
-
-#include <fstream>
-#include <iostream>
-
-DeviceStream::DeviceStream() : stream_(std::cout.rdbuf()) {}
-
-DeviceStream::DeviceStream(const std::string& device) {
-    auto file = std::make_unique<std::filebuf>();
-    if (file->open(ToPath(device), std::ios::out | std::ios::binary) != nullptr)
-        stream_.rdbuf(file.get());
-    buffer_ = std::move(file);
-}
-
-#endif
 
 DeviceStream::~DeviceStream() = default;

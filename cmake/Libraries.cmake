@@ -1,0 +1,26 @@
+# SPDX-License-Identifier: MIT
+# The libraries of the core and the tool. Which ones and why: ARCHITECTURE.md.
+if(WIN32)
+  # packaging/windows/libraries puts them into one folder, QORVIX_LIBRARIES, to be linked into the programs.
+  foreach(name libzip libutf8proc libxxhash)
+    add_library(PkgConfig::${name} INTERFACE IMPORTED GLOBAL)
+    target_include_directories(PkgConfig::${name} SYSTEM INTERFACE ${QORVIX_LIBRARIES}/include)
+  endforeach()
+  target_link_libraries(PkgConfig::libzip INTERFACE ${QORVIX_LIBRARIES}/lib/libzip.a z)
+  target_compile_definitions(PkgConfig::libzip INTERFACE ZIP_STATIC)
+  target_link_libraries(PkgConfig::libutf8proc INTERFACE ${QORVIX_LIBRARIES}/lib/libutf8proc.a)
+  target_compile_definitions(PkgConfig::libutf8proc INTERFACE UTF8PROC_STATIC)
+  target_compile_definitions(PkgConfig::libxxhash INTERFACE XXH_INLINE_ALL)
+  foreach(name nlohmann_json CLI11)
+    add_library(${name}::${name} INTERFACE IMPORTED GLOBAL)
+    target_include_directories(${name}::${name} SYSTEM INTERFACE ${QORVIX_LIBRARIES}/include)
+  endforeach()
+else()
+  find_package(nlohmann_json REQUIRED)
+  find_package(CLI11 REQUIRED)
+  # By pkg-config: Debian's CMake files for libzip also demand its tools.
+  find_package(PkgConfig REQUIRED)
+  pkg_check_modules(libzip REQUIRED IMPORTED_TARGET GLOBAL libzip)
+  pkg_check_modules(libutf8proc REQUIRED IMPORTED_TARGET GLOBAL libutf8proc)
+  pkg_check_modules(libxxhash REQUIRED IMPORTED_TARGET GLOBAL libxxhash)
+endif()
