@@ -2,6 +2,7 @@
 // list-bench FILE: the list of the real main window with the rows of a logbook: memory a row, keys, sorting
 // by every column with all of the window's work for it, and removing a scattered selection.
 #include "app/frmMain.h"
+#include "bench/BenchDocument.h"
 #include "bench/BenchTools.h"
 #include "bench/ProcessMemory.h"
 #include "list/LogbookModel.h"
@@ -95,14 +96,9 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "list-bench FILE\n");
         return 2;
     }
-    const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
-    Registry registry(*settings);
-    const TempFolder tempFolder;
-    StoredActiveFilters filters(registry);
-    LogbookDocument document({.Filters = filters, .Settings = registry, .Temp = tempFolder}, CodePage(),
-                             tempFolder.Path());
-    ReadOnce(argv[1], document.Book());
-    frmMain window(document, registry);
+    BenchDocument bench;
+    ReadOnce(argv[1], bench.Document.Book());
+    frmMain window(bench.Document, bench.Settings);
     window.show();
     QApplication::processEvents();
     auto* const list = window.findChild<LogbookView*>("lvLogbook");

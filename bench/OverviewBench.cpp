@@ -2,6 +2,7 @@
 // overview-bench FILE: the overview beside the real main window: determining the history, opening again,
 // zooming and moving the timeline, following a selection; and undoing the removal of scattered rows.
 #include "app/frmMain.h"
+#include "bench/BenchDocument.h"
 #include "bench/BenchTools.h"
 #include "bench/ProcessMemory.h"
 #include "list/LogbookModel.h"
@@ -136,13 +137,8 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "overview-bench FILE\n");
         return 2;
     }
-    const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
-    Registry registry(*settings);
-    const TempFolder tempFolder;
-    StoredActiveFilters filters(registry);
-    LogbookDocument document({.Filters = filters, .Settings = registry, .Temp = tempFolder}, CodePage(),
-                             tempFolder.Path());
-    frmMain window(document, registry);
+    BenchDocument bench;
+    frmMain window(bench.Document, bench.Settings);
     window.show();
     window.OpenLogbook(argv[1]);
     Settle();

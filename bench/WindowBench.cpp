@@ -2,6 +2,7 @@
 // window-bench FILE: the real main window opens a logbook. Compares this with the read alone, and scrolling
 // and painting a page with painting an empty list.
 #include "app/frmMain.h"
+#include "bench/BenchDocument.h"
 #include "bench/BenchTools.h"
 
 #include <QApplication>
@@ -33,13 +34,8 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "window-bench FILE\n");
         return 2;
     }
-    const std::unique_ptr<SettingsStore> settings = MakeUserSettings();
-    Registry registry(*settings);
-    const TempFolder tempFolder;
-    StoredActiveFilters filters(registry);
-    LogbookDocument document({.Filters = filters, .Settings = registry, .Temp = tempFolder}, CodePage(),
-                             tempFolder.Path());
-    frmMain window(document, registry);
+    BenchDocument bench;
+    frmMain window(bench.Document, bench.Settings);
     window.show();
     QApplication::processEvents();
     auto* const list = window.findChild<QTableView*>("lvLogbook");

@@ -263,16 +263,9 @@ void WindowOverview::GoToEntry(EntryNumber entry) {
 }
 
 void WindowOverview::SelectSpan(EntrySpan span) {
-    const LogbookRows& rows = parts_.List.Logbook()->Rows();
-    RowRanges ranges;
-    for (std::size_t row = 0; row < rows.size(); ++row) {
-        if (rows[row].Entry < span.First || rows[row].Entry >= span.End)
-            continue;
-        if (!ranges.empty() && ranges.back().Last + 1 == row)
-            ranges.back().Last = row;
-        else
-            ranges.push_back({row, row});
-    }
+    const RowRanges ranges = RangesThat(parts_.List.Logbook()->Rows(), [&](const LogbookRow& row) {
+        return row.Entry >= span.First && row.Entry < span.End;
+    });
     // What was selected before does not lie in the span.
     if (ranges.empty())
         return parts_.List.clearSelection();
@@ -303,12 +296,12 @@ WindowOverview::AllOccurrences WindowOverview::OccurrencesOf(const std::string& 
     if (!history_)
         return {};
     const WaitPointer wait;
-    const EntryTable& entries = parts_.Document.Entries();
-    const Occurrences occurrences(entries, history_->Keys(), key);
-    AllOccurrences all{.Entries = {}, .Shown = occurrences.RangesIn(parts_.List.Logbook()->Rows())};
-    for (EntryNumber entry = 0; entry < entries.Count(); ++entry)
-        if (occurrences.Is(entry))
-            all.Entries.push_back({.Entry = entry & MostEntries, .Highlighted = 0});
+    const EntrySet found = Occurrences(parts_.Document.Entries(), history_->Keys(), key).All();
+    AllOccurrences all{.Entries = {},
+                       .Shown = RangesThat(parts_.List.Logbook()->Rows(),
+                                           [&](const LogbookRow& row) { return found.Contains(row.Entry); })};
+    for (const EntryNumber entry : found.Numbers())
+        all.Entries.push_back({.Entry = entry & MostEntries, .Highlighted = 0});
     return all;
 }
 

@@ -2,6 +2,7 @@
 #include "history/LogbookHistory.h"
 
 #include "eventinfo/iZEKEventInfo.h"
+#include "history/SessionRemarks.h"
 
 #include <algorithm>
 #include <chrono>
@@ -89,9 +90,7 @@ double LogbookHistory::Percent() const {
 std::optional<std::size_t> LogbookHistory::ErrorOf(EntryNumber entry) const {
     if (!strip_.Errors().Contains(entry) && !strip_.Warnings().Contains(entry))
         return std::nullopt;
-    const EntryKind& kind = logbook_.Entries.Kind(entry);
-    std::string key;
-    keys_.MakeKey(logbook_.Entries.Data(entry), kind.Sender, kind.Name, key);
+    const std::string key = KeyOf(logbook_.Entries, keys_, entry);
     const auto error = std::find_if(errors_.begin(), errors_.end(),
                                     [&](const ExplainedError& e) { return e.Record.Key == key; });
     if (error == errors_.end())

@@ -16,15 +16,10 @@ std::optional<std::size_t> Occurrences::Next(const LogbookRows& rows, std::optio
     return NextRowThat(rows, start, direction, [this](const LogbookRow& row) { return Is(row.Entry); });
 }
 
-RowRanges Occurrences::RangesIn(const LogbookRows& rows) const {
-    RowRanges ranges;
-    for (std::size_t row = 0; row < rows.size(); ++row) {
-        if (!Is(rows[row].Entry))
-            continue;
-        if (!ranges.empty() && ranges.back().Last + 1 == row)
-            ranges.back().Last = row;
-        else
-            ranges.push_back({row, row});
-    }
-    return ranges;
+EntrySet Occurrences::All() const {
+    EntrySet all(entries_.Count());
+    for (EntryNumber entry = 0; entry < entries_.Count(); ++entry)
+        if (Is(entry))
+            all.Add(entry);
+    return all;
 }

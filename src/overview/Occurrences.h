@@ -3,8 +3,8 @@
 
 #include "filter/LogbookRow.h"
 #include "history/ErrorStatistics.h"
+#include "logbook/EntrySet.h"
 #include "rows/RowMatches.h"
-#include "rows/RowRanges.h"
 
 #include <cstddef>
 #include <optional>
@@ -27,8 +27,8 @@ class Occurrences {
     std::optional<std::size_t> Next(const LogbookRows& rows, std::optional<std::size_t> start,
                                     SearchDirection direction) const;
 
-    // All such rows.
-    RowRanges RangesIn(const LogbookRows& rows) const;
+    // All such entries, also those without a row.
+    EntrySet All() const;
 
   private:
     const EntryTable& entries_;

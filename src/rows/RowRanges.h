@@ -21,6 +21,21 @@ RowRanges Joined(RowRanges ranges);
 
 std::size_t RowCount(const RowRanges& ranges);
 
+// The rows for which `is` is true. Looks at each row once.
+template <typename Is>
+RowRanges RangesThat(const LogbookRows& rows, Is is) {
+    RowRanges ranges;
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        if (!is(rows[row]))
+            continue;
+        if (!ranges.empty() && ranges.back().Last + 1 == row)
+            ranges.back().Last = row;
+        else
+            ranges.push_back({row, row});
+    }
+    return ranges;
+}
+
 // Remembers the entries of a selection while their rows move or are removed. One bit an entry.
 class SelectedEntries {
   public:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "overview/Occurrences.h"
 
+#include "rows/RowRanges.h"
 #include "support/AllRows.h"
 #include "support/EntriesFrom.h"
 
@@ -21,6 +22,10 @@ class OccurrencesOfErrors : public testing::Test {
         Rows = AllRows(Entries);
     }
     Occurrences Of(const std::string& key) const { return {Entries, Keys, key}; }
+    RowRanges RangesOf(const std::string& key) const {
+        const EntrySet all = Of(key).All();
+        return RangesThat(Rows, [&](const LogbookRow& row) { return all.Contains(row.Entry); });
+    }
 
     EntryTable Entries;
     LogbookRows Rows;
@@ -42,9 +47,10 @@ TEST_F(OccurrencesOfErrors, AreWalkedInListOrder) {
 }
 
 TEST_F(OccurrencesOfErrors, AreRangesOfRows) {
-    EXPECT_EQ(Of("P1").RangesIn(Rows), (RowRanges{{0, 0}, {3, 3}, {5, 5}}));
-    EXPECT_EQ(Of("PLC/PUMP oil #").RangesIn(Rows), (RowRanges{{4, 4}, {6, 6}}));
-    EXPECT_EQ(Of("P9").RangesIn(Rows), RowRanges());
+    EXPECT_EQ(RangesOf("P1"), (RowRanges{{0, 0}, {3, 3}, {5, 5}}));
+    EXPECT_EQ(RangesOf("PLC/PUMP oil #"), (RowRanges{{4, 4}, {6, 6}}));
+    EXPECT_EQ(RangesOf("P9"), RowRanges());
     Rows.erase(Rows.begin() + 4);
-    EXPECT_EQ(Of("P1").RangesIn(Rows), (RowRanges{{0, 0}, {3, 4}}));
+    EXPECT_EQ(RangesOf("P1"), (RowRanges{{0, 0}, {3, 4}}));
+    EXPECT_EQ(Of("PLC/PUMP oil #").All().Numbers(), (std::vector<EntryNumber>{4, 6})); // also without a row
 }
