@@ -59,6 +59,29 @@ std::string Convert(std::string_view text, UINT from, UINT to) {
     return result;
 }
 
+// Keeps other copies of the program from writing meanwhile. Waits for them, but only for a few seconds: a
+// copy that was stopped must not block all others. The system gives up the lock of a copy that was killed.
+class WritersLock {
+  public:
+    WritersLock() : mutex_(CreateMutexW(nullptr, FALSE, L"Local\\VELTRANDOR-Qorvix-Settings")) {
+        constexpr DWORD MostWait = 5000; // milliseconds
+        if (mutex_ != nullptr)
+            isHeld_ = WaitForSingleObject(mutex_, MostWait) != WAIT_TIMEOUT;
+    }
+    ~WritersLock() {
+        if (isHeld_)
+            ReleaseMutex(mutex_);
+        if (mutex_ != nullptr)
+            CloseHandle(mutex_);
+    }
+    WritersLock(const WritersLock&) = delete;
+    WritersLock& operator=(const WritersLock&) = delete;
+
+  private:
+    HANDLE mutex_;
+    bool isHeld_ = false;
+};
+
 class WindowsSettings : public SettingsStore {
   public:
     std::optional<SettingValue> Read(std::string_view keyPath, std::string_view name) const override {
@@ -82,6 +105,7 @@ class WindowsSettings : public SettingsStore {
     }
 
     bool Change(const std::vector<SettingsChange>& changes) override {
+        const WritersLock lock;
         bool all = true;
         for (const SettingsChange& change : changes)
             all = Make(change) && all;
@@ -89,9 +113,14 @@ class WindowsSettings : public SettingsStore {
     }
 
   private:
+    // A key that is not there need not be deleted.
+    static bool IsDone(LSTATUS deleted) {
+        return deleted == ERROR_SUCCESS || deleted == ERROR_FILE_NOT_FOUND;
+    }
+
     static bool Make(const SettingsChange& change) {
         if (change.What == SettingsChange::Kind::DeleteKey)
-            return RegDeleteKeyA(HKEY_CURRENT_USER, change.KeyPath.c_str()) == ERROR_SUCCESS;
+            return IsDone(RegDeleteKeyA(HKEY_CURRENT_USER, change.KeyPath.c_str()));
         const OpenKey key = OpenKey::ForWriting(change.KeyPath);
         if (!key)
             return false;
