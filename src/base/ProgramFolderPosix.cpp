@@ -10,3 +10,5 @@ std::string ProgramFolder() {
     const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
     return error ? std::string() : PathText(program.parent_path());
 }
+
+std::string ProgramFileName(std::string_view program) { return std::string(program); }

@@ -10,3 +10,5 @@ std::string ProgramFolder() {
     path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
     return PathText(std::filesystem::path(path).parent_path());
 }
+
+std::string ProgramFileName(std::string_view program) { return std::string(program) + ".exe"; }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/HTMLHelp.h"
 
+#include "base/SystemHelpViewer.h"
 #include "dialogs/frmHelp.h"
 
 #include <QIcon>
@@ -30,9 +31,18 @@ bool HtmlHelp::DisplaySearch(const std::filesystem::path& file, Language languag
     return Display(file, language, Page::Search);
 }
 
-void HtmlHelp::CloseAll() { window_->Close(); }
+void HtmlHelp::CloseAll() {
+    CloseSystemHelp();
+    window_->Close();
+}
 
 bool HtmlHelp::Display(const std::filesystem::path& file, Language language, Page page) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(file, error))
+        return false;
+    const std::uintptr_t owner = owner_->effectiveWinId();
+    if (page == Page::Contents ? ShowHelpContents(owner, file) : ShowHelpSearch(owner, file))
+        return true;
     std::optional<HelpBook> book = OpenHelpBook(file, reader_);
     if (!book)
         return false;

@@ -11,11 +11,11 @@ class QWidget;
 // Shows help files. There is at most one help window. It is not modal and stands on its own, but this
 // object's end closes it. The next window has the place, the sizes and the text size of the one before.
 //
-// On Windows the system's viewer of compiled HTML help shows them (HTMLHelpWindows.cpp), elsewhere frmHelp.
+// Where the system has a viewer of compiled HTML help (Windows), that one shows them, elsewhere frmHelp.
 class HtmlHelp {
   public:
-    // The owner is the main window; it must outlive this. `reader` is the program that reads the files
-    // (HelpReader), which the system's viewer does not need.
+    // The owner is the main window; it must outlive this. `reader` is the program that reads the files for
+    // frmHelp (HelpReader).
     HtmlHelp(QWidget* owner, std::filesystem::path reader);
     ~HtmlHelp();
     HtmlHelp(const HtmlHelp&) = delete;
@@ -38,5 +38,5 @@ class HtmlHelp {
 
     QWidget* owner_;
     std::filesystem::path reader_;
-    std::unique_ptr<Window> window_; // the state of the help window; null on Windows
+    std::unique_ptr<Window> window_; // the state of frmHelp
 };

@@ -2,37 +2,27 @@
 // The program that reads a help file for others: `qorvix-helpreader FILE` writes its members to standard
 // output (HelpMemberStream.h). It may fail in any way; ReadChmFile, which starts it, then treats the file as
 // damaged.
+#include "base/Arguments.h"
+#include "base/Paths.h"
+#include "base/ProgramOutput.h"
 #include "helpbook/HelpMemberStream.h"
 
 #include <chm_lib.h>
 
-#include <cerrno>
 #include <cstring>
 #include <string_view>
 #include <vector>
 
-#include <sys/resource.h>
-#include <unistd.h>
-
 namespace {
 
 constexpr std::size_t MostMembers = 10'000;
-constexpr rlim_t MostProcessorSeconds = 5;
+constexpr int MostProcessorSeconds = 5;
 
-// Skips an orderly exit: a damaged heap may not survive one.
-[[noreturn]] void GiveUp() { _exit(1); }
+[[noreturn]] void GiveUp() { EndThisProcess(1); }
 
 void Send(const void* data, std::size_t size) {
-    const char* bytes = static_cast<const char*>(data);
-    while (size > 0) {
-        const ssize_t written = write(STDOUT_FILENO, bytes, size);
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            GiveUp();
-        bytes += written;
-        size -= static_cast<std::size_t>(written);
-    }
+    if (!WriteToStandardOutput(data, size))
+        GiveUp();
 }
 
 int CollectMember(chmFile*, chmUnitInfo* unit, void* context) {
@@ -69,19 +59,22 @@ void SendMembers(chmFile& file, std::vector<chmUnitInfo>& units) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2)
+    const std::vector<std::string> arguments = Arguments(argc, argv);
+    if (arguments.size() != 1)
         return 1;
-    const rlimit noCore{0, 0};
-    setrlimit(RLIMIT_CORE, &noCore);
-    const rlimit processorTime{MostProcessorSeconds, MostProcessorSeconds};
-    setrlimit(RLIMIT_CPU, &processorTime);
+    LimitThisProcess(MostProcessorSeconds);
 
-    chmFile* const file = chm_open(argv[1]);
+    // libchm opens files by names of the system's code page, which need not have the letters of all folders.
+    const std::filesystem::path path = ToPath(arguments.front());
+    std::error_code error;
+    if (path.has_parent_path())
+        std::filesystem::current_path(path.parent_path(), error);
+    chmFile* const file = error ? nullptr : chm_open(PathText(path.filename()).c_str());
     if (!file)
         GiveUp();
     std::vector<chmUnitInfo> units;
     if (!chm_enumerate(file, CHM_ENUMERATE_ALL, CollectMember, &units))
         GiveUp();
     SendMembers(*file, units);
-    _exit(0);
+    EndThisProcess(0);
 }

@@ -84,11 +84,8 @@ bool IsOperatingSystem(const std::string& include) {
 }
 
 // The files outside base that speak to the operating system themselves.
-constexpr std::array<std::string_view, 4> FilesWithOperatingSystem{
-    "dialogs/HTMLHelpWindows.cpp",    // Windows's own help viewer; for Windows only
-    "helpbook/ChmFile.cpp",           // starts the help reader, feeds it and ends it
-    "helpbook/qorvix-helpreader.cpp", // a process of its own, which gives itself limits
-    "settings/WindowsSettings.cpp"};  // Windows's registry; for Windows only
+constexpr std::array<std::string_view, 1> FilesWithOperatingSystem{
+    "settings/WindowsSettings.cpp"}; // Windows's registry; for Windows only
 
 } // namespace
 
