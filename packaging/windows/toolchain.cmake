@@ -15,3 +15,4 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 add_compile_definitions(_WIN32_WINNT=0x0A00 NOMINMAX WIN32_LEAN_AND_MEAN UNICODE _UNICODE)
 # No library stands beside the programs.
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
+set(QORVIX_QT_TRANSLATIONS /usr/share/qt6/translations)

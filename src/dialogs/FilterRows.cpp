@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/FilterRows.h"
 
+#include "list/Pictures.h"
 #include "list/QtText.h"
 #include "list/ToolTip.h"
 
@@ -26,7 +27,7 @@ FilterRows::FilterRows(const FilterTypeLabels& labels, Language language)
     // Unchanged in a selected row, too; otherwise Qt would tint them with the row's own colour.
     for (std::size_t i = 0; i < icons_.size(); ++i)
         for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
-            icons_[i].addFile(IconPaths[i], {}, mode);
+            AddPicture(icons_[i], IconPaths[i], mode);
 }
 
 void FilterRows::Write(const FilterDefinition& filter, QTreeWidgetItem& row) const {

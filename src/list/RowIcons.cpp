@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "list/RowIcons.h"
 
+#include "list/Pictures.h"
+
 RowIcons::RowIcons() {
     // The linker drops a static library's resources unless the code asks for them.
     Q_INIT_RESOURCE(rowicons);
     for (std::size_t i = 0; i < RowIconPaths.size(); ++i) {
-        icons_[i].addFile(RowIconPaths[i]);
+        AddPicture(icons_[i], RowIconPaths[i]);
         // Without its own picture, a selected row would get one in shades of the selection.
-        icons_[i].addFile(RowIconPaths[i], {}, QIcon::Selected);
+        AddPicture(icons_[i], RowIconPaths[i], QIcon::Selected);
     }
 }
 
