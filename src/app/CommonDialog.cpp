@@ -33,7 +33,7 @@ void SetUp(QFileDialog& dialog, const FileQuestion& question, QFileDialog::Accep
 std::optional<std::string> ChosenFile(QFileDialog& dialog) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    return dialog.selectedFiles().constFirst().toStdString();
+    return ToNativePath(dialog.selectedFiles().constFirst());
 }
 
 } // namespace

@@ -8,5 +8,8 @@
 // it.
 std::string ProgramFolder();
 
+// The same with the system's separator at its end, as a folder is kept in the settings.
+std::string ProgramFolderWithSeparator();
+
 // The name of the file that holds a program: with ".exe" where programs need that.
 std::string ProgramFileName(std::string_view program);

@@ -11,4 +11,6 @@ std::string ProgramFolder() {
     return error ? std::string() : PathText(program.parent_path());
 }
 
+std::string ProgramFolderWithSeparator() { return ProgramFolder() + '/'; }
+
 std::string ProgramFileName(std::string_view program) { return std::string(program); }

@@ -11,4 +11,6 @@ std::string ProgramFolder() {
     return PathText(std::filesystem::path(path).parent_path());
 }
 
+std::string ProgramFolderWithSeparator() { return ProgramFolder() + '\\'; }
+
 std::string ProgramFileName(std::string_view program) { return std::string(program) + ".exe"; }

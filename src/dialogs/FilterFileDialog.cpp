@@ -16,7 +16,7 @@ std::optional<std::string> Choose(QFileDialog& dialog, std::string& folder, cons
     SetFileTypes(dialog, types);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    std::string path = dialog.selectedFiles().constFirst().toStdString();
+    std::string path = ToNativePath(dialog.selectedFiles().constFirst());
     std::string name;
     SplitPath(path, folder, name);
     return path;

@@ -105,7 +105,7 @@ void frmErrorTexts::Choose(bool archive) {
         SetFileTypes(dialog, QtText(TextId::ErrorTextsArchiveFilter, language_));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return;
-    const std::string place = dialog.selectedFiles().constFirst().toStdString();
+    const std::string place = ToNativePath(dialog.selectedFiles().constFirst());
     std::string name;
     SplitPath(place, folder_, name);
     QApplication::setOverrideCursor(Qt::WaitCursor);

@@ -2,6 +2,7 @@
 #include "dialogs/frmLogbookSettings.h"
 
 #include "base/Paths.h"
+#include "base/ProgramFolder.h"
 #include "dialogs/DialogButtons.h"
 #include "dialogs/DialogColumns.h"
 #include "dialogs/DialogList.h"
@@ -46,7 +47,7 @@ frmLogbookSettings::frmLogbookSettings(const FilterDialogContext& context, std::
       apply_(std::move(apply)),
       rows_(context.Labels, context.DialogLanguage),
       lists_(LoadFilters(context.Settings, context.DialogLanguage)),
-      initFilterDir_(FilterFolder(context.Settings, QApplication::applicationDirPath().toStdString() + '/')),
+      initFilterDir_(FilterFolder(context.Settings, ProgramFolderWithSeparator())),
       lblFilter(new QLabel(this)),
       lvFilter(new DialogList(FilterColumns::Count, this)),
       lblNote(new FieldNote("lblNote", lvFilter)),

@@ -22,8 +22,6 @@ namespace {
 
 constexpr std::string_view ArchiveFolderSetting = "InitZipArchiveDir";
 
-std::string ProgramFolderWithSeparator() { return ProgramFolder() + '/'; }
-
 } // namespace
 
 LogbookDocument::LogbookDocument(Surroundings surroundings, CodePage codePage,

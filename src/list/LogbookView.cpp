@@ -6,6 +6,7 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QHeaderView>
@@ -25,7 +26,7 @@ std::optional<QString> DroppedFile(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
     if (urls.size() != 1 || !urls.front().isLocalFile())
         return std::nullopt;
-    const QString path = urls.front().toLocalFile();
+    const QString path = QDir::toNativeSeparators(urls.front().toLocalFile());
     return QFileInfo(path).isDir() ? std::nullopt : std::optional(path);
 }
 

@@ -3,14 +3,19 @@
 
 #include "settings/Texts.h"
 
+#include <QDir>
 #include <QString>
 
+#include <string>
 #include <string_view>
 
 // The core's text is UTF-8.
 inline QString ToQString(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
+
+// A path of Qt's, which has "/" on all systems, as the core has it: with the system's own separators.
+inline std::string ToNativePath(const QString& path) { return QDir::toNativeSeparators(path).toStdString(); }
 
 inline QString QtText(TextId id, Language language) { return ToQString(Text(id, language)); }
 
