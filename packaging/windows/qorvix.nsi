@@ -59,6 +59,7 @@ VIAddVersionKey /LANG=0 "LegalCopyright" "The Qorvix developers, MIT licence"
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
+!define MUI_UNCONFIRMPAGE_TEXT_TOP "$(farewell)"
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 
@@ -72,6 +73,9 @@ VIAddVersionKey /LANG=0 "LegalCopyright" "The Qorvix developers, MIT licence"
 !insertmacro Text welcome \
     "This installs Qorvix ${VERSION} for you alone. No administrator rights are needed.$\r$\n$\r$\nA version that is installed already is replaced. Your settings, your comments and error texts that you added stay.$\r$\n$\r$\n$_CLICK" \
     "Qorvix ${VERSION} wird nur für Sie installiert. Administratorrechte sind nicht nötig.$\r$\n$\r$\nEine schon installierte Version wird ersetzt. Ihre Einstellungen, Ihre Kommentare und hinzugefügte Fehlertexte bleiben.$\r$\n$\r$\n$_CLICK"
+!insertmacro Text farewell \
+    "Qorvix will be removed from this folder. Your settings, your comments and files that you added to the folder stay." \
+    "Qorvix wird aus diesem Ordner entfernt. Ihre Einstellungen, Ihre Kommentare und Dateien, die Sie dem Ordner hinzugefügt haben, bleiben."
 !insertmacro Text partProgram "Qorvix" "Qorvix"
 !insertmacro Text partStartMenu "Entry in the start menu" "Eintrag im Startmenü"
 !insertmacro Text partDesktop "Icon on the desktop" "Symbol auf dem Desktop"
