@@ -85,8 +85,8 @@ VIAddVersionKey /LANG=0 "LegalCopyright" "The Qorvix developers, MIT licence"
 !insertmacro Text aboutStartMenu "Qorvix in the start menu." "Qorvix im Startmenü."
 !insertmacro Text aboutDesktop "Qorvix on the desktop." "Qorvix auf dem Desktop."
 !insertmacro Text aboutFiles \
-    "A double click opens *.qorvix. *.log, *.a and *.zip get Qorvix in $\"Open with$\"; their double click stays as it is." \
-    "Ein Doppelklick öffnet *.qorvix. *.log, *.a und *.zip erhalten Qorvix in $\"Öffnen mit$\"; ihr Doppelklick bleibt, wie er ist."
+    "A double click opens *.qorvix. *.log, *.a and *.zip have $\"Open with$\"." \
+    "Ein Doppelklick öffnet *.qorvix. Für *.log, *.a und *.zip gilt $\"Öffnen mit$\"."
 !insertmacro Text archive "Qorvix archive" "Qorvix-Archiv"
 !insertmacro Text logbook "Event logbook" "Ereignislogbuch"
 !insertmacro Text about "Viewer for the event logbook of a ZEK machine-tool control" \
