@@ -377,6 +377,10 @@ Section "$(partProgram)" sectionProgram
         SetErrorLevel ${STATUS_FOLDER}
         Quit
     ${EndIf}
+    ; The same folder may have two names.
+    ${If} ${FileExists} "$oldFolder\Qorvix-${VERSION}-new\*.*"
+        StrCpy $oldFolder ""
+    ${EndIf}
     !define FOR_EACH WriteFile
     !include "${LISTS}/files.nsh"
     !undef FOR_EACH
@@ -411,7 +415,6 @@ Section "$(partProgram)" sectionProgram
     StrCpy $R0 "$INSTDIR"
     Call RemoveListed
     ${If} $oldFolder != ""
-    ${AndIf} $oldFolder != $INSTDIR
         StrCpy $R0 "$oldFolder"
         Call RemoveListed
         Delete "$oldFolder\${LIST}"
