@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/WindowTest.h"
 
-#include <cstdlib>
 #include <iostream>
 #include <map>
 #include <string>
@@ -25,7 +24,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     // What the person at this machine has given the program is no part of a test.
-    setenv("XDG_DATA_HOME", "/nonexistent", 1);
+    qputenv("XDG_DATA_HOME", "/nonexistent");
+    qputenv("APPDATA", "Z:\\nonexistent");
     std::vector<char*> arguments(argv, argv + argc);
     arguments.erase(arguments.begin() + 1);
     arguments.push_back(nullptr);
