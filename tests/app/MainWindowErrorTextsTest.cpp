@@ -9,7 +9,6 @@
 #include "support/WindowTest.h"
 #include "support/ZipWriter.h"
 
-#include <cstdlib>
 #include <filesystem>
 
 class MainWindowErrorTextsTest : public MainWindowTest {
@@ -17,7 +16,7 @@ class MainWindowErrorTextsTest : public MainWindowTest {
 
   private slots:
     void init() {
-        setenv("XDG_DATA_HOME", (Folder / "data").c_str(), 1);
+        UseDataFolder(Folder / "data");
         std::filesystem::remove_all(Folder / "data");
         StartAfresh();
     }
@@ -25,7 +24,7 @@ class MainWindowErrorTextsTest : public MainWindowTest {
         Window.reset();
         frmProgress::ShownAfter = ShownAfter;
     }
-    void cleanupTestCase() { setenv("XDG_DATA_HOME", "/nonexistent", 1); }
+    void cleanupTestCase() { UseDataFolder(NoFolder); }
 
     void TextsOfAFolderAreTakenAndProposed() {
         WriteTexts();

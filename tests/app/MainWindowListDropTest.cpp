@@ -40,7 +40,7 @@ class MainWindowListDropTest : public MainWindowTest {
     void TwoFilesOrAFolderAreNotTaken() {
         const std::string file = File("first.log", {Header("BERR:    a")});
         Drop({file, file});
-        Drop({Folder.Path()});
+        Drop({Folder.Path().string()});
         Drop({});
         QTest::qWait(0);
         QCOMPARE(Window->windowTitle(), QString("Qorvix"));

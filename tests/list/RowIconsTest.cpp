@@ -17,7 +17,7 @@ class RowIconsTest : public QObject {
     void EveryNumberHasItsPicture_data() { AddImages(1, 2 * HighlightedImageOffset); }
     void EveryNumberHasItsPicture() {
         QFETCH(int, image);
-        QVERIFY(QFile::exists(Path(image)));
+        QVERIFY(HasPicture(Path(image)));
         for (const int size : {RowIconSize, 2 * RowIconSize}) {
             const QImage picture = Icons.Icon(image).pixmap(QSize(size, size), 1.0).toImage();
             QCOMPARE(picture.size(), QSize(size, size));
@@ -120,7 +120,7 @@ class RowIconsTest : public QObject {
 
     // The outlines in the group of a picture file, without the tone that they are drawn in.
     static QString DrawnShape(int image) {
-        QFile file(Path(image));
+        QFile file(Path(image).replace(":/row", QORVIX_SOURCE_FOLDER "/src/list/icons"));
         if (!file.open(QIODevice::ReadOnly))
             return {};
         const QString content = QString::fromUtf8(file.readAll());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QFile>
 #include <QIcon>
 #include <QImage>
 #include <QPainter>
@@ -12,6 +13,11 @@
 
 inline const QColor LightBackground(255, 255, 255);
 inline const QColor DarkBackground(0x2b, 0x2b, 0x2b);
+
+// Whether the program carries a drawing, or a picture in its place.
+inline bool HasPicture(const QString& drawing) {
+    return QFile::exists(drawing) || QFile::exists(drawing + ".16.png");
+}
 
 // The icon painted on a background, at exactly size × size pixels.
 inline QImage PaintedOn(const QColor& background, const QIcon& icon, int size) {

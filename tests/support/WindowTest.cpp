@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/WindowTest.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include <iostream>
 #include <map>
 #include <string>
@@ -15,6 +18,13 @@ std::map<std::string, WindowTestRun>& WindowTests() {
 
 bool AddWindowTest(const char* name, WindowTestRun run) { return WindowTests().emplace(name, run).second; }
 
+void UseDataFolder(const std::string& folder) {
+    qputenv("XDG_DATA_HOME", folder.c_str());
+    // Windows takes only a path with its drive.
+    qputenv("APPDATA",
+            QDir::toNativeSeparators(QFileInfo(QString::fromStdString(folder)).absoluteFilePath()).toUtf8());
+}
+
 int main(int argc, char** argv) {
     const auto test = WindowTests().find(argc > 1 ? argv[1] : "");
     if (test == WindowTests().end()) {
@@ -24,8 +34,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     // What the person at this machine has given the program is no part of a test.
-    qputenv("XDG_DATA_HOME", "/nonexistent");
-    qputenv("APPDATA", "Z:\\nonexistent");
+    UseDataFolder(NoFolder);
     std::vector<char*> arguments(argv, argv + argc);
     arguments.erase(arguments.begin() + 1);
     arguments.push_back(nullptr);

@@ -4,9 +4,15 @@
 #include <QApplication>
 #include <QTest>
 
+#include <string>
+
 // Several classes of Qt tests make one program, so that the headers of Qt are compiled once for all of them.
 // Each class has a process of its own: the name of the class is the program's first argument, what follows
 // belongs to Qt Test.
+
+// Where the person's own files of the programs are, in all that follows.
+void UseDataFolder(const std::string& folder);
+inline constexpr const char* NoFolder = "/nonexistent";
 
 // Runs the test class named `name`; returns what main() returns.
 using WindowTestRun = int (*)(int argc, char** argv);
