@@ -271,7 +271,7 @@ TEST_F(LogbookSourceTest, NameThatNoFileCanHaveIsCutInTheTemporaryFolder) {
         EXPECT_EQ(Logbook(source), "text");
         EXPECT_EQ(FileContent(source->FilterFile), "[Filters]");
         EXPECT_EQ(FileContent(source->CommentsFile), "[Comments]");
-        const std::string name = std::filesystem::path(source->LogbookFile).stem().string();
+        const std::string name = PathText(ToPath(source->LogbookFile).stem());
         EXPECT_TRUE(base.starts_with(name)) << name;
         EXPECT_TRUE(IsUtf8(name)) << name;
     }
