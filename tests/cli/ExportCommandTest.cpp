@@ -160,14 +160,15 @@ TEST_F(ExportCommand, OutputThatCannotBeWrittenIsTold) {
 }
 
 TEST_F(ExportCommand, OutputMayBeADevice) {
+    NEEDS_DEVICES_AS_FILES();
     const ProgramResult result = RunCommandLineTool(
-        {"export", File({Header("RESET:"), Header("RESET:")}), "--output", Sink, "--format", "csv"});
+        {"export", File({Header("RESET:"), Header("RESET:")}), "--output", "/dev/stdout", "--format", "csv"});
     EXPECT_EQ(result.ExitStatus, 0);
     EXPECT_EQ(result.Errors, "");
 }
 
 TEST_F(ExportCommand, FullDeviceIsTold) {
-    NEEDS_FULL_DEVICE();
+    NEEDS_DEVICES_AS_FILES();
     const ProgramResult full = RunCommandLineTool(
         {"export", File({Header("RESET:"), Header("RESET:")}), "--output", "/dev/full", "--format", "csv"});
     EXPECT_EQ(full.ExitStatus, 1);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/LogbookSource.h"
 
+#include "base/Paths.h"
 #include "base/UnicodeCase.h" // IsUtf8
 #include "support/ScriptedUser.h"
 #include "support/TemporaryFolder.h"
@@ -56,7 +57,7 @@ class LogbookSourceTest : public testing::Test {
 
     // The content of the resolved logbook file; "(none)" when it does not exist.
     static std::string Logbook(const std::optional<LogbookSource>& source) {
-        return std::filesystem::exists(source->LogbookFile) ? FileContent(source->LogbookFile) : "(none)";
+        return FileExists(source->LogbookFile) ? FileContent(source->LogbookFile) : "(none)";
     }
 
     TemporaryFolder Folder;
