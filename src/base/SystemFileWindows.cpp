@@ -197,11 +197,13 @@ bool SystemFile::RemoveFile(const std::filesystem::path& file) {
 
 bool SystemFile::RemoveFolder(const std::filesystem::path& folder) {
     // A file that was removed stays until nobody has it open any more, and another copy of the program may be
-    // looking at it.
+    // looking at it, or at the folder.
     constexpr std::chrono::milliseconds Pause{2};
-    constexpr int Attempts = 100;
+    constexpr int Attempts = 25;
     for (int i = 0; RemoveDirectoryW(folder.c_str()) == 0; ++i) {
-        if (i == Attempts || GetLastError() != ERROR_DIR_NOT_EMPTY || !HoldsOnlyRemoved(folder))
+        const bool mayPass = GetLastError() == ERROR_SHARING_VIOLATION ||
+                             (GetLastError() == ERROR_DIR_NOT_EMPTY && HoldsOnlyRemoved(folder));
+        if (i == Attempts || !mayPass)
             return FailedCall();
         std::this_thread::sleep_for(Pause);
     }

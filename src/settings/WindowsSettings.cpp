@@ -120,7 +120,7 @@ class WindowsSettings : public SettingsStore {
 
     static bool Make(const SettingsChange& change) {
         if (change.What == SettingsChange::Kind::DeleteKey)
-            return IsDone(RegDeleteKeyA(HKEY_CURRENT_USER, change.KeyPath.c_str()));
+            return IsDone(RegDeleteTreeA(HKEY_CURRENT_USER, change.KeyPath.c_str()));
         const OpenKey key = OpenKey::ForWriting(change.KeyPath);
         if (!key)
             return false;

@@ -53,7 +53,7 @@ void LeaveFolder(const TemporaryFolder& parent, const char* name = "LeavesAFolde
     ASSERT_EQ(OtherProcess(name, {PathText(parent.Path())}).End(), 0);
 }
 
-constexpr int Rounds = 2000;
+constexpr int Rounds = FoldersGoAtOnce ? 2000 : 300;
 const OtherProcess::Known ComesAndGoes("ComesAndGoes", [](const std::vector<std::string>& parent) {
     int without = 0;
     for (int i = 0; i < Rounds; ++i) {
@@ -79,7 +79,7 @@ TEST(TempFolder, IsMadeForItsOwnerAndRemoved) {
         const TempFolder folder(parent.Path());
         EXPECT_EQ(folder.Path(), parent.Path() / "Qorvix");
         EXPECT_TRUE(IsForOwnerAlone(folder.Path()));
-        EXPECT_TRUE(IsForOwnerAlone(folder.Path() / Mark));
+        EXPECT_TRUE(!FilesHaveTheirOwnRights || IsForOwnerAlone(folder.Path() / Mark));
         EXPECT_TRUE(fs::is_directory(folder.MakeSubfolder()));
         MakeFile(folder, folder.Path() / "a.log");
         MakeFile(folder, folder.MakeSubfolder() / "b.log");
@@ -390,5 +390,10 @@ TEST(TempFolder, CopiesThatComeAndGoAlwaysHaveAFolder) {
         copies.emplace_back("ComesAndGoes", std::vector<std::string>{PathText(parent.Path())});
     for (OtherProcess& copy : copies)
         EXPECT_EQ(copy.End(), 0);
-    EXPECT_TRUE(fs::is_empty(parent.Path()));
+    // Nothing but, on Windows, a folder that another copy was looking at in the instant of its removal.
+    std::vector<std::string> left;
+    for (const auto& item : fs::recursive_directory_iterator(parent.Path()))
+        if (FoldersGoAtOnce || !item.is_directory())
+            left.push_back(PathText(item.path().lexically_relative(parent.Path())));
+    EXPECT_THAT(left, IsEmpty());
 }

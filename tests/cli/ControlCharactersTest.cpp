@@ -66,6 +66,7 @@ TEST_F(ControlCharacters, OfLookedUpTextsAreShownOnATerminal) {
 }
 
 TEST_F(ControlCharacters, AreShownInMessages) {
+    NEEDS_NAMES_OF_ANY_BYTE();
     const std::string name = "b\x1b]0;title\x07\x9b\n.log";
     const std::string shown = "b\\u001b]0;title\\u0007\\u009b\\u000a.log";
     EXPECT_EQ(RunCommandLineTool({"export", Folder / name}).Errors,

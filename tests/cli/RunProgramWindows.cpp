@@ -32,6 +32,15 @@ HANDLE MakeInherited(const std::string& path) {
     return file;
 }
 
+// Messages end their lines as the system does.
+std::string WithPlainLineEnds(const std::string& text) {
+    std::string plain;
+    for (std::size_t i = 0; i < text.size(); ++i)
+        if (text.compare(i, 2, "\r\n") != 0)
+            plain += text[i];
+    return plain;
+}
+
 // The user's state, which the runs of a test share, as copies of the program do.
 std::string SharedState() {
     static const TemporaryFolder folder;
@@ -70,7 +79,7 @@ ProgramResult RunCommandLineTool(const std::vector<std::string>& arguments, cons
     CloseHandle(output);
     CloseHandle(errors);
     return {isStarted ? static_cast<int>(status) : -1, FileContent(folder.Path() / "output"),
-            FileContent(folder.Path() / "errors")};
+            WithPlainLineEnds(FileContent(folder.Path() / "errors"))};
 }
 
 ProgramResult RunOnTerminal(const std::vector<std::string>&) {

@@ -88,9 +88,9 @@ TEST_F(ExportListTest, DialogBeginsWithTheLogbooksNameAndFolder) {
     EXPECT_EQ(User.FilesToSave[2].Folder, Folder / "lists/");
     // A logbook out of an archive lies in the temporary folder; its archive does not.
     Store.Values.clear();
-    State.CurrentArchive = "/archives/case.qorvix";
+    State.CurrentArchive = Folder / "archives/case.qorvix";
     Export();
-    EXPECT_EQ(User.FilesToSave[3].Folder, "/archives/");
+    EXPECT_EQ(User.FilesToSave[3].Folder, Folder / "archives/");
 }
 
 TEST_F(ExportListTest, CancelledAndEndedExportsLeaveAllAsItWas) {

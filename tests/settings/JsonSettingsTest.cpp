@@ -322,3 +322,15 @@ TEST_F(JsonSettingsTest, KilledWriterLeavesAWholeFile) {
         EXPECT_EQ(item.path().filename().string().find("-part-"), std::string::npos);
     EXPECT_FALSE(std::filesystem::exists(File() + ".damaged"));
 }
+
+TEST_F(JsonSettingsTest, OtherKeyPathsAreLeftAlone) {
+    Settings.WriteRegistryValue("Software\\Other", "A", 5, SettingType::Integer);
+    EXPECT_EQ(
+        std::get<std::int32_t>(Settings.ReadRegistryValue("Software\\Other", "A", 1, SettingType::Integer)),
+        1);
+}
+
+TEST_F(JsonSettingsTest, TextsAreOfAnyCharacters) {
+    Settings.WriteLogbookSetting("InitZipArchiveDir", std::string("/ä/€/😀"), SettingType::Text);
+    EXPECT_EQ(Settings.ReadLogbookSettingString("InitZipArchiveDir", ""), "/ä/€/😀");
+}

@@ -47,6 +47,11 @@ TEST(ReasonText, EnglishIsInTheWordsOfTheSystem) {
     EXPECT_GE(SystemReasonTable().size(), std::size(OfFiles));
 }
 
+TEST(ReasonText, NumbersOfTheSystemAreThoseOfErrno) {
+    EXPECT_EQ(ReasonText({ENOSPC, std::system_category()}, {Language::German}),
+              "Auf dem Datenträger ist kein Platz mehr");
+}
+
 // A system that speaks German does not make the program's English half German.
 TEST(ReasonText, LocaleOfTheProcessDoesNotCount) {
     const GermanSystem system;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "sources/LogbookSource.h"
 
+#include "base/Paths.h"
 #include "base/UnicodeCase.h" // IsUtf8
 #include "support/ScriptedUser.h"
 #include "support/TemporaryFolder.h"
@@ -56,7 +57,7 @@ class LogbookSourceTest : public testing::Test {
 
     // The content of the resolved logbook file; "(none)" when it does not exist.
     static std::string Logbook(const std::optional<LogbookSource>& source) {
-        return std::filesystem::exists(source->LogbookFile) ? FileContent(source->LogbookFile) : "(none)";
+        return FileExists(source->LogbookFile) ? FileContent(source->LogbookFile) : "(none)";
     }
 
     TemporaryFolder Folder;
@@ -271,7 +272,7 @@ TEST_F(LogbookSourceTest, NameThatNoFileCanHaveIsCutInTheTemporaryFolder) {
         EXPECT_EQ(Logbook(source), "text");
         EXPECT_EQ(FileContent(source->FilterFile), "[Filters]");
         EXPECT_EQ(FileContent(source->CommentsFile), "[Comments]");
-        const std::string name = std::filesystem::path(source->LogbookFile).stem().string();
+        const std::string name = PathText(ToPath(source->LogbookFile).stem());
         EXPECT_TRUE(base.starts_with(name)) << name;
         EXPECT_TRUE(IsUtf8(name)) << name;
     }

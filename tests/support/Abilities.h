@@ -15,6 +15,8 @@
 #define NEEDS_REMOVING_OPEN_FILES() GTEST_SKIP() << "a file that is open cannot be removed or replaced here"
 #define NEEDS_NAMES_WITH_CASE() GTEST_SKIP() << "names here have no case"
 #define NEEDS_SETTINGS_FILE() GTEST_SKIP() << "the settings are in the registry here"
+#define NEEDS_NAMES_OF_ANY_BYTE() GTEST_SKIP() << "no name holds such characters here"
+#define NEEDS_DEVICES_AS_FILES() GTEST_SKIP() << "a device is no target here"
 #define NEEDS_SHELL() GTEST_SKIP() << "there is no shell here"
 #define NEEDS_TERMINAL() GTEST_SKIP() << "a console here does not hand out what is written"
 #else
@@ -25,15 +27,26 @@
 #define NEEDS_REMOVING_OPEN_FILES() static_cast<void>(0)
 #define NEEDS_NAMES_WITH_CASE() static_cast<void>(0)
 #define NEEDS_SETTINGS_FILE() static_cast<void>(0)
+#define NEEDS_NAMES_OF_ANY_BYTE() static_cast<void>(0)
+#define NEEDS_DEVICES_AS_FILES() static_cast<void>(0)
 #define NEEDS_SHELL() static_cast<void>(0)
 #define NEEDS_TERMINAL() static_cast<void>(0)
 #endif
 
-// Why a path fails that goes on behind the name of a file.
+// What files and their names may be, and why a path fails that goes on
+// behind the name of a file or whose name is too long.
 #ifdef _WIN32
+inline constexpr bool FoldersGoAtOnce = false;         // not while somebody has them open
+inline constexpr bool FilesHaveTheirOwnRights = false; // they have those of their folder
+inline constexpr bool NamesHoldAnyByte = false;        // they are UTF-16 without quotes and the like
 inline constexpr std::errc BehindAFile = std::errc::no_such_file_or_directory;
+inline constexpr std::errc NoPossibleName = std::errc::no_such_file_or_directory;
 inline constexpr const char* BehindAFileText = "No such file or directory";
 #else
+inline constexpr bool FoldersGoAtOnce = true;
+inline constexpr bool FilesHaveTheirOwnRights = true;
+inline constexpr bool NamesHoldAnyByte = true;
 inline constexpr std::errc BehindAFile = std::errc::not_a_directory;
+inline constexpr std::errc NoPossibleName = std::errc::filename_too_long;
 inline constexpr const char* BehindAFileText = "Not a directory";
 #endif

@@ -8,7 +8,13 @@
 
 #include <aclapi.h>
 
-// True when the system has a list of rights for the path in which every grant is to its owner.
+namespace {
+
+bool IsSystem(PSID who) { return IsWellKnownSid(who, WinLocalSystemSid) != 0; }
+
+} // namespace
+
+// True when the system has a list of rights for the path in which every grant is to its owner or the system.
 bool IsForOwnerAlone(const std::filesystem::path& path) {
     PSECURITY_DESCRIPTOR descriptor = nullptr;
     PSID owner = nullptr;
@@ -26,9 +32,11 @@ bool IsForOwnerAlone(const std::filesystem::path& path) {
         auto* const grant = static_cast<ACCESS_ALLOWED_ACE*>(entry);
         if (grant->Header.AceType != ACCESS_ALLOWED_ACE_TYPE)
             continue;
-        if (EqualSid(&grant->SidStart, owner) == 0)
+        const PSID who = &grant->SidStart;
+        const bool isOwner = EqualSid(who, owner) != 0;
+        if (!isOwner && !IsSystem(who))
             return false;
-        hasGrant = true;
+        hasGrant = hasGrant || isOwner;
     }
     return hasGrant;
 }
