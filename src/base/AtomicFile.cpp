@@ -62,6 +62,7 @@ std::error_code AtomicFile::Commit() {
     if ((error_ = SystemFile::Replace(part_.Path, target_)))
         return error_;
     part_.Path.clear();
+    part_.Handle.Close(); // the next writer may not be able to replace a file that is open
     FlushFolder(folder);
     return {};
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "base/FileProblem.h"
 
+#include "base/SystemFile.h"
+
 #include <string>
 
 namespace {
@@ -34,6 +36,8 @@ const std::error_category& FileProblems() {
 }
 
 std::error_code CheckRegularFile(const std::filesystem::path& path) {
+    if (SystemFile::IsNameOfDevice(path))
+        return FileProblem::NoRegularFile;
     std::error_code error;
     const std::filesystem::file_status status = std::filesystem::status(path, error);
     switch (status.type()) {

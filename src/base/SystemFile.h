@@ -52,6 +52,9 @@ struct SystemFile {
     static bool RemoveFile(const std::filesystem::path& file);
     static bool RemoveFolder(const std::filesystem::path& folder);
 
+    // True for a name that belongs to a device in every folder, also where no such device is connected.
+    static bool IsNameOfDevice(const std::filesystem::path& path);
+
     // True for a file or folder of this user; a link is neither.
     static bool IsOwnFile(const std::filesystem::path& path);
     static bool IsOwnFolder(const std::filesystem::path& path);

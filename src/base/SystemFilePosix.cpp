@@ -116,6 +116,8 @@ bool SystemFile::MakeFolder(const std::filesystem::path& folder) {
 bool SystemFile::RemoveFile(const std::filesystem::path& file) { return ::unlink(file.c_str()) == 0; }
 bool SystemFile::RemoveFolder(const std::filesystem::path& folder) { return ::rmdir(folder.c_str()) == 0; }
 
+bool SystemFile::IsNameOfDevice(const std::filesystem::path&) { return false; }
+
 bool SystemFile::IsOwnFile(const std::filesystem::path& path) { return IsOwnOfType(path, S_IFREG); }
 bool SystemFile::IsOwnFolder(const std::filesystem::path& path) { return IsOwnOfType(path, S_IFDIR); }
 

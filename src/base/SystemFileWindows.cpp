@@ -3,6 +3,7 @@
 
 #include "base/AtomicFile.h"
 #include "base/LastError.h"
+#include "base/Paths.h"
 #include "base/WindowsError.h"
 
 #include <algorithm>
@@ -64,6 +65,23 @@ LocalMemory<void> ForUserAlone() {
                                                              nullptr) == 0)
         return {};
     return LocalMemory<void>(descriptor);
+}
+
+// True when the folder is empty but for files that were removed and are still open.
+bool HoldsOnlyRemoved(const std::filesystem::path& folder) {
+    const DWORD before = GetLastError();
+    std::error_code error;
+    for (const std::filesystem::path& item : ItemsIn(folder, error)) {
+        const HANDLE handle = CreateFileW(item.c_str(), 0, ShareAll, nullptr, OPEN_EXISTING,
+                                          FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+        if (handle != INVALID_HANDLE_VALUE) {
+            CloseHandle(handle);
+            SetLastError(before);
+            return false;
+        }
+    }
+    SetLastError(before);
+    return !error;
 }
 
 } // namespace
@@ -144,6 +162,11 @@ void SystemFile::GivePermissionsOf(const std::filesystem::path&, const FileHandl
 void SystemFile::ShareForReading(const FileHandle&) {}
 
 std::error_code SystemFile::Replace(const std::filesystem::path& file, const std::filesystem::path& target) {
+    const DWORD attributes = GetFileAttributesW(target.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && IsFolder(attributes))
+        return std::make_error_code(std::errc::is_a_directory);
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
+        return std::make_error_code(std::errc::permission_denied);
     // Another program may be reading the old file: one that looks for viruses or makes an index is soon done.
     constexpr std::chrono::milliseconds Pause{20};
     constexpr int Attempts = 100;
@@ -154,10 +177,8 @@ std::error_code SystemFile::Replace(const std::filesystem::path& file, const std
         const DWORD reason = GetLastError();
         FailedCall();
         const std::error_code error = LastError();
-        const DWORD attributes = GetFileAttributesW(target.c_str());
         const bool mayPass = reason == ERROR_SHARING_VIOLATION ||
-                             (reason == ERROR_ACCESS_DENIED && attributes != INVALID_FILE_ATTRIBUTES &&
-                              (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) == 0);
+                             (reason == ERROR_ACCESS_DENIED && attributes != INVALID_FILE_ATTRIBUTES);
         if (!mayPass || i == Attempts)
             return error;
         std::this_thread::sleep_for(Pause);
@@ -175,7 +196,22 @@ bool SystemFile::RemoveFile(const std::filesystem::path& file) {
 }
 
 bool SystemFile::RemoveFolder(const std::filesystem::path& folder) {
-    return RemoveDirectoryW(folder.c_str()) != 0 || FailedCall();
+    // A file that was removed stays until nobody has it open any more, and another copy of the program may be
+    // looking at it.
+    constexpr std::chrono::milliseconds Pause{2};
+    constexpr int Attempts = 100;
+    for (int i = 0; RemoveDirectoryW(folder.c_str()) == 0; ++i) {
+        if (i == Attempts || GetLastError() != ERROR_DIR_NOT_EMPTY || !HoldsOnlyRemoved(folder))
+            return FailedCall();
+        std::this_thread::sleep_for(Pause);
+    }
+    return true;
+}
+
+bool SystemFile::IsNameOfDevice(const std::filesystem::path& path) {
+    wchar_t whole[MAX_PATH] = {}; // a longer path is none
+    const DWORD length = GetFullPathNameW(path.c_str(), MAX_PATH, whole, nullptr);
+    return length < MAX_PATH && std::wstring_view(whole, length).starts_with(L"\\\\.\\");
 }
 
 // The folders that are asked about lie in the user's own.

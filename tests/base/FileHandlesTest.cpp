@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/FileHandles.h"
 
+#include "support/Abilities.h"
 #include "support/OddFiles.h"
 #include "support/TemporaryFolder.h"
 
@@ -24,6 +25,7 @@ TEST(FileHandles, AreClosedByTheirEnd) {
 }
 
 TEST(FileHandles, FollowNoLinkAndWaitForNoPipe) {
+    NEEDS_LINKS();
     const TemporaryFolder folder;
     folder.Write("a", "x");
     std::filesystem::create_symlink("a", folder / "link");
@@ -37,6 +39,7 @@ TEST(FileHandles, FollowNoLinkAndWaitForNoPipe) {
 }
 
 TEST(FileHandles, KnowTheirNames) {
+    NEEDS_LINKS();
     const TemporaryFolder folder;
     const std::string path = folder.Write("a", "x");
     const FileHandle file = OpenToHold(path);

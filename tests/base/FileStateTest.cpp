@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "base/FileState.h"
 
+#include "support/Abilities.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 TEST(FileState, TellsAFileFromTheOneThatTakesItsPlace) {
+    NEEDS_LINKS();
     const TemporaryFolder folder;
     const std::string path = folder.Write("a", "one");
     const FileState before = StateOf(path);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "base/PartFiles.h"
+#include "support/Abilities.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -7,6 +8,7 @@
 #include <filesystem>
 
 TEST(PartFiles, WritingTouchesTheFileItselfAndItsPartFiles) {
+    NEEDS_LINKS();
     const TemporaryFolder folder;
     const std::string target = folder.Write("a.log", "a");
     const std::string part = folder.Write("a.log.qorvix-part-0123456789abcdef", "b");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/PlacedWriter.h"
 
+#include "support/Abilities.h"
 #include "support/SmallFiles.h"
 #include "support/TemporaryFolder.h"
 
@@ -24,6 +25,7 @@ TEST(PlacedWriter, WritesWhereItIsTold) {
 }
 
 TEST(PlacedWriter, KeepsTheFileThatIsThere) {
+    NEEDS_PERMISSIONS();
     const TemporaryFolder folder;
     const std::string path = folder.Write("a", "old");
     std::filesystem::permissions(path, std::filesystem::perms{0640});
@@ -38,6 +40,7 @@ TEST(PlacedWriter, KeepsTheFileThatIsThere) {
 }
 
 TEST(PlacedWriter, TellsWhatFails) {
+    NEEDS_FILE_SIZE_LIMIT();
     const TemporaryFolder folder;
     std::error_code error;
     EXPECT_FALSE(PlacedWriter(folder.Path(), error).IsOpen());

@@ -1,25 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "base/Processes.h"
 
+#include "support/OtherProcess.h"
+
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
-#include <unistd.h>
+namespace {
+
+const OtherProcess::Known Ends("Ends", [](const std::vector<std::string>&) { return 0; });
+
+} // namespace
 
 TEST(Processes, OneRunsUntilItHasEnded) {
-    EXPECT_EQ(ThisProcess(), ::getpid());
     EXPECT_TRUE(MayRun(ThisProcess()));
-    EXPECT_TRUE(MayRun(1)) << "another user's that may not be signalled runs, too";
-    const pid_t child = ::fork();
-    if (child == 0)
-        ::_exit(0);
-    EXPECT_TRUE(MayRun(child)) << "its end has not been asked for yet";
-    ASSERT_EQ(::waitpid(child, nullptr, 0), child);
-    EXPECT_FALSE(MayRun(child));
+    OtherProcess process("Ends", {});
+    const auto number = static_cast<ProcessNumber>(process.Number());
+    EXPECT_NE(number, ThisProcess());
+    EXPECT_EQ(process.End(), 0);
+    EXPECT_FALSE(MayRun(number));
 }
 
-TEST(Processes, TheComputerHasItsName) {
-    char name[65] = {};
-    ASSERT_EQ(::gethostname(name, sizeof name - 1), 0);
-    EXPECT_EQ(ComputerName(), name);
-}
+TEST(Processes, TheComputerHasItsName) { EXPECT_FALSE(ComputerName().empty()); }

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "base/TempFolder.h"
 
+#include "base/Paths.h"
+#include "support/Abilities.h"
+#include "support/OtherProcess.h"
+#include "support/OwnerAlone.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -12,9 +16,6 @@
 #include <functional>
 #include <memory>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
 namespace {
 
 namespace fs = std::filesystem;
@@ -23,24 +24,10 @@ using testing::StartsWith;
 
 constexpr const char* Mark = TempFolderMark::FileName;
 
-// A folder as a copy of the program leaves it that is killed: after `work` in it, and without its end.
-void LeaveFolder(const TemporaryFolder& parent, const std::function<void(const TempFolder&)>& work = {}) {
-    const pid_t copy = fork();
-    if (copy == 0) {
-        const TempFolder folder(parent.Path());
-        if (work)
-            work(folder);
-        _exit(0);
-    }
-    int status = 0;
-    waitpid(copy, &status, 0);
-    ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
-}
-
 // A file that is noted, as the program makes it.
 void MakeFile(const TempFolder& folder, const fs::path& file) {
     if (!folder.Note({file}) || !std::ofstream(file).put('x').flush())
-        _exit(1);
+        std::_Exit(1);
 }
 
 // What a left folder has: an unpacked logbook, and one that is being unpacked.
@@ -50,6 +37,31 @@ void LeaveFiles(const TempFolder& folder) {
     MakeFile(folder, sub / "b.log");
     std::ofstream(sub / "b.log.qorvix-part-0123456789abcdef") << "half";
 }
+
+// A folder as a copy of the program leaves it that is killed: without its end.
+const OtherProcess::Known LeavesAFolder("LeavesAFolder", [](const std::vector<std::string>& parent) {
+    static const TempFolder* const folder = new TempFolder(ToPath(parent.front()));
+    return folder->Path().empty() ? 1 : 0;
+});
+const OtherProcess::Known LeavesFiles("LeavesFiles", [](const std::vector<std::string>& parent) {
+    static const TempFolder* const folder = new TempFolder(ToPath(parent.front()));
+    LeaveFiles(*folder);
+    return 0;
+});
+
+void LeaveFolder(const TemporaryFolder& parent, const char* name = "LeavesAFolder") {
+    ASSERT_EQ(OtherProcess(name, {PathText(parent.Path())}).End(), 0);
+}
+
+constexpr int Rounds = 2000;
+const OtherProcess::Known ComesAndGoes("ComesAndGoes", [](const std::vector<std::string>& parent) {
+    int without = 0;
+    for (int i = 0; i < Rounds; ++i) {
+        const TempFolder folder(ToPath(parent.front()));
+        without += !fs::is_directory(folder.Path());
+    }
+    return without == 0 ? 0 : 1;
+});
 
 std::vector<std::string> NamesIn(const fs::path& folder) {
     std::vector<std::string> names;
@@ -66,8 +78,8 @@ TEST(TempFolder, IsMadeForItsOwnerAndRemoved) {
     {
         const TempFolder folder(parent.Path());
         EXPECT_EQ(folder.Path(), parent.Path() / "Qorvix");
-        EXPECT_EQ(fs::status(folder.Path()).permissions(), fs::perms::owner_all);
-        EXPECT_EQ(fs::status(folder.Path() / Mark).permissions(), fs::perms(0600));
+        EXPECT_TRUE(IsForOwnerAlone(folder.Path()));
+        EXPECT_TRUE(IsForOwnerAlone(folder.Path() / Mark));
         EXPECT_TRUE(fs::is_directory(folder.MakeSubfolder()));
         MakeFile(folder, folder.Path() / "a.log");
         MakeFile(folder, folder.MakeSubfolder() / "b.log");
@@ -115,7 +127,7 @@ TEST(TempFolder, WhatOthersPutThereStays) {
 
 TEST(TempFolder, WhatACrashedCopyLeftIsRemoved) {
     const TemporaryFolder parent;
-    LeaveFolder(parent, LeaveFiles);
+    LeaveFolder(parent, "LeavesFiles");
     EXPECT_EQ(NamesIn(parent.Path() / "Qorvix").size(), 3U);
     const TempFolder folder(parent.Path());
     EXPECT_EQ(folder.Path(), parent.Path() / "Qorvix");
@@ -123,6 +135,7 @@ TEST(TempFolder, WhatACrashedCopyLeftIsRemoved) {
 }
 
 TEST(TempFolder, FolderWithoutAWholeMarkStays) {
+    NEEDS_LINKS();
     const std::vector<std::pair<const char*, std::function<void(const fs::path&)>>> changes{
         {"no mark", [](const fs::path& folder) { fs::remove(folder / Mark); }},
         {"another text", [](const fs::path& folder) { std::ofstream(folder / Mark) << "Qorvix"; }},
@@ -160,7 +173,7 @@ TEST(TempFolder, FolderWithoutAWholeMarkStays) {
     for (const auto& [name, change] : changes) {
         SCOPED_TRACE(name);
         const TemporaryFolder parent;
-        LeaveFolder(parent, LeaveFiles);
+        LeaveFolder(parent, "LeavesFiles");
         const fs::path left = parent.Path() / "Qorvix";
         change(left);
         const std::vector<std::string> before = NamesIn(left);
@@ -176,19 +189,6 @@ TEST(TempFolder, FolderWithoutAWholeMarkStays) {
     }
 }
 
-TEST(TempFolder, FolderOfAnotherUserStays) {
-    if (geteuid() != 0)
-        GTEST_SKIP() << "only root can give a folder away";
-    for (const char* given : {"Qorvix", "Qorvix/.qorvix-temp", "Qorvix/a.log"}) {
-        const TemporaryFolder parent;
-        LeaveFolder(parent, LeaveFiles);
-        EXPECT_EQ(lchown((parent / given).c_str(), 65534, 65534), 0);
-        const TempFolder folder(parent.Path());
-        EXPECT_THAT(folder.Path().filename().string(), StartsWith("Qorvix-temp-"));
-        EXPECT_EQ(NamesIn(parent.Path() / "Qorvix").size(), 3U);
-    }
-}
-
 TEST(TempFolder, WhatACopyLeftThatWasKilledWhileItMarkedIsRemoved) {
     for (const char* written : {"", "Qorvix made"}) {
         const TemporaryFolder parent;
@@ -197,7 +197,7 @@ TEST(TempFolder, WhatACopyLeftThatWasKilledWhileItMarkedIsRemoved) {
         EXPECT_EQ(TempFolder(parent.Path()).Path(), parent.Path() / "Qorvix");
         EXPECT_THAT(NamesIn(parent.Path()), IsEmpty());
         // It had made nothing then.
-        LeaveFolder(parent, LeaveFiles);
+        LeaveFolder(parent, "LeavesFiles");
         parent.Write("Qorvix/.qorvix-temp", written);
         EXPECT_THAT(TempFolder(parent.Path()).Path().filename().string(), StartsWith("Qorvix-temp-"));
         EXPECT_EQ(NamesIn(parent.Path() / "Qorvix").size(), 3U);
@@ -206,7 +206,7 @@ TEST(TempFolder, WhatACopyLeftThatWasKilledWhileItMarkedIsRemoved) {
 
 TEST(TempFolder, NameThatWasCutOffCountsAsNone) {
     const TemporaryFolder parent;
-    LeaveFolder(parent, LeaveFiles);
+    LeaveFolder(parent, "LeavesFiles");
     const std::string mark = FileContent(parent.Path() / "Qorvix" / Mark);
     parent.Write("Qorvix/.qorvix-temp", mark + "mine.lo");
     parent.Write("Qorvix/mine.lo", "x");
@@ -217,8 +217,9 @@ TEST(TempFolder, NameThatWasCutOffCountsAsNone) {
 }
 
 TEST(TempFolder, FolderWithWhatIsKeptStays) {
+    NEEDS_LINKS();
     const TemporaryFolder parent;
-    LeaveFolder(parent, LeaveFiles);
+    LeaveFolder(parent, "LeavesFiles");
     fs::create_directory(parent.Path() / "elsewhere");
     fs::create_symlink("../Qorvix/a.log", parent.Path() / "elsewhere/link.log");
     for (const char* kept : {"Qorvix/a.log", "Qorvix", "Qorvix/to be made/b.log", "elsewhere/link.log"}) {
@@ -232,11 +233,12 @@ TEST(TempFolder, FolderWithWhatIsKeptStays) {
 }
 
 TEST(TempFolder, FolderThatWasOpenToOthersIsClosed) {
+    NEEDS_PERMISSIONS();
     const TemporaryFolder parent;
     fs::create_directory(parent.Path() / "Qorvix");
     fs::permissions(parent.Path() / "Qorvix", fs::perms::all);
     const TempFolder folder(parent.Path());
-    EXPECT_EQ(fs::status(folder.Path()).permissions(), fs::perms::owner_all);
+    EXPECT_TRUE(IsForOwnerAlone(folder.Path()));
 }
 
 TEST(TempFolder, RunningCopyKeepsItsFolder) {
@@ -250,7 +252,7 @@ TEST(TempFolder, RunningCopyKeepsItsFolder) {
         EXPECT_NE(own, first.Path());
         EXPECT_EQ(own.filename().string().size(), std::string("Qorvix-temp-XXXXXX").size());
         EXPECT_TRUE(own.filename().string().starts_with("Qorvix-temp-"));
-        EXPECT_EQ(fs::status(own).permissions(), fs::perms::owner_all);
+        EXPECT_TRUE(IsForOwnerAlone(own));
     }
     EXPECT_FALSE(fs::exists(own));
     EXPECT_EQ(FileContent(parent.Path() / "Qorvix/a.log"), "x");
@@ -260,7 +262,7 @@ TEST(TempFolder, WhatCopiesLeftThatCrashedBesideOthersIsRemoved) {
     const TemporaryFolder parent;
     const TempFolder first(parent.Path());
     const TempFolder second(parent.Path());
-    LeaveFolder(parent, LeaveFiles);
+    LeaveFolder(parent, "LeavesFiles");
     const std::vector<std::string> names = NamesIn(parent.Path());
     ASSERT_EQ(names.size(), 3U);
     const std::string left = parent.Path() / names[1] == second.Path() ? names[2] : names[1];
@@ -283,8 +285,9 @@ TEST(TempFolder, WhatCopiesLeftThatCrashedBesideOthersIsRemoved) {
 }
 
 TEST(TempFolder, LinkIsNotFollowed) {
+    NEEDS_LINKS();
     const TemporaryFolder parent;
-    LeaveFolder(parent, LeaveFiles);
+    LeaveFolder(parent, "LeavesFiles");
     fs::rename(parent.Path() / "Qorvix", parent.Path() / "elsewhere");
     fs::create_symlink("elsewhere", parent.Path() / "Qorvix");
     {
@@ -318,6 +321,7 @@ TEST(TempFolder, MissingParentGivesNoFolder) {
 }
 
 TEST(TempFolder, RemovedFolderIsMadeAnew) {
+    NEEDS_REMOVING_OPEN_FILES();
     const TemporaryFolder parent;
     {
         const TempFolder folder(parent.Path());
@@ -331,17 +335,19 @@ TEST(TempFolder, RemovedFolderIsMadeAnew) {
 }
 
 TEST(TempFolder, FolderThatIsMadeAnewClearsNothing) {
+    NEEDS_REMOVING_OPEN_FILES();
     const TemporaryFolder parent;
     const TempFolder folder(parent.Path());
     fs::remove_all(folder.Path());
     // A logbook in there may be shown now.
-    LeaveFolder(parent, LeaveFiles);
+    LeaveFolder(parent, "LeavesFiles");
     EXPECT_TRUE(fs::is_directory(folder.MakeSubfolder()));
     EXPECT_THAT(folder.Path().filename().string(), StartsWith("Qorvix-temp-"));
     EXPECT_EQ(FileContent(parent.Path() / "Qorvix/a.log"), "x");
 }
 
 TEST(TempFolder, FolderOfAnotherCopyIsNotTakenForTheRemovedOne) {
+    NEEDS_REMOVING_OPEN_FILES();
     const TemporaryFolder parent;
     auto first = std::make_unique<TempFolder>(parent.Path());
     fs::remove_all(first->Path());
@@ -358,6 +364,7 @@ TEST(TempFolder, FolderOfAnotherCopyIsNotTakenForTheRemovedOne) {
 }
 
 TEST(TempFolder, EndLeavesTheFolderOfAnotherCopyAlone) {
+    NEEDS_REMOVING_OPEN_FILES();
     const TemporaryFolder parent;
     auto first = std::make_unique<TempFolder>(parent.Path());
     MakeFile(*first, first->Path() / "a.log");
@@ -375,40 +382,13 @@ TEST(TempFolder, ParentThatComesBackGivesAFolder) {
     EXPECT_TRUE(fs::is_directory(folder.MakeSubfolder()));
 }
 
-TEST(TempFolder, VariableThatIsEmptyNamesNoFolder) {
-    const auto folderWith = [](const char* value) {
-        const char* const before = std::getenv("TMPDIR");
-        const std::string kept = before == nullptr ? "" : before;
-        ::setenv("TMPDIR", value, 1);
-        const fs::path folder = TempFolder::SystemFolder();
-        before == nullptr ? ::unsetenv("TMPDIR") : ::setenv("TMPDIR", kept.c_str(), 1);
-        return folder;
-    };
-    EXPECT_EQ(folderWith(""), "/tmp");
-    EXPECT_EQ(folderWith("/"), "/");
-    EXPECT_EQ(folderWith("/nowhere/at/all"), "");
-}
-
 TEST(TempFolder, CopiesThatComeAndGoAlwaysHaveAFolder) {
     constexpr int Copies = 3;
-    constexpr int Rounds = 2000;
     const TemporaryFolder parent;
-    pid_t copies[Copies] = {};
-    for (pid_t& copy : copies) {
-        copy = fork();
-        if (copy != 0)
-            continue;
-        int without = 0;
-        for (int i = 0; i < Rounds; ++i) {
-            const TempFolder folder(parent.Path());
-            without += !fs::is_directory(folder.Path());
-        }
-        _exit(without == 0 ? 0 : 1);
-    }
-    for (const pid_t copy : copies) {
-        int status = 0;
-        waitpid(copy, &status, 0);
-        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
-    }
+    std::vector<OtherProcess> copies;
+    for (int i = 0; i < Copies; ++i)
+        copies.emplace_back("ComesAndGoes", std::vector<std::string>{PathText(parent.Path())});
+    for (OtherProcess& copy : copies)
+        EXPECT_EQ(copy.End(), 0);
     EXPECT_TRUE(fs::is_empty(parent.Path()));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a hostile logbook can do to a terminal: nothing.
 #include "cli/RunProgram.h"
+#include "support/Abilities.h"
 #include "support/ReadText.h"
 #include "support/TemporaryFolder.h"
 #include "support/ZipWriter.h"
@@ -26,6 +27,7 @@ constexpr std::string_view Shown = "a\\u001b[31m\\u007f\\u008d\tb\\u0007";
 } // namespace
 
 TEST_F(ControlCharacters, AreShownOnATerminal) {
+    NEEDS_TERMINAL();
     for (const std::vector<std::string>& arguments :
          {std::vector<std::string>{"export", File, "--format", "csv"},
           std::vector<std::string>{"find", File, "b", "--format", "csv"},
@@ -38,6 +40,7 @@ TEST_F(ControlCharacters, AreShownOnATerminal) {
 }
 
 TEST_F(ControlCharacters, StayInAFileAndAPipe) {
+    NEEDS_TERMINAL();
     const std::string bytes = "0,4,Fatal,\"a\x1b[31m\x7f\u008d\tb\x07\",,,04.01.2010";
     EXPECT_THAT(RunCommandLineTool({"export", File, "--format", "csv"}).Output, HasSubstr(bytes));
     EXPECT_EQ(RunOnTerminal({"export", File, "--format", "csv", "--output", Folder / "a.csv"}).Output, "");
@@ -45,12 +48,14 @@ TEST_F(ControlCharacters, StayInAFileAndAPipe) {
 }
 
 TEST_F(ControlCharacters, AreEscapedInJsonEverywhere) {
+    NEEDS_TERMINAL();
     const std::string line = R"("data":"a\u001b[31m\u007f\u008d\tb\u0007")";
     EXPECT_THAT(RunCommandLineTool({"export", File}).Output, HasSubstr(line));
     EXPECT_THAT(RunOnTerminal({"export", File}).Output, HasSubstr(line));
 }
 
 TEST_F(ControlCharacters, OfLookedUpTextsAreShownOnATerminal) {
+    NEEDS_TERMINAL();
     Folder.Write("ErrorText.csv", "");
     std::filesystem::create_directory(Folder / "ENGLISH");
     Folder.Write("ENGLISH/ErrorText.csv", "h\n5;a\x1b[2J;b;c\n");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/RunProgram.h"
+#include "support/Abilities.h"
 #include "support/OddFiles.h"
 #include "support/ReadText.h"
 #include "support/TemporaryFolder.h"
@@ -213,6 +214,7 @@ TEST_F(ExportCommand, FilterFileDecidesWhatIsPrinted) {
 }
 
 TEST_F(ExportCommand, StoredFiltersAreThoseOfTheSettings) {
+    NEEDS_SETTINGS_FILE();
     const std::string file = File({Header("BERR:    a"), Header("RESET:")});
     std::filesystem::create_directories(Folder / "config/VELTRANDOR");
     Folder.Write("config/VELTRANDOR/Qorvix.json",
@@ -271,6 +273,7 @@ TEST_F(ExportCommand, FolderIsNotWrittenTo) {
 }
 
 TEST_F(ExportCommand, SettingsThatAreNoFileCountAsNone) {
+    NEEDS_NAMED_PIPES();
     std::filesystem::create_directories(Folder / "config/VELTRANDOR");
     MakePipe(Folder, "config/VELTRANDOR/Qorvix.json");
     const ProgramResult result =

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/RunProgram.h"
+#include "support/Abilities.h"
 #include "support/OddFiles.h"
 #include "support/ReadText.h"
 #include "support/TemporaryFolder.h"
@@ -185,6 +186,7 @@ TEST_F(PackCommand, WhatFailsLeavesTheArchive) {
 }
 
 TEST_F(PackCommand, ReasonsFollowTheLanguage) {
+    NEEDS_LINKS();
     const std::string log = Folder.Write("a.log", Log);
     std::filesystem::create_symlink(log, Folder / "link.qorvix");
     const std::string link = Folder / "link.qorvix";
@@ -195,6 +197,7 @@ TEST_F(PackCommand, ReasonsFollowTheLanguage) {
 }
 
 TEST_F(PackCommand, WhatIsNoFileIsNeitherReadNorReplaced) {
+    NEEDS_NAMED_PIPES();
     const std::string log = Folder.Write("a.log", Log);
     for (const std::string& none : NoFiles(Folder)) {
         ExpectFailure({log, Out, "--filters", none},

@@ -157,13 +157,3 @@ TEST_F(SessionsCommand, AListReplacesNoArchiveCommentsOrFilters) {
         EXPECT_EQ(FileContent(file), "mine");
     }
 }
-
-// A file that is opened must not get the number of a missing output.
-TEST_F(SessionsCommand, MissingStandardOutputIsAFailure) {
-    const std::string command = "timeout 20 " QORVIX_PROGRAM_FOLDER "/qorvix-cli sessions '" + Log + "'";
-    EXPECT_EQ(std::system((command + " >/dev/null").c_str()), 0);
-    const int closed = std::system((command + " >&- 2>/dev/null").c_str());
-    EXPECT_EQ(WEXITSTATUS(closed), 1);
-    const int allClosed = std::system((command + " <&- >&- 2>&-").c_str());
-    EXPECT_EQ(WEXITSTATUS(allClosed), 1);
-}

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What stitching writes: comments, filters, and files that it must not replace.
 #include "cli/StitchTest.h"
+#include "support/Abilities.h"
 #include "support/ZipReader.h"
 #include "support/ZipWriter.h"
 
@@ -246,6 +247,7 @@ TEST_F(StitchOutput, DamagedCommentsAndFiltersAreRefused) {
 }
 
 TEST_F(StitchOutput, OutputIsNeverASourceAndHasItsName) {
+    NEEDS_LINKS();
     std::filesystem::create_hard_link(Old, Folder / "link.log");
     std::filesystem::create_symlink(New, Folder / "symbolic.log");
     for (const std::string& output :

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "comments/CommentJournalFixture.h"
+#include "support/Abilities.h"
+#include "support/OwnerAlone.h"
 
 namespace {
 
@@ -27,7 +29,7 @@ TEST_F(CommentJournalTest, EachCommentIsALineBehindTheLogbook) {
                   "\"}\n"
                   "{\"comment\":\"pump \\\"A\\\"\\nreplaced, grün\",\"entry\":3}\n"
                   "{\"comment\":\"\",\"entry\":3}\n");
-    EXPECT_EQ(fs::status(Files().front()).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_TRUE(IsForOwnerAlone(Files().front()));
 }
 
 TEST_F(CommentJournalTest, GoesWhenItsCommentsAreSavedOrDeclined) {
@@ -118,6 +120,7 @@ TEST_F(CommentJournalTest, EveryCutOffFileGivesItsWholeLines) {
 }
 
 TEST_F(CommentJournalTest, FullDiskIsToldAndLeavesNoHalfLine) {
+    NEEDS_FILE_SIZE_LIMIT();
     EXPECT_FALSE(Enter(Journal, 1, "a"));
     const fs::path file = Files().front();
     const std::string before = FileContent(file);
@@ -132,6 +135,7 @@ TEST_F(CommentJournalTest, FullDiskIsToldAndLeavesNoHalfLine) {
 }
 
 TEST_F(CommentJournalTest, JournalThatCouldNotBeBegunIsNotLeft) {
+    NEEDS_FILE_SIZE_LIMIT();
     {
         const SmallFiles full(10);
         EXPECT_EQ(Enter(Journal, 1, "a"), std::errc::file_too_large);
@@ -146,6 +150,7 @@ TEST_F(CommentJournalTest, FileWithoutAWholeLineIsNotHeld) {
 }
 
 TEST_F(CommentJournalTest, CommentsThatCouldNotBeNotedAreNotedWithTheNext) {
+    NEEDS_FILE_SIZE_LIMIT();
     auto journal = std::make_unique<CommentJournal>(State);
     fs::create_directories(State.parent_path());
     std::ofstream(State) << "a file";
@@ -164,6 +169,7 @@ TEST_F(CommentJournalTest, CommentsThatCouldNotBeNotedAreNotedWithTheNext) {
 }
 
 TEST_F(CommentJournalTest, FileThatSomebodyRemovedIsMadeAnewWithAllComments) {
+    NEEDS_REMOVING_OPEN_FILES();
     CommentJournal journal(State);
     EXPECT_FALSE(Enter(journal, 1, "first"));
     fs::remove_all(State.parent_path());
@@ -184,6 +190,7 @@ TEST_F(CommentJournalTest, FolderThatCannotBeMadeIsTold) {
 }
 
 TEST_F(CommentJournalTest, RestoringNeedsNoRoomOnTheDisk) {
+    NEEDS_FILE_SIZE_LIMIT();
     Crash({{1, "a"}});
     const SmallFiles full(10);
     EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
@@ -194,6 +201,7 @@ TEST_F(CommentJournalTest, RestoringNeedsNoRoomOnTheDisk) {
 }
 
 TEST_F(CommentJournalTest, RestoredCommentsAreNotedAgainWithTheNextOne) {
+    NEEDS_REMOVING_OPEN_FILES();
     Crash({{1, "a"}});
     EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
     fs::remove_all(State);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "comments/CommentJournalFixture.h"
+#include "support/Abilities.h"
 
 namespace {
 
@@ -205,6 +206,7 @@ TEST_F(LostCommentsTest, OfTwoCrashesTheLaterCounts) {
 }
 
 TEST_F(LostCommentsTest, StrangeLinesAndFilesArePassedOver) {
+    NEEDS_LINKS();
     Crash({{1, "a"}});
     std::ofstream(Files().front(), std::ios::app) << "nonsense\n[1]\n{\"entry\":5,\"comment\":\"behind\"}\n"
                                                      "{\"entry\":-1,\"comment\":\"before\"}\n"
@@ -220,6 +222,7 @@ TEST_F(LostCommentsTest, StrangeLinesAndFilesArePassedOver) {
 }
 
 TEST_F(LostCommentsTest, FileThatTookTheNameOfALostOneIsNotRemoved) {
+    NEEDS_REMOVING_OPEN_FILES();
     Crash({{1, "a"}});
     const fs::path file = Files().front();
     const std::optional<LostJournal> journal = LostJournal::Hold(file);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "document/ExportList.h"
 
+#include "support/Abilities.h"
 #include "support/AllRows.h"
 #include "support/EntriesFrom.h"
 #include "support/MemorySettings.h"
@@ -131,6 +132,7 @@ TEST_F(ExportListTest, LogbookAndArchiveAreNotReplaced) {
 }
 
 TEST_F(ExportListTest, FailureIsToldWithItsReason) {
+    NEEDS_PERMISSIONS();
     User.File = Folder / "no/such/list.csv";
     EXPECT_EQ(Export(), ExportOutcome::Failed);
     EXPECT_EQ(User.Messages[0],

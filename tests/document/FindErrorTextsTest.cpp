@@ -2,6 +2,7 @@
 #include "document/FindErrorTexts.h"
 
 #include "eventinfo/LanguageFile.h"
+#include "support/Abilities.h"
 #include "support/TemporaryFolder.h"
 #include "support/ZipWriter.h"
 
@@ -75,6 +76,7 @@ TEST_F(FindErrorTextsTest, PathsInAnArchiveLeadNowhere) {
 }
 
 TEST_F(FindErrorTextsTest, LinksInAnArchiveAreLeft) {
+    NEEDS_LINKS();
     std::filesystem::create_directory(Folder / "linked");
     std::filesystem::create_symlink("/etc/passwd", Folder / "linked/A_DE.XMT");
     Folder.Write("linked/B_DE.XMT", "b");

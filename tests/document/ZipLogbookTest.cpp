@@ -2,6 +2,7 @@
 #include "document/ZipLogbook.h"
 
 #include "document/ArchiveQuestions.h"
+#include "support/Abilities.h"
 #include "support/EntriesFrom.h"
 #include "support/MemorySettings.h"
 #include "support/ScriptedUser.h"
@@ -120,6 +121,7 @@ TEST_F(ZipLogbookTest, FolderOfTheArchiveIsStoredForTheNext) {
 }
 
 TEST_F(ZipLogbookTest, FirstArchiveIsProposedBesideItsLogbook) {
+    NEEDS_LINKS();
     const auto folder = [&](const std::string& logbook) {
         User.File.reset();
         State.CurrentLogbookFile = logbook;

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "eventinfo/LanguageFile.h"
 
+#include "support/Abilities.h"
+#include "support/OddFiles.h"
+#include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <vector>
-
-#include <sys/stat.h>
-#include <unistd.h>
 
 using testing::ElementsAre;
 
@@ -93,9 +93,9 @@ TEST(LanguageFile, EmptyFileHasNoLines) {
 
 TEST(LanguageFile, MissingFileAndFolderAreNotReadable) {
     const TemporaryFolder folder;
-    const std::string pipe = folder / "pipe";
-    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-    for (const std::string& path : {folder / "missing", folder.Path().string(), pipe, std::string()}) {
+    std::vector<std::string> paths = NoFiles(folder);
+    paths.insert(paths.end(), {folder / "missing", folder.Path().string(), std::string()});
+    for (const std::string& path : paths) {
         LanguageFile file(path);
         EXPECT_FALSE(file.Readable()) << path;
         EXPECT_THAT(LinesOf(file), ElementsAre());
@@ -103,11 +103,13 @@ TEST(LanguageFile, MissingFileAndFolderAreNotReadable) {
 }
 
 TEST(LanguageFile, FileThatMayNotBeReadIsNotReadable) {
-    if (geteuid() == 0)
-        GTEST_SKIP() << "the superuser reads everything";
+    NEEDS_PERMISSIONS();
     const TemporaryFolder folder;
     const std::string path = folder.Write("a.txt", "one");
-    ASSERT_EQ(chmod(path.c_str(), 0), 0);
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms::all);
+    std::filesystem::permissions(path, std::filesystem::perms::none);
+    const OrdinaryUser user;
+    ASSERT_TRUE(user.IsOrdinary());
     EXPECT_FALSE(LanguageFile(path).Readable());
 }
 

@@ -4,6 +4,7 @@
 #include "eventinfo/ErrorTextFolder.h"
 #include "eventinfo/LanguageFile.h"
 #include "eventinfo/iZEKEventInfo.h"
+#include "support/Abilities.h"
 #include "support/OddFiles.h"
 #include "support/OrdinaryUser.h"
 #include "support/TemporaryFolder.h"
@@ -12,8 +13,6 @@
 
 #include <filesystem>
 #include <map>
-
-#include <unistd.h>
 
 namespace {
 
@@ -43,7 +42,7 @@ class TakeOverTest : public testing::Test {
         std::error_code none;
         for (const auto& item : std::filesystem::recursive_directory_iterator(Folder.Path() / "own", none))
             if (item.is_regular_file())
-                files[std::filesystem::relative(item.path(), Folder.Path() / "own").string()] =
+                files[std::filesystem::relative(item.path(), Folder.Path() / "own").generic_string()] =
                     FileContent(item.path());
         return files;
     }
@@ -94,6 +93,7 @@ TEST_F(TakeOverTest, FolderOfOneLanguageMayBeChosenItself) {
 }
 
 TEST_F(TakeOverTest, ReplacedFilesAreKept) {
+    NEEDS_NAMES_WITH_CASE();
     Own("a_en.xmt", "mine");
     Own("german/Error.a", "same");
     Own("B_EN.XMT", "untouched");
@@ -116,6 +116,18 @@ TEST_F(TakeOverTest, ReplacedFilesAreKept) {
     // Again there is nothing to do.
     EXPECT_EQ(Take().Same, 2U);
     EXPECT_EQ(OwnFiles(), all);
+}
+
+TEST_F(TakeOverTest, OneKeptFileIsBesideTheNewOne) {
+    Own("A_EN.XMT", "mine");
+    Own("GERMAN/error.a", "same");
+    Place("A_EN.XMT", "new");
+    Place("GERMAN/error.a", "same");
+    const TakeOverResult result = Take();
+    EXPECT_EQ(result.Kept, 1U);
+    EXPECT_EQ(result.Same, 1U);
+    EXPECT_EQ(OwnFiles(),
+              (Contents{{"A_EN.XMT", "new"}, {"A_EN.XMT.bak", "mine"}, {"GERMAN/error.a", "same"}}));
 }
 
 TEST_F(TakeOverTest, NoKeptFileIsLost) {
@@ -144,6 +156,7 @@ TEST_F(TakeOverTest, OfSeveralTheTopmostIsTaken) {
 }
 
 TEST_F(TakeOverTest, LinksAndWhatIsNoFileAreLeft) {
+    NEEDS_LINKS();
     Place("x.txt", "");
     Folder.Write("secret", "secret");
     std::filesystem::create_symlink(Folder / "secret", Folder / "from/A_EN.XMT");
@@ -171,6 +184,7 @@ TEST_F(TakeOverTest, LargerFilesThanTheControlsAreLeft) {
 }
 
 TEST_F(TakeOverTest, FolderThatCannotBeSearchedIsTold) {
+    NEEDS_PERMISSIONS();
     EXPECT_EQ(Plan("missing").Problem, "No such file or directory");
     EXPECT_TRUE(Plan("missing").IsEmpty());
     Place("A_EN.XMT", "a");
@@ -185,11 +199,12 @@ TEST_F(TakeOverTest, FolderThatCannotBeSearchedIsTold) {
 }
 
 TEST_F(TakeOverTest, FolderOfTooMuchIsNotSearchedToItsEnd) {
+    NEEDS_LINKS();
     Place("A_EN.XMT", "a");
     // With these, as many items as are searched.
     Place("many/x", "");
     for (std::size_t i = 3; i < ErrorTextFolder::MostItems; ++i)
-        ASSERT_EQ(::symlink("x", (Folder / "from/many/" + std::to_string(i)).c_str()), 0);
+        std::filesystem::create_symlink("x", Folder / "from/many/" + std::to_string(i));
     EXPECT_EQ(Plan().Problem, "");
     EXPECT_FALSE(Plan().IsEmpty());
     Place("one more", "");
@@ -219,6 +234,7 @@ TEST_F(TakeOverTest, MoreThanAControlHasIsNotTaken) {
 
 // What is written belongs into the folder, and replaces files alone.
 TEST_F(TakeOverTest, LinksAndPipesInTheOwnFolderStayAndTheOthersAreTaken) {
+    NEEDS_LINKS();
     Folder.Write("strangers.txt", "precious");
     Place("A_EN.XMT", "a");
     Place("B_EN.XMT", "b");
@@ -251,6 +267,7 @@ TEST_F(TakeOverTest, FailureIsLeftOutAndNamed) {
 }
 
 TEST_F(TakeOverTest, FolderThatMayNotBeWrittenStaysAsItIs) {
+    NEEDS_PERMISSIONS();
     Place("A_EN.XMT", "new");
     Own("A_EN.XMT", "mine");
     std::filesystem::permissions(Folder / "own", std::filesystem::perms(0555));

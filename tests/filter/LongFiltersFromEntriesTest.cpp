@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "filter/FiltersFromEntriesTest.h"
 
-#include "settings/JsonSettings.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestStore.h"
 
 namespace {
 
@@ -188,10 +187,9 @@ TEST_F(LongFiltersFromEntries, AnOlderFilterThatIsTooLongInTheNewFormStays) {
     EXPECT_EQ(Numbers(Loaded(), 'X'), expected);
 }
 
-TEST_F(LongFiltersFromEntries, ManyEntriesSurviveInTheSettingsFile) {
-    const TemporaryFolder folder;
-    JsonSettings json((folder.Path() / "Qorvix.json").string());
-    Registry settings(json);
+TEST_F(LongFiltersFromEntries, ManyEntriesSurviveInTheSettings) {
+    const TestStore place;
+    Registry settings(place.Store());
     std::set<EntryNumber> expected;
     NumberFilters filters(settings, Exclude);
     for (EntryNumber number = 1000000; number < 1030000; number += 3) {
@@ -199,9 +197,8 @@ TEST_F(LongFiltersFromEntries, ManyEntriesSurviveInTheSettingsFile) {
         expected.insert(number);
     }
     filters.Write();
-    JsonSettings next((folder.Path() / "Qorvix.json").string());
     Texts loaded;
-    for (const FilterDefinition& filter : LoadFilters(Registry(next), {}).Filters)
+    for (const FilterDefinition& filter : LoadFilters(Registry(place.Store()), {}).Filters)
         loaded.push_back(FormatFilter(filter));
     EXPECT_EQ(loaded.front(), "I|0||||1");
     EXPECT_EQ(Numbers(loaded, 'X'), expected);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "rows/ListPlace.h"
 
+#include "support/Abilities.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 #include <vector>
 
 TEST(ListPlace, SourcesAreNotReplaced) {
+    NEEDS_LINKS();
     const TemporaryFolder folder;
     const std::vector<std::string> sources{"", folder.Write("a.log", "x"), folder.Write("b.zip", "x")};
     EXPECT_EQ(RefusalOfListPlace(sources[1], sources), TextId::ListInPlaceOfSource);
@@ -19,6 +21,7 @@ TEST(ListPlace, SourcesAreNotReplaced) {
 }
 
 TEST(ListPlace, TheyAreNotReplacedThroughLinksEither) {
+    NEEDS_LINKS();
     const TemporaryFolder folder;
     for (const char* const name : {"a.qorvix", "b.CMT", "c.fil"}) {
         folder.Write(name, "precious");

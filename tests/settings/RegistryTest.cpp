@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/Registry.h"
 
-#include "settings/JsonSettings.h"
 #include "support/MemorySettings.h"
-#include "support/TemporaryFolder.h"
+#include "support/TestStore.h"
 
 #include <gtest/gtest.h>
 
@@ -11,9 +10,8 @@ namespace {
 
 class RegistryTest : public testing::Test {
   protected:
-    TemporaryFolder Folder;
-    JsonSettings Store{Folder / "Qorvix.json"};
-    Registry Settings{Store};
+    TestStore Place;
+    Registry Settings{Place.Store()};
 };
 
 } // namespace
@@ -22,7 +20,7 @@ TEST_F(RegistryTest, MissingStoreGivesEveryDefault) {
     EXPECT_EQ(Settings.ReadLogbookSettingLong("Main.Left", 100), 100);
     EXPECT_EQ(Settings.ReadSettingString("InitLogbookDir", "/opt", SubKeys::Logbook), "/opt");
     EXPECT_EQ(Settings.ReadFilterSettingLong("FilterCount", 0), 0);
-    EXPECT_FALSE(std::filesystem::exists(Folder / "Qorvix.json")); // a read makes no key
+    EXPECT_FALSE(Place.IsMade()); // a read makes no key
 }
 
 TEST_F(RegistryTest, ValuesComeBackFromTheirKeys) {

@@ -5,6 +5,7 @@
 #include "filter/FilterFile.h"
 #include "filter/FilterText.h"
 #include "sources/LogbookSource.h"
+#include "support/Abilities.h"
 #include "support/EntriesFrom.h"
 #include "support/OrdinaryUser.h"
 #include "support/ScriptedUser.h"
@@ -178,6 +179,11 @@ TEST_F(LogbookArchiveTest, LogbookThatChangesWhileItIsPackedFails) {
             fs::resize_file(Content.LogbookFile, 3000001);
     };
     ExpectFailure("the logbook file was changed meanwhile");
+}
+
+TEST_F(LogbookArchiveTest, LogbookThatIsRemovedWhileItIsPackedFails) {
+    NEEDS_REMOVING_OPEN_FILES();
+    Folder.Write("logs/a.log", Noise(3000000));
     Progress = [&](double percent) {
         if (percent > 20)
             fs::remove(Content.LogbookFile);
@@ -214,6 +220,7 @@ TEST_F(LogbookArchiveTest, ArchiveThatChangesWhileItIsPackedIsNotReplaced) {
 }
 
 TEST_F(LogbookArchiveTest, FullDiskFailsWithTheSystemsReason) {
+    NEEDS_FILE_SIZE_LIMIT();
     Folder.Write("logs/a.log", Noise(1000000));
     const SmallFiles limit(300000);
     double last = 100;
@@ -223,6 +230,7 @@ TEST_F(LogbookArchiveTest, FullDiskFailsWithTheSystemsReason) {
 }
 
 TEST_F(LogbookArchiveTest, FullTemporaryFolderFailsWithTheSystemsReason) {
+    NEEDS_FILE_SIZE_LIMIT();
     Entries.SetComment(5, Noise(200000));
     const SmallFiles limit(100000);
     ExpectFailure("File too large");
@@ -232,11 +240,12 @@ TEST_F(LogbookArchiveTest, ArchiveThatCannotBePutInItsPlaceFails) {
     fs::create_directory(Folder / "out/folder.qorvix");
     EXPECT_EQ(Save(Folder / "out/folder.qorvix"), "Is a directory");
     EXPECT_EQ(Save(Folder / "out/missing/a.qorvix"), "No such file or directory");
-    EXPECT_EQ(Save(Content.LogbookFile + "/a.qorvix"), "Not a directory");
+    EXPECT_EQ(Save(Content.LogbookFile + "/a.qorvix"), BehindAFileText);
     EXPECT_EQ(FilesIn(Folder / "out"), std::vector<std::string>{"folder.qorvix"});
 }
 
 TEST(LogbookArchivePermissions, FolderWithoutWritePermissionFails) {
+    NEEDS_PERMISSIONS();
     const OrdinaryUser user;
     if (!user.IsOrdinary())
         GTEST_SKIP() << "permissions do not hold for this user";
@@ -262,6 +271,7 @@ TEST(LogbookArchivePermissions, FolderWithoutWritePermissionFails) {
 }
 
 TEST_F(LogbookArchiveTest, NeverReplacesTheLogbookItself) {
+    NEEDS_LINKS();
     fs::create_symlink("../logs/a.log", Folder / "out/link.qorvix");
     fs::create_hard_link(Content.LogbookFile, Folder / "out/same.qorvix");
     for (const std::string& path : {Content.LogbookFile, Folder / "logs/../logs/a.log",
@@ -271,6 +281,7 @@ TEST_F(LogbookArchiveTest, NeverReplacesTheLogbookItself) {
 }
 
 TEST_F(LogbookArchiveTest, NeverLiesInTheTemporaryFolder) {
+    NEEDS_LINKS();
     fs::create_symlink(Temp.Path(), Folder / "link");
     for (const std::string& path : {(Temp.Path() / "a.qorvix").string(), Folder / "link/a.qorvix"})
         EXPECT_EQ(Save(path), "what lies in this folder is deleted when the program ends") << path;
@@ -285,6 +296,7 @@ TEST_F(LogbookArchiveTest, WithoutATemporaryFolderNothingIsSaved) {
 }
 
 TEST_F(LogbookArchiveTest, LinkIsFollowedAndPermissionsStay) {
+    NEEDS_LINKS();
     const std::string path = Folder.Write("out/a.qorvix", "old");
     fs::permissions(path, fs::perms(0640));
     fs::create_symlink("a.qorvix", Folder / "out/link.qorvix");
@@ -296,6 +308,7 @@ TEST_F(LogbookArchiveTest, LinkIsFollowedAndPermissionsStay) {
 }
 
 TEST_F(LogbookArchiveTest, NewArchiveHasThePermissionsOfAnyNewFile) {
+    NEEDS_PERMISSIONS();
     EXPECT_EQ(Save(Folder / "out/a.qorvix"), "");
     EXPECT_EQ(fs::status(Folder / "out/a.qorvix").permissions(),
               fs::status(Content.LogbookFile).permissions());

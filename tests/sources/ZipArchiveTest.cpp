@@ -4,6 +4,7 @@
 #include "comments/Comments.h"
 #include "filter/FilterFile.h"
 #include "sources/OwnArchive.h"
+#include "support/Abilities.h"
 #include "support/SmallFiles.h"
 #include "support/TemporaryFolder.h"
 #include "support/ZipWriter.h"
@@ -50,6 +51,7 @@ TEST(ZipMember, DenseOnesAreTakenWhenSmall) {
 }
 
 TEST(ZipArchive, MemberThatTheDiskHasNoRoomForLeavesNoFile) {
+    NEEDS_FILE_SIZE_LIMIT();
     const TemporaryFolder folder;
     WriteZip(folder / "a.zip", {{"a.log", std::string(100'000, 'x')}});
     ZipArchive archive(folder / "a.zip", English, {});

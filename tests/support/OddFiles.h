@@ -3,25 +3,13 @@
 
 #include "support/TemporaryFolder.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include <sys/stat.h>
+// Makes a pipe that nobody writes into: opening it to read waits for ever. Only after NEEDS_NAMED_PIPES.
+std::string MakePipe(const TemporaryFolder& folder, std::string_view name);
 
-// Makes a pipe that nobody writes into: opening it to read waits for ever.
-inline std::string MakePipe(const TemporaryFolder& folder, std::string_view name) {
-    const std::string path = folder / name;
-    EXPECT_EQ(mkfifo(path.c_str(), 0600), 0);
-    return path;
-}
-
-// Names of things that are no files, direct and behind a link: a pipe, and a device that never ends.
-inline std::vector<std::string> NoFiles(const TemporaryFolder& folder) {
-    const std::string pipe = MakePipe(folder, "pipe");
-    std::filesystem::create_symlink("pipe", folder / "link to pipe");
-    std::filesystem::create_symlink("/dev/zero", folder / "link to zero");
-    return {pipe, folder / "link to pipe", "/dev/zero", folder / "link to zero"};
-}
+// Names of things that are no files: devices that never end or cannot be read, and what else the system has
+// of the kind, direct and behind a link.
+std::vector<std::string> NoFiles(const TemporaryFolder& folder);

@@ -1,29 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <csignal>
-
-#include <sys/resource.h>
+#include <cstdint>
 
 // While one lives, no file of this process grows beyond a size: a write beyond it fails as on a full disk,
-// for the reason "File too large".
+// for the reason "File too large". Only after NEEDS_FILE_SIZE_LIMIT.
 class SmallFiles {
   public:
-    explicit SmallFiles(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &before_), 0);
-        const rlimit limit{bytes, before_.rlim_max};
-        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    }
-    ~SmallFiles() {
-        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &before_), 0);
-        std::signal(SIGXFSZ, handler_);
-    }
+    explicit SmallFiles(std::uintmax_t bytes);
+    ~SmallFiles();
     SmallFiles(const SmallFiles&) = delete;
     SmallFiles& operator=(const SmallFiles&) = delete;
 
   private:
-    void (*handler_)(int);
-    rlimit before_{};
+    void (*handler_)(int) = nullptr;
+    std::uintmax_t before_ = 0;
 };

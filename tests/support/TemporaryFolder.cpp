@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/TemporaryFolder.h"
 
+#include "base/Paths.h"
+
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -17,13 +19,19 @@ TemporaryFolder::~TemporaryFolder() {
     std::filesystem::remove_all(path_, ignored);
 }
 
+std::string TemporaryFolder::operator/(std::string_view name) const {
+    return PathText((path_ / ToPath(name)).make_preferred());
+}
+
 std::string TemporaryFolder::Write(std::string_view name, std::string_view content) const {
-    const std::filesystem::path file = path_ / name;
-    std::ofstream(file, std::ios::binary) << content;
-    return file.string();
+    const std::string file = *this / name;
+    std::ofstream(ToPath(file), std::ios::binary) << content;
+    return file;
 }
 
 std::string FileContent(const std::filesystem::path& path) {
     std::ifstream stream(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
 }
+
+std::string FileContent(const std::string& path) { return FileContent(ToPath(path)); }

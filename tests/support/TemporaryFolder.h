@@ -14,7 +14,7 @@ class TemporaryFolder {
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     // The path of a file in it.
-    std::string operator/(std::string_view name) const { return (path_ / name).string(); }
+    std::string operator/(std::string_view name) const;
 
     // Writes a file in it and returns the file's path.
     std::string Write(std::string_view name, std::string_view content) const;
@@ -25,5 +25,6 @@ class TemporaryFolder {
     std::filesystem::path path_;
 };
 
-// The whole content of a file; "" when it cannot be read.
+// The whole content of a file; "" when it cannot be read. A path as text is UTF-8.
 std::string FileContent(const std::filesystem::path& path);
+std::string FileContent(const std::string& path);

@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+
+// True for a file or folder that only its owner may use.
+bool IsForOwnerAlone(const std::filesystem::path& path);
