@@ -5,9 +5,6 @@
 #include "faults/ProgramWindow.h"
 #include "support/ZipReader.h"
 
-#include <cerrno>
-#include <cstring>
-
 namespace {
 
 namespace fs = std::filesystem;
@@ -103,51 +100,4 @@ TEST_F(ArchiveFaults, ReadOnlyFolderIsToldAtTheClosingToo) {
     window.ChooseFile(Work + "/b.qorvix");
     EXPECT_EQ(window.Program().WaitForEnd(), GoodEnd);
     EXPECT_EQ(ReadZip(Work + "/b.qorvix")[2].second, "[Comments]\r\n 1 pump\r\n");
-}
-
-TEST_F(ArchiveFaults, EveryFailingCallIsToldOrHarmless) {
-    for (const int error : {EIO, ENOSPC, EDQUOT}) {
-        int failed = 0;
-        for (ProgramEnd end{1, 0}; end != GoodEnd; ++failed) {
-            std::string errors;
-            end =
-                RunTool({"pack", LogFile, Archive, "--drop-comments"}, {Out, "cowr", error, failed}, errors);
-            if (end == GoodEnd)
-                break;
-            const std::string when = "call " + std::to_string(failed) + ": " + errors;
-            EXPECT_EQ(end, (ProgramEnd{1, 0})) << when;
-            EXPECT_TRUE(errors.starts_with("qorvix-cli: The archive could not be saved (" + Archive + ": "))
-                << when;
-            EXPECT_TRUE(errors.ends_with(std::string(std::strerror(error)) + ")\n")) << when;
-            // Where the disk does not even remove files, the parts stay.
-            EXPECT_EQ(FileContent(Archive), "old") << when;
-            ASSERT_LT(failed, 500);
-        }
-        EXPECT_GT(failed, 5);
-        EXPECT_EQ(ReadZip(Archive)[0].second, LogbookOf(2000));
-        Folder.Write("out/a.qorvix", "old");
-    }
-    // What stayed goes with the next that is saved.
-    std::string errors;
-    EXPECT_EQ(RunTool({"pack", LogFile, Archive, "--drop-comments"}, {}, errors), GoodEnd);
-    EXPECT_EQ(NamesIn(Out), std::vector<std::string>{"a.qorvix"});
-}
-
-TEST_F(ArchiveFaults, ListOnADiskThatFillsLeavesTheOldOne) {
-    const std::string list = Out + "/list.jsonl";
-    std::ofstream(list) << "old";
-    for (const char* command : {"export", "find"}) {
-        std::vector<std::string> arguments{command, LogFile, "--output", list};
-        if (std::string(command) == "find")
-            arguments.insert(arguments.begin() + 2, "1");
-        for (const char* bytes : {"0", "100000"}) {
-            Fault fault = FullDisk(Out);
-            fault.Calls = "w";
-            fault.Bytes = bytes;
-            std::string errors;
-            EXPECT_EQ(RunTool(arguments, fault, errors), (ProgramEnd{1, 0}));
-            EXPECT_EQ(errors, "qorvix-cli: " + list + ": No space left on device\n") << bytes;
-            EXPECT_EQ(FileContent(list), "old") << bytes;
-        }
-    }
 }

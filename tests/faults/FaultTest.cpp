@@ -5,26 +5,8 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 #include <filesystem>
 #include <sstream>
-
-Environment Fault::Variables() const {
-    if (Folder.empty())
-        return {};
-    // The sanitizers' own library is content to come second.
-    const char* const sanitizers = std::getenv("ASAN_OPTIONS");
-    return {
-        {"LD_PRELOAD", QORVIX_FAILING_DISK},
-        {"FAILING_FOLDER", Folder},
-        {"FAILING_CALLS", Calls},
-        {"FAILING_WITH", std::to_string(Error)},
-        {"FAILING_AFTER", std::to_string(After)},
-        {"FAILING_BYTES", Bytes},
-        {"FAILING_WHILE", While},
-        {"FAILING_RECORD", Record},
-        {"ASAN_OPTIONS", std::string(sanitizers == nullptr ? "" : sanitizers) + ":verify_asan_link_order=0"}};
-}
 
 std::vector<DiskCall> ReadRecord(const std::string& file) {
     std::vector<DiskCall> calls;
@@ -55,24 +37,17 @@ FaultTest::FaultTest() {
     std::filesystem::permissions(Runtime, std::filesystem::perms::owner_all);
 }
 
-Environment FaultTest::Variables(const Fault& fault) const {
-    Environment variables = fault.Variables();
-    variables.insert({{"LC_ALL", "C.UTF-8"},
-                      {"HOME", Folder.Path().string()},
-                      {"XDG_CONFIG_HOME", Config},
-                      {"XDG_DATA_HOME", Folder / "data"},
-                      {"XDG_STATE_HOME", State},
-                      {"XDG_RUNTIME_DIR", Runtime},
-                      {"TMPDIR", Temp}});
-    return variables;
+ProgramEnd FaultTest::Run(const std::string& program, const std::vector<std::string>& arguments,
+                          const Fault& fault, std::string& errors) const {
+    RunningProgram running(program, arguments, Variables(fault));
+    const ProgramEnd end = running.WaitForEnd();
+    errors = running.Errors();
+    return end;
 }
 
 ProgramEnd FaultTest::RunTool(const std::vector<std::string>& arguments, const Fault& fault,
                               std::string& errors) const {
-    RunningProgram tool(Tool, arguments, Variables(fault));
-    const ProgramEnd end = tool.WaitForEnd();
-    errors = tool.Errors();
-    return end;
+    return Run(Tool, arguments, fault, errors);
 }
 
 std::vector<std::string> FaultTest::NamesIn(const std::string& folder) {

@@ -10,7 +10,8 @@
 #include <utility>
 #include <vector>
 
-// What fails below a folder, or kills the program there; FailingDisk.cpp tells how.
+// What fails below a folder, or kills the program there; FailingDisk.cpp and FailingDiskWindows.cpp tell
+// how.
 struct Fault {
     std::string Folder;
     std::string Calls;       // kinds of calls
@@ -49,9 +50,16 @@ class FaultTest : public testing::Test {
 
     static constexpr const char* Tool = QORVIX_PROGRAM_FOLDER "/qorvix-cli";
 
-    // Runs the command-line tool to its end; `errors` is what it says on standard error.
+    // Runs a program to its end; `errors` is what it says on standard error.
+    ProgramEnd Run(const std::string& program, const std::vector<std::string>& arguments, const Fault& fault,
+                   std::string& errors) const;
+
+    // Runs the command-line tool in the same way.
     ProgramEnd RunTool(const std::vector<std::string>& arguments, const Fault& fault,
                        std::string& errors) const;
+
+    // What a disk of this system answers when it fails, numbers of errno.
+    static const std::vector<int> DiskErrors;
 
     std::string SettingsFile() const { return Config + "/VELTRANDOR/Qorvix.json"; }
 

@@ -4,12 +4,11 @@
 #include "support/TemporaryFolder.h"
 
 #include <chrono>
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include <sys/types.h>
 
 // Variables that are set besides those of this process.
 using Environment = std::map<std::string, std::string>;
@@ -19,8 +18,8 @@ constexpr std::chrono::seconds LongestWait{100};
 
 // How a program ended.
 struct ProgramEnd {
-    int ExitStatus = -1; // -1 = by a signal
-    int Signal = 0;
+    int ExitStatus = -1; // -1 = it was killed
+    int Signal = 0;      // that killed it; where there are none, what FailingDisk and Kill() are taken for
 
     bool operator==(const ProgramEnd&) const = default;
 };
@@ -51,16 +50,15 @@ class RunningProgram {
     // Waits for the end. A program that hangs is killed, with a failure of the test.
     ProgramEnd WaitForEnd();
 
-    // What it wrote on standard error until now.
-    std::string Errors() const { return FileContent(folder_.Path() / "errors"); }
+    // What it wrote on standard error until now, with "\n" behind each line.
+    std::string Errors() const;
 
   private:
-    void TakeEnd(int status);
-
     TemporaryFolder folder_;
-    pid_t process_ = -1;
-    int input_ = -1;
-    int output_ = -1;
+    // As the system has them.
+    std::intptr_t process_ = -1;
+    std::intptr_t input_ = -1;
+    std::intptr_t output_ = -1;
     std::string heard_;
     std::optional<ProgramEnd> end_;
 };

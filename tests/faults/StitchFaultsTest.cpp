@@ -40,11 +40,11 @@ class StitchFaults : public FaultTest {
 
     std::vector<std::string> Arguments() const { return {"stitch", Archive, Newer, "--output", Log}; }
 
-    const std::string Archive = Work + "/a.qorvix";
+    const std::string Archive = Folder / "work/a.qorvix";
     const std::string Newer = Folder.Write("work/b.log", LogbookOf(300).substr(LogbookOf(100).size()));
     const std::string Out = Folder / "out";
-    const std::string Log = Out + "/x.log";
-    const std::string Comments = Out + "/x.cmt";
+    const std::string Log = Folder / "out/x.log";
+    const std::string Comments = Folder / "out/x.cmt";
     const std::string OldLog = LogbookOf(150);
     const std::string NewLog = LogbookOf(300);
     const std::string OldComments = "[Comments]\r\n 3 oil\r\n";

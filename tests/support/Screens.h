@@ -3,7 +3,7 @@
 
 #include "support/TemporaryFolder.h"
 
-#include <QByteArray>
+#include <QDir>
 #include <QSize>
 
 #include <string>
@@ -23,10 +23,16 @@ class Screens {
                     R"(,"logicalDpi":96,"logicalBaseDpi":96,"dpr":1})";
             left += size.width();
         }
-        const std::string file = Folder.Write("screens.json", R"({"screens":[)" + list + "]}");
-        qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString("offscreen:configfile=" + file));
+        Folder.Write("screens.json", R"({"screens":[)" + list + "]}");
+        // Its name has to do without a drive, which would end with the ":" that parts the words here.
+        QDir::setCurrent(QString::fromStdString(Folder.Path().string()));
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screens.json");
     }
+    ~Screens() { QDir::setCurrent(Before); }
+    Screens(const Screens&) = delete;
+    Screens& operator=(const Screens&) = delete;
 
   private:
-    TemporaryFolder Folder;
+    const QString Before = QDir::currentPath();
+    const TemporaryFolder Folder;
 };

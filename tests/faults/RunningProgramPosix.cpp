@@ -32,6 +32,13 @@ constexpr int NewFile = O_WRONLY | O_CREAT | O_TRUNC;
     _exit(127);
 }
 
+int Descriptor(std::intptr_t file) { return static_cast<int>(file); }
+pid_t PidOf(std::intptr_t process) { return static_cast<pid_t>(process); }
+
+ProgramEnd EndOf(int status) {
+    return WIFSIGNALED(status) ? ProgramEnd{-1, WTERMSIG(status)} : ProgramEnd{WEXITSTATUS(status), 0};
+}
+
 } // namespace
 
 RunningProgram::RunningProgram(const std::string& program, const std::vector<std::string>& arguments,
@@ -57,15 +64,15 @@ RunningProgram::RunningProgram(const std::string& program, const std::vector<std
 RunningProgram::~RunningProgram() {
     if (!end_) {
         Kill();
-        waitpid(process_, nullptr, 0);
+        waitpid(PidOf(process_), nullptr, 0);
     }
-    close(input_);
-    close(output_);
+    close(Descriptor(input_));
+    close(Descriptor(output_));
 }
 
 void RunningProgram::Say(const std::string& line) {
     const std::string text = line + '\n';
-    (void)!write(input_, text.data(), text.size());
+    (void)!write(Descriptor(input_), text.data(), text.size());
 }
 
 std::optional<std::string> RunningProgram::Hear() {
@@ -77,28 +84,24 @@ std::optional<std::string> RunningProgram::Hear() {
             return line;
         }
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(limit - Clock::now());
-        pollfd ready{output_, POLLIN, 0};
+        pollfd ready{Descriptor(output_), POLLIN, 0};
         char part[4096];
         if (left.count() <= 0 || poll(&ready, 1, static_cast<int>(left.count())) <= 0)
             return std::nullopt;
-        const ssize_t size = read(output_, part, sizeof part);
+        const ssize_t size = read(Descriptor(output_), part, sizeof part);
         if (size <= 0)
             return std::nullopt;
         heard_.append(part, static_cast<std::size_t>(size));
     }
 }
 
-void RunningProgram::Kill() { kill(process_, SIGKILL); }
+void RunningProgram::Kill() { kill(PidOf(process_), SIGKILL); }
 
 bool RunningProgram::IsRunning() {
     int status = 0;
-    if (!end_ && waitpid(process_, &status, WNOHANG) == process_)
-        TakeEnd(status);
+    if (!end_ && waitpid(PidOf(process_), &status, WNOHANG) == process_)
+        end_ = EndOf(status);
     return !end_;
-}
-
-void RunningProgram::TakeEnd(int status) {
-    end_ = WIFSIGNALED(status) ? ProgramEnd{-1, WTERMSIG(status)} : ProgramEnd{WEXITSTATUS(status), 0};
 }
 
 ProgramEnd RunningProgram::WaitForEnd() {
@@ -112,10 +115,12 @@ ProgramEnd RunningProgram::WaitForEnd() {
             ADD_FAILURE() << "the program hangs";
             Kill();
             int status = 0;
-            waitpid(process_, &status, 0);
-            TakeEnd(status);
+            waitpid(PidOf(process_), &status, 0);
+            end_ = EndOf(status);
         }
         usleep(Pause);
     }
     return *end_;
 }
+
+std::string RunningProgram::Errors() const { return FileContent(folder_.Path() / "errors"); }
