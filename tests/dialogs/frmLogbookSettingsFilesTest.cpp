@@ -114,7 +114,7 @@ class frmLogbookSettingsFilesTest : public LogbookSettingsTest {
         QCOMPARE(Answered, 2);
         QCOMPARE(Settings.ReadFilterSettingString("InitFilterDir", ""), "");
         Click(*Dialog, "cmdOK");
-        QCOMPARE(Settings.ReadFilterSettingString("InitFilterDir", ""), Folder->Path().string() + "/");
+        QCOMPARE(Settings.ReadFilterSettingString("InitFilterDir", ""), (Folder->Path() / "").string());
 
         Open();
         Answer<QFileDialog>([this](QFileDialog& dialog) {
@@ -184,6 +184,9 @@ class frmLogbookSettingsFilesTest : public LogbookSettingsTest {
                                               "\" kann nicht gelesen werden (keine gewöhnliche Datei)");
             QCOMPARE(List().topLevelItemCount(), 1);
         }
+#ifdef Q_OS_WIN
+        QSKIP("no pipe has a name in a folder here");
+#endif
         AnswerMessage(QMessageBox::Ok);
         QVERIFY(!Dialog->SaveFilterInFile(*Folder / "pipe"));
         QVERIFY(
