@@ -43,7 +43,8 @@ TEST(ChmFile, HoldsEverythingAsItWasCompiled) {
         ASSERT_TRUE(members);
         int pages = 0;
         for (const auto& item : std::filesystem::recursive_directory_iterator(SourceFolder / code)) {
-            const std::string name = '/' + item.path().lexically_relative(SourceFolder / code).generic_string();
+            const std::string name =
+                '/' + item.path().lexically_relative(SourceFolder / code).generic_string();
             if (!item.is_regular_file() || name.starts_with("/Qorvix."))
                 continue;
             ASSERT_TRUE(members->contains(name)) << name;
