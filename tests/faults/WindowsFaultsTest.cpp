@@ -2,7 +2,9 @@
 // Files that other programs have open, which Windows then may not replace or remove, and locks, which belong
 // to a handle: the tool waits, or says why it could not save, and the old file is whole. And the failing disk
 // itself, which every other test here relies on.
+#include "base/FileHandles.h"
 #include "base/Paths.h"
+#include "base/SystemFile.h"
 #include "faults/KilledProgram.h"
 
 #include <gmock/gmock.h>
@@ -17,7 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
-using testing::StartsWith;
 
 const std::string InUse = "Permission denied";
 
@@ -156,7 +157,6 @@ TEST_F(FilesOfOthers, ListThatAReaderHoldsIsTold) {
     EXPECT_NE(FileContent(list), "old");
 }
 
-// A part file belongs to the program that holds its lock, until that program has ended.
 TEST_F(FilesOfOthers, TwoToolsSaveOntoOneArchive) {
     PutOld();
     const auto first = PackAndWait("r");
@@ -171,6 +171,20 @@ TEST_F(FilesOfOthers, TwoToolsSaveOntoOneArchive) {
     EXPECT_NE(ReadZip(Archive), Content("next"));
     EXPECT_THAT(NamesIn(Out), ElementsAre("a.qorvix"));
     EXPECT_TRUE(NamesIn(Temp).empty());
+}
+
+// A part file belongs to the program that holds its lock, until that program has ended.
+TEST_F(FilesOfOthers, PartFileOfAProgramThatRunsStays) {
+    PutOld();
+    const std::string part = Folder.Write("out/a.qorvix.qorvix-part-0123456789abcdef", "half");
+    {
+        const FileHandle running = OpenToLock(ToPath(part), SystemFile::Existing::Must);
+        EXPECT_EQ(TryLock(running), LockOutcome::Held);
+        EXPECT_EQ(Pack("new", {}), GoodEnd);
+    }
+    // A file that was removed would be gone only now.
+    EXPECT_EQ(FileContent(part), "half");
+    ExpectToSaveAgain(0);
 }
 
 TEST_F(FilesOfOthers, LockOfAToolThatWasKilledIsGone) {
