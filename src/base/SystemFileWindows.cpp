@@ -84,6 +84,16 @@ bool HoldsOnlyRemoved(const std::filesystem::path& folder) {
     return !error;
 }
 
+// True for a file that another program has open, and not in a way that lets it be replaced.
+bool IsHeld(const std::filesystem::path& file) {
+    const HANDLE handle = CreateFileW(file.c_str(), DELETE, ShareAll, nullptr, OPEN_EXISTING,
+                                      FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return GetLastError() == ERROR_SHARING_VIOLATION;
+    CloseHandle(handle);
+    return false;
+}
+
 } // namespace
 
 FileHandle SystemFile::Open(const std::filesystem::path& path, const Opening& opening) {
@@ -179,6 +189,8 @@ std::error_code SystemFile::Replace(const std::filesystem::path& file, const std
         const std::error_code error = LastError();
         const bool mayPass = reason == ERROR_SHARING_VIOLATION ||
                              (reason == ERROR_ACCESS_DENIED && attributes != INVALID_FILE_ATTRIBUTES);
+        if (mayPass && i == Attempts && IsHeld(target))
+            return std::make_error_code(std::errc::device_or_resource_busy);
         if (!mayPass || i == Attempts)
             return error;
         std::this_thread::sleep_for(Pause);
