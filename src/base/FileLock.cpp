@@ -3,8 +3,11 @@
 
 #include "base/Paths.h"
 #include "base/SystemFile.h"
+#include "base/UserFolders.h"
 
 #include <chrono>
+#include <filesystem>
+#include <system_error>
 #include <thread>
 
 namespace {
@@ -34,4 +37,12 @@ bool FileLock::Take() const {
     for (; lock == LockOutcome::InUse && std::chrono::steady_clock::now() < until; lock = TryLock(handle_))
         std::this_thread::sleep_for(Pause);
     return lock != LockOutcome::Failed;
+}
+
+std::string FileLock::OfUser(std::string_view name) {
+    std::error_code ignored;
+    // Beside the folder of the journals, in which a person may look for what was lost.
+    const std::filesystem::path folder = StateFolder().parent_path();
+    std::filesystem::create_directories(folder, ignored);
+    return PathText(folder / name);
 }

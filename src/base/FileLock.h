@@ -4,6 +4,7 @@
 #include "base/FileHandles.h"
 
 #include <string>
+#include <string_view>
 
 // Holds a lock among processes, by the name of a lock file. The lock ends with the object, or with the
 // process. Nothing is held where the file cannot be made, or where something other than a file has its name.
@@ -16,6 +17,9 @@ class FileLock {
     explicit FileLock(const std::string& path);
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
+
+    // A lock file that the programs of this user share.
+    static std::string OfUser(std::string_view name);
 
     bool IsHeld() const { return handle_.IsOpen(); }
 

@@ -101,6 +101,11 @@ FileHandle SystemFile::Open(const std::filesystem::path& path, const Opening& op
     const DWORD creation = opening.Existing == Existing::Must  ? OPEN_EXISTING
                            : opening.Existing == Existing::May ? OPEN_ALWAYS
                                                                : CREATE_NEW;
+    // Such a name would be that of a stream beside the content of a file, which nobody sees.
+    if (opening.Existing != Existing::Must && path.filename().native().find(L':') != std::wstring::npos) {
+        errno = EINVAL;
+        return {};
+    }
     const DWORD flags = FILE_ATTRIBUTE_NORMAL | (opening.FollowsLink ? 0U : FILE_FLAG_OPEN_REPARSE_POINT);
     const HANDLE handle = CreateFileW(path.c_str(), access, ShareAll, nullptr, creation, flags, nullptr);
     if (handle == INVALID_HANDLE_VALUE) {

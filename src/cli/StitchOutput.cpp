@@ -7,7 +7,6 @@
 #include "base/Paths.h"
 #include "base/StopRequest.h"
 #include "base/TextFile.h"
-#include "base/UserFolders.h"
 #include "base/Workplace.h"
 #include "cli/Messages.h"
 #include "cli/TerminalDocument.h"
@@ -144,14 +143,6 @@ class CommentsBeside {
     std::optional<AtomicFile> old_;
 };
 
-// Two runs must not put the logbook of one beside the comments of the other. They hold a lock meanwhile,
-// which copies of the program of this user share.
-std::string PairLock() {
-    std::error_code ignored;
-    std::filesystem::create_directories(StateFolder(), ignored);
-    return PathText(StateFolder() / "stitch.lock");
-}
-
 // What is added to the number of an entry of an export; nothing where that is not known.
 std::optional<std::int64_t> ShiftOf(std::size_t exportNumber, const StitchPlan& plan,
                                     const StitchedResult& result) {
@@ -224,7 +215,8 @@ bool WriteStitchedLog(const std::string& path, const StitchInput& input, Stitche
     std::error_code error = file.Prepare();
     if (error)
         return FailFor(path, error, input.MessageLanguage);
-    const FileLock alone(PairLock());
+    // Two runs must not put the logbook of one beside the comments of the other.
+    const FileLock alone(FileLock::OfUser("Qorvix.stitch.lock"));
     if (!comments.Replace(carried.Placed))
         return false;
     error = file.Commit();

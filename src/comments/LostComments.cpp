@@ -3,6 +3,7 @@
 
 #include "base/Paths.h"
 #include "comments/LogbookChecksum.h"
+#include "logbook/JoinedLines.h"
 
 #include <nlohmann/json.hpp>
 
@@ -158,7 +159,7 @@ class Candidate {
     std::string sumOfVersion01_;
 };
 
-// The files of a folder in the order of writing: of two comments of an entry, the later one counts.
+// The files of a folder in the order of writing.
 std::vector<std::filesystem::path> FilesByAge(const std::filesystem::path& folder) {
     std::vector<std::pair<std::filesystem::file_time_type, std::filesystem::path>> files;
     for (const std::filesystem::path& item : ItemsIn(folder)) {
@@ -172,6 +173,19 @@ std::vector<std::filesystem::path> FilesByAge(const std::filesystem::path& folde
     for (const auto& [time, path] : files)
         paths.push_back(path);
     return paths;
+}
+
+// What is left of the comment of an entry after a further journal, which noted these texts one after the
+// other. Its last one counts where the person has made it of the earlier comment, or has removed the comment.
+// Otherwise two copies of the program had the logbook, and both are kept.
+std::string Merged(std::string earlier, const std::vector<std::string>& texts) {
+    const std::string& later = texts.back();
+    if (later.empty() || later.find(earlier) != std::string::npos ||
+        std::find(texts.begin(), texts.end(), earlier) != texts.end())
+        return later;
+    if (earlier.find(later) != std::string::npos)
+        return earlier;
+    return earlier.append(LineSeparator).append(later);
 }
 
 } // namespace
@@ -196,19 +210,21 @@ LostComments::LostComments(const std::filesystem::path& folder, const EntryTable
         const std::optional<JournalHeader> header = ReadHeader(stream);
         if (!header || !logbook.BeginsAs(*header))
             continue;
-        std::map<EntryNumber, std::string> comments;
+        std::map<EntryNumber, std::vector<std::string>> comments;
         for (std::optional<JournalLine> line = NextLine(stream); line; line = NextLine(stream)) {
             const std::optional<EntryNumber> number = line->Number("entry");
             std::optional<std::string> comment = line->Text("comment");
             if (number && *number < header->Entries && comment)
-                comments[*number] = std::move(*comment);
+                comments[*number].push_back(std::move(*comment));
         }
         // One that cannot be read to its end stays, whole, for the next time.
         if (stream.bad())
             continue;
         journals_.push_back(std::move(*journal));
-        for (auto& [number, comment] : comments)
-            comments_[number] = std::move(comment);
+        for (const auto& [number, texts] : comments) {
+            std::string& known = comments_[number];
+            known = Merged(std::move(known), texts);
+        }
     }
     std::erase_if(comments_,
                   [&](const auto& comment) { return entries.Comment(comment.first) == comment.second; });

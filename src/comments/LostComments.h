@@ -21,7 +21,8 @@ class LostComments {
     LostComments(const std::filesystem::path& folder, const EntryTable& entries);
 
     // The comments that differ from those of the logbook, by entry number; an empty text stands for a removed
-    // comment.
+    // comment. Where journals have different comments of an entry, both are in its text, the earlier one
+    // first.
     const std::map<EntryNumber, std::string>& Comments() const { return comments_; }
 
     // Removes the journals.

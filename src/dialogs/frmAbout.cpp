@@ -13,6 +13,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QTextLayout>
 #include <QVBoxLayout>
 
 #include <charconv>
@@ -29,9 +30,19 @@ int MarginOf(const QPlainTextEdit& box) {
     return static_cast<int>(std::ceil(box.document()->documentMargin())) + box.frameWidth();
 }
 
+// The height of a line as a box lays it out; the font's own spacing may be rounded down.
+qreal LineHeight(const QPlainTextEdit& box) {
+    QTextLayout layout("X", box.font());
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLeadingIncluded(true);
+    layout.endLayout();
+    return line.height();
+}
+
 // The height of a box for this many lines. With one pixel less it has a scroll bar.
 int HeightOf(const QPlainTextEdit& box, int lines) {
-    return box.fontMetrics().lineSpacing() * lines + 2 * MarginOf(box) + 1;
+    return static_cast<int>(std::ceil(LineHeight(box) * lines)) + 2 * MarginOf(box) + 1;
 }
 
 // The number of lines of its text in a box as wide as TextWidth.

@@ -5,7 +5,9 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPalette>
 #include <QScrollBar>
+#include <QStyleOptionViewItem>
 
 #include <algorithm>
 #include <optional>
@@ -66,8 +68,7 @@ class ListOfRows : public View {
                                                            ? QScrollBar::SliderSingleStepSub
                                                            : QScrollBar::SliderSingleStepAdd);
         } else if (IsPopupKey(*event)) {
-            SelectCurrentIfNone();
-            OrderPopup(PopupPosition());
+            OrderPopupByKey();
         } else {
             return View::keyPressEvent(event);
         }
@@ -86,7 +87,21 @@ class ListOfRows : public View {
             DoubleClicked(event->position().toPoint());
     }
 
-    void contextMenuEvent(QContextMenuEvent* event) override { event->accept(); }
+    // Shift+F10 comes as this event on Windows, as a key elsewhere. The menu key is a key on all systems, and
+    // on some of them makes this event, too.
+    void contextMenuEvent(QContextMenuEvent* event) override {
+        if (event->reason() == QContextMenuEvent::Keyboard && event->modifiers().testFlag(Qt::ShiftModifier))
+            OrderPopupByKey();
+        event->accept();
+    }
+
+    // A selected row looks the same while another window is in front, which may follow it. Windows would
+    // paint it in the colour of a window, which is hardly seen.
+    void initViewItemOption(QStyleOptionViewItem* option) const override {
+        View::initViewItemOption(option);
+        for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
+            option->palette.setBrush(QPalette::Inactive, role, option->palette.brush(QPalette::Active, role));
+    }
 
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& cell,
                                                          const QEvent* event = nullptr) const override {
@@ -111,8 +126,13 @@ class ListOfRows : public View {
                key == Qt::Key_PageDown;
     }
     static bool IsPopupKey(const QKeyEvent& event) {
-        return event.key() == Qt::Key_Menu ||
+        return (event.key() == Qt::Key_Menu && !event.modifiers().testFlag(Qt::ShiftModifier)) ||
                (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
+    }
+
+    void OrderPopupByKey() {
+        SelectCurrentIfNone();
+        OrderPopup(PopupPosition());
     }
 
     // Selects the current row if none is selected, so that an order has a row.

@@ -2,6 +2,7 @@
 #include "sources/LogbookArchive.h"
 
 #include "base/AtomicFile.h"
+#include "base/FileLock.h"
 #include "base/Paths.h"
 #include "base/Workplace.h"
 #include "comments/Comments.h"
@@ -76,6 +77,11 @@ class Saving {
             return ReasonText(archive.Commit(), language_);
         if (std::string reason = Build(archive.Path(), progress); !reason.empty())
             return reason;
+        error = archive.Prepare();
+        if (error)
+            return ReasonText(error, language_);
+        // Of two copies of the program that save onto this place, one must see what the other has done.
+        const FileLock alone(FileLock::OfUser("Qorvix.archive.lock"));
         if (StampOf(content_.LogbookFile, error) != stamp)
             return Say(TextId::LogbookChangedMeanwhile);
         if (StampOf(path_, error) != replaced)

@@ -177,6 +177,30 @@ class MainWindowListCommandsTest : public MainWindowTest {
         }
         QTest::keyClick(List(), Qt::Key_F10, Qt::ControlModifier);
         QVERIFY(!popup->isVisible());
+        // As Windows tells of Shift+F10; what other systems tell beside the menu key opens no second menu.
+        for (const bool shift : {true, false}) {
+            QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {},
+                                    shift ? Qt::ShiftModifier : Qt::NoModifier);
+            QApplication::sendEvent(List(), &event);
+            QCOMPARE(popup->isVisible(), shift);
+            popup->close();
+        }
+    }
+
+    void SelectedRowIsSeenWhileAnotherWindowIsInFront() {
+        Window->OpenLogbook(FileOfErrors(3));
+        QPalette palette = List()->palette();
+        palette.setColor(QPalette::Active, QPalette::Highlight, Qt::blue);
+        palette.setColor(QPalette::Inactive, QPalette::Highlight, Qt::white);
+        List()->setPalette(palette);
+        List()->SelectRanges({{1, 1}}, 0);
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        const QImage picture = List()->viewport()->grab().toImage();
+        const QRect cell = List()->visualRect(List()->model()->index(1, 3)); // empty
+        QCOMPARE(picture.pixelColor(cell.center()), QColor(Qt::blue));
     }
 
     void PopupKeyWithoutASelectedRowIsForTheCurrentOne() {

@@ -70,6 +70,15 @@ TEST(WindowsFiles, DevicesAreNeitherReadNorReplaced) {
     EXPECT_TRUE(fs::is_empty(folder.Path()));
 }
 
+// On a real disk it would be a stream beside the content of a.txt.
+TEST(WindowsFiles, AStreamOfAFileIsNoTarget) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("a.txt", "old");
+    EXPECT_EQ(Write(path + ":b.txt", "new"), std::errc::invalid_argument);
+    EXPECT_EQ(FileContent(path), "old");
+    EXPECT_EQ(ItemsIn(folder.Path()).size(), 1U);
+}
+
 TEST(WindowsFiles, AReadOnlyFileStaysAsItIs) {
     const TemporaryFolder folder;
     const std::string path = folder.Write("a.txt", "old");

@@ -194,13 +194,15 @@ TEST_F(LostCommentsTest, WhoIsAskedHoldsTheCommentsAgainstOthers) {
     EXPECT_THAT(User.Questions, IsEmpty());
 }
 
-TEST_F(LostCommentsTest, OfTwoCrashesTheLaterCounts) {
-    Crash({{1, "early"}, {2, "kept"}});
+// Two windows had the logbook, or a comment was entered again: what one holds of the other counts once.
+TEST_F(LostCommentsTest, OfTwoCrashesBothAreKept) {
+    Crash({{1, "early"}, {2, "kept"}, {3, "pump"}, {4, "pump dry, filled"}, {0, "gone"}});
     const fs::path early = Files().front();
-    Crash({{1, "late"}});
+    Crash({{1, "late"}, {3, "pump dry"}, {4, "pump dry"}, {0, ""}});
     fs::last_write_time(early, fs::last_write_time(early) - std::chrono::hours(1));
     EXPECT_TRUE(Offer({UserInterface::Answer::Yes}));
-    EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "late"), Pair(2, "kept")));
+    EXPECT_THAT(Book.Comments(), ElementsAre(Pair(1, "early | late"), Pair(2, "kept"), Pair(3, "pump dry"),
+                                             Pair(4, "pump dry, filled")));
     Journal.Saved();
     EXPECT_THAT(Files(), IsEmpty());
 }

@@ -4,6 +4,7 @@
 #include "helpbook/HelpBook.h"
 #include "helpbook/HelpFile.h"
 #include "helpbook/HelpMemberStream.h"
+#include "support/Abilities.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -132,6 +133,7 @@ TEST(ChmFile, WithoutItsReaderIsNone) {
 
 // "cat" hands over what a file holds: the reader's stream, as a test writes it.
 TEST(ChmFile, StreamThatIsNotWholeIsNone) {
+    NEEDS_SHELL(); // and its programs
     const TemporaryFolder folder;
     const auto read = [&](const std::string& stream) {
         return ReadChmFile(folder.Write("stream", stream), "/bin/cat");
@@ -149,6 +151,7 @@ TEST(ChmFile, StreamThatIsNotWholeIsNone) {
 
 // What is handed over of the largest help is larger than its content.
 TEST(ChmFile, LargestHelpIsRead) {
+    NEEDS_SHELL(); // and its programs
     const TemporaryFolder folder;
     constexpr int EmptyMembers = 9'000;
     std::string stream = Member("/a.htm", std::string(MostHelpBytes, 'x'));
