@@ -10,6 +10,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <thread>
+
 using testing::HasSubstr;
 
 namespace {
@@ -46,6 +48,28 @@ class PackCommand : public testing::Test {
 };
 
 } // namespace
+
+// A run that says that it saved has saved, whatever another one did at the same moment.
+TEST_F(PackCommand, TwoRunsOntoOneArchiveLoseNoComment) {
+    const std::string log = Folder.Write("a.log", Log);
+    const std::string a = Folder.Write("a.cmt", "[Comments]\r\n 0 pump\r\n");
+    const std::string b = Folder.Write("b.cmt", "[Comments]\r\n 2 valve\r\n");
+    for (int round = 0; round < 20; ++round) {
+        std::filesystem::remove(Out);
+        Pack(log);
+        ProgramResult first;
+        std::thread other([&] {
+            first = RunCommandLineTool({"pack", log, Out, "--comments", a, "--keep-comments"});
+        });
+        const ProgramResult second =
+            RunCommandLineTool({"pack", log, Out, "--comments", b, "--keep-comments"});
+        other.join();
+        const std::string comments = ReadZip(Out)[2].second;
+        EXPECT_TRUE(first.ExitStatus == 0 || second.ExitStatus == 0) << first.Errors << second.Errors;
+        EXPECT_TRUE(first.ExitStatus != 0 || comments.find("pump") != std::string::npos) << comments;
+        EXPECT_TRUE(second.ExitStatus != 0 || comments.find("valve") != std::string::npos) << comments;
+    }
+}
 
 TEST_F(PackCommand, EverySourceGivesItsLogbook) {
     WriteZip(Folder / "older.zip", {{"logbook/lb_act.log", Log}});
